@@ -1,0 +1,29 @@
+// The application object, which is the one place that a failure reaches when nobody guards it.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <QtWidgets/QApplication>
+
+namespace platform {
+
+class Application : public QApplication {
+ public:
+  Application(int& argc, char** argv);
+
+  // What is to be stored before the program ends on a failure; it may itself fail, which is ignored.
+  void SetLastWill(std::function<void()> lastWill) { lastWill_ = std::move(lastWill); }
+
+  // Delivers an event; a failure that comes out of a handler ends in DieOf.
+  bool notify(QObject* receiver, QEvent* event) override;
+
+  // Shows the failure's text in a box (stop icon), carries out the last will once and ends the process.
+  void DieOf(const std::string& text);
+
+ private:
+  std::function<void()> lastWill_;
+  bool dying_ = false;
+};
+
+}  // namespace platform

@@ -1,0 +1,24 @@
+// Dates of pages: days since 30 December 1899, the time of day as the fraction, which counts away from zero
+// before that day.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <QtCore/QDateTime>
+
+namespace platform {
+
+// The present date and time of the local clock.
+double Now();
+// The date in the user's own long form.
+QString LongDate(double date);
+
+QDateTime ToDateTime(double date);
+double FromDateTime(const QDateTime& moment);
+
+// The seams: a clock and a long date in the place of the desktop's; empty functions restore them.
+void SetClock(std::function<double()> clock);
+void SetLongDate(std::function<QString(double)> longDate);
+
+}  // namespace platform

@@ -1,0 +1,45 @@
+#include "platform/Failure.h"
+
+#include "platform/MessageBox.h"
+
+namespace platform {
+namespace {
+
+const char* TextOf(FailureKind kind) {
+  switch (kind) {
+    case FailureKind::InvalidArgument:
+      return "Invalid procedure call or argument";
+    case FailureKind::OutOfMemory:
+      return "Out of memory";
+    case FailureKind::SubscriptOutOfRange:
+      return "Subscript out of range";
+    case FailureKind::FileNotFound:
+      return "File not found";
+    case FailureKind::DeviceError:
+      return "The device reported an error";
+    case FailureKind::DiskFull:
+      return "The disk is full";
+    case FailureKind::PermissionDenied:
+      return "Permission denied";
+    case FailureKind::PathAccess:
+      return "The file or folder cannot be opened";
+    case FailureKind::PathNotFound:
+      return "Path not found";
+  }
+  return "Unknown failure";
+}
+
+std::string Sentence(FailureKind kind, const std::string& subject) {
+  return subject.empty() ? TextOf(kind) : std::string(TextOf(kind)) + ": " + subject;
+}
+
+}  // namespace
+
+Failure::Failure(FailureKind kind, const std::string& subject)
+    : std::runtime_error(Sentence(kind, subject)), kind_(kind) {}
+
+void ReportFailure(std::string_view prefix, const std::exception& failure) {
+  ShowMessage(std::string(prefix) + failure.what());
+}
+
+}  // namespace platform

@@ -1,0 +1,49 @@
+// A run-time failure: something that a routine could not do and that its caller may or may not guard.
+#pragma once
+
+#include <exception>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+enum class FailureKind {
+  InvalidArgument = 5,
+  OutOfMemory = 7,
+  SubscriptOutOfRange = 9,
+  FileNotFound = 53,
+  DeviceError = 57,
+  DiskFull = 61,
+  PermissionDenied = 70,
+  PathAccess = 75,
+  PathNotFound = 76,
+};
+
+// what() is a sentence for a person, in UTF-8, that names the thing: "Path not found:
+// /home/ann/diary/frames".
+class Failure : public std::runtime_error {
+ public:
+  // The text is the kind's own, followed by ": " and the subject where there is one.
+  explicit Failure(FailureKind kind, const std::string& subject = {});
+  FailureKind kind() const noexcept { return kind_; }
+
+ private:
+  FailureKind kind_;
+};
+
+// Shows a box (no icon, OK) with the prefix directly followed by the failure's text.
+void ReportFailure(std::string_view prefix, const std::exception& failure);
+
+// Runs one statement of a guarded routine. A failure in it is reported with the prefix, and the routine goes
+// on with its next statement.
+template <class Statement>
+void Guarded(std::string_view prefix, Statement&& statement) {
+  try {
+    statement();
+  } catch (const std::exception& failure) {
+    ReportFailure(prefix, failure);
+  }
+}
+
+}  // namespace platform

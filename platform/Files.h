@@ -1,0 +1,75 @@
+// Files of the program's folder.
+//
+// Paths are the system's own bytes. Names that come out of a data file are Windows-1252 and are turned into
+// the system's encoding by PathOf. Every failure is a platform::Failure that names the path.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace platform {
+
+// The folder that the program's binary lies in, without a separator at its end.
+std::string ProgramFolder();
+// The seam: another folder in its place; an empty path restores the real one.
+void SetProgramFolder(std::string folder);
+
+// The path of a file of the program's folder. `name` is Windows-1252 and holds no separator.
+std::string PathOf(std::string_view name);
+
+// True for an existing entry that is not a folder.
+bool FileExists(const std::string& path);
+
+// Whether a file can be created in the folder: tried, and the trial removed.
+bool CanWriteTo(const std::string& folder);
+
+// A file that is read from its start to its end, in pieces.
+class InputFile {
+ public:
+  // Throws FileNotFound, PermissionDenied or PathAccess.
+  explicit InputFile(const std::string& path);
+  ~InputFile();
+  InputFile(const InputFile&) = delete;
+  InputFile& operator=(const InputFile&) = delete;
+
+  // Reads up to `size` bytes into `buffer`; returns how many, fewer only at the end of the file. Throws
+  // DeviceError.
+  std::size_t Read(char* buffer, std::size_t size);
+  // The file's length in bytes when it was opened.
+  std::uint64_t size() const { return size_; }
+
+ private:
+  int descriptor_;
+  std::uint64_t size_;
+  std::string path_;
+};
+
+// The whole file. Throws as InputFile does.
+std::string ReadFile(const std::string& path);
+
+// The one way a data file is written: the file holds `bytes` afterwards, or, on failure, what it held before.
+// The new bytes are on the disk before they take the name in one step. Throws DiskFull, PermissionDenied,
+// PathNotFound or PathAccess. A kill in the last moment can leave one file named as IsStaleTemporary tells.
+void ReplaceFile(const std::string& path, std::string_view bytes);
+
+// Throws when the file exists and cannot be deleted; a missing file is no failure.
+void DeleteFile(const std::string& path);
+
+// Keeps a copy of the file beside it, under its name with ".damaged" behind it, or with ".1.damaged" and so
+// on where that name is taken. Returns the copy's path; throws when there can be none.
+std::string KeepDamaged(const std::string& path);
+
+// Removes the temporary files that a killed process may have left in the folder: the names of the program's
+// own data files with "." and six letters behind them. Others are left alone. Failures are ignored.
+void RemoveStaleTemporaries(const std::string& folder);
+bool IsStaleTemporary(std::string_view fileName);
+
+// The names (no folder, in the code page) of the files that match "*.tqf", in the order of their bytes. A
+// name that the code page cannot hold is left out.
+std::vector<std::string> ListJournalFiles(const std::string& folder);
+
+}  // namespace platform

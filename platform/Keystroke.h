@@ -1,0 +1,12 @@
+// Keystrokes sent to the program itself.
+#pragma once
+
+#include <QtCore/Qt>
+
+namespace platform {
+
+// Posts a press and a release of the key to the focus widget of the program's active window and returns at
+// once. Without an active window nothing happens.
+void SendKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+}  // namespace platform

@@ -1,0 +1,32 @@
+// The one door through which every message box goes.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace platform {
+
+enum class Buttons { Ok, YesNo };
+enum class BoxIcon { None, Stop, Question };
+enum class Answer { Ok, Yes, No };
+
+struct Message {
+  std::string text;  // UTF-8, shown as plain text
+  Buttons buttons = Buttons::Ok;
+  BoxIcon icon = BoxIcon::None;
+  std::string title = "Thornquill";
+};
+
+// Shows the box over the active window and blocks until it is answered. Closing the box, or Escape, answers
+// Ok in an Ok box and No in a Yes/No box.
+Answer ShowMessage(const Message& message);
+inline Answer ShowMessage(const std::string& text, BoxIcon icon = BoxIcon::None) {
+  return ShowMessage(Message{text, Buttons::Ok, icon});
+}
+
+// The seam: whoever answers instead of the desktop. An empty function gives the desktop its place back.
+// Returns the one that answered before.
+using MessageAnswerer = std::function<Answer(const Message&)>;
+MessageAnswerer SetMessageAnswerer(MessageAnswerer answerer);
+
+}  // namespace platform

@@ -1,0 +1,13 @@
+// The ways out that do not start in a window: SIGTERM, SIGINT, SIGHUP and the end of the desktop session.
+#pragma once
+
+#include <functional>
+
+namespace platform {
+
+// Calls `leave` on the window thread, from the event loop, when the system asks the program to end. Later
+// requests call it again, so that a way out that a full disk has blocked can be tried anew. Needs a
+// QApplication.
+void ListenForTheWayOut(std::function<void()> leave);
+
+}  // namespace platform

@@ -1,0 +1,67 @@
+// The text box of a page: a rich text edit whose content goes in and out as RTF.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <QtWidgets/QTextEdit>
+
+namespace richtext {
+
+class RichTextBox : public QTextEdit {
+  Q_OBJECT
+
+ public:
+  explicit RichTextBox(QWidget* parent = nullptr);
+
+  // The whole content as an RTF document, 7-bit; for an empty box the empty document, never an empty string.
+  std::string TextRTF() const;
+  // Replaces the content and forgets the undo history. An empty string empties the box. Text that is no RTF
+  // shows as plain text. The caret goes to the start. Change is raised, once, whatever stood there before.
+  void SetTextRTF(std::string_view rtf);
+
+  // The content as plain text: paragraphs and line breaks are '\n', a picture is U+FFFC.
+  QString Text() const;
+
+  // The selection, in UTF-16 units of Text(). Values beyond the text mean its end; setting the start makes
+  // the selection empty.
+  int SelStart() const;
+  void SetSelStart(int position);
+  int SelLength() const;
+  void SetSelLength(int length);
+
+  // The attributes of the selection, or of what is typed next where nothing is selected. Nothing: the
+  // selection is mixed. An empty name and a size of 0 or less are passed over by the setters. Change is
+  // raised when a selection is set, never on a bare caret.
+  std::optional<QString> SelFontName() const;
+  std::optional<double> SelFontSize() const;  // points
+  std::optional<bool> SelBold() const;
+  std::optional<bool> SelItalic() const;
+  std::optional<bool> SelUnderline() const;
+  std::optional<bool> SelStrikeThru() const;
+  std::optional<std::uint32_t> SelColor() const;  // 0x00BBGGRR; automatic reads as black
+  void SetSelFontName(const QString& name);
+  void SetSelFontSize(double points);
+  void SetSelBold(bool on);
+  void SetSelItalic(bool on);
+  void SetSelUnderline(bool on);
+  void SetSelStrikeThru(bool on);
+  void SetSelColor(std::uint32_t color);
+
+  // The paper, 0x00BBGGRR.
+  void SetBackColor(std::uint32_t color);
+  std::uint32_t BackColor() const;
+
+  // Puts a bitmap at the caret, in the place of the selection.
+  void InsertBitmap(const QImage& image);
+
+ Q_SIGNALS:
+  // The content changed, by the user or by SetTextRTF.
+  void Change();
+  // A mouse button went down in the text.
+  void MousePressed();
+};
+
+}  // namespace richtext

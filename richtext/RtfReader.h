@@ -1,0 +1,15 @@
+// Reads RTF (Rich Text Format, versions 1.0 to 1.9.1). Every input is a document: what was read is kept, and
+// nothing refuses, hangs or recurses.
+#pragma once
+
+#include <string_view>
+
+#include "richtext/Document.h"
+
+namespace richtext {
+
+// Text that does not begin with "{\rtf" (or "{\urtf") is taken as plain text in Windows-1252. The very last
+// \par of the document is swallowed.
+Document ReadRtf(std::string_view rtf);
+
+}  // namespace richtext

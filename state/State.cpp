@@ -1,0 +1,42 @@
+#include "state/State.h"
+
+std::vector<JournalEntry> Journals(1);
+std::int32_t JournalCount = 0;
+
+std::vector<JournalPage> Pages;
+std::int32_t CurrentPage = 0;
+std::int32_t PageCount = 0;
+Flag PageDirty = False;
+std::int32_t CurrentJournal = 0;
+
+std::string MasterPassword;
+std::int32_t PageShift = 0;
+
+std::int32_t PagesJournal = 0;
+std::int32_t TextPage = -1;
+
+std::int32_t chkGotoLastPage = 1;
+std::int32_t optColor = 0;
+
+std::function<void(std::int32_t row)> JournalAdded;
+
+void ForgetPages() {
+  Pages = {};
+  PageCount = 0;
+  CurrentPage = 0;
+  PageDirty = False;
+  PagesJournal = 0;
+  TextPage = -1;
+}
+
+void ResetState() {
+  ForgetPages();
+  Journals.assign(1, {});
+  JournalCount = 0;
+  CurrentJournal = 0;
+  MasterPassword.clear();
+  PageShift = 0;
+  chkGotoLastPage = 1;
+  optColor = 0;
+  JournalAdded = nullptr;
+}

@@ -1,0 +1,79 @@
+// The state that every window and routine of the diary shares.
+//
+// There is no document object: a routine finds the open journal and the shown page by reading these
+// variables. All of them belong to the one window thread. Arrays run from row 0 to their count, so they hold
+// count + 1 rows, and a new row is blank.
+//
+// Texts are single bytes of Windows-1252. Colours are 0x00BBGGRR. Dates are days since 30 December 1899, the
+// time of day as the fraction. Flags are 16-bit, False or True, because the file formats store them so and a
+// record must leave the program with the very values that it came in with.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+using Flag = std::int16_t;
+inline constexpr Flag False = 0;
+inline constexpr Flag True = -1;
+
+// One journal of the bookcase.
+struct JournalEntry {
+  std::string Name;            // plain here, scrambled in the index file
+  std::string Reserved;        // always empty, but part of the format
+  std::int32_t PageCount = 0;  // as last seen: 1 at creation, the file's count at each load
+  std::string FileName;        // no folder, such as j00000.tqf; the key that ties pictures to a journal
+  Flag Deleted = False;        // True: hidden, and dropped at the next save of the index
+  std::int32_t Icon = 0;       // 1 to 63, an index of the bookcase's image list
+  std::string FontName;        // the default font of the journal's text
+  std::uint32_t FontColor = 0;
+  std::int32_t FontSize = 0;  // points
+  Flag FontBold = False;
+  Flag FontItalic = False;
+  Flag FontUnderline = False;
+  Flag FontStrikethru = False;
+  std::uint32_t PaperColor = 0;
+};
+
+// One page of the open journal.
+struct JournalPage {
+  std::string Body;     // the page's RTF, enciphered; empty for a page that was never stored
+  double PageDate = 0;  // days since 30 December 1899
+};
+
+// The bookcase. Rows 1 to JournalCount are in use, removed ones included; row 0 stays blank and is never
+// saved. Filled by LoadJournalIndex, grown by the dialogs that create journals; lives to the end of the run.
+extern std::vector<JournalEntry> Journals;
+extern std::int32_t JournalCount;
+
+// The pages of the open journal, rows 0 (the title page) to PageCount. Filled by LoadJournalFile or
+// NewJournalPages, erased when the journal window closes.
+extern std::vector<JournalPage> Pages;
+extern std::int32_t CurrentPage;     // the row of Pages on show
+extern std::int32_t PageCount;       // highest row of Pages, at least 1 while a journal is open
+extern Flag PageDirty;               // True when the text box changed since its page was shown or stored
+extern std::int32_t CurrentJournal;  // the row of Journals last opened; 0 before the first
+
+// Always scrambled, as the index file holds it. Set at the first run and by a change of the password.
+extern std::string MasterPassword;
+// The page cipher's key, 0 to 255: the last character of the very first password, for the bookcase's whole
+// life.
+extern std::int32_t PageShift;
+
+// Whose text is where. A page may only ever go back to the journal and the row that it was read from.
+extern std::int32_t PagesJournal;  // the row of Journals that Pages was read for; 0 while Pages is erased
+extern std::int32_t TextPage;      // the row of Pages that the text box's text came from; -1 for none
+
+// The two settings.
+extern std::int32_t chkGotoLastPage;  // 1: a journal opens on its last page; 0: on its title page
+extern std::int32_t optColor;         // the theme: 0 blue, 1 pink, 2 purple
+
+// Called with the row of each journal that joins the bookcase; the bookcase window lists it. May be empty.
+extern std::function<void(std::int32_t row)> JournalAdded;
+
+// Gives the pages of the open journal back to nobody: Pages is erased, no row is shown, nothing is dirty.
+void ForgetPages();
+
+// Puts every variable back to its value at the start of the program.
+void ResetState();

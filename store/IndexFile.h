@@ -1,0 +1,38 @@
+// The index file, journal.tqt: its bytes to a value and back. docs/file-formats.md shows the layout.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "state/State.h"
+
+namespace store {
+
+struct Index {
+  std::string masterPassword;          // scrambled
+  std::int32_t pageShift = 0;          // 0 to 255
+  std::vector<JournalEntry> journals;  // the records in file order; Name as the file holds it, scrambled
+};
+
+enum class IndexHealth {
+  Sound,
+  Damaged,   // records are cut or absurd, or bytes are left over: the whole ones are in the value
+  Headless,  // count, password or shift are not there or cannot be: nothing is in the value
+};
+
+struct DecodedIndex {
+  Index index;
+  IndexHealth health = IndexHealth::Sound;
+  std::string problem;  // the plain name of what could not be read; empty when sound
+};
+
+// The first 33 bytes are not looked at. A record whose FileName is absurd (a path separator, a NUL, "." or
+// "..") is left out.
+DecodedIndex DecodeIndex(std::string_view bytes);
+
+// Writes the records as they are given; Name goes out as it stands.
+std::string EncodeIndex(const Index& index);
+
+}  // namespace store

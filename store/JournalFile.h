@@ -1,0 +1,51 @@
+// A journal's file: all its pages, read and written whole. docs/file-formats.md shows the layout.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "state/State.h"
+
+namespace store {
+
+
+enum class JournalHealth { Sound, Damaged, Alien };
+
+struct DecodedJournal {
+  std::vector<JournalPage> pages;  // rows that the count promises and the bytes lack are empty
+  JournalHealth health = JournalHealth::Sound;
+  std::int32_t wholePages = 0;  // pages that the bytes hold whole
+};
+
+// Gives up to `size` next bytes; fewer only at the end.
+using ByteSource = std::function<std::size_t(char* buffer, std::size_t size)>;
+
+// Reads in pieces, straight into the pages' own memory. `size` is the file's length in bytes, beyond which no
+// count or length is believed.
+DecodedJournal DecodeJournal(const ByteSource& source, std::uint64_t size);
+
+// The whole file: magic, the password block (scrambledPassword scrambled once more and padded to 512 bytes),
+// the count and the pages. Throws platform::Failure (InvalidArgument) when the block has no room, and
+// (SubscriptOutOfRange) when `pages` is empty.
+std::string EncodeJournal(const std::vector<JournalPage>& pages, std::string_view scrambledPassword);
+
+// Reads a journal file of the program's folder. Throws platform::Failure when it cannot be read. A damaged
+// one is remembered, so that SaveJournalFile keeps it beside before it writes over it.
+DecodedJournal ReadJournalFile(const std::string& fileName);
+
+}  // namespace store
+
+// The name that stands in for an empty one, after a message that says so.
+std::string& WithFallbackName(std::string& fileName);
+
+// Writes Pages, PageCount and the password block to that file of the program's folder. Nothing on disk is
+// touched before all bytes are there. Throws platform::Failure on a disk that cannot be written, and when
+// Pages does not belong to the journal of that file. An alien file is never written over.
+void SaveJournalFile(const std::string& fileName);
+
+// The file's PageCount; 0 when it is missing or no journal. Overwrites PageCount, as no journal is open when
+// it is called. The name is replaced by the fallback when it is empty.
+std::int32_t PeekJournalPageCount(std::string& fileName);

@@ -1,0 +1,17 @@
+// The bookcase on disk: journal.tqt to Journals and back.
+#pragma once
+
+// Reads journal.tqt of the program's folder into Journals, JournalCount, MasterPassword and PageShift, and
+// tells JournalAdded of each row. A missing file changes nothing. A damaged one is told in a message and read
+// as far as it is whole. A file without a whole header, or one that cannot be read, is told in a message, and
+// then the process ends with nothing written.
+void LoadJournalIndex();
+
+// Writes journal.tqt from the same variables, removed rows left out. Names are scrambled in the rows
+// themselves, so only the end of the process may follow. A damaged file is kept beside before it is written
+// over. On failure throws platform::Failure; file and rows are then as they were.
+void SaveJournalIndex();
+
+// SaveJournalIndex, then the end of the process, whatever windows are open. When the index cannot be written,
+// a message says so and the program goes on.
+void SaveAndExit();

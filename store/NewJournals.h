@@ -1,0 +1,24 @@
+// Creating and removing journals: rows of Journals and files of the program's folder.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+// j00000.tqf to j99999.tqf: the first name that neither a file nor a row has, removed rows included. After
+// the last one a message and the empty string.
+std::string FindFreeJournalFile();
+
+// Fills row JournalCount, which the caller has made, with a new journal's values and tells JournalAdded.
+void AddJournalEntry(const std::string& name);
+
+// The first journal and the password, which also settles PageShift for good.
+void MakeFirstJournal(const std::string& name, const std::string& password);
+// One more row and AddJournalEntry.
+void MakeJournal(const std::string& name);
+
+// The longest password whose journal files have room for it.
+inline constexpr std::size_t MaxPasswordLength = 128;
+
+// Deletes the journal's file and marks its row. Throws platform::Failure, with nothing changed, when the file
+// cannot be deleted.
+void RemoveJournal(std::int32_t row);
