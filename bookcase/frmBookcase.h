@@ -1,0 +1,48 @@
+// The bookcase: the program's main window, with every journal of the bookcase as one item of a list.
+#pragma once
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QListWidget>
+
+#include "look/Form.h"
+#include "look/PictureButton.h"
+
+class frmBookcase : public look::Form {
+  Q_OBJECT
+
+ public:
+  frmBookcase();
+
+  QPushButton* Image2;  // a picture that is clicked
+  look::PictureButton* cmdOpen;
+  look::PictureButton* cmdAdd;
+  look::PictureButton* cmdDelete;
+  look::PictureButton* cmdExport;
+  look::PictureButton* cmdProp;
+  look::PictureButton* cmdHelp;
+  look::PictureButton* cmdAbout;
+  look::PictureButton* cmdOptions;
+  look::PictureButton* cmdClose;
+  QLabel* Label2;
+  QListWidget* ListView1;  // each item's Tag, the row of Journals, is its Qt::UserRole
+
+  // Adds the item of one row of Journals.
+  void AddItem(int row);
+  // The row of Journals that the selected item stands for; 0 for an empty list.
+  int SelectedRow() const;
+  // Puts the selected journal into the journal window, which stays as visible as it was: steps 2 to 8 of
+  // opening. False when no journal is open afterwards.
+  bool DressJournalWindow();
+
+  void CloseBox() override;  // does what cmdClose does
+
+ private:
+  void cmdOpen_Click();
+  void cmdAdd_Click();
+  void cmdDelete_Click();
+  void cmdHelp_Click();
+  void cmdClose_Click();
+};
+
+// Lists the live rows of Journals anew, in row order.
+void RefreshBookcaseList();

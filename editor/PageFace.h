@@ -1,0 +1,64 @@
+// The page as one sees it: the head strip with date and page number, the binding, and the text.
+//
+// It is the client area of the journal window and knows nothing of the window itself.
+#pragma once
+
+#include <array>
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QWidget>
+
+#include "richtext/RichTextBox.h"
+
+// A box that shows its picture from the top left corner over its background colour.
+class PictureBox : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PictureBox(QWidget* parent = nullptr);
+  void SetPicture(const QPixmap& picture);
+  const QPixmap& Picture() const { return picture_; }
+  void SetBackColor(std::uint32_t color);  // 0x00BBGGRR
+  std::uint32_t BackColor() const { return backColor_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QPixmap picture_;
+  std::uint32_t backColor_ = 0xFFFFFF;
+};
+
+class PageFace : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PageFace(QWidget* parent = nullptr);
+  ~PageFace() override;
+
+  PictureBox* picTop;
+  QLabel* lblPageNum1;
+  QLabel* lblDate;
+  PictureBox* picBinding;
+  richtext::RichTextBox* txtM;
+
+  // The head strip's height in twips, 870 by design. The binding follows its bottom edge; the text does not.
+  void SetHeadHeight(int twips);
+  int HeadHeight() const { return headHeight_; }
+
+ Q_SIGNALS:
+  // CloseJournal has written the file and hidden the window.
+  void JournalClosed();
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void DockStrips();
+  void FitText();
+
+  int headHeight_ = 870;
+};
+
+// The face of the one journal window, which must be loaded.
+PageFace& Face();

@@ -1,0 +1,16 @@
+// The passes over one page's text, between its enciphered body and the text box or a string.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+// Deciphers Pages(CurrentPage).Body into the text box. PageDirty is cleared, but not for an empty body, whose
+// page counts as changed.
+void ShowCurrentPage();
+
+// Enciphers the text box into Pages(CurrentPage).Body and writes the journal's file, if PageDirty is set.
+// Nothing is stored while the text box holds the text of another page or another journal.
+void StoreCurrentPage();
+
+// The RTF of any page, 0 to PageCount; changes no variable. Empty for a page that was never stored.
+std::string GetPlainPage(std::int32_t page);

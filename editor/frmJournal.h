@@ -1,0 +1,40 @@
+// The journal window: the book. One instance, loaded at the start and never destroyed.
+#pragma once
+
+#include "editor/PageFace.h"
+#include "editor/Toolbar.h"
+#include "look/Form.h"
+
+class frmJournal : public look::Form {
+  Q_OBJECT
+
+ public:
+  frmJournal();
+
+  PageFace* face;  // picTop, lblDate, lblPageNum1, picBinding and txtM
+  Toolbar* Toolbar1;
+
+  // The window's public surface, beside the toolbar: none of these stores the page first.
+  void PageBack();
+  void PageFirst();
+  void PageLast();
+  void PageNew();
+  void PageNext();
+  void CloseBook();
+  void OpenJournalProperties();
+  void OpenOptions();
+  void SwitchToolbarCaptions();
+
+  // Stores the page, closes the journal, and leaves the window hidden and blank. The journal stays open when
+  // its file cannot be written.
+  void CloseBox() override;
+
+ Q_SIGNALS:
+  // Commands whose windows live upstairs.
+  void JournalPropertiesRequested();
+  void OptionsRequested();
+
+ private:
+  void Toolbar1_ButtonClick(const QString& key);
+  void ToggleToolbarCaptions();
+};

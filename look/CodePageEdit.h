@@ -1,0 +1,22 @@
+// A box for a name or the password: it takes only characters that the data files can hold.
+#pragma once
+
+#include <string>
+
+#include <QtWidgets/QLineEdit>
+
+namespace look {
+
+// A character outside Windows-1252 is not taken, typed or pasted, and a tip at the box says at once which one
+// and why.
+class CodePageEdit : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  explicit CodePageEdit(QWidget* parent = nullptr);
+
+  // The text in the code page.
+  std::string Bytes() const;
+};
+
+}  // namespace look

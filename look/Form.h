@@ -1,0 +1,94 @@
+// The base of every window, and how a window is reached by its name.
+//
+// Windows are single instances, made on first use. A window that is hidden stays loaded; one that is unloaded
+// comes back with its design values at the next use.
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include <QtCore/QPointer>
+#include <QtGui/QPixmap>
+#include <QtWidgets/QDialog>
+
+namespace look {
+
+// The design measure of most windows: 15 twips are one logical pixel. Halves round to the even neighbour.
+int Pixels(double twips);
+
+class Form : public QDialog {
+  Q_OBJECT
+
+ public:
+  enum class Kind { Window, Dialog };
+  // `name` becomes the object name; the client area's size is in twips. A Window has all the buttons of a
+  // main window and ignores Escape; in a Dialog Escape does what the close box does.
+  Form(Kind kind, const QString& name, const QString& caption, int widthTwips, int heightTwips);
+  ~Form() override;
+
+  // The background, from the top left corner at its natural size, cut at the window's edges.
+  void SetPicture(const QPixmap& picture);
+  const QPixmap& Picture() const { return picture_; }
+
+  // Shows the window, centred on the screen the first time, and brings it to the front.
+  void ShowModeless();
+  // Shows it over the active window, which it blocks, and returns when it has been hidden.
+  void ShowModal();
+
+  // The close box, or whatever comes to the same. The design: hides and unloads. During a pass the request is
+  // kept back until the pass is over.
+  virtual void CloseBox();
+
+ protected:
+  // One row of the design sheet: the control's name, its place and its size in twips. A control without text
+  // is given its accessible name as well.
+  template <class Control>
+  Control* Place(Control* control, const char* name, int left, int top, int width, int height,
+                 const QString& accessibleName = {}) {
+    PlaceWidget(control, name, left, top, width, height, accessibleName);
+    return control;
+  }
+
+  void closeEvent(QCloseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void reject() override;  // Escape
+
+ private:
+  void PlaceWidget(QWidget* control, const char* name, int left, int top, int width, int height,
+                   const QString& accessibleName);
+  void CentreOnce();
+
+  Kind kind_;
+  QPixmap picture_;
+  bool centred_ = false;
+};
+
+// Hides the window and deletes it when the event loop turns next.
+void Discard(Form* form);
+// Deletes every window at once: for the end of a test.
+void UnloadAllForms();
+
+template <class F>
+inline QPointer<F> instanceOf;
+
+// The window, made if it is not loaded.
+template <class F>
+F& The() {
+  if (!instanceOf<F>) instanceOf<F> = new F;
+  return *instanceOf<F>;
+}
+
+template <class F>
+bool IsLoaded() {
+  return !instanceOf<F>.isNull();
+}
+
+// Hides the window; the next use makes a fresh one.
+template <class F>
+void Unload() {
+  Form* form = instanceOf<F>.data();
+  instanceOf<F>.clear();
+  if (form) Discard(form);
+}
+
+}  // namespace look

@@ -1,0 +1,32 @@
+// The one progress window. It holds no logic; the passes over a page drive it.
+#pragma once
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QProgressBar>
+
+#include "look/Form.h"
+
+namespace look {
+
+class frmWait : public Form {
+ public:
+  frmWait();
+
+  QProgressBar* ProgressBar1;  // its maximum and value are counts of characters
+  QLabel* lblInfo;             // "PLEASE WAIT" by design
+  QLabel* Label1;              // "Thorn Quill"
+  QLabel* Image1;
+
+  // Asks for the window: it counts as shown from here on, and reaches the screen once the event loop is
+  // served a frame later, so that a pass that is over by then never flashes. It never takes the keyboard
+  // focus.
+  void ShowSoon();
+  // The pass is over: hidden, on the screen or not.
+  void HideNow();
+  bool CountsAsShown() const { return wanted_; }
+
+ private:
+  bool wanted_ = false;
+};
+
+}  // namespace look
