@@ -1,0 +1,97 @@
+#include "app/Main.h"
+
+#include <QtCore/QTimer>
+
+#include "bookcase/frmBookcase.h"
+#include "bookcase/frmInitJournal.h"
+#include "editor/PageTurning.h"
+#include "editor/frmJournal.h"
+#include "lock/frmPass.h"
+#include "look/Form.h"
+#include "look/Pass.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "platform/Process.h"
+#include "store/JournalIndex.h"
+
+namespace {
+
+// The journal window belongs to the start of the program, but nobody sees it before the lock is open: it is
+// loaded when the first window has had the time to be drawn.
+constexpr int JournalWindowDelayMs = 250;
+
+void TellWhenTheFolderIsReadOnly() {
+  const std::string folder = platform::ProgramFolder();
+  if (platform::CanWriteTo(folder)) return;
+  platform::ShowMessage("Nothing can be saved in the folder of the program:\n" + folder +
+                            "\n\nWhat you write now could not be kept. Make the folder writable, or move the "
+                            "program with all its files to a folder of your own, and start it again.",
+                        platform::BoxIcon::Stop);
+}
+
+QWidget* VisibleWindow() {
+  if (look::IsLoaded<frmJournal>() && look::The<frmJournal>().isVisible()) return &look::The<frmJournal>();
+  if (look::IsLoaded<frmBookcase>() && look::The<frmBookcase>().isVisible()) return &look::The<frmBookcase>();
+  if (look::IsLoaded<frmPass>()) return &look::The<frmPass>();
+  if (look::IsLoaded<frmInitJournal>()) return &look::The<frmInitJournal>();
+  return nullptr;
+}
+
+void ComeToTheFront(const platform::ActivationToken& token) {
+  if (QWidget* window = VisibleWindow()) platform::BringToFront(*window, token);
+}
+
+void StartLocked() {
+  LoadJournalIndex();
+  auto& lock = look::The<frmPass>();
+  QObject::connect(&lock, &frmPass::Unlocked, [] { look::The<frmBookcase>().ShowModeless(); });
+  lock.ShowModeless();
+  QTimer::singleShot(JournalWindowDelayMs, [] { look::The<frmJournal>(); });
+}
+
+void StartForTheFirstTime() {
+  look::The<frmInitJournal>().ShowModal();
+  if (JournalCount == 0) return;  // left by the exit
+  look::The<frmJournal>();
+  NewJournalPages();
+}
+
+bool JournalStaysOpen() {
+  if (!look::IsLoaded<frmJournal>()) return false;
+  auto& window = look::The<frmJournal>();
+  if (!window.isVisible()) return false;
+  window.CloseBox();
+  return window.isVisible();
+}
+
+}  // namespace
+
+void ActivatePrevInstance(const platform::RunningInstance& instance, const platform::ActivationToken& token) {
+  if (instance.IsFirst()) return;
+  if (platform::RunningInstance::HandOver(token)) platform::EndProcess();
+}
+
+void Main(platform::RunningInstance& instance, const platform::ActivationToken& token) {
+  ActivatePrevInstance(instance, token);
+  QObject::connect(&instance, &platform::RunningInstance::ActivationRequested, &ComeToTheFront);
+  platform::RemoveStaleTemporaries(platform::ProgramFolder());
+  TellWhenTheFolderIsReadOnly();
+  look::The<frmBookcase>();  // lists what the index loads
+  if (platform::FileExists(platform::PathOf("journal.tqt"))) {
+    StartLocked();
+  } else {
+    StartForTheFirstTime();
+  }
+}
+
+void LeaveTheProgram() {
+  if (look::Pass::InProgress()) {
+    look::Pass::RunAfterwards(&LeaveTheProgram);
+    return;
+  }
+  if (look::IsLoaded<frmInitJournal>()) {
+    platform::EndProcess();
+    return;
+  }
+  if (!JournalStaysOpen()) SaveAndExit();
+}

@@ -1,0 +1,17 @@
+// The start of the program, and the ways out that do not start in a window.
+#pragma once
+
+#include "platform/RunningInstance.h"
+
+// Starts the program up to its first window: the lock screen where there is a bookcase, else the first-run
+// dialog, which blocks. Returns at once after handing over to a running instance.
+void Main(platform::RunningInstance& instance, const platform::ActivationToken& token);
+
+// Hands over to the instance that runs already and ends this process; returns when there is none that
+// answers.
+void ActivatePrevInstance(const platform::RunningInstance& instance, const platform::ActivationToken& token);
+
+// What the system's request to end comes to: an open journal is stored and closed, the index is saved, and
+// the process ends. A first run that was never finished leaves nothing behind. What cannot be written keeps
+// the program alive, with its message.
+void LeaveTheProgram();

@@ -1,0 +1,25 @@
+# The Debian packages of the project, and how they come onto the machine. Sourced, not run.
+
+packages_to_build="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6svg6-dev libxcb1-dev libgl-dev"
+packages_to_run="qt6-qpa-plugins fonts-dejavu-core"
+packages_to_test="libgtest-dev clang-format-14 libxcb-xtest0-dev xvfb openbox"
+packages_to_bench="libbenchmark-dev"
+
+# install_packages NAME...: installs those that are missing, with sudo where the user is not root.
+install_packages() {
+  missing=""
+  for package in "$@"; do
+    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing="$missing $package"
+  done
+  [ -n "$missing" ] || return 0
+  echo "Installing:$missing"
+  as_root=""
+  if [ "$(id -u)" != 0 ]; then
+    command -v sudo >/dev/null || { echo "Please install these packages as root first:$missing" >&2; exit 1; }
+    as_root=sudo
+  fi
+  $as_root apt-get update -q >/dev/null || echo "The list of packages could not be renewed; trying with the old one." >&2
+  # shellcheck disable=SC2086
+  $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $missing >/dev/null ||
+    { echo "These packages could not be installed:$missing" >&2; exit 1; }
+}

@@ -1,0 +1,203 @@
+#include "tools/tour/Person.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <unistd.h>
+#include <xcb/xcb.h>
+#include <xcb/xtest.h>
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QThread>
+#include <QtGui/QScreen>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+
+namespace {
+
+constexpr int PatienceMs = 10000;
+constexpr unsigned ReturnKey = 0xff0d, TabKey = 0xff09, EscapeKey = 0xff1b, ShiftKey = 0xffe1,
+                   AltKey = 0xffe9, F4Key = 0xffc1;
+
+struct KeyPlace {
+  unsigned char keycode = 0;  // 0: no key has the symbol
+  bool shift = false;
+};
+
+// Finds the key of a symbol; one that no key has is put on the last keycode, as input tools do.
+KeyPlace FindKey(xcb_connection_t* connection, unsigned keysym) {
+  const xcb_setup_t* setup = xcb_get_setup(connection);
+  const int first = setup->min_keycode, count = setup->max_keycode - first + 1;
+  const auto cookie = xcb_get_keyboard_mapping(connection, setup->min_keycode, static_cast<uint8_t>(count));
+  std::unique_ptr<xcb_get_keyboard_mapping_reply_t, decltype(&std::free)> reply(
+      xcb_get_keyboard_mapping_reply(connection, cookie, nullptr), &std::free);
+  const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
+  const int perKey = reply->keysyms_per_keycode;
+  for (int level = 0; level < 2; ++level)
+    for (int key = 0; key < count; ++key)
+      if (symbols[key * perKey + level] == keysym)
+        return {static_cast<unsigned char>(first + key), level == 1};
+  const xcb_keysym_t borrowed[2] = {keysym, keysym};
+  xcb_change_keyboard_mapping(connection, 1, setup->max_keycode, 2, borrowed);
+  xcb_flush(connection);
+  QThread::msleep(200);  // the program has to hear of the new symbol before the key goes down
+  return {setup->max_keycode, false};
+}
+
+unsigned KeysymOf(char32_t character) {
+  if (character == U'\n') return ReturnKey;
+  if (character == U'\t') return TabKey;
+  return character < 0x100 ? character : 0x01000000 + character;
+}
+
+}  // namespace
+
+Person::Person(QString album, int firstNumber)
+    : album_(std::move(album)), number_(firstNumber), connection_(xcb_connect(nullptr, nullptr)) {
+  if (xcb_connection_has_error(connection_)) Fail(QStringLiteral("there is no X server to press keys at"));
+}
+
+Person::~Person() {
+  xcb_disconnect(connection_);
+}
+
+void Person::Fail(const QString& why) {
+  std::fprintf(stderr, "The tour stops: %s\n", qPrintable(why));
+  Shot("where-it-stopped");
+  _exit(1);
+}
+
+void Person::Do(const std::function<void()>& action) {
+  QMetaObject::invokeMethod(qApp, action, Qt::BlockingQueuedConnection);
+}
+
+void Person::Expect(const QString& expected, const std::function<bool()>& question) {
+  QElapsedTimer patience;
+  patience.start();
+  for (bool yes = false; !yes;) {
+    Do([&] { yes = question(); });
+    if (yes) return;
+    if (patience.elapsed() > PatienceMs) Fail(QStringLiteral("expected: ") + expected);
+    QThread::msleep(20);
+  }
+}
+
+void Person::SeeWindow(const char* name) {
+  Expect(QStringLiteral("the window %1 in front").arg(QLatin1String(name)), [name] {
+    const QWidget* active = QApplication::activeWindow();
+    return active && active->isVisible() && active->objectName() == QLatin1String(name);
+  });
+  Settle();
+}
+
+void Person::AnswerBox(const QString& text, const QString& button) {
+  const auto box = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
+  Expect(QStringLiteral("a message box in front: ") + text,
+         [&] { return box() && box()->isActiveWindow() && box()->text() == text; });
+  Shot("message");
+  QPoint place;
+  Do([&] {
+    for (QAbstractButton* candidate : box()->buttons())
+      if (candidate->text().remove(u'&') == button)
+        place = candidate->mapToGlobal(candidate->rect().center());
+  });
+  if (place.isNull()) Fail(QStringLiteral("the box has no button ") + button);
+  ClickAt(place, 1);
+  Expect(QStringLiteral("the box to go: ") + text, [&] { return !box(); });
+}
+
+QPoint Person::MiddleOf(const char* control) {
+  QPoint place;
+  Expect(QStringLiteral("a control %1 to click").arg(QLatin1String(control)), [&] {
+    const QWidget* active = QApplication::activeWindow();
+    const auto* found = active ? active->findChild<QWidget*>(QLatin1String(control)) : nullptr;
+    if (!found || !found->isVisible() || !found->isEnabled()) return false;
+    place = found->mapToGlobal(found->rect().center());
+    return true;
+  });
+  return place;
+}
+
+void Person::Click(const char* control) {
+  ClickAt(MiddleOf(control), 1);
+}
+
+void Person::DoubleClickItem(const char* list, int row) {
+  QPoint place;
+  Expect(QStringLiteral("a row %1 in the list").arg(row), [&] {
+    const QWidget* active = QApplication::activeWindow();
+    const auto* found = active ? active->findChild<QListWidget*>(QLatin1String(list)) : nullptr;
+    if (!found || found->count() <= row) return false;
+    place = found->viewport()->mapToGlobal(found->visualItemRect(found->item(row)).center());
+    return true;
+  });
+  ClickAt(place, 2);
+}
+
+void Person::ClickAt(QPoint place, int times) {
+  Fake(XCB_MOTION_NOTIFY, 0, place.x(), place.y());
+  Settle();
+  for (; times > 0; --times) {
+    Fake(XCB_BUTTON_PRESS, 1);
+    Fake(XCB_BUTTON_RELEASE, 1);
+  }
+  Settle();
+}
+
+void Person::Fake(unsigned char type, unsigned char detail, int x, int y) {
+  const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
+  xcb_test_fake_input(connection_, type, detail, XCB_CURRENT_TIME, root, static_cast<int16_t>(x),
+                      static_cast<int16_t>(y), 0);
+  xcb_flush(connection_);
+  QThread::msleep(8);
+}
+
+void Person::PressKey(unsigned char keycode, bool shift) {
+  const unsigned char shiftKeycode = shift ? FindKey(connection_, ShiftKey).keycode : 0;
+  if (shift) Fake(XCB_KEY_PRESS, shiftKeycode);
+  Fake(XCB_KEY_PRESS, keycode);
+  Fake(XCB_KEY_RELEASE, keycode);
+  if (shift) Fake(XCB_KEY_RELEASE, shiftKeycode);
+}
+
+void Person::PressKeysym(unsigned keysym) {
+  const KeyPlace key = FindKey(connection_, keysym);
+  PressKey(key.keycode, key.shift);
+}
+
+void Person::Type(const QString& text) {
+  for (const char32_t character : text.toUcs4()) PressKeysym(KeysymOf(character));
+  Settle();
+}
+
+void Person::PressEscape() {
+  PressKeysym(EscapeKey);
+  Settle();
+}
+
+void Person::CloseWindow() {
+  const unsigned char alt = FindKey(connection_, AltKey).keycode;
+  Fake(XCB_KEY_PRESS, alt);
+  PressKeysym(F4Key);
+  Fake(XCB_KEY_RELEASE, alt);
+}
+
+// What was pressed has reached the program once the server has answered and its events have been served.
+void Person::Settle() {
+  std::free(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+  QThread::msleep(60);
+  Do([] {});
+}
+
+void Person::Shot(const char* name) {
+  Settle();
+  Do([&] {
+    const QString file = QStringLiteral("%1/%2-%3.png")
+                             .arg(album_)
+                             .arg(number_++, 2, 10, QLatin1Char('0'))
+                             .arg(QLatin1String(name));
+    QApplication::primaryScreen()->grabWindow(0).save(file);
+  });
+}
