@@ -1,0 +1,52 @@
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/Errno.h"
+#include "platform/Files.h"
+
+namespace platform {
+namespace {
+
+// Not blocking, so that a pipe in a file's place cannot hold the program up for ever.
+int OpenForReading(const std::string& path) {
+  const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (descriptor < 0) throw FailureOf(errno, path, FailureKind::FileNotFound);
+  return descriptor;
+}
+
+}  // namespace
+
+InputFile::InputFile(const std::string& path) : descriptor_(OpenForReading(path)), size_(0), path_(path) {
+  struct stat entry {};
+  if (fstat(descriptor_, &entry) != 0 || !S_ISREG(entry.st_mode)) {
+    close(descriptor_);
+    throw Failure(FailureKind::PathAccess, path);
+  }
+  size_ = static_cast<std::uint64_t>(entry.st_size);
+}
+
+InputFile::~InputFile() {
+  close(descriptor_);
+}
+
+std::size_t InputFile::Read(char* buffer, std::size_t size) {
+  std::size_t done = 0;
+  while (done < size) {
+    const ssize_t got = read(descriptor_, buffer + done, size - done);
+    if (got == 0) break;
+    if (got < 0 && errno != EINTR) throw Failure(FailureKind::DeviceError, path_);
+    if (got > 0) done += static_cast<std::size_t>(got);
+  }
+  return done;
+}
+
+std::string ReadFile(const std::string& path) {
+  InputFile file(path);
+  std::string bytes(file.size(), '\0');
+  bytes.resize(file.Read(bytes.data(), bytes.size()));
+  return bytes;
+}
+
+}  // namespace platform

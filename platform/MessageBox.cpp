@@ -1,0 +1,70 @@
+#include "platform/MessageBox.h"
+
+#include <utility>
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMessageBox>
+
+namespace platform {
+namespace {
+
+MessageAnswerer& Answerer() {
+  static MessageAnswerer answerer;
+  return answerer;
+}
+
+QMessageBox::Icon IconOf(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::Stop:
+      return QMessageBox::Critical;
+    case BoxIcon::Question:
+      return QMessageBox::Question;
+    case BoxIcon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+QMessageBox* MakeBox(const Message& message) {
+  auto* box = new QMessageBox(IconOf(message.icon), QString::fromStdString(message.title), {},
+                              QMessageBox::NoButton, QApplication::activeWindow());
+  box->setObjectName(QStringLiteral("MessageBox"));
+  box->setWindowModality(Qt::ApplicationModal);
+  box->setTextFormat(Qt::PlainText);  // a name with a less-than sign is shown as it is
+  box->setText(QString::fromStdString(message.text));
+  return box;
+}
+
+void AddButtons(QMessageBox& box, Buttons buttons) {
+  if (buttons == Buttons::Ok) {
+    box.setStandardButtons(QMessageBox::Ok);
+    return;
+  }
+  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+  box.setDefaultButton(QMessageBox::Yes);
+  box.setEscapeButton(QMessageBox::No);
+}
+
+Answer AskOnTheDesktop(const Message& message) {
+  // The window under the box may be destroyed while the box is up, and takes the box with it.
+  QPointer<QMessageBox> box = MakeBox(message);
+  AddButtons(*box, message.buttons);
+  const int button = box->exec();
+  delete box;
+  if (message.buttons == Buttons::Ok) return Answer::Ok;
+  return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
+}
+
+}  // namespace
+
+Answer ShowMessage(const Message& message) {
+  const MessageAnswerer answerer = Answerer();  // a copy: an answer may put another one in its place
+  return answerer ? answerer(message) : AskOnTheDesktop(message);
+}
+
+MessageAnswerer SetMessageAnswerer(MessageAnswerer answerer) {
+  return std::exchange(Answerer(), std::move(answerer));
+}
+
+}  // namespace platform

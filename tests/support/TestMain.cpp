@@ -1,0 +1,11 @@
+#include <gtest/gtest.h>
+
+#include "platform/Application.h"
+
+int main(int argc, char** argv) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  testing::InitGoogleTest(&argc, argv);
+  platform::Application application(argc, argv);
+  application.setQuitOnLastWindowClosed(false);
+  return RUN_ALL_TESTS();
+}
