@@ -7,8 +7,8 @@
 
 namespace look {
 
-// A character outside Windows-1252 is not taken, typed or pasted, and a tip at the box says at once which one
-// and why.
+// A character outside Windows-1252 is not taken, and a tip at the box says at once which one and why. A
+// pasted text that holds one is refused whole: half a password would be worse than none.
 class CodePageEdit : public QLineEdit {
   Q_OBJECT
 
@@ -17,6 +17,9 @@ class CodePageEdit : public QLineEdit {
 
   // The text in the code page.
   std::string Bytes() const;
+
+  // The box is for a password: each character shows as "*".
+  void HideText();
 };
 
 }  // namespace look

@@ -26,7 +26,12 @@ class Form : public QDialog {
   Form(Kind kind, const QString& name, const QString& caption, int widthTwips, int heightTwips);
   ~Form() override;
 
-  // The background, from the top left corner at its natural size, cut at the window's edges.
+  // The title as told, whatever characters a journal's name brings into it.
+  void SetCaption(const QString& caption);
+  const QString& Caption() const { return caption_; }
+
+  // The background, from the top left corner at its natural size, cut at the window's edges;
+  // beyond the picture the theme's plain surface.
   void SetPicture(const QPixmap& picture);
   const QPixmap& Picture() const { return picture_; }
 
@@ -38,6 +43,9 @@ class Form : public QDialog {
   // The close box, or whatever comes to the same. The design: hides and unloads. During a pass the request is
   // kept back until the pass is over.
   virtual void CloseBox();
+
+  // It has been unloaded and waits for its deletion.
+  bool IsDiscarded() const { return discarded_; }
 
  protected:
   // One row of the design sheet: the control's name, its place and its size in twips. A control without text
@@ -53,17 +61,27 @@ class Form : public QDialog {
   void paintEvent(QPaintEvent* event) override;
   void reject() override;  // Escape
 
+  // The window manager keeps this window above the one that is active now.
+  void StandOverActiveWindow();
+  // Places it in the middle of the screen before its first showing.
+  void CentreOnce();
+
  private:
   void PlaceWidget(QWidget* control, const char* name, int left, int top, int width, int height,
                    const QString& accessibleName);
-  void CentreOnce();
+  void RequestClose();
 
   Kind kind_;
+  QString caption_;
   QPixmap picture_;
   bool centred_ = false;
+  bool closeHeldBack_ = false;
+  bool discarded_ = false;
+
+  friend void Discard(Form* form);
 };
 
-// Hides the window and deletes it when the event loop turns next.
+// Hides the window and deletes it when the event loop turns next; it counts as unloaded at once.
 void Discard(Form* form);
 // Deletes every window at once: for the end of a test.
 void UnloadAllForms();
@@ -71,16 +89,16 @@ void UnloadAllForms();
 template <class F>
 inline QPointer<F> instanceOf;
 
+template <class F>
+bool IsLoaded() {
+  return instanceOf<F> && !instanceOf<F>->IsDiscarded();
+}
+
 // The window, made if it is not loaded.
 template <class F>
 F& The() {
-  if (!instanceOf<F>) instanceOf<F> = new F;
+  if (!IsLoaded<F>()) instanceOf<F> = new F;
   return *instanceOf<F>;
-}
-
-template <class F>
-bool IsLoaded() {
-  return !instanceOf<F>.isNull();
 }
 
 // Hides the window; the next use makes a fresh one.

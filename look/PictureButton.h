@@ -19,6 +19,11 @@ class PictureButton : public QPushButton {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void PaintFace(QPainter& painter) const;
+  void PaintEdges(QPainter& painter) const;
+  void PaintCaption(QPainter& painter) const;
+  QColor Edge() const;
+
   QPixmap picture_;
 };
 

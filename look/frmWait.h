@@ -1,6 +1,7 @@
 // The one progress window. It holds no logic; the passes over a page drive it.
 #pragma once
 
+#include <QtCore/QTimer>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
 
@@ -25,8 +26,17 @@ class frmWait : public Form {
   void HideNow();
   bool CountsAsShown() const { return wanted_; }
 
+  void CloseBox() override {}  // only the pass knows its end
+
+ protected:
+  bool event(QEvent* event) override;
+
  private:
+  void Appear();
+
   bool wanted_ = false;
+  QTimer appearance_;
+  QPointer<QWidget> before_;  // the window that was active when this one appeared
 };
 
 }  // namespace look

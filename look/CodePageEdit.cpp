@@ -1,0 +1,51 @@
+#include "look/CodePageEdit.h"
+
+#include <QtGui/QValidator>
+#include <QtWidgets/QToolTip>
+
+#include "platform/CodePage.h"
+
+namespace look {
+namespace {
+
+void TellRefused(QWidget& box, const QString& character) {
+  const QString text = CodePageEdit::tr(
+                           "“%1” cannot be used here: the diary's files hold only letters and "
+                           "signs of Western Europe (Windows-1252).")
+                           .arg(character);
+  QToolTip::showText(box.mapToGlobal(box.rect().bottomLeft()), text, &box);
+}
+
+class CodePageValidator : public QValidator {
+ public:
+  explicit CodePageValidator(QWidget* box) : QValidator(box), box_(box) {}
+
+  State validate(QString& text, int& /*position*/) const override {
+    const QString foreign = platform::FirstForeignCharacter(text);
+    if (foreign.isEmpty()) return Acceptable;
+    TellRefused(*box_, foreign);
+    return Invalid;
+  }
+
+ private:
+  QWidget* box_;
+};
+
+}  // namespace
+
+CodePageEdit::CodePageEdit(QWidget* parent) : QLineEdit(parent) {
+  setValidator(new CodePageValidator(this));
+}
+
+std::string CodePageEdit::Bytes() const {
+  return platform::ToCodePage(text()).value_or(std::string());
+}
+
+void CodePageEdit::HideText() {
+  setEchoMode(Password);
+  setInputMethodHints(inputMethodHints() | Qt::ImhHiddenText | Qt::ImhSensitiveData |
+                      Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
+  setStyleSheet(QStringLiteral("QLineEdit { lineedit-password-character: 42 }"));  // the asterisk
+}
+
+}  // namespace look

@@ -1,0 +1,162 @@
+#include "look/Form.h"
+
+#include <algorithm>
+
+#include <QtGui/QCloseEvent>
+#include <QtGui/QPainter>
+#include <QtGui/QScreen>
+#include <QtGui/QWindow>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
+
+#include "look/Emblem.h"
+#include "look/Pass.h"
+#include "look/Theme.h"
+#include "platform/Rounding.h"
+
+namespace look {
+namespace {
+
+constexpr double TwipsPerPixel = 15;
+
+Qt::WindowFlags FlagsOf(Form::Kind kind) {
+  const Qt::WindowFlags both = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+  if (kind == Form::Kind::Dialog) return Qt::Dialog | both;
+  return Qt::Window | both | Qt::WindowMinMaxButtonsHint;
+}
+
+// Pale surfaces need dark writing, whatever the desktop's own colours are.
+QPalette PaletteOn(const QColor& surface) {
+  QPalette palette(surface, surface);
+  const QPalette desktop = QApplication::palette();
+  const QColor ink(0x2b, 0x24, 0x30);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Active, role, ink), palette.setColor(QPalette::Inactive, role, ink);
+  for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
+    palette.setColor(role, desktop.color(role));
+  return palette;
+}
+
+QScreen* ScreenForNewWindows() {
+  const QWidget* active = QApplication::activeWindow();
+  return active ? active->screen() : QApplication::primaryScreen();
+}
+
+}  // namespace
+
+int Pixels(double twips) {
+  return static_cast<int>(platform::RoundHalfEven(twips / TwipsPerPixel));
+}
+
+Form::Form(Kind kind, const QString& name, const QString& caption, int widthTwips, int heightTwips)
+    : QDialog(nullptr, FlagsOf(kind)), kind_(kind) {
+  setObjectName(name);
+  SetCaption(caption);
+  GiveTheProgramItsIcon();
+  const QSize size(Pixels(widthTwips), Pixels(heightTwips));
+  if (kind == Kind::Dialog) setFixedSize(size);
+  resize(size);
+}
+
+Form::~Form() = default;
+
+void Form::SetCaption(const QString& caption) {
+  caption_ = caption;
+  // The toolkit takes "[*]" for the place of its own mark of change, unless it stands there twice.
+  setWindowTitle(QString(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+}
+
+void Form::SetPicture(const QPixmap& picture) {
+  picture_ = picture;
+  setPalette(picture.isNull() ? QPalette() : PaletteOn(CurrentTheme().surface));
+  update();
+}
+
+void Form::ShowModeless() {
+  CentreOnce();
+  setModal(false);
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
+void Form::ShowModal() {
+  CentreOnce();
+  StandOverActiveWindow();
+  exec();
+}
+
+void Form::CentreOnce() {
+  if (centred_) return;
+  centred_ = true;
+  const QRect screen = ScreenForNewWindows()->availableGeometry();
+  if (kind_ == Kind::Window) resize(size().boundedTo(screen.size()).expandedTo(minimumSize()));
+  const QPoint place = screen.center() - rect().center();
+  move(std::max(place.x(), screen.left()), std::max(place.y(), screen.top()));
+}
+
+void Form::StandOverActiveWindow() {
+  QWidget* active = QApplication::activeWindow();
+  if (!active || active == this) return;
+  winId();  // makes the native window, which must know before it is shown
+  windowHandle()->setTransientParent(active->windowHandle());
+}
+
+void Form::CloseBox() {
+  Discard(this);
+}
+
+void Form::RequestClose() {
+  // A second request can still be on its way when the first one has hidden the window.
+  if (!isVisible()) return;
+  if (!Pass::InProgress()) return CloseBox();
+  if (closeHeldBack_) return;
+  closeHeldBack_ = true;
+  Pass::RunAfterwards([window = QPointer<Form>(this)] {
+    if (!window) return;
+    window->closeHeldBack_ = false;
+    window->RequestClose();
+  });
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+  event->ignore();  // CloseBox alone decides what becomes of the window
+  RequestClose();
+}
+
+void Form::reject() {
+  if (kind_ == Kind::Dialog) RequestClose();
+}
+
+void Form::paintEvent(QPaintEvent* event) {
+  if (picture_.isNull()) return QDialog::paintEvent(event);
+  QPainter painter(this);
+  painter.fillRect(event->rect(), palette().window());
+  painter.drawPixmap(0, 0, picture_);
+}
+
+void Form::PlaceWidget(QWidget* control, const char* name, int left, int top, int width, int height,
+                       const QString& accessibleName) {
+  if (!control->parentWidget()) control->setParent(this);
+  control->setObjectName(QString::fromLatin1(name));
+  control->setGeometry(Pixels(left), Pixels(top), Pixels(width), Pixels(height));
+  if (!accessibleName.isEmpty()) control->setAccessibleName(accessibleName);
+  // A name with a less-than sign is shown as it is.
+  if (auto* label = qobject_cast<QLabel*>(control)) label->setTextFormat(Qt::PlainText);
+}
+
+void Discard(Form* form) {
+  form->discarded_ = true;
+  form->hide();
+  form->deleteLater();
+}
+
+void UnloadAllForms() {
+  QList<QPointer<Form>> forms;
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (auto* form = qobject_cast<Form*>(window)) forms.append(form);
+  for (const QPointer<Form>& form : forms) delete form.data();
+}
+
+}  // namespace look

@@ -1,0 +1,62 @@
+#include "look/frmWait.h"
+
+#include <QtWidgets/QApplication>
+
+#include "look/Emblem.h"
+#include "look/Theme.h"
+
+namespace look {
+namespace {
+
+constexpr std::chrono::milliseconds Frame{16};
+
+}  // namespace
+
+frmWait::frmWait()
+    : Form(Kind::Dialog, QStringLiteral("frmWait"), QStringLiteral("Thorn Quill"), 5400, 1680) {
+  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowDoesNotAcceptFocus);
+  setAttribute(Qt::WA_ShowWithoutActivating);
+  setFocusPolicy(Qt::NoFocus);
+  SetPicture(CurrentTheme().large);
+
+  Image1 = Place(new QLabel(this), "Image1", 240, 240, 960, 960);
+  Label1 = Place(new QLabel(QStringLiteral("Thorn Quill"), this), "Label1", 1440, 240, 3720, 300);
+  lblInfo = Place(new QLabel(QStringLiteral("PLEASE WAIT"), this), "lblInfo", 1440, 600, 3720, 300);
+  ProgressBar1 =
+      Place(new QProgressBar(this), "ProgressBar1", 1440, 1020, 3720, 300, QStringLiteral("Progress"));
+  Image1->setPixmap(ClosedBook(Pixels(960), QColor(0x4a, 0x5f, 0x8f)));
+  QFont bold = Label1->font();
+  bold.setBold(true);
+  Label1->setFont(bold);
+  ProgressBar1->setTextVisible(false);
+
+  appearance_.setSingleShot(true);
+  appearance_.setTimerType(Qt::PreciseTimer);
+  connect(&appearance_, &QTimer::timeout, this, &frmWait::Appear);
+}
+
+void frmWait::ShowSoon() {
+  wanted_ = true;
+  if (!isVisible()) appearance_.start(Frame);
+}
+
+void frmWait::HideNow() {
+  wanted_ = false;
+  appearance_.stop();
+  hide();
+}
+
+void frmWait::Appear() {
+  before_ = QApplication::activeWindow();
+  CentreOnce();
+  StandOverActiveWindow();
+  show();
+}
+
+bool frmWait::event(QEvent* event) {
+  // Some desktops hand the focus to a new window whatever it asks for.
+  if (event->type() == QEvent::WindowActivate && before_) before_->activateWindow();
+  return Form::event(event);
+}
+
+}  // namespace look
