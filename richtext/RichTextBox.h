@@ -57,11 +57,35 @@ class RichTextBox : public QTextEdit {
   // Puts a bitmap at the caret, in the place of the selection.
   void InsertBitmap(const QImage& image);
 
+  // Gives the page's own pictures. Nothing is ever read from a file or a network, whatever a name says.
+  QVariant loadResource(int type, const QUrl& name) override;
+
  Q_SIGNALS:
   // The content changed, by the user or by SetTextRTF.
   void Change();
   // A mouse button went down in the text.
   void MousePressed();
+
+ protected:
+  bool canInsertFromMimeData(const QMimeData* source) const override;
+  QMimeData* createMimeDataFromSelection() const override;
+  void insertFromMimeData(const QMimeData* source) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  void NoteEdit();
+  void TellEdits();
+  void Fill(std::string_view rtf);
+  void SetAttribute(const QTextCharFormat& attribute);
+  void InsertParagraph();
+  void CarryOn(const QTextCharFormat& format);
+
+  std::uint32_t backColor_ = 0xffffff;
+  bool quiet_ = false;   // what happens to the document now is no edit
+  bool edited_ = false;  // an edit was seen that Change has not told yet
+  unsigned edits_ = 0;   // told so far
 };
 
 }  // namespace richtext

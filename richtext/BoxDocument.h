@@ -1,0 +1,22 @@
+// A page between its value and the text box's document, run by run and without a detour over another markup.
+#pragma once
+
+#include "richtext/Document.h"
+
+class QTextCursor;
+class QTextDocument;
+
+namespace richtext {
+
+// Replaces the content of `target`, with no undo history before or after it.
+void FillDocument(const Document& source, QTextDocument& target);
+// Puts the content in the place of the cursor's selection, as one step of undo. Its first paragraph joins the
+// one at the cursor; an empty paragraph there takes on its format. The cursor stands behind what came in.
+void InsertDocument(const Document& source, QTextCursor& cursor);
+
+// The whole content.
+Document TakeDocument(const QTextDocument& source);
+// The selected content; one empty paragraph where nothing is selected.
+Document TakeSelection(const QTextCursor& selection);
+
+}  // namespace richtext

@@ -1,0 +1,409 @@
+// The text box as a person uses it: shown, with real keys and clicks.
+#include <gtest/gtest.h>
+
+#include <QtCore/QBuffer>
+#include <QtCore/QMimeData>
+#include <QtCore/QTemporaryFile>
+#include <QtGui/QClipboard>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QScrollBar>
+
+#include "richtext/BoxDocument.h"
+#include "richtext/RichTextBox.h"
+#include "richtext/RtfReader.h"
+#include "richtext/RtfWriter.h"
+#include "richtext/SmallPng.h"
+
+namespace richtext {
+namespace {
+
+CharacterFormat Font(const char* name, int halfPoints, std::optional<std::uint32_t> color = {}) {
+  return {name, halfPoints, false, false, false, UnderlineKind::None, color};
+}
+
+const CharacterFormat kPlain = Font("Arial", 20);
+const CharacterFormat kLoud{"No Such Font", 37, true, true, true, UnderlineKind::Single, 0x0000ff};
+const CharacterFormat kJournal{"Courier", 17, true, false, false, UnderlineKind::None, 0x00ff0000};
+
+// One paragraph of runs.
+Document Page(const std::vector<std::pair<std::u16string, CharacterFormat>>& runs) {
+  Document page;
+  for (const auto& [text, format] : runs) {
+    page.runs.push_back({std::uint32_t(text.size()), std::uint32_t(page.formats.size())});
+    page.text += text;
+    page.formats.push_back(format);
+  }
+  page.paragraphFormats = {ParagraphFormat{}};
+  page.paragraphs = {{std::uint32_t(page.text.size()), 0, std::uint32_t(page.formats.size()) - 1}};
+  return page;
+}
+
+QImage Checkers(QSize size) {
+  QImage image(size, QImage::Format_ARGB32);
+  for (int y = 0; y < size.height(); ++y)
+    for (int x = 0; x < size.width(); ++x) image.setPixel(x, y, (x ^ y) & 1 ? 0xffcc2200 : 0xff0022cc);
+  return image;
+}
+
+// A PNG file with a text of its own, which nobody who encodes the picture anew would write again.
+std::string SignedPng() {
+  QImage image = Checkers({8, 6});
+  image.setText(QStringLiteral("Author"), QStringLiteral("someone"));
+  QByteArray file;
+  QBuffer buffer(&file);
+  image.save(&buffer, "PNG");
+  return file.toStdString();
+}
+
+class RichTextBoxTest : public testing::Test {
+ protected:
+  RichTextBoxTest() {
+    box.resize(400, 300);
+    box.show();
+    box.activateWindow();
+    box.setFocus();
+    QObject::connect(&box, &RichTextBox::Change, [this] { ++changes_; });
+    QObject::connect(&box, &RichTextBox::MousePressed, [this] { ++presses; });
+  }
+
+  // The notifications since the last call, those that come late included.
+  int Changes() {
+    QApplication::processEvents();
+    return std::exchange(changes_, 0);
+  }
+  void Set(const Document& page) {
+    box.SetTextRTF(WriteRtf(page));
+    changes_ = 0;
+  }
+  void Type(const char* keys) { QTest::keyClicks(&box, QString::fromLatin1(keys)); }
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(&box, key, modifiers);
+  }
+  void Select(int start, int length) {
+    box.SetSelStart(start);
+    box.SetSelLength(length);
+  }
+  void GiveJournalFont() {
+    box.SetSelStart(1 << 30);
+    box.SetSelFontName(QStringLiteral("Courier"));
+    box.SetSelFontSize(8.25);
+    box.SetSelBold(true);
+    box.SetSelColor(0x00ff0000);
+  }
+  // The format of the letter before a position.
+  CharacterFormat FormatAt(int position) {
+    QTextCursor letter(box.document());
+    letter.setPosition(position - 1);
+    letter.setPosition(position, QTextCursor::KeepAnchor);
+    return TakeSelection(letter).formats.at(0);
+  }
+  void Paste(const std::function<void(QMimeData&)>& offer) {
+    auto* data = new QMimeData;
+    offer(*data);
+    QApplication::clipboard()->setMimeData(data);
+    Press(Qt::Key_V, Qt::ControlModifier);
+  }
+
+  RichTextBox box;
+  int presses = 0;
+
+ private:
+  int changes_ = 0;
+};
+
+TEST_F(RichTextBoxTest, EverySetIsOneChange) {
+  for (const char* rtf : {"", "", "{\\rtf1 a}", "{\\rtf1 a}", "plain", ""}) {
+    box.SetTextRTF(rtf);
+    EXPECT_EQ(Changes(), 1) << rtf;
+  }
+}
+
+TEST_F(RichTextBoxTest, EveryEditIsOneChange) {
+  Set(Page({{u"one two three", kPlain}}));
+  const std::vector<std::pair<const char*, std::function<void()>>> edits = {
+      {"letter", [&] { Type("x"); }},
+      {"over a selection", [&] { Select(1, 3), Type("y"); }},
+      {"enter", [&] { Press(Qt::Key_Return); }},
+      {"tab", [&] { Press(Qt::Key_Tab); }},
+      {"backspace", [&] { Press(Qt::Key_Backspace); }},
+      {"undo", [&] { Press(Qt::Key_Z, Qt::ControlModifier); }},
+      {"redo", [&] { Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }},
+      {"cut", [&] { Select(0, 2), Press(Qt::Key_X, Qt::ControlModifier); }},
+      {"paste", [&] { Press(Qt::Key_V, Qt::ControlModifier); }},
+      {"bitmap",
+       [&] {
+         box.InsertBitmap(Checkers({4, 4}));
+       }},
+      {"attribute", [&] { Select(0, 2), box.SetSelItalic(true); }},
+      {"same attribute", [&] { box.SetSelItalic(true); }},
+  };
+  for (const auto& [name, edit] : edits) {
+    edit();
+    EXPECT_EQ(Changes(), 1) << name;
+  }
+}
+
+TEST_F(RichTextBoxTest, WhatIsNoEditIsNoChange) {
+  for (const Document& page : {Page({{u"one two three", kPlain}}), EmptyDocument()}) {
+    Set(page);
+    GiveJournalFont();
+    box.SetSelFontName({});
+    box.SetSelFontSize(0);
+    box.resize(200, 500);
+    box.SetBackColor(0xccffff);
+    box.selectAll();
+    Press(Qt::Key_C, Qt::ControlModifier);
+    Press(Qt::Key_Home, Qt::ControlModifier);
+    Press(Qt::Key_Backspace);
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    QTest::mouseClick(box.viewport(), Qt::LeftButton);
+    box.clearFocus();
+    box.setFocus();
+    QInputMethodEvent composing(QStringLiteral("ni"), {});
+    QApplication::sendEvent(&box, &composing);
+    QInputMethodEvent givenUp;
+    QApplication::sendEvent(&box, &givenUp);
+    box.TextRTF();
+    EXPECT_EQ(Changes(), 0) << box.Text().toStdString();
+  }
+  EXPECT_EQ(presses, 2);
+}
+
+TEST_F(RichTextBoxTest, EmptyBoxIsTheEmptyDocument) {
+  EXPECT_EQ(ReadRtf(box.TextRTF()), EmptyDocument());
+  Set(Page({{u"x", kPlain}}));
+  box.SetTextRTF("");
+  EXPECT_EQ(box.Text(), QString());
+  EXPECT_EQ(ReadRtf(box.TextRTF()), EmptyDocument());
+}
+
+TEST_F(RichTextBoxTest, CaretFormatGovernsWhatIsTyped) {
+  for (const Document& page : {EmptyDocument(), Page({{u"before", kPlain}})}) {
+    Set(page);
+    GiveJournalFont();
+    box.clearFocus();
+    box.setFocus();
+    QTest::mouseClick(box.viewport(), Qt::LeftButton, {}, QPoint(300, 10));
+    const int start = box.SelStart();
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Return);
+    Type("ab");
+    EXPECT_EQ(FormatAt(start + 3), kJournal);
+    EXPECT_EQ(FormatAt(start + 4), kJournal);
+    if (start > 0) {
+      EXPECT_EQ(FormatAt(start), kPlain);
+    }
+    Press(Qt::Key_Backspace);
+    Press(Qt::Key_Backspace);
+    Type("c");
+    EXPECT_EQ(FormatAt(start + 3), kJournal) << "all letters of the paragraph were deleted before";
+  }
+}
+
+TEST_F(RichTextBoxTest, CaretTakesTheFormatWhereItGoes) {
+  Set(Page({{u"plain", kPlain}, {u"loud", kLoud}}));
+  box.SetSelStart(9);
+  EXPECT_EQ(box.SelFontSize(), 18.5);
+  box.SetSelStart(3);
+  EXPECT_EQ(box.SelFontName(), QStringLiteral("Arial"));
+  Press(Qt::Key_End, Qt::ControlModifier);
+  Type("x");
+  EXPECT_EQ(FormatAt(10), kLoud);
+}
+
+TEST_F(RichTextBoxTest, SelectionReadsAsMixed) {
+  Set(Page({{u"plain", kPlain}, {u"loud", kLoud}}));
+  Select(4, 2);
+  EXPECT_FALSE(box.SelFontName() || box.SelFontSize() || box.SelBold() || box.SelItalic() ||
+               box.SelUnderline() || box.SelStrikeThru() || box.SelColor());
+  Select(5, 100);
+  EXPECT_EQ(box.SelLength(), 4);
+  EXPECT_EQ(box.SelFontName(), QStringLiteral("No Such Font"));
+  EXPECT_EQ(box.SelFontSize(), 18.5);
+  EXPECT_EQ(box.SelBold(), true);
+  EXPECT_EQ(box.SelItalic(), true);
+  EXPECT_EQ(box.SelUnderline(), true);
+  EXPECT_EQ(box.SelStrikeThru(), true);
+  EXPECT_EQ(box.SelColor(), 0x0000ffu);
+  Select(0, 5);
+  EXPECT_EQ(box.SelBold(), false);
+  EXPECT_EQ(box.SelColor(), 0u) << "automatic is black";
+}
+
+TEST_F(RichTextBoxTest, SelectionTakesAttributes) {
+  Set(Page({{u"plain", kPlain}, {u"loud", kLoud}}));
+  Select(3, 4);
+  box.SetSelFontName(QStringLiteral("Courier"));
+  box.SetSelFontSize(8.25);
+  box.SetSelBold(true);
+  box.SetSelItalic(false);
+  box.SetSelUnderline(false);
+  box.SetSelStrikeThru(false);
+  box.SetSelColor(0x00ff0000);
+  EXPECT_EQ(Changes(), 7);
+  const Document page = TakeDocument(*box.document());
+  EXPECT_EQ(page.runs, (std::vector<richtext::Run>{{3, 0}, {4, 1}, {2, 2}}));
+  EXPECT_EQ(page.formats, (std::vector<CharacterFormat>{kPlain, kJournal, kLoud}));
+}
+
+TEST_F(RichTextBoxTest, UndoStopsAtThePage) {
+  Set(Page({{u"first", kPlain}}));
+  Type("typed");
+  Set(Page({{u"second", kPlain}}));
+  for (int i = 0; i < 3; ++i) Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(box.Text(), QStringLiteral("second"));
+  EXPECT_EQ(Changes(), 0);
+  Type("x");
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(box.Text(), QStringLiteral("second"));
+}
+
+// Every format and every kind of letter, in paragraphs of every kind, with a picture of each way to be sized.
+Document FullPage() {
+  Document page = Page({{u"a\tb\u2028\u00a0\U0001F600", kPlain},
+                        {u"\ufffc", kLoud},
+                        {u"\ufffc\ufffc\ufffc", kPlain},
+                        {u"tail", Font("Tim\xc3\xb6s", 3, 0)}});
+  page.formats.push_back(Font("", 96));  // of an empty paragraph, with no font named
+  const std::string png = SignedPng();
+  page.pictures = {{PictureKind::Png, png, 301, 77},
+                   {PictureKind::Png, png, 0, 0},
+                   {PictureKind::Png, "no picture", 600, 300},
+                   {PictureKind::Png, png, 0, 90}};
+  page.paragraphFormats = {{Alignment::Left, 0, 0, 0},
+                           {Alignment::Right, 1, 719, -360},
+                           {Alignment::Center, -15, 0, 7},
+                           {Alignment::Justify, 1440, 20, 360}};
+  page.paragraphs = {{3, 0, 0}, {5, 1, 1}, {0, 2, 4}, {7, 3, 3}};
+  page.runs = {{3, 0}, {4, 0}, {1, 1}, {3, 2}, {4, 3}};
+  page.formats[2] = Font("Arial", 21);
+  return page;
+}
+
+TEST_F(RichTextBoxTest, HoldsWhatThePageHolds) {
+  const Document page = FullPage();
+  FillDocument(page, *box.document());
+  Document taken = TakeDocument(*box.document());
+  EXPECT_EQ(taken.text, page.text);
+  EXPECT_EQ(taken.pictures, page.pictures);
+  // The numbers of the formats may differ, what they stand for may not.
+  const auto formats = [](const Document& of) {
+    std::vector<std::pair<std::uint32_t, CharacterFormat>> runs;
+    for (const richtext::Run& run : of.runs) runs.emplace_back(run.length, of.formats[run.format]);
+    for (const Paragraph& paragraph : of.paragraphs)
+      runs.emplace_back(paragraph.length, of.formats[paragraph.markFormat]);
+    return runs;
+  };
+  EXPECT_EQ(formats(taken), formats(page));
+  ASSERT_EQ(taken.paragraphs.size(), page.paragraphs.size());
+  EXPECT_EQ(taken.paragraphFormats, page.paragraphFormats);
+  QApplication::processEvents();
+  EXPECT_EQ(TakeDocument(*box.document()), taken) << "drawing it changed it";
+  box.SetTextRTF(WriteRtf(taken));
+  EXPECT_EQ(TakeDocument(*box.document()), taken);
+}
+
+TEST_F(RichTextBoxTest, ForeignSignsStayWithinTheirParagraph) {
+  Document page = Page({{u"a\u2029b\nc\ufdd0d\ufffce", kPlain}});
+  FillDocument(page, *box.document());
+  page.text = u"a\u2028b\u2028c\ufffdd\ufffde";
+  EXPECT_EQ(TakeDocument(*box.document()), page);
+}
+
+TEST_F(RichTextBoxTest, TextCountsAsTheSelectionDoes) {
+  FillDocument(FullPage(), *box.document());
+  const QString text = QStringLiteral("a\tb\n\n\u00a0\U0001F600\ufffc\n\n\ufffc\ufffc\ufffctail");
+  EXPECT_EQ(box.Text(), text);
+  box.SetSelStart(1 << 30);
+  EXPECT_EQ(box.SelStart(), text.size());
+  box.SetSelStart(-1);
+  EXPECT_EQ(box.SelStart(), 0);
+  Select(text.indexOf(u't'), 4);
+  Type("x");
+  EXPECT_TRUE(box.Text().endsWith(QStringLiteral("\ufffcx")));
+}
+
+TEST_F(RichTextBoxTest, CopyAndPasteKeepTheFormats) {
+  FillDocument(FullPage(), *box.document());
+  const Document before = TakeDocument(*box.document());
+  box.selectAll();
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("a\tb\n\n\u00a0\U0001F600\n\ntail"));
+  box.SetTextRTF("");
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(TakeDocument(*box.document()), before);
+}
+
+TEST_F(RichTextBoxTest, PasteTakesTheCaretsFormat) {
+  GiveJournalFont();
+  Paste([](QMimeData& data) {
+    data.setText(QStringLiteral("one\ntwo\ufffc"));
+    data.setHtml(QStringLiteral("<p style='color:white;background:black'>one<br>two</p>"));
+    data.setImageData(Checkers({2, 2}));
+  });
+  EXPECT_EQ(box.Text(), QStringLiteral("one\ntwo"));
+  EXPECT_EQ(TakeDocument(*box.document()).formats.at(0), kJournal);
+  box.selectAll();
+  Paste([](QMimeData& data) { data.setHtml(QStringLiteral("<b>bold</b><img src='file:///etc/passwd'>")); });
+  EXPECT_EQ(box.Text(), QStringLiteral("bold"));
+}
+
+TEST_F(RichTextBoxTest, PastedBitmapIsASmallPng) {
+  const QImage image = Checkers({64, 32});
+  Paste([&](QMimeData& data) {
+    data.setImageData(image);
+    data.setHtml(QStringLiteral("<img src='http://example.invalid/a.png'>"));
+  });
+  const Document page = TakeDocument(*box.document());
+  ASSERT_EQ(page.pictures.size(), 1u);
+  const Picture& picture = page.pictures[0];
+  EXPECT_EQ(std::pair(picture.widthTwips, picture.heightTwips), std::pair(64 * 15, 32 * 15));
+  EXPECT_LT(picture.bytes.size(), 200u);
+  QImage stored = QImage::fromData(QByteArray::fromStdString(picture.bytes));
+  EXPECT_EQ(stored.convertToFormat(QImage::Format_ARGB32), image);
+}
+
+TEST(SmallPngTest, KeepsEveryPixel) {
+  QImage manyColors(40, 40, QImage::Format_ARGB32);
+  for (int i = 0; i < 1600; ++i) manyColors.setPixel(i % 40, i / 40, 0xff000000u + unsigned(i) * 977);
+  QImage clear = Checkers({9, 9});
+  clear.setPixel(4, 4, 0x40102030);
+  clear.setPixel(5, 4, 0);
+  for (const QImage& image : {manyColors, clear, Checkers({1, 1}), Checkers({7, 3})}) {
+    const QImage stored = QImage::fromData(QByteArray::fromStdString(SmallestPng(image)));
+    EXPECT_EQ(stored.convertToFormat(QImage::Format_ARGB32), image);
+  }
+  EXPECT_EQ(SmallestPng({}), "");
+}
+
+TEST_F(RichTextBoxTest, NothingIsFetched) {
+  QTemporaryFile file;
+  ASSERT_TRUE(file.open());
+  Checkers({50, 50}).save(&file, "PNG");
+  const QUrl url = QUrl::fromLocalFile(file.fileName());
+  EXPECT_EQ(qvariant_cast<QPixmap>(box.document()->resource(QTextDocument::ImageResource, url)).size(),
+            QSize(1, 1));
+  Paste([&](QMimeData& data) { data.setUrls({url}); });
+  EXPECT_EQ(box.Text(), url.toString());
+}
+
+TEST_F(RichTextBoxTest, PaperAndInkAreNotTheDesktops) {
+  QPalette dark;
+  dark.setColor(QPalette::Base, Qt::black);
+  dark.setColor(QPalette::Text, Qt::white);
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(dark);
+  Set(Page({{u"MMMMMMMMMMMM", Font("Arial", 60)}}));
+  box.SetBackColor(0x00ccffee);
+  const QImage drawn = box.viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+  QApplication::setPalette(before);
+  EXPECT_EQ(box.BackColor(), 0x00ccffeeu);
+  EXPECT_EQ(drawn.pixelColor(390, 290), QColor(0xee, 0xff, 0xcc));
+  int black = 0;
+  for (int x = 0; x < drawn.width(); ++x) black += drawn.pixelColor(x, 30) == QColor(Qt::black);
+  EXPECT_GT(black, 10);
+}
+
+}  // namespace
+}  // namespace richtext
