@@ -1,0 +1,49 @@
+#include "lock/frmPass.h"
+
+#include "look/Emblem.h"
+#include "look/Theme.h"
+#include "platform/MessageBox.h"
+#include "state/State.h"
+#include "store/JournalIndex.h"
+#include "store/Scrambler.h"
+
+frmPass::frmPass()
+    : Form(Kind::Dialog, QStringLiteral("frmPass"), QStringLiteral("Thorn Quill Security Lock"), 5700, 2100) {
+  // clang-format off
+  Image1    = Place(new QLabel(this), "Image1", 240, 300, 1200, 1200);
+  Label1    = Place(new QLabel(QStringLiteral("Enter your password:"), this), "Label1", 1740, 240, 3720, 300);
+  txtPass   = Place(new look::CodePageEdit(this), "txtPass", 1740, 600, 3720, 450);
+  cmdOK     = Place(new look::PictureButton(QStringLiteral("&Ok"), this), "cmdOK", 1740, 1410, 1800, 450);
+  cmdCancel = Place(new look::PictureButton(QStringLiteral("E&xit"), this), "cmdCancel", 3660, 1410, 1800, 450);
+  // clang-format on
+  Image1->setPixmap(look::ClosedBook(look::Pixels(1200), QColor(0x7a, 0x4f, 0x6b), true));
+  Label1->setBuddy(txtPass);
+  txtPass->HideText();
+  cmdOK->setDefault(true);
+
+  SetPicture(look::CurrentTheme().large);
+  for (auto* button : {cmdCancel, cmdOK}) button->SetPicture(look::CurrentTheme().button);
+  connect(cmdOK, &QPushButton::clicked, this, &frmPass::cmdOK_Click);
+  connect(cmdCancel, &QPushButton::clicked, this, &frmPass::cmdCancel_Click);
+}
+
+void frmPass::cmdOK_Click() {
+  if (UnscrambleText(MasterPassword) != txtPass->Bytes()) {
+    platform::ShowMessage("password incorrect!", platform::BoxIcon::Stop);
+    txtPass->setFocus(Qt::OtherFocusReason);  // the text stays, to be mended or typed anew
+    return;
+  }
+  look::Discard(this);
+  Q_EMIT Unlocked();
+}
+
+// The window is only hidden until the index is written: where that fails, the program goes on at the lock.
+void frmPass::cmdCancel_Click() {
+  hide();
+  SaveAndExit();
+  ShowModeless();
+}
+
+void frmPass::CloseBox() {
+  cmdCancel_Click();
+}
