@@ -1,6 +1,7 @@
 #include "richtext/BoxDocument.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <unordered_map>
 

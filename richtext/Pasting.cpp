@@ -1,5 +1,8 @@
 #include "richtext/Pasting.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <QtGui/QImage>
 #include <QtGui/QTextCursor>
 #include <QtGui/QTextDocumentFragment>
@@ -22,7 +25,9 @@ QString WithoutSigns(QString text) {
 }  // namespace
 
 bool CanBePasted(const QMimeData& offered) {
-  return offered.hasText() || offered.hasHtml() || offered.hasImage() || !OfferedRtf(offered).empty();
+  return offered.hasText() || offered.hasHtml() || offered.hasImage() ||
+         std::any_of(std::begin(kRtfNames), std::end(kRtfNames),
+                     [&](QLatin1String name) { return offered.hasFormat(name); });
 }
 
 std::string OfferedRtf(const QMimeData& offered) {

@@ -20,6 +20,7 @@ namespace {
 constexpr double kDocumentMargin = 4;              // pixels
 constexpr double kTabStop = 720 / kTwipsPerPixel;  // pixels; half an inch
 constexpr std::uint32_t kWhite = 0xffffff;
+constexpr std::size_t kLongPage = 10000;  // UTF-16 units; more than any window shows at once
 
 // What `attribute` gives for all of the selection, or for the caret; nothing where it differs within.
 template <class Attribute>
@@ -64,7 +65,11 @@ void RichTextBox::SetTextRTF(std::string_view rtf) {
 
 void RichTextBox::Fill(std::string_view rtf) {
   const QScopedValueRollback quiet(quiet_, true);
-  FillDocument(rtf.empty() ? EmptyDocument() : ReadRtf(rtf), *document());
+  const Document page = rtf.empty() ? EmptyDocument() : ReadRtf(rtf);
+  // With its scroll bar there beforehand, a long page is laid out once, and not at the width without it too.
+  if (page.text.size() > kLongPage) setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  FillDocument(page, *document());
+  setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setTextCursor(QTextCursor(document()));
   horizontalScrollBar()->setValue(0);
 }
