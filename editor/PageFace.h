@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QWidget>
@@ -33,6 +34,9 @@ class PageFace : public QWidget {
   Q_OBJECT
 
  public:
+  static constexpr int DesignWidth = 8475;  // twips
+  static constexpr int DesignHeight = 9720;
+
   explicit PageFace(QWidget* parent = nullptr);
   ~PageFace() override;
 
@@ -41,6 +45,16 @@ class PageFace : public QWidget {
   QLabel* lblDate;
   PictureBox* picBinding;
   richtext::RichTextBox* txtM;
+
+  // The seven places for a picture over the text. All are hidden, each with what it holds.
+  std::array<PictureBox*, 7> picDisplayPics;
+  std::array<QLabel*, 7> imgPhoto;
+  std::array<QLabel*, 7> imgFrame;
+  std::array<QLabel*, 7> imgController;
+
+  // The texts of lblDate and lblPageNum1, which size themselves to them: the date from its left edge, the
+  // number from its right one.
+  void SetHeader(const QString& date, const QString& pageNumber);
 
   // The head strip's height in twips, 870 by design. The binding follows its bottom edge; the text does not.
   void SetHeadHeight(int twips);
@@ -51,11 +65,16 @@ class PageFace : public QWidget {
   void JournalClosed();
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void MakeHead();
+  void MakePage();
+  void MakeSlots();
   void DockStrips();
   void FitText();
+  void HideControllers();
 
   int headHeight_ = 870;
 };

@@ -12,5 +12,10 @@ void ShowCurrentPage();
 // Nothing is stored while the text box holds the text of another page or another journal.
 void StoreCurrentPage();
 
+// For the end of the program on a failure: stores the text box's text as StoreCurrentPage does, but into the
+// row that it came from, wherever the failure has left CurrentPage. Nothing is stored unless the journal
+// window is shown with its journal.
+void StoreOpenPage();
+
 // The RTF of any page, 0 to PageCount; changes no variable. Empty for a page that was never stored.
 std::string GetPlainPage(std::int32_t page);

@@ -34,6 +34,9 @@ class frmJournal : public look::Form {
   void JournalPropertiesRequested();
   void OptionsRequested();
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void Toolbar1_ButtonClick(const QString& key);
   void ToggleToolbarCaptions();

@@ -1,0 +1,80 @@
+#include "editor/OpenJournal.h"
+
+#include <optional>
+#include <utility>
+
+#include "editor/PageFace.h"
+#include "editor/PagePasses.h"
+#include "editor/PageTurning.h"
+#include "platform/CodePage.h"
+#include "platform/Failure.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "state/State.h"
+#include "store/JournalFile.h"
+
+namespace {
+
+// A journal may still be here that was opened without being shown. Its text must not meet the next one's
+// pages.
+void DropFormerJournal() {
+  richtext::RichTextBox& text = *Face().txtM;
+  if (!text.document()->isEmpty()) text.SetTextRTF({});
+  ForgetPages();
+}
+
+QString Shown(const std::string& fileName) {
+  return platform::FromCodePage(fileName);
+}
+
+void TellUnreadable(const std::string& fileName, const platform::Failure& failure) {
+  const QString text = QStringLiteral("The journal's file %1 could not be read.\n%2");
+  platform::ShowMessage(text.arg(Shown(fileName), QString::fromUtf8(failure.what())).toStdString());
+}
+
+void TellDamaged(const std::string& fileName, std::int32_t wholePages) {
+  const QString text = QStringLiteral(
+      "The journal's file %1 is damaged. Pages in it that are whole, the title page counted: %2.\n\n"
+      "The journal opens with these. The damaged file is kept beside it before it is written over.");
+  platform::ShowMessage(text.arg(Shown(fileName)).arg(wholePages).toStdString());
+}
+
+std::optional<store::DecodedJournal> Read(const std::string& fileName) {
+  try {
+    return store::ReadJournalFile(fileName);
+  } catch (const platform::Failure& failure) {
+    TellUnreadable(fileName, failure);
+    return std::nullopt;
+  }
+}
+
+// Takes the pages in, or leaves no journal open.
+bool TakePages(const std::string& fileName) {
+  std::optional<store::DecodedJournal> journal = Read(fileName);
+  if (!journal) return false;
+  if (journal->health == store::JournalHealth::Alien) {
+    platform::ShowMessage("Journal load -- file unknown or corrupt!");
+    return false;
+  }
+  if (journal->health == store::JournalHealth::Damaged) TellDamaged(fileName, journal->wholePages);
+  Pages = std::move(journal->pages);
+  PageCount = static_cast<std::int32_t>(Pages.size()) - 1;
+  PagesJournal = CurrentJournal;
+  return true;
+}
+
+}  // namespace
+
+void LoadJournalFile(std::string& fileName) {
+  WithFallbackName(fileName);
+  DropFormerJournal();
+  if (!platform::FileExists(platform::PathOf(fileName))) {
+    NewJournalPages();
+    return;
+  }
+  if (!TakePages(fileName)) return;
+  CurrentPage = chkGotoLastPage == 1 ? PageCount : 0;
+  Journals.at(static_cast<std::size_t>(CurrentJournal)).PageCount = PageCount;
+  ShowPageHeader();
+  ShowCurrentPage();
+}

@@ -1,0 +1,178 @@
+#include "editor/PageFace.h"
+
+#include <QtCore/QPointer>
+#include <QtGui/QPainter>
+
+#include "editor/BindingPicture.h"
+#include "look/Form.h"
+#include "look/Theme.h"
+#include "state/State.h"
+
+// All places and sizes are in twips, 15 to the logical pixel.
+namespace {
+
+using look::Pixels;
+
+constexpr int PageLeft = 990;  // the width of the binding, too
+constexpr int PageTop = 870;   // stays so when the head strip grows or shrinks
+constexpr int DateLeft = 75;
+constexpr int DateTop = 630;
+constexpr int NumberRight = 7590 + 825;
+constexpr int NumberTop = 645;
+
+QPointer<PageFace> theFace;
+
+QColor ColorOf(std::uint32_t color) {
+  return QColor(color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF);
+}
+
+std::uint32_t PackedColor(const QColor& color) {
+  return static_cast<std::uint32_t>(color.red() | color.green() << 8 | color.blue() << 16);
+}
+
+template <class Control>
+Control* Placed(Control* control, const QString& name, int left, int top, int width, int height) {
+  control->setObjectName(name);
+  control->setGeometry(Pixels(left), Pixels(top), Pixels(width), Pixels(height));
+  return control;
+}
+
+// The strip under a label is pale in every theme, so its letters are black on every desktop.
+void DressLabel(QLabel* label, int pixelSize) {
+  QFont font(QStringLiteral("Verdana"));
+  font.setPixelSize(pixelSize);
+  label->setFont(font);
+  QPalette palette = label->palette();
+  palette.setColor(QPalette::WindowText, Qt::black);
+  label->setPalette(palette);
+  label->setTextFormat(Qt::PlainText);
+}
+
+QLabel* HiddenImage(const QString& name, QWidget* slot) {
+  auto* image = new QLabel(slot);
+  image->setObjectName(name);
+  image->hide();
+  return image;
+}
+
+}  // namespace
+
+PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PictureBox::SetPicture(const QPixmap& picture) {
+  picture_ = picture;
+  update();
+}
+
+void PictureBox::SetBackColor(std::uint32_t color) {
+  backColor_ = color;
+  update();
+}
+
+void PictureBox::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), ColorOf(backColor_));
+  painter.drawPixmap(0, 0, picture_);
+}
+
+PageFace::PageFace(QWidget* parent) : QWidget(parent) {
+  theFace = this;
+  resize(Pixels(DesignWidth), Pixels(DesignHeight));
+  MakePage();
+  MakeHead();
+  MakeSlots();
+  DockStrips();
+  FitText();
+}
+
+PageFace::~PageFace() = default;
+
+void PageFace::MakePage() {
+  picBinding = Placed(new PictureBox(this), QStringLiteral("picBinding"), 0, PageTop, PageLeft, 8850);
+  picBinding->SetPicture(BindingPicture());
+  txtM = Placed(new richtext::RichTextBox(this), QStringLiteral("txtM"), PageLeft, PageTop, 7484, 8849);
+  txtM->setAccessibleName(QStringLiteral("the page"));
+  txtM->setFrameShape(QFrame::NoFrame);
+  connect(txtM, &richtext::RichTextBox::Change, this, [] { PageDirty = True; });
+  connect(txtM, &richtext::RichTextBox::MousePressed, this, &PageFace::HideControllers);
+}
+
+// Made after the page, and so above it, where a tall strip covers its first lines.
+void PageFace::MakeHead() {
+  const look::Theme& theme = look::CurrentTheme();
+  picTop = Placed(new PictureBox(this), QStringLiteral("picTop"), 0, 0, DesignWidth, headHeight_);
+  picTop->SetBackColor(PackedColor(theme.surface));
+  picTop->SetPicture(theme.large);
+  lblPageNum1 = Placed(new QLabel(picTop), QStringLiteral("lblPageNum1"), 7590, NumberTop, 825, 195);
+  lblPageNum1->setAlignment(Qt::AlignRight | Qt::AlignTop);
+  DressLabel(lblPageNum1, 11);  // 8.25 points
+  lblDate = Placed(new QLabel(picTop), QStringLiteral("lblDate"), DateLeft, DateTop, 450, 210);
+  DressLabel(lblDate, 12);  // 9 points
+  SetHeader(QStringLiteral("Date"), QStringLiteral("Page X"));
+}
+
+void PageFace::MakeSlots() {
+  constexpr int left[] = {1500, 4800, 2400, 5100, 1200, 3600, 4500};
+  constexpr int top[] = {1200, 1500, 3300, 4200, 5700, 6300, 6900};
+  for (std::size_t i = 0; i < picDisplayPics.size(); ++i) {
+    const auto named = [i](QStringView name) { return QStringLiteral("%1(%2)").arg(name).arg(i); };
+    auto* slot = Placed(new PictureBox(this), named(u"picDisplayPics"), left[i], top[i], 3030, 2445);
+    slot->hide();
+    slot->setAccessibleName(QStringLiteral("Picture %1").arg(i + 1));
+    picDisplayPics[i] = slot;
+    imgPhoto[i] = HiddenImage(named(u"imgPhoto"), slot);
+    imgFrame[i] = HiddenImage(named(u"imgFrame"), slot);
+    imgController[i] = HiddenImage(named(u"imgController"), slot);
+  }
+}
+
+void PageFace::SetHeader(const QString& date, const QString& pageNumber) {
+  lblDate->setText(date);
+  lblDate->adjustSize();
+  lblPageNum1->setText(pageNumber);
+  lblPageNum1->adjustSize();
+  lblPageNum1->move(Pixels(NumberRight) - lblPageNum1->width(), lblPageNum1->y());
+}
+
+void PageFace::SetHeadHeight(int twips) {
+  headHeight_ = twips;
+  DockStrips();
+}
+
+void PageFace::paintEvent(QPaintEvent* event) {
+  QPainter(this).fillRect(event->rect(), ColorOf(0x808080));
+}
+
+void PageFace::resizeEvent(QResizeEvent*) {
+  DockStrips();
+  FitText();
+}
+
+void PageFace::DockStrips() {
+  const int bottom = Pixels(headHeight_);
+  picTop->setGeometry(0, 0, width(), bottom);
+  picBinding->setGeometry(0, bottom, Pixels(PageLeft), std::max(0, height() - bottom));
+}
+
+// The page ends one twip before the right and the bottom edge. A window too small for it is no error: the
+// measure that would be negative stays what it was, and the other one is set.
+void PageFace::FitText() {
+  const float scaleWidth = static_cast<float>(width()) * 15;
+  const float scaleHeight = static_cast<float>(height()) * 15;
+  const float pageWidth = scaleWidth - (PageLeft + 1);
+  const float pageHeight = scaleHeight - (PageTop + 1);
+  txtM->resize(pageWidth < 0 ? txtM->width() : Pixels(pageWidth),
+               pageHeight < 0 ? txtM->height() : Pixels(pageHeight));
+}
+
+void PageFace::HideControllers() {
+  for (QLabel* controller : imgController)
+    if (!controller->isHidden()) controller->hide();
+}
+
+PageFace& Face() {
+  Q_ASSERT(theFace);
+  return *theFace;
+}

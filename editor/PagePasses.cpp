@@ -1,0 +1,147 @@
+// The guarded routines tell a failure and go on with their next statement. A pass ends before a failure in it
+// is told: while it lasts, user input waits, and nobody could answer the box.
+#include "editor/PagePasses.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "editor/PageFace.h"
+#include "look/Pass.h"
+#include "look/frmWait.h"
+#include "platform/Failure.h"
+#include "state/State.h"
+#include "store/JournalFile.h"
+#include "store/PageCipher.h"
+
+namespace {
+
+// Longer bodies, and longer texts, get the progress window.
+constexpr std::size_t LongPass = 10'000;
+// Characters between two looks at the clock: far less work than a frame lasts.
+constexpr std::size_t Chunk = 64 * 1024;
+
+constexpr std::string_view DecryptionError = "Page Decryption Error:";
+constexpr std::string_view EncryptionError = "Page Encryption Error:";
+
+JournalPage& PageRow(std::int32_t row) {
+  if (row < 0 || static_cast<std::size_t>(row) >= Pages.size())
+    throw platform::Failure(platform::FailureKind::SubscriptOutOfRange);
+  return Pages[static_cast<std::size_t>(row)];
+}
+
+void ShowProgress(std::size_t position) {
+  constexpr std::size_t most = std::numeric_limits<int>::max();
+  look::The<look::frmWait>().ProgressBar1->setValue(static_cast<int>(std::min(position, most)));
+}
+
+// "Decrypting page: 19 kb"
+void AnnouncePass(const QString& what, std::size_t length) {
+  constexpr std::size_t most = std::numeric_limits<int>::max();
+  look::frmWait& wait = look::The<look::frmWait>();
+  wait.ProgressBar1->setRange(0, static_cast<int>(std::min(length, most)));
+  wait.ProgressBar1->setValue(0);
+  wait.lblInfo->setText(QStringLiteral("%1 %2 kb").arg(what).arg(length / 1024));
+  if (length > LongPass) wait.ShowSoon();
+}
+
+void EndProgress() {
+  look::The<look::frmWait>().HideNow();
+}
+
+// Carries out `step` for each chunk of `length` characters, with the windows alive in between.
+template <class Step>
+void PassOver(std::size_t length, Step&& step) {
+  look::Pass pass;
+  for (std::size_t at = 0; at < length; at += Chunk) {
+    step(at, std::min(Chunk, length - at));
+    if (length <= LongPass) continue;
+    ShowProgress(at);
+    pass.Yield();
+  }
+}
+
+// A body of odd length lacks only its last filler, which nobody reads.
+std::string Deciphered(std::string body) {
+  if (body.size() % 2 != 0) body.push_back(' ');
+  std::string plain(body.size() / 2, '\0');
+  PassOver(body.size(), [&](std::size_t at, std::size_t length) {
+    store::Decipher(std::string_view(body).substr(at, length), PageShift, plain.data() + at / 2);
+  });
+  return plain;
+}
+
+std::string Enciphered(std::string_view plain) {
+  std::string body(plain.size() * 2, '\0');
+  PassOver(plain.size(), [&](std::size_t at, std::size_t length) {
+    store::Encipher(plain.substr(at, length), PageShift, body.data() + at * 2);
+  });
+  return body;
+}
+
+// From here on the text box's text belongs to the current page, if it could be set at all.
+void SetPageText(std::string_view rtf) {
+  TextPage = -1;
+  Face().txtM->SetTextRTF(rtf);
+  TextPage = CurrentPage;
+}
+
+bool TextIsCurrentPage() {
+  return PagesJournal != 0 && PagesJournal == CurrentJournal && TextPage >= 0 && TextPage == CurrentPage;
+}
+
+}  // namespace
+
+void ShowCurrentPage() {
+  const auto guarded = [](auto&& statement) { platform::Guarded(DecryptionError, statement); };
+  TextPage = -1;
+  std::optional<std::string> body;
+  guarded([&] { body = PageRow(CurrentPage).Body; });
+  const std::size_t length = body ? body->size() : 0;
+  std::optional<std::string> plain;
+  if (length != 0) {
+    guarded([&] { AnnouncePass(QStringLiteral("Decrypting page:"), length); });
+    guarded([&] { plain = Deciphered(std::move(*body)); });
+  } else if (body) {
+    plain.emplace();
+  }
+  guarded([&] { SetPageText(plain.value_or(std::string())); });
+  if (!plain) TextPage = -1;  // the box does not hold the page, so nothing of it may be stored as the page
+  if (length == 0) return;    // and an empty page counts as changed
+  PageDirty = False;
+  guarded(EndProgress);
+}
+
+void StoreCurrentPage() {
+  if (PageDirty == False || !TextIsCurrentPage()) return;
+  const auto guarded = [](auto&& statement) { platform::Guarded(EncryptionError, statement); };
+  std::string text;
+  guarded([&] { text = Face().txtM->TextRTF(); });
+  if (text.empty()) return;
+  guarded([&] { AnnouncePass(QStringLiteral("Encrypting page:"), text.size()); });
+  guarded([&] { PageRow(CurrentPage).Body = Enciphered(text); });
+  guarded([] { SaveJournalFile(Journals.at(static_cast<std::size_t>(CurrentJournal)).FileName); });
+  PageDirty = False;
+  guarded(EndProgress);
+}
+
+void StoreOpenPage() {
+  if (PagesJournal == 0 || TextPage < 0 || !Face().window()->isVisible()) return;
+  const std::int32_t shown = std::exchange(CurrentPage, TextPage);
+  StoreCurrentPage();
+  CurrentPage = shown;
+}
+
+std::string GetPlainPage(std::int32_t page) {
+  const auto guarded = [](auto&& statement) { platform::Guarded(DecryptionError, statement); };
+  std::string body;
+  guarded([&] { body = PageRow(page).Body; });
+  const bool isLong = body.size() > LongPass;
+  if (isLong) guarded([&] { AnnouncePass(QStringLiteral("Decrypting page:"), body.size()); });
+  std::string plain;
+  guarded([&] { plain = Deciphered(std::move(body)); });
+  if (isLong) guarded(EndProgress);
+  return plain;
+}

@@ -1,0 +1,167 @@
+#include "editor/Toolbar.h"
+
+#include <algorithm>
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QFrame>
+
+#include "editor/ToolbarPictures.h"
+#include "look/Form.h"
+
+namespace {
+
+constexpr int ButtonWidth = 555;  // twips
+constexpr int ButtonHeight = 540;
+constexpr int SeparatorWidth = 120;
+constexpr int PictureSize = 16;  // pixels
+constexpr int PictureTop = 3;
+constexpr int CaptionTop = PictureTop + PictureSize + 3;
+constexpr int CaptionRoom = 3;  // pixels of a button's width that a caption leaves free
+
+struct Row {
+  const char16_t* key;  // null: a separator
+  const char16_t* caption;
+  const char16_t* toolTip;
+};
+
+constexpr Row Separator = {nullptr, u"", u""};
+constexpr Row rows[] = {
+    {u"btnNewPage", u"New", u"Create new page"},
+    {u"btnFirstPage", u"Title", u"Go to Title page"},
+    {u"btnBack", u"Back", u"Go back one page"},
+    {u"btnNext", u"Next", u"Go forward one page"},
+    {u"btnLastPage", u"Last", u"Go to last page"},
+    Separator,
+    {u"btnPrint", u"Print", u"Print one or more pages"},
+    {u"btnIndex", u"Index", u"Show index of your journal"},
+    {u"btnCal", u"Cal", u"Show the calendar"},
+    Separator,
+    {u"btnInsertEmoticon", u"Emote", u"Insert an Emoticon"},
+    {u"btnInsertPicture", u"Pic", u"Insert Picture"},
+    {u"btnFont", u"Font", u"Change Font"},
+    Separator,
+    {u"btnOptions", u"Opt", u"Program Options"},
+    {u"btnJournalProperties", u"Prop", u"Journal Properties"},
+    Separator,
+    {u"btnHelp", u"Help", u"View the help file"},
+};
+
+QString Text(const char16_t* text) {
+  return QStringView(text).toString();
+}
+
+// The largest size up to 8.25 points at which no caption is cut, whatever stands in for the font.
+QFont CaptionFont() {
+  QFont font(QStringLiteral("Verdana"));
+  const int room = look::Pixels(ButtonWidth) - CaptionRoom;
+  const auto fits = [&](const Row& row) {
+    return QFontMetrics(font).horizontalAdvance(Text(row.caption)) <= room;
+  };
+  int size = 11;
+  do font.setPixelSize(size);
+  while (--size > 6 && !std::all_of(std::begin(rows), std::end(rows), fits));
+  return font;
+}
+
+// Picture above caption at fixed places, in the strip's own colours: a desktop style would spend the few
+// pixels on its margins, and a dark one would write white on the pale strip.
+class CaptionedButton : public QToolButton {
+ public:
+  using QToolButton::QToolButton;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    if (isDown() || underMouse()) PaintPanel(painter);
+    if (isDown()) painter.translate(0, 1);
+    const QRect picture((width() - PictureSize) / 2, PictureTop, PictureSize, PictureSize);
+    icon().paint(&painter, picture, Qt::AlignCenter, underMouse() ? QIcon::Active : QIcon::Normal);
+    painter.setPen(Qt::black);
+    painter.drawText(QRect(0, CaptionTop, width(), height() - CaptionTop), Qt::AlignHCenter | Qt::AlignTop,
+                     text());
+    if (hasFocus()) PaintFocus(painter);
+  }
+
+ private:
+  void PaintPanel(QPainter& painter) const {
+    painter.setPen(QColor(0, 0, 0, 70));
+    painter.setBrush(isDown() ? QColor(0, 0, 0, 25) : QColor(255, 255, 255, 110));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+  }
+  void PaintFocus(QPainter& painter) const {
+    painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(rect().adjusted(1, 1, -2, -2));
+  }
+};
+
+// Only Tab leads here: a click leaves the keyboard in the page.
+QToolButton* MakeButton(const Row& row, const QFont& font, QWidget* parent) {
+  auto* button = new CaptionedButton(parent);
+  button->setObjectName(Text(row.key));
+  button->setFont(font);
+  button->setIcon(ToolbarPicture(Text(row.key)));
+  button->setIconSize({PictureSize, PictureSize});
+  button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  button->setAutoRaise(true);
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setToolTip(Text(row.toolTip));
+  return button;
+}
+
+void MakeSeparator(int left, QWidget* parent) {
+  auto* line = new QFrame(parent);
+  line->setFrameStyle(QFrame::VLine | QFrame::Plain);
+  QPalette palette = line->palette();
+  palette.setColor(QPalette::WindowText, QColor(0, 0, 0, 70));
+  line->setPalette(palette);
+  line->setGeometry(look::Pixels(left), 4, look::Pixels(SeparatorWidth), look::Pixels(ButtonHeight) - 6);
+}
+
+}  // namespace
+
+Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
+  const QFont font = CaptionFont();
+  int left = 0;
+  for (const Row& row : rows) {
+    if (!row.key) {
+      MakeSeparator(left, this);
+      entries_.push_back({});
+      left += SeparatorWidth;
+      continue;
+    }
+    QToolButton* button = MakeButton(row, font, this);
+    button->setGeometry(look::Pixels(left), 0, look::Pixels(ButtonWidth), look::Pixels(ButtonHeight));
+    connect(button, &QToolButton::clicked, this, [this, key = Text(row.key)] { Q_EMIT ButtonClick(key); });
+    entries_.push_back({Text(row.key), {}, button});
+    SetCaption(Count(), Text(row.caption));
+    left += ButtonWidth;
+  }
+}
+
+int Toolbar::Count() const {
+  return static_cast<int>(entries_.size());
+}
+
+QString Toolbar::Caption(int position) const {
+  return entries_.at(static_cast<std::size_t>(position - 1)).caption;
+}
+
+// A button without a caption is called by its tool tip.
+void Toolbar::SetCaption(int position, const QString& caption) {
+  Entry& entry = entries_.at(static_cast<std::size_t>(position - 1));
+  entry.caption = caption;
+  if (!entry.button) return;
+  entry.button->setText(caption);
+  entry.button->setAccessibleName(caption.isEmpty() ? entry.button->toolTip() : caption);
+}
+
+QToolButton* Toolbar::Button(int position) const {
+  return entries_.at(static_cast<std::size_t>(position - 1)).button;
+}
+
+QToolButton* Toolbar::Button(const QString& key) const {
+  for (const Entry& entry : entries_)
+    if (entry.button && entry.key == key) return entry.button;
+  return nullptr;
+}

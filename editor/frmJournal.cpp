@@ -1,0 +1,105 @@
+#include "editor/frmJournal.h"
+
+#include "editor/PagePasses.h"
+#include "editor/PageTurning.h"
+#include "platform/Keystroke.h"
+#include "state/State.h"
+
+frmJournal::frmJournal()
+    : Form(Kind::Window, QStringLiteral("frmJournal"), QStringLiteral("Thorn Quill"), PageFace::DesignWidth,
+           PageFace::DesignHeight) {
+  face = new PageFace(this);
+  face->setGeometry(rect());
+  Toolbar1 = new Toolbar(face->picTop);
+  Toolbar1->setObjectName(QStringLiteral("Toolbar1"));
+  Toolbar1->setGeometry(look::Pixels(30), look::Pixels(30), look::Pixels(8400), look::Pixels(570));
+  connect(Toolbar1, &Toolbar::ButtonClick, this, &frmJournal::Toolbar1_ButtonClick);
+  face->txtM->setFocus();
+}
+
+void frmJournal::PageBack() {
+  GoBackPage();
+}
+void frmJournal::PageFirst() {
+  GoFirstPage();
+}
+void frmJournal::PageLast() {
+  GoLastPage();
+}
+void frmJournal::PageNew() {
+  AddNewPage();
+}
+void frmJournal::PageNext() {
+  GoNextPage();
+}
+void frmJournal::CloseBook() {
+  CloseJournal();
+}
+void frmJournal::OpenJournalProperties() {
+  Q_EMIT JournalPropertiesRequested();
+}
+void frmJournal::OpenOptions() {
+  Q_EMIT OptionsRequested();
+}
+void frmJournal::SwitchToolbarCaptions() {
+  ToggleToolbarCaptions();
+}
+
+// Unlike in the design of a window, the one instance stays loaded for the next journal. The emptied text box
+// raises its change as ever, so PageDirty stands set until the next page is shown.
+void frmJournal::CloseBox() {
+  StoreCurrentPage();
+  CloseJournal();
+  if (PagesJournal != 0) return;  // the file could not be written, and the journal is still open
+  ForgetPages();
+  face->txtM->SetTextRTF({});
+}
+
+void frmJournal::resizeEvent(QResizeEvent* event) {
+  Form::resizeEvent(event);
+  face->setGeometry(rect());
+}
+
+// What puts another page into the text box, or looks one up, stores the page first; what acts on the page in
+// place stores nothing.
+void frmJournal::Toolbar1_ButtonClick(const QString& key) {
+  struct Command {
+    const char16_t* key;
+    bool stores;
+    void (*act)(frmJournal&);
+  };
+  static constexpr Command commands[] = {
+      {u"btnNewPage", true, [](frmJournal&) { AddNewPage(); }},
+      {u"btnFirstPage", true, [](frmJournal&) { GoFirstPage(); }},
+      {u"btnBack", true, [](frmJournal&) { GoBackPage(); }},
+      {u"btnNext", true, [](frmJournal&) { GoNextPage(); }},
+      {u"btnLastPage", true, [](frmJournal&) { GoLastPage(); }},
+      {u"btnIndex", true, [](frmJournal&) {}},
+      {u"btnCal", true, [](frmJournal&) {}},
+      {u"btnOptions", false, [](frmJournal& window) { window.OpenOptions(); }},
+      {u"btnJournalProperties", false, [](frmJournal& window) { window.OpenJournalProperties(); }},
+      {u"btnHelp", false, [](frmJournal&) { platform::SendKey(Qt::Key_F1); }},
+  };
+  for (const Command& command : commands) {
+    if (key != QStringView(command.key)) continue;
+    if (command.stores) StoreCurrentPage();
+    command.act(*this);
+  }
+}
+
+// The positions and texts are those of an older toolbar, and are kept: captions come back other than they
+// went, and only the strip changes its height.
+void frmJournal::ToggleToolbarCaptions() {
+  if (Toolbar1->Caption(1) == u"New") {
+    for (int position = 1; position <= 11; ++position) Toolbar1->SetCaption(position, {});
+    face->SetHeadHeight(375);
+    return;
+  }
+  const std::pair<int, QString> captions[] = {
+      {1, QStringLiteral("New")},  {2, QStringLiteral("Title")},    {3, QStringLiteral("Back")},
+      {4, QStringLiteral("Next")}, {5, QStringLiteral("Last")},     {7, QStringLiteral("Font")},
+      {8, QStringLiteral("Pic")},  {10, QStringLiteral("Options")}, {11, QStringLiteral("Prop")},
+  };
+  for (const auto& [position, caption] : captions) Toolbar1->SetCaption(position, caption);
+  face->SetHeadHeight(1200);
+}
