@@ -34,9 +34,23 @@ class frmBookcase : public look::Form {
   // opening. False when no journal is open afterwards.
   bool DressJournalWindow();
 
+  // Lists the live rows of Journals anew, in row order.
+  void ListJournals();
+
   void CloseBox() override;  // does what cmdClose does
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
+  void LayOutButtons();
+  void LayOutList();
+  void WearTheme();
+  void ConnectCommands();
+  void KeepASelection();
+  void ShowAgain();  // the journal has been closed
+
   void cmdOpen_Click();
   void cmdAdd_Click();
   void cmdDelete_Click();
@@ -44,5 +58,5 @@ class frmBookcase : public look::Form {
   void cmdClose_Click();
 };
 
-// Lists the live rows of Journals anew, in row order.
+// ListJournals of the one bookcase window.
 void RefreshBookcaseList();

@@ -1,0 +1,205 @@
+#include "bookcase/frmBookcase.h"
+
+#include <QtGui/QMouseEvent>
+
+#include "bookcase/JournalIcons.h"
+#include "bookcase/frmNewJournal.h"
+#include "editor/OpenJournal.h"
+#include "editor/frmJournal.h"
+#include "look/Emblem.h"
+#include "look/Theme.h"
+#include "platform/CodePage.h"
+#include "platform/Failure.h"
+#include "platform/Keystroke.h"
+#include "platform/MessageBox.h"
+#include "state/State.h"
+#include "store/JournalIndex.h"
+#include "store/NewJournals.h"
+
+namespace {
+
+constexpr int DesignWidth = 9600;
+constexpr int DesignHeight = 6960;
+constexpr int RowTag = Qt::UserRole;
+
+JournalEntry& EntryOf(int row) {
+  return Journals.at(static_cast<std::size_t>(row));
+}
+
+look::PictureButton* Button(const char* caption) {
+  return new look::PictureButton(QString::fromLatin1(caption));
+}
+
+void SetBold(QWidget& control) {
+  QFont font = control.font();
+  font.setBold(true);
+  control.setFont(font);
+}
+
+}  // namespace
+
+frmBookcase::frmBookcase()
+    : Form(Kind::Window, QStringLiteral("frmBookcase"), QStringLiteral("Thornquill"), DesignWidth,
+           DesignHeight) {
+  setMinimumSize(look::Pixels(6600), look::Pixels(DesignHeight));
+  LayOutButtons();
+  LayOutList();
+  WearTheme();
+  ConnectCommands();
+  ListJournals();
+  ListView1->setFocus();
+  JournalAdded = [](std::int32_t row) {
+    if (look::IsLoaded<frmBookcase>()) look::The<frmBookcase>().AddItem(row);
+  };
+}
+
+void frmBookcase::LayOutButtons() {
+  // clang-format off
+  Image2     = Place(new QPushButton(this), "Image2", 540, 210, 1200, 1050, QStringLiteral("About Thornquill"));
+  cmdOpen    = Place(Button("Open"),       "cmdOpen",    240, 1380, 1800, 450);
+  cmdAdd     = Place(Button("Add"),        "cmdAdd",     240, 1950, 1800, 450);
+  cmdDelete  = Place(Button("Delete"),     "cmdDelete",  240, 2520, 1800, 450);
+  cmdExport  = Place(Button("Export"),     "cmdExport",  240, 3090, 1800, 450);
+  cmdProp    = Place(Button("Properties"), "cmdProp",    240, 3660, 1800, 450);
+  cmdHelp    = Place(Button("Help"),       "cmdHelp",    240, 4350, 1800, 450);
+  cmdAbout   = Place(Button("About"),      "cmdAbout",   240, 4920, 1800, 450);
+  cmdOptions = Place(Button("Options"),    "cmdOptions", 240, 5490, 1800, 450);
+  cmdClose   = Place(Button("Exit"),       "cmdClose",   240, 6270, 1800, 450);
+  // clang-format on
+  Image2->setFlat(true);
+  Image2->setIcon(look::ClosedBook(64, QColor(0x4a, 0x5f, 0x8f)));
+  Image2->setIconSize(QSize(64, 64));
+  Image2->setToolTip(QStringLiteral("About Thornquill"));
+  SetBold(*cmdOpen);
+  cmdOpen->setDefault(true);
+}
+
+void frmBookcase::LayOutList() {
+  Label2 = Place(new QLabel(QStringLiteral("My Journals:"), this), "Label2", 2340, 240, 3000, 300);
+  ListView1 =
+      Place(new QListWidget(this), "ListView1", 2340, 570, 7020, 6150, QStringLiteral("the journals"));
+  Label2->setBuddy(ListView1);
+  ListView1->setViewMode(QListView::IconMode);
+  ListView1->setMovement(QListView::Static);
+  ListView1->setResizeMode(QListView::Adjust);
+  ListView1->setIconSize(QSize(32, 32));
+  ListView1->setGridSize(QSize(104, 92));
+  ListView1->setWordWrap(true);
+  ListView1->setTextElideMode(Qt::ElideRight);
+  ListView1->viewport()->installEventFilter(this);
+  connect(ListView1, &QListWidget::itemSelectionChanged, this, &frmBookcase::KeepASelection);
+}
+
+void frmBookcase::WearTheme() {
+  SetPicture(look::CurrentTheme().large);
+  cmdOpen->SetPicture(look::CurrentTheme().button);
+  for (auto* button : {cmdClose, cmdOptions, cmdAdd, cmdAbout, cmdHelp, cmdDelete, cmdProp, cmdExport})
+    button->SetPicture(cmdOpen->Picture());
+}
+
+void frmBookcase::ConnectCommands() {
+  connect(cmdOpen, &QPushButton::clicked, this, &frmBookcase::cmdOpen_Click);
+  connect(cmdAdd, &QPushButton::clicked, this, &frmBookcase::cmdAdd_Click);
+  connect(cmdDelete, &QPushButton::clicked, this, &frmBookcase::cmdDelete_Click);
+  connect(cmdHelp, &QPushButton::clicked, this, &frmBookcase::cmdHelp_Click);
+  connect(cmdClose, &QPushButton::clicked, this, &frmBookcase::cmdClose_Click);
+}
+
+void frmBookcase::AddItem(int row) {
+  const JournalEntry& entry = EntryOf(row);
+  const QString name = platform::FromCodePage(entry.Name);
+  auto* item = new QListWidgetItem(JournalIcon(entry.Icon), name, ListView1);
+  item->setData(RowTag, row);
+  item->setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped()));  // where the list has cut it short
+  KeepASelection();
+}
+
+int frmBookcase::SelectedRow() const {
+  const QListWidgetItem* item = ListView1->currentItem();
+  return item ? item->data(RowTag).toInt() : 0;
+}
+
+void frmBookcase::ListJournals() {
+  ListView1->clear();
+  for (int row = 1; row <= JournalCount; ++row)
+    if (EntryOf(row).Deleted == False) AddItem(row);
+}
+
+void RefreshBookcaseList() {
+  look::The<frmBookcase>().ListJournals();
+}
+
+// The commands count on a selected item whenever there is one; a click beside the items takes none away.
+void frmBookcase::KeepASelection() {
+  if (ListView1->count() == 0) return;
+  if (!ListView1->currentItem()) ListView1->setCurrentRow(0);
+  ListView1->currentItem()->setSelected(true);
+}
+
+// Opens the selected journal, whatever the double click hit.
+bool frmBookcase::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != ListView1->viewport() || event->type() != QEvent::MouseButtonDblClick) return false;
+  if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) cmdOpen_Click();
+  return true;
+}
+
+void frmBookcase::resizeEvent(QResizeEvent* /*event*/) {
+  const int margin = look::Pixels(240);
+  ListView1->resize(width() - ListView1->x() - margin, height() - ListView1->y() - margin);
+}
+
+bool frmBookcase::DressJournalWindow() {
+  auto& book = look::The<frmJournal>();
+  connect(book.face, &PageFace::JournalClosed, this, &frmBookcase::ShowAgain, Qt::UniqueConnection);
+  CurrentJournal = SelectedRow();
+  JournalEntry& entry = EntryOf(CurrentJournal);
+  book.face->txtM->SetBackColor(entry.PaperColor);
+  book.face->picBinding->SetBackColor(entry.PaperColor);
+  book.setWindowIcon(JournalIcon(entry.Icon));
+  book.SetCaption(QStringLiteral("Thornquill [%1]").arg(platform::FromCodePage(entry.Name)));
+  LoadJournalFile(entry.FileName);
+  return PagesJournal == CurrentJournal;
+}
+
+void frmBookcase::cmdOpen_Click() {
+  if (ListView1->count() == 0) return;
+  if (!DressJournalWindow()) return;
+  look::The<frmJournal>().ShowModeless();
+  hide();
+}
+
+void frmBookcase::ShowAgain() {
+  ShowModeless();
+}
+
+void frmBookcase::cmdAdd_Click() {
+  look::The<frmNewJournal>().ShowModal();
+}
+
+void frmBookcase::cmdDelete_Click() {
+  if (ListView1->count() == 0) return;
+  const int row = SelectedRow();
+  const QString fileName = platform::FromCodePage(EntryOf(row).FileName);
+  const platform::Message question{"Are you sure you want to delete " + fileName.toStdString(),
+                                   platform::Buttons::YesNo, platform::BoxIcon::Stop};
+  if (platform::ShowMessage(question) != platform::Answer::Yes) return;
+  try {
+    RemoveJournal(row);
+  } catch (const platform::Failure& failure) {
+    platform::ShowMessage(failure.what(), platform::BoxIcon::Stop);  // it names the file
+    return;
+  }
+  RefreshBookcaseList();
+}
+
+void frmBookcase::cmdHelp_Click() {
+  platform::SendKey(Qt::Key_F1);
+}
+
+void frmBookcase::cmdClose_Click() {
+  SaveAndExit();
+}
+
+void frmBookcase::CloseBox() {
+  cmdClose_Click();
+}
