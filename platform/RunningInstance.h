@@ -11,6 +11,7 @@
 #include <QtCore/QObject>
 
 class QLocalServer;
+class QLocalSocket;
 
 namespace platform {
 
@@ -40,6 +41,7 @@ class RunningInstance : public QObject {
 
  private:
   void Answer();
+  void Hear(QLocalSocket& socket);
   std::unique_ptr<QLocalServer> server_;
 };
 

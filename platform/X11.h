@@ -1,0 +1,28 @@
+// The few words of the X server's language that the toolkit does not speak for us.
+//
+// Each routine takes the connection that it speaks on; none is undone by a server that does not answer.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <xcb/xcb.h>
+
+namespace platform {
+
+using X11Connection = std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)>;
+
+// A connection of our own to the display that the desktop names; empty where there is none.
+X11Connection ConnectToX11();
+
+// The server's present time in milliseconds; 0 when it does not tell within a second. Only on a connection of
+// our own, whose other events are thrown away.
+std::uint32_t X11Time(xcb_connection_t* connection);
+
+// Tells the desktop that the start with this id is over, so that its busy pointer ends.
+void EndStartupSequence(xcb_connection_t* connection, std::string_view startupId);
+
+// Asks the window manager to bring the window to the front, for an action of the user at this server time.
+void ActivateX11Window(xcb_connection_t* connection, xcb_window_t window, std::uint32_t timestamp);
+
+}  // namespace platform
