@@ -28,11 +28,13 @@ struct DecodedIndex {
   std::string problem;  // the plain name of what could not be read; empty when sound
 };
 
-// The first 33 bytes are not looked at. A record whose FileName is absurd (a path separator, a NUL, "." or
-// "..") is left out.
+// The first 33 bytes are not looked at. A record that cannot be is left out: a FileName with a path separator
+// or a NUL, ".", "..", the name of another file of the program, or one longer than a folder can hold; a Name
+// that is noise.
 DecodedIndex DecodeIndex(std::string_view bytes);
 
-// Writes the records as they are given; Name goes out as it stands.
+// Writes the records as they are given; Name goes out as it stands. Throws platform::Failure
+// (InvalidArgument) when a text is too long for its 16-bit length.
 std::string EncodeIndex(const Index& index);
 
 }  // namespace store

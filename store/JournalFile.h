@@ -2,15 +2,14 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "state/State.h"
+#include "store/PieceReader.h"
 
 namespace store {
-
 
 enum class JournalHealth { Sound, Damaged, Alien };
 
@@ -19,9 +18,6 @@ struct DecodedJournal {
   JournalHealth health = JournalHealth::Sound;
   std::int32_t wholePages = 0;  // pages that the bytes hold whole
 };
-
-// Gives up to `size` next bytes; fewer only at the end.
-using ByteSource = std::function<std::size_t(char* buffer, std::size_t size)>;
 
 // Reads in pieces, straight into the pages' own memory. `size` is the file's length in bytes, beyond which no
 // count or length is believed.
@@ -41,11 +37,14 @@ DecodedJournal ReadJournalFile(const std::string& fileName);
 // The name that stands in for an empty one, after a message that says so.
 std::string& WithFallbackName(std::string& fileName);
 
-// Writes Pages, PageCount and the password block to that file of the program's folder. Nothing on disk is
-// touched before all bytes are there. Throws platform::Failure on a disk that cannot be written, and when
-// Pages does not belong to the journal of that file. An alien file is never written over.
+// Writes Pages, PageCount and the password block to that file of the program's folder; says so first when
+// there is no password. Nothing on disk is touched before all bytes are there. Throws platform::Failure, with
+// the file as it was, when Pages does not belong to the journal of that file (SubscriptOutOfRange), when the
+// password is too long for the block (InvalidArgument), when the file is alien (PermissionDenied), and on a
+// disk that cannot be written.
 void SaveJournalFile(const std::string& fileName);
 
-// The file's PageCount; 0 when it is missing or no journal. Overwrites PageCount, as no journal is open when
-// it is called. The name is replaced by the fallback when it is empty.
+// The file's PageCount; 0 when it is missing or no journal, or when its count is negative. Overwrites
+// PageCount, as no journal is open when it is called. The name is replaced by the fallback when it is empty.
+// Throws platform::Failure when the file is there and cannot be read.
 std::int32_t PeekJournalPageCount(std::string& fileName);

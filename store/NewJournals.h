@@ -11,7 +11,9 @@ std::string FindFreeJournalFile();
 // Fills row JournalCount, which the caller has made, with a new journal's values and tells JournalAdded.
 void AddJournalEntry(const std::string& name);
 
-// The first journal and the password, which also settles PageShift for good.
+// The first journal and the password, which also settles PageShift for good: the code of its last character.
+// Throws platform::Failure (InvalidArgument), with nothing changed, when the password is empty or longer than
+// MaxPasswordLength.
 void MakeFirstJournal(const std::string& name, const std::string& password);
 // One more row and AddJournalEntry.
 void MakeJournal(const std::string& name);
@@ -19,6 +21,6 @@ void MakeJournal(const std::string& name);
 // The longest password whose journal files have room for it.
 inline constexpr std::size_t MaxPasswordLength = 128;
 
-// Deletes the journal's file and marks its row. Throws platform::Failure, with nothing changed, when the file
-// cannot be deleted.
+// Deletes the journal's file, if it has one, and marks its row. Throws platform::Failure, with nothing
+// changed, when the file cannot be deleted.
 void RemoveJournal(std::int32_t row);

@@ -1,0 +1,220 @@
+#include "store/JournalFile.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <set>
+
+#include "platform/Failure.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "store/Bytes.h"
+#include "store/Scrambler.h"
+
+namespace store {
+namespace {
+
+using platform::Failure;
+using platform::FailureKind;
+
+constexpr std::string_view magic = "ZANDOLK JOURNAL FILE V00001";
+constexpr std::size_t passwordBlockSize = 512;
+constexpr std::size_t countOffset = magic.size() + passwordBlockSize;
+constexpr std::size_t headerSize = countOffset + 4;
+static_assert(headerSize == 543);
+
+constexpr std::uint16_t longBodyMark = 0xFFFF;  // a 32-bit length follows
+constexpr std::size_t dateSize = 8;
+constexpr std::size_t smallestPage = 2 + dateSize;
+
+// An open journal has at least its title page and page 1.
+constexpr std::size_t fewestRows = 2;
+
+// How far a count is believed that the bytes do not bear out: a page a day for 2,700 years, and still only
+// 40 MB of blank rows. A larger one is noise.
+constexpr std::int32_t mostPromisedPages = 1'000'000;
+
+template <std::integral Number>
+bool ReadNumber(PieceReader& reader, Number& number) {
+  char raw[sizeof(Number)];
+  if (!reader.Read(raw, sizeof raw)) return false;
+  number = LoadNumber<Number>(raw);
+  return true;
+}
+
+bool ReadLength(PieceReader& reader, std::uint32_t& length) {
+  std::uint16_t shortLength = 0;
+  if (!ReadNumber(reader, shortLength)) return false;
+  length = shortLength;
+  return shortLength != longBodyMark || ReadNumber(reader, length);
+}
+
+bool ReadPage(PieceReader& reader, JournalPage& page) {
+  std::uint32_t length = 0;
+  char date[dateSize];
+  if (!ReadLength(reader, length) || !reader.ReadText(page.Body, length) || !reader.Read(date, dateSize)) {
+    return false;
+  }
+  page.PageDate = LoadDouble(date);
+  return true;
+}
+
+// Reads pages until there are `most` of them or the next one is not whole.
+std::vector<JournalPage> ReadPages(PieceReader& reader, std::uint64_t most) {
+  std::vector<JournalPage> pages;
+  if (most <= mostPromisedPages) pages.reserve(std::min(most, reader.left() / smallestPage));
+  while (pages.size() < most && reader.left() > 0) {
+    if (!ReadPage(reader, pages.emplace_back())) {
+      pages.pop_back();
+      break;
+    }
+  }
+  return pages;
+}
+
+DecodedJournal DecodePages(PieceReader& reader, std::int32_t count) {
+  const bool countCanBe = count >= 1;
+  const std::uint64_t most =
+      countCanBe ? std::uint64_t(count) + 1 : std::uint64_t(std::numeric_limits<std::int32_t>::max()) + 1;
+  DecodedJournal journal;
+  journal.pages = ReadPages(reader, most);
+  journal.wholePages = static_cast<std::int32_t>(journal.pages.size());
+  const bool isSound = countCanBe && journal.pages.size() == most && reader.left() == 0;
+  if (isSound) return journal;
+  journal.health = JournalHealth::Damaged;
+  const std::size_t promised = countCanBe && count <= mostPromisedPages ? most : 0;
+  journal.pages.resize(std::max({journal.pages.size(), promised, fewestRows}));
+  return journal;
+}
+
+std::string PasswordBlock(std::string_view scrambledPassword) {
+  std::string text = ScrambleText(scrambledPassword);
+  if (text.size() > passwordBlockSize) {
+    throw Failure(FailureKind::InvalidArgument, "the password is too long for a journal file");
+  }
+  text.resize(passwordBlockSize, ' ');
+  return text;
+}
+
+std::size_t SizeOf(const std::vector<JournalPage>& pages) {
+  std::size_t size = headerSize;
+  for (const JournalPage& page : pages) {
+    size += (page.Body.size() < longBodyMark ? 2 : 6) + page.Body.size() + dateSize;
+  }
+  return size;
+}
+
+void AppendPage(std::string& bytes, const JournalPage& page) {
+  const std::size_t length = page.Body.size();
+  if (length > std::numeric_limits<std::uint32_t>::max()) {
+    throw Failure(FailureKind::InvalidArgument, "a page is too long for a journal file");
+  }
+  AppendNumber(bytes, static_cast<std::uint16_t>(std::min<std::size_t>(length, longBodyMark)));
+  if (length >= longBodyMark) AppendNumber(bytes, static_cast<std::uint32_t>(length));
+  bytes += page.Body;
+  AppendDouble(bytes, page.PageDate);
+}
+
+bool StartsAsJournal(platform::InputFile& file) {
+  std::array<char, magic.size()> start{};
+  const std::size_t size = file.Read(start.data(), start.size());
+  return std::string_view(start.data(), size) == magic;
+}
+
+// The count as it stands in the file; 0 when the file is no journal, or is cut before it.
+std::int32_t PeekCount(const std::string& path) {
+  platform::InputFile file(path);
+  if (!StartsAsJournal(file)) return 0;
+  std::array<char, headerSize - magic.size()> rest{};
+  if (file.Read(rest.data(), rest.size()) < rest.size()) return 0;
+  return LoadNumber<std::int32_t>(rest.data() + passwordBlockSize);
+}
+
+// The paths of the files that hold more than what was read from them.
+std::set<std::string>& DamagedFiles() {
+  static std::set<std::string> paths;
+  return paths;
+}
+
+void RefuseForeignPages(const std::string& fileName) {
+  const bool areHeld = PagesJournal > 0 && std::size_t(PagesJournal) < Journals.size() &&
+                       Journals[PagesJournal].FileName == fileName && PageCount >= 0 &&
+                       Pages.size() == std::size_t(PageCount) + 1;
+  if (!areHeld) throw Failure(FailureKind::SubscriptOutOfRange, fileName);
+}
+
+void RefuseAlienFile(const std::string& path) {
+  if (!platform::FileExists(path)) return;
+  platform::InputFile file(path);
+  if (StartsAsJournal(file)) return;
+  throw Failure(FailureKind::PermissionDenied, path + " (this is no journal, and is never written over)");
+}
+
+// One copy, even when the writing has to be tried again.
+void KeepDamagedFile(const std::string& path) {
+  if (!DamagedFiles().contains(path)) return;
+  if (platform::FileExists(path)) platform::KeepDamaged(path);
+  DamagedFiles().erase(path);
+}
+
+}  // namespace
+
+DecodedJournal DecodeJournal(const ByteSource& source, std::uint64_t size) {
+  PieceReader reader(source, size);
+  std::array<char, headerSize> header;
+  const std::string_view start(header.data(), reader.ReadUpTo(header.data(), header.size()));
+  if (!start.starts_with(magic)) return {{}, JournalHealth::Alien, 0};
+  if (start.size() < headerSize) return {std::vector<JournalPage>(fewestRows), JournalHealth::Damaged, 0};
+  return DecodePages(reader, LoadNumber<std::int32_t>(header.data() + countOffset));
+}
+
+std::string EncodeJournal(const std::vector<JournalPage>& pages, std::string_view scrambledPassword) {
+  if (pages.empty()) throw Failure(FailureKind::SubscriptOutOfRange);
+  std::string bytes;
+  bytes.reserve(SizeOf(pages));
+  bytes += magic;
+  bytes += PasswordBlock(scrambledPassword);
+  AppendNumber(bytes, static_cast<std::int32_t>(pages.size() - 1));
+  for (const JournalPage& page : pages) AppendPage(bytes, page);
+  return bytes;
+}
+
+DecodedJournal ReadJournalFile(const std::string& fileName) {
+  const std::string path = platform::PathOf(fileName);
+  platform::InputFile file(path);
+  const auto source = [&file](char* buffer, std::size_t size) { return file.Read(buffer, size); };
+  DecodedJournal journal = DecodeJournal(source, file.size());
+  if (journal.health == JournalHealth::Damaged) {
+    DamagedFiles().insert(path);
+  } else {
+    DamagedFiles().erase(path);
+  }
+  return journal;
+}
+
+}  // namespace store
+
+std::string& WithFallbackName(std::string& fileName) {
+  if (fileName.empty()) {
+    platform::ShowMessage("error: filename blank?");
+    fileName = "journal.journalfile";
+  }
+  return fileName;
+}
+
+void SaveJournalFile(const std::string& fileName) {
+  if (MasterPassword.empty()) platform::ShowMessage("password is null on save!");
+  store::RefuseForeignPages(fileName);
+  const std::string path = platform::PathOf(fileName);
+  const std::string bytes = store::EncodeJournal(Pages, MasterPassword);
+  store::RefuseAlienFile(path);
+  store::KeepDamagedFile(path);
+  platform::ReplaceFile(path, bytes);
+}
+
+std::int32_t PeekJournalPageCount(std::string& fileName) {
+  const std::string path = platform::PathOf(WithFallbackName(fileName));
+  if (!platform::FileExists(path)) return 0;
+  PageCount = std::max(store::PeekCount(path), 0);
+  return PageCount;
+}

@@ -1,0 +1,120 @@
+#include "store/JournalIndex.h"
+
+#include <string>
+#include <utility>
+
+#include "platform/Failure.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "platform/Process.h"
+#include "state/State.h"
+#include "store/IndexFile.h"
+#include "store/Scrambler.h"
+
+namespace {
+
+// Whether the file on disk holds more than what was read from it.
+bool fileIsDamaged = false;
+
+std::string IndexPath() {
+  return platform::PathOf("journal.tqt");
+}
+
+void GiveUp(const std::string& reason) {
+  platform::ShowMessage(
+      reason +
+      "\n\nThe bookcase cannot be opened without this file, so Thornquill ends now. Nothing "
+      "was changed. Put back a sound copy of journal.tqt and start again.");
+  platform::EndProcess();
+}
+
+void TellDamage(const std::string& problem) {
+  platform::ShowMessage(
+      "The file journal.tqt is damaged (" + problem + "): " + std::to_string(JournalCount) +
+      (JournalCount == 1 ? " journal" : " journals") +
+      " could be read from it. Journals that are missing come back under their file names as "
+      "long as their files are there.\n\nThe damaged file is kept as journal.tqt.damaged "
+      "before it is written over.");
+}
+
+void AddRow(JournalEntry entry) {
+  entry.Name = UnscrambleText(entry.Name);
+  Journals.push_back(std::move(entry));
+  ++JournalCount;
+  if (JournalAdded) JournalAdded(JournalCount);
+}
+
+void TakeOver(store::Index index) {
+  Journals.assign(1, {});
+  JournalCount = 0;
+  MasterPassword = std::move(index.masterPassword);
+  PageShift = index.pageShift;
+  for (JournalEntry& entry : index.journals) AddRow(std::move(entry));
+}
+
+void LoadFrom(const std::string& path) {
+  store::DecodedIndex decoded = store::DecodeIndex(platform::ReadFile(path));
+  if (decoded.health == store::IndexHealth::Headless) {
+    return GiveUp("The file journal.tqt is damaged at its start (" + decoded.problem + "): " + path);
+  }
+  TakeOver(std::move(decoded.index));
+  fileIsDamaged = decoded.health == store::IndexHealth::Damaged;
+  if (fileIsDamaged) TellDamage(decoded.problem);
+}
+
+// The bookcase as the file holds it: without removed rows, and with scrambled copies of the names.
+store::Index IndexToSave() {
+  store::Index index{MasterPassword, PageShift, {}};
+  for (std::int32_t row = 1; row <= JournalCount; ++row) {
+    if (Journals[row].Deleted != False) continue;
+    index.journals.push_back(Journals[row]);
+    index.journals.back().Name = ScrambleText(Journals[row].Name);
+  }
+  return index;
+}
+
+void LeaveNamesScrambled(store::Index index) {
+  auto saved = index.journals.begin();
+  for (std::int32_t row = 1; row <= JournalCount; ++row) {
+    if (Journals[row].Deleted == False) Journals[row].Name = std::move((saved++)->Name);
+  }
+}
+
+void KeepDamagedFile(const std::string& path) {
+  if (fileIsDamaged && platform::FileExists(path)) platform::KeepDamaged(path);
+  fileIsDamaged = false;  // one copy, even when the writing has to be tried again
+}
+
+}  // namespace
+
+void LoadJournalIndex() {
+  const std::string path = IndexPath();
+  fileIsDamaged = false;
+  if (!platform::FileExists(path)) return;
+  try {
+    LoadFrom(path);
+  } catch (const platform::Failure& failure) {
+    GiveUp(std::string("The file journal.tqt cannot be read. ") + failure.what());
+  }
+}
+
+void SaveJournalIndex() {
+  const std::string path = IndexPath();
+  store::Index index = IndexToSave();
+  const std::string bytes = store::EncodeIndex(index);
+  KeepDamagedFile(path);
+  platform::ReplaceFile(path, bytes);
+  LeaveNamesScrambled(std::move(index));
+}
+
+void SaveAndExit() {
+  try {
+    SaveJournalIndex();
+  } catch (const std::exception& failure) {
+    platform::ShowMessage(std::string("The bookcase could not be saved in journal.tqt. ") + failure.what() +
+                          "\n\nNothing is lost: the file is as it was, and Thornquill stays open and tries "
+                          "again when you leave the next time.");
+    return;
+  }
+  platform::EndProcess();
+}

@@ -1,0 +1,90 @@
+#include "store/NewJournals.h"
+
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+#include <unordered_set>
+
+#include "platform/Failure.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "state/State.h"
+#include "store/Scrambler.h"
+
+namespace {
+
+using platform::Failure;
+using platform::FailureKind;
+
+constexpr int fileNumbers = 100'000;
+
+// A folder takes a name as well as a file does: no journal could be saved under it.
+bool IsTakenOnDisk(const std::string& name) {
+  std::error_code ignored;
+  return std::filesystem::exists(std::filesystem::symlink_status(platform::PathOf(name), ignored));
+}
+
+// Gathered once, so that a long bookcase is not searched again for each number.
+std::unordered_set<std::string_view> NamesOfRows() {
+  std::unordered_set<std::string_view> names;
+  for (std::int32_t row = 1; row <= JournalCount; ++row) names.insert(Journals[row].FileName);
+  return names;
+}
+
+std::string NumberedName(int number) {
+  const std::string digits = std::to_string(number);
+  return "j" + std::string(5 - digits.size(), '0') + digits + ".tqf";
+}
+
+void RefuseUnusable(const std::string& password) {
+  if (password.empty() || password.size() > MaxPasswordLength) {
+    throw Failure(FailureKind::InvalidArgument, "a password has 1 to 128 characters");
+  }
+}
+
+}  // namespace
+
+std::string FindFreeJournalFile() {
+  const auto taken = NamesOfRows();
+  for (int number = 0; number < fileNumbers; ++number) {
+    std::string name = NumberedName(number);
+    if (!taken.contains(name) && !IsTakenOnDisk(name)) return name;
+  }
+  platform::ShowMessage("Error, unable to find free journal file name.");
+  return {};
+}
+
+void AddJournalEntry(const std::string& name) {
+  JournalEntry entry;
+  entry.FileName = FindFreeJournalFile();
+  entry.Name = name;
+  entry.PageCount = 1;
+  entry.Icon = 1;
+  entry.PaperColor = 0xFFFFFF;
+  entry.FontName = "Verdana";
+  entry.FontSize = 16;
+  Journals[JournalCount] = entry;
+  if (JournalAdded) JournalAdded(JournalCount);
+}
+
+void MakeFirstJournal(const std::string& name, const std::string& password) {
+  RefuseUnusable(password);
+  JournalCount = 1;
+  Journals.assign(2, {});
+  AddJournalEntry(name);
+  MasterPassword = ScrambleText(password);
+  PageShift = static_cast<unsigned char>(password.back());
+}
+
+void MakeJournal(const std::string& name) {
+  ++JournalCount;
+  Journals.resize(JournalCount + 1);
+  AddJournalEntry(name);
+}
+
+void RemoveJournal(std::int32_t row) {
+  if (row < 1 || row > JournalCount) throw Failure(FailureKind::SubscriptOutOfRange);
+  JournalEntry& entry = Journals[row];
+  if (!entry.FileName.empty()) platform::DeleteFile(platform::PathOf(entry.FileName));
+  entry.Deleted = True;
+}

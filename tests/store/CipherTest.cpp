@@ -1,0 +1,97 @@
+// The two disguises: the scrambler of names and passwords, the cipher of pages.
+#include <set>
+
+#include "store/PageCipher.h"
+#include "store/Scrambler.h"
+#include "tests/store/StoreTest.h"
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class ScramblerTest : public StoreTest {
+ protected:
+  const std::string encryption = "Encryption Error:Invalid procedure call or argument";
+  const std::string decryption = "Decryption Error:Invalid procedure call or argument";
+};
+
+std::string Enciphered(std::string_view plain, int shift) {
+  std::string body(plain.size() * 2, '\0');
+  store::Encipher(plain, shift, body.data());
+  return body;
+}
+std::string Deciphered(std::string_view body, int shift) {
+  std::string plain(body.size() / 2, '\0');
+  store::Decipher(body, shift, plain.data());
+  return plain;
+}
+bool IsFiller(char filler) {
+  const int code = static_cast<unsigned char>(filler);
+  return code >= 30 && code <= 149;
+}
+
+}  // namespace
+
+TEST_F(ScramblerTest, PutsAFillerBeforeTheRaisedCharacter) {
+  const std::string scrambled = ScrambleText("ab\xFB");
+  EXPECT_EQ(WithoutFillers(scrambled, 1), "ef\xFF");
+  for (const char filler : WithoutFillers(scrambled, 0)) EXPECT_TRUE(IsFiller(filler));
+  EXPECT_EQ(UnscrambleText("?e?f"), "ab");
+  EXPECT_EQ(UnscrambleText(UnscrambleText(ScrambleText(ScrambleText("p\xE9")))), "p\xE9");
+  EXPECT_EQ(ScrambleText("") + UnscrambleText(""), "");
+  EXPECT_EQ(answers.texts(), Texts());
+}
+
+TEST_F(ScramblerTest, RepeatsThePairBeforeACharacterWithoutACode) {
+  const std::string scrambled = ScrambleText("a\xFC\xFFz");
+  EXPECT_EQ(WithoutFillers(scrambled, 1), "eee~");
+  EXPECT_EQ(scrambled.substr(0, 2), scrambled.substr(2, 2));
+  EXPECT_EQ(answers.texts(), Texts(2, encryption));
+  EXPECT_EQ(WithoutFillers(ScrambleText("\xFEz"), 1), "~");
+}
+
+TEST_F(ScramblerTest, RepeatsThePlainCharacterForAnOddFiller) {
+  EXPECT_EQ(UnscrambleText("?e?f?"), "abb");
+  EXPECT_EQ(UnscrambleText("?"), std::string(1, '\0'));
+  EXPECT_EQ(answers.texts(), Texts(2, decryption));
+}
+
+TEST_F(ScramblerTest, LeavesOutACodeBelowFour) {
+  EXPECT_EQ(UnscrambleText(std::string("?e?\3?f", 6)), "ab");
+  EXPECT_EQ(answers.texts(), Texts(1, decryption));
+}
+
+TEST(PageCipherTest, ShiftsAndWrapsByTwoHundredAndFiftyFive) {
+  struct {
+    int plain, shift, coded, back;
+  } const cases[] = {{'a', 0, 'a', 'a'}, {255, 0, 255, 255}, {0, 255, 255, 0},   {1, 255, 1, 1},
+                     {255, 255, 255, 0}, {255, 1, 1, 0},     {254, 1, 255, 254}, {200, 55, 255, 200},
+                     {200, 56, 1, 200},  {0, 65, 65, 0}};
+  for (const auto& [plain, shift, coded, back] : cases) {
+    const std::string body = Enciphered(std::string(1, static_cast<char>(plain)), shift);
+    EXPECT_EQ(static_cast<unsigned char>(body[0]), coded) << plain << " by " << shift;
+    EXPECT_EQ(static_cast<unsigned char>(Deciphered(body, shift)[0]), back) << plain << " by " << shift;
+  }
+}
+
+TEST(PageCipherTest, ComesBackForEveryLengthCodeAndShift) {
+  std::string plain;
+  for (int i = 0; i < 700; ++i) plain += static_cast<char>(i % 255);
+  for (int shift = 0; shift <= 255; ++shift) {
+    EXPECT_EQ(Deciphered(Enciphered(plain, shift), shift), plain) << shift;
+  }
+  for (std::size_t size = 0; size < 200; ++size) {
+    EXPECT_EQ(Deciphered(Enciphered(plain.substr(0, size), 65), 65), plain.substr(0, size));
+  }
+}
+
+// Fillers that repeated themselves from page to page would show which pages are alike.
+TEST(PageCipherTest, DrawsEachFillerAnew) {
+  const std::string first = WithoutFillers(Enciphered(std::string(5000, 'a'), 65), 1);
+  const std::string second = WithoutFillers(Enciphered(std::string(5000, 'a'), 65), 1);
+  std::set<char> drawn(first.begin(), first.end());
+  EXPECT_EQ(drawn.size(), 120u);
+  for (const char filler : drawn) EXPECT_TRUE(IsFiller(filler));
+  EXPECT_NE(first, second);
+  EXPECT_NE(first.substr(0, 64), first.substr(64, 64));
+}
