@@ -83,7 +83,7 @@ void frmBookcase::LayOutList() {
   ListView1->setMovement(QListView::Static);
   ListView1->setResizeMode(QListView::Adjust);
   ListView1->setIconSize(QSize(32, 32));
-  ListView1->setGridSize(QSize(104, 92));
+  ListView1->setGridSize(QSize(104, 100));
   ListView1->setWordWrap(true);
   ListView1->setTextElideMode(Qt::ElideRight);
   ListView1->viewport()->installEventFilter(this);

@@ -8,7 +8,7 @@
 #include "store/NewJournals.h"
 
 frmInitJournal::frmInitJournal()
-    : Form(Kind::Dialog, QStringLiteral("frmInitJournal"), QStringLiteral("Thornquill"), 6960, 5640) {
+    : Form(Kind::Dialog, QStringLiteral("frmInitJournal"), QStringLiteral("Thornquill"), 6960, 5160) {
   const auto label = [this](const char* text) { return new QLabel(QString::fromLatin1(text), this); };
   const auto button = [this](const char* text) {
     return new look::PictureButton(QString::fromLatin1(text), this);
@@ -23,9 +23,9 @@ frmInitJournal::frmInitJournal()
   txtNewPass  = Place(new look::CodePageEdit(this), "txtNewPass", 240, 2760, 6480, 450);
   Label2      = Place(label("Re-enter password to confirm:"), "Label2", 240, 3390, 6480, 300);
   txtNewPass2 = Place(new look::CodePageEdit(this), "txtNewPass2", 240, 3720, 6480, 450);
-  cmdOK       = Place(button("&Ok"), "cmdOK", 240, 4950, 2080, 450);
-  cmdCancel   = Place(button("E&xit"), "cmdCancel", 2440, 4950, 2080, 450);
-  cmdHelp     = Place(button("&Help"), "cmdHelp", 4640, 4950, 2080, 450);
+  cmdOK       = Place(button("&Ok"), "cmdOK", 240, 4470, 2080, 450);
+  cmdCancel   = Place(button("E&xit"), "cmdCancel", 2440, 4470, 2080, 450);
+  cmdHelp     = Place(button("&Help"), "cmdHelp", 4640, 4470, 2080, 450);
   // clang-format on
   Label4->setWordWrap(true);
   Label1->setBuddy(txtPass);

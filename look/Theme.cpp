@@ -4,8 +4,10 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <numbers>
 
 #include <QtGui/QImage>
+#include <QtGui/QPainter>
 
 #include "state/State.h"
 
@@ -13,6 +15,8 @@ namespace look {
 namespace {
 
 constexpr QSize LargeSize(800, 600);
+// A material is woven once in this size and laid in tiles: the start of the program waits for it.
+constexpr QSize Tile(200, 120);
 
 // Where a point of the material lies in the light, from -1 to 1.
 using Grain = double (*)(int x, int y);
@@ -39,9 +43,12 @@ double HandmadePaper(int x, int y) {
   return 0.4 * Speck(x / 2, y / 2) + 0.3 * Speck(x / 9, y / 5);
 }
 
+// Its waves come round at the edges of a tile.
 double Marble(int x, int y) {
-  const double combed = std::sin(x / 23.0 + 2.2 * std::sin(y / 37.0) + 0.8 * std::sin((x + 2 * y) / 61.0));
-  return 0.6 * combed + 0.15 * Speck(x, y);
+  const double across = 2 * std::numbers::pi * x / Tile.width();
+  const double down = 2 * std::numbers::pi * y / Tile.height();
+  return 0.6 * std::sin(2 * across + 2.2 * std::sin(down) + 0.8 * std::sin(across + down)) +
+         0.15 * Speck(x, y);
 }
 
 const std::array<Material, 3> Materials{{
@@ -57,17 +64,24 @@ QRgb Lit(const QColor& tint, double light) {
   return qRgb(channel(tint.red()), channel(tint.green()), channel(tint.blue()));
 }
 
-QPixmap Weave(const Material& material, const QSize& size) {
-  QImage image(size, QImage::Format_RGB32);
-  for (int y = 0; y < size.height(); ++y) {
+QPixmap Weave(const Material& material) {
+  QImage image(Tile, QImage::Format_RGB32);
+  for (int y = 0; y < Tile.height(); ++y) {
     auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-    for (int x = 0; x < size.width(); ++x) line[x] = Lit(material.tint, material.grain(x, y));
+    for (int x = 0; x < Tile.width(); ++x) line[x] = Lit(material.tint, material.grain(x, y));
   }
   return QPixmap::fromImage(image);
 }
 
+QPixmap Lay(const QPixmap& tile, const QSize& size) {
+  QPixmap picture(size);
+  QPainter(&picture).drawTiledPixmap(picture.rect(), tile);
+  return picture;
+}
+
 Theme Make(const Material& material) {
-  return {Weave(material, LargeSize), Weave(material, material.buttonSize), material.tint};
+  const QPixmap tile = Weave(material);
+  return {Lay(tile, LargeSize), Lay(tile, material.buttonSize), material.tint};
 }
 
 }  // namespace
