@@ -199,7 +199,6 @@ TEST_F(BookcaseTest, AFileThatCannotBeDeletedIsNamedAndKept) {
   QDir(QString::fromStdString(folder.path())).mkpath(QStringLiteral("j00000.tqf/full"));
   answers.Yes();
   Click(Window().cmdDelete);
-  if (List().count() == 0) GTEST_SKIP() << "a folder of that name counts as no file";
   EXPECT_NE(answers.last().find("j00000.tqf"), std::string::npos);
   EXPECT_EQ(Journals[1].Deleted, False);
 }
