@@ -14,6 +14,8 @@ double Now();
 // The date in the user's own long form.
 QString LongDate(double date);
 
+// In UTC, since a date carries no time zone. A number that is no date (more than 10 to the 8th days away, not
+// a number) gives an invalid moment, and an empty long date.
 QDateTime ToDateTime(double date);
 double FromDateTime(const QDateTime& moment);
 

@@ -53,7 +53,8 @@ std::string ReadFile(const std::string& path);
 
 // The one way a data file is written: the file holds `bytes` afterwards, or, on failure, what it held before.
 // The new bytes are on the disk before they take the name in one step. Throws DiskFull, PermissionDenied,
-// PathNotFound or PathAccess. A kill in the last moment can leave one file named as IsStaleTemporary tells.
+// PathNotFound, DeviceError or PathAccess. A kill in the last moment can leave one file named as
+// IsStaleTemporary tells.
 void ReplaceFile(const std::string& path, std::string_view bytes);
 
 // Throws when the file exists and cannot be deleted; a missing file is no failure.
@@ -64,7 +65,8 @@ void DeleteFile(const std::string& path);
 std::string KeepDamaged(const std::string& path);
 
 // Removes the temporary files that a killed process may have left in the folder: the names of the program's
-// own data files with "." and six letters behind them. Others are left alone. Failures are ignored.
+// own data files with "." and six random letters behind them, capitals and small ones mixed. What a person
+// may have named, such as journal.tqt.backup, is left alone. Failures are ignored.
 void RemoveStaleTemporaries(const std::string& folder);
 bool IsStaleTemporary(std::string_view fileName);
 

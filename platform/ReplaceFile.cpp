@@ -52,10 +52,15 @@ bool Sync(const QSaveFile& file) {
   return fsync(file.handle()) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
+// A file that is kept from being changed is not to be replaced either, though the folder would allow it.
+bool MayChange(const std::string& path) {
+  return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 || errno == ENOENT;
+}
+
 }  // namespace
 
 void ReplaceFile(const std::string& path, std::string_view bytes) {
-  Must(path, [&] { return access(path.c_str(), W_OK) == 0 || errno == ENOENT; });
+  Must(path, [&] { return MayChange(path); });
   const ToolkitPath forToolkit(path);
   QSaveFile file(forToolkit.path());
   const auto size = static_cast<qint64>(bytes.size());

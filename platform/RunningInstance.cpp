@@ -90,6 +90,10 @@ bool RunningInstance::IsFirst() const {
   return server_->isListening();
 }
 
+QString RunningInstance::Name() const {
+  return server_->serverName();
+}
+
 bool RunningInstance::HandOver(const ActivationToken& token) {
   QLocalSocket socket;
   socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);

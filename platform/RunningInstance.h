@@ -29,6 +29,8 @@ class RunningInstance : public QObject {
   explicit RunningInstance(QObject* parent = nullptr);
   ~RunningInstance() override;
   bool IsFirst() const;
+  // The name of the first instance's socket; empty for any other.
+  QString Name() const;
 
   // Tells the first instance to come to the front; false when it does not answer within two seconds.
   static bool HandOver(const ActivationToken& token);
