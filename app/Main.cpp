@@ -12,6 +12,7 @@
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Process.h"
+#include "state/State.h"
 #include "store/JournalIndex.h"
 
 namespace {

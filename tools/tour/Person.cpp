@@ -137,7 +137,7 @@ void Person::DoubleClickItem(const char* list, int row) {
 }
 
 void Person::ClickAt(QPoint place, int times) {
-  Fake(XCB_MOTION_NOTIFY, 0, place.x(), place.y());
+  Fake(XCB_MOTION_NOTIFY, 0, place);
   Settle();
   for (; times > 0; --times) {
     Fake(XCB_BUTTON_PRESS, 1);
@@ -146,10 +146,14 @@ void Person::ClickAt(QPoint place, int times) {
   Settle();
 }
 
-void Person::Fake(unsigned char type, unsigned char detail, int x, int y) {
+void Person::Queue(unsigned char type, unsigned char detail, QPoint place) {
   const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
-  xcb_test_fake_input(connection_, type, detail, XCB_CURRENT_TIME, root, static_cast<int16_t>(x),
-                      static_cast<int16_t>(y), 0);
+  xcb_test_fake_input(connection_, type, detail, XCB_CURRENT_TIME, root, static_cast<int16_t>(place.x()),
+                      static_cast<int16_t>(place.y()), 0);
+}
+
+void Person::Fake(unsigned char type, unsigned char detail, QPoint place) {
+  Queue(type, detail, place);
   xcb_flush(connection_);
   QThread::msleep(8);
 }
@@ -177,11 +181,13 @@ void Person::PressEscape() {
   Settle();
 }
 
+// All four at once: the program may end on the third, and the last key must not stay down for its successor.
 void Person::CloseWindow() {
-  const unsigned char alt = FindKey(connection_, AltKey).keycode;
-  Fake(XCB_KEY_PRESS, alt);
-  PressKeysym(F4Key);
-  Fake(XCB_KEY_RELEASE, alt);
+  const unsigned char alt = FindKey(connection_, AltKey).keycode, f4 = FindKey(connection_, F4Key).keycode;
+  for (const auto& [type, key] : {std::pair{XCB_KEY_PRESS, alt}, std::pair{XCB_KEY_PRESS, f4},
+                                  std::pair{XCB_KEY_RELEASE, f4}, std::pair{XCB_KEY_RELEASE, alt}})
+    Queue(static_cast<unsigned char>(type), key);
+  xcb_flush(connection_);
 }
 
 // What was pressed has reached the program once the server has answered and its events have been served.

@@ -45,7 +45,8 @@ class Person {
   QPoint MiddleOf(const char* control);
   void PressKey(unsigned char keycode, bool shift);
   void PressKeysym(unsigned keysym);
-  void Fake(unsigned char type, unsigned char detail, int x = 0, int y = 0);
+  void Queue(unsigned char type, unsigned char detail, QPoint place = {});
+  void Fake(unsigned char type, unsigned char detail, QPoint place = {});
   void ClickAt(QPoint place, int times);
   void Settle();
 
