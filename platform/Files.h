@@ -61,8 +61,8 @@ void ReplaceFile(const std::string& path, std::string_view bytes);
 void DeleteFile(const std::string& path);
 
 // Keeps a copy of the file beside it, under its name with ".damaged" behind it, or with ".1.damaged" and so
-// on where that name is taken. A file that was kept and has not been replaced since is not kept twice. Returns
-// the copy's path; throws FileNotFound, or as ReplaceFile does when there can be no copy.
+// on where that name is taken. A file that was kept and has not been replaced since is not kept twice.
+// Returns the copy's path; throws FileNotFound, or as ReplaceFile does when there can be no copy.
 std::string KeepDamaged(const std::string& path);
 
 // Removes the temporary files that a killed process may have left in the folder: the names of the program's
