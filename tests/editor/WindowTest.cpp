@@ -98,7 +98,7 @@ TEST_F(Window, AllButtonsFitTheirStripWithTheirCaptions) {
     EXPECT_GE(button->x(), right);
     right = button->geometry().right() + 1;
     EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()), 37) << button->text().toStdString();
-    EXPECT_LE(21 + button->fontMetrics().ascent() + button->fontMetrics().descent(), 36);
+    EXPECT_LE(22 + button->fontMetrics().ascent() + button->fontMetrics().descent(), 36);
     EXPECT_EQ(button->accessibleName(), button->text());
     EXPECT_EQ(button, bar().Button(button->objectName()));
     EXPECT_NE(button->icon().pixmap(16, QIcon::Normal).toImage(),
