@@ -1,0 +1,38 @@
+// The code pages in which RTF writes the bytes of its text.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace richtext {
+
+constexpr std::int32_t kWesternPage = 1252;
+constexpr std::int32_t kMacintoshPage = 10000;
+constexpr std::int32_t kSymbolPage = 42;
+
+// What each byte means. Two entries are no characters: a byte that is passed over, and the first byte of two.
+struct CodePage {
+  static constexpr char16_t kNothing = 0xFFFF;
+  static constexpr char16_t kLeadByte = 0xFFFE;
+
+  std::int32_t number = 0;
+  std::array<char16_t, 256> units{};
+};
+
+// Nothing when the page is not known. The pointers stay good as long as the program runs.
+const CodePage* FindCodePage(std::int32_t number);
+const CodePage& WesternCodePage();
+
+// The page of a font's \fcharset; 0 when the charset leaves it to the document.
+std::int32_t CodePageOfCharset(std::int32_t charset);
+
+// Whether a byte can follow a lead byte, in whichever page.
+constexpr bool IsTrailByte(unsigned char byte) {
+  return byte > 0x30 && byte != 0x7F && byte != 0xFF;
+}
+
+// The character of a lead byte and the byte after it. The double-byte tables are not carried: a pair is known
+// to be one character, and shows as U+FFFD.
+char16_t DoubleByteUnit(const CodePage& page, unsigned char lead, unsigned char trail);
+
+}  // namespace richtext

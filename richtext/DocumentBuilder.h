@@ -1,0 +1,82 @@
+// Builds a document from text and formats in reading order.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <unordered_map>
+#include <utility>
+
+#include "richtext/Document.h"
+#include "richtext/Limits.h"
+
+namespace richtext {
+
+// Gives values numbers, in the order of their first use. When it is full, the number given last stands for
+// every new value.
+template <typename Value, typename Hash>
+class Numbering {
+ public:
+  struct Result {
+    std::uint32_t number;
+    bool isNew;
+  };
+
+  Result NumberOf(const Value& value) {
+    if (const auto found = numbers_.find(value); found != numbers_.end())
+      return {last_ = found->second, false};
+    if (numbers_.size() == kMaxFormats) return {last_, false};
+    last_ = static_cast<std::uint32_t>(numbers_.size());
+    numbers_.emplace(value, last_);
+    return {last_, true};
+  }
+
+ private:
+  std::unordered_map<Value, std::uint32_t, Hash> numbers_;
+  std::uint32_t last_ = 0;
+};
+
+// A character format in few bytes, so that looking it up is cheap.
+struct FormatKey {
+  std::uint32_t fontName = 0;  // the caller's number of the name
+  std::int32_t halfPoints = 0;
+  std::int32_t color = 0;
+  std::uint32_t flags = 0;
+  bool operator==(const FormatKey&) const = default;
+};
+
+struct FormatHash {
+  std::size_t operator()(const FormatKey& key) const;
+  std::size_t operator()(const ParagraphFormat& format) const;
+};
+
+class DocumentBuilder {
+ public:
+  // The number of a format in the document; `make` gives the format when its key is new.
+  std::uint32_t FormatNumber(const FormatKey& key, const std::function<CharacterFormat()>& make);
+  std::uint32_t ParagraphFormatNumber(const ParagraphFormat& format);
+
+  // Text is appended here by others and becomes part of the paragraph by ClaimText, in one format.
+  std::u16string& Text() { return document_.text; }
+  bool HasUnclaimedText() const { return claimed_ != document_.text.size(); }
+  void ClaimText(std::uint32_t format);
+  void AddPicture(Picture picture, std::uint32_t format);
+  void EndParagraph(std::uint32_t paragraphFormat, std::uint32_t markFormat);
+
+  // Whether the paragraph that is being built has text.
+  bool HasOpenText() const { return claimed_ != paragraphStart_; }
+  bool HasParagraphs() const { return !document_.paragraphs.empty(); }
+
+  // The document, whose last paragraph must have been ended. The builder is spent.
+  Document Take() { return std::move(document_); }
+
+ private:
+  Document document_;
+  Numbering<FormatKey, FormatHash> formats_;
+  Numbering<ParagraphFormat, FormatHash> paragraphFormats_;
+  std::size_t claimed_ = 0;         // units of text that belong to runs
+  std::size_t paragraphStart_ = 0;  // where the open paragraph begins
+};
+
+}  // namespace richtext

@@ -1,0 +1,25 @@
+// Hexadecimal digits, as RTF writes bytes.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace richtext {
+
+namespace detail {
+constexpr std::array<std::int8_t, 256> HexDigitTable() {
+  std::array<std::int8_t, 256> table{};
+  table.fill(-1);
+  for (int i = 0; i < 10; ++i) table['0' + i] = static_cast<std::int8_t>(i);
+  for (int i = 0; i < 6; ++i) table['a' + i] = table['A' + i] = static_cast<std::int8_t>(10 + i);
+  return table;
+}
+inline constexpr std::array<std::int8_t, 256> kHexDigits = HexDigitTable();
+}  // namespace detail
+
+// 0 to 15; -1 when `c` is no digit, in either case of letters.
+constexpr int HexDigit(char c) {
+  return detail::kHexDigits[static_cast<unsigned char>(c)];
+}
+
+}  // namespace richtext

@@ -1,0 +1,216 @@
+#include "richtext/RtfControlWords.h"
+
+#include <array>
+#include <cstddef>
+#include <iterator>
+
+#include "richtext/RtfHandlers.h"
+#include "richtext/Unicode.h"
+
+namespace richtext {
+namespace {
+
+using namespace handlers;
+
+constexpr ControlWord Word(std::string_view name, ControlWord::Handler handle, Number whenAbsent = 0) {
+  return {name, handle, 0, whenAbsent, WordKind::Format};
+}
+
+template <typename Value>
+constexpr ControlWord WordOf(std::string_view name, ControlWord::Handler handle, Value argument,
+                             Number whenAbsent = 0) {
+  return {name, handle, static_cast<Number>(argument), whenAbsent, WordKind::Format};
+}
+
+constexpr ControlWord End(std::string_view name) {
+  return {name, ParagraphEnd, 0, 0, WordKind::Structure};
+}
+
+constexpr ControlWord Skipped(std::string_view name) {
+  return {name, Skip, 0, 0, WordKind::Destination};
+}
+
+constexpr ControlWord Shown(std::string_view name) {
+  return {name, Transparent, 0, 0, WordKind::Destination};
+}
+
+constexpr ControlWord Sent(std::string_view name, Destination destination) {
+  return {name, SendTo, static_cast<Number>(destination), 0, WordKind::Destination};
+}
+
+constexpr Number kOn = 1;  // toggles are on where no parameter is written
+constexpr auto kSingle = UnderlineKind::Single;
+using PictureSide = RtfPictureReader;
+
+constexpr ControlWord kWords[] = {
+    WordOf("tab", Character, u'\t'),
+    WordOf("cell", Character, u'\t'),
+    WordOf("nestcell", Character, u'\t'),
+    WordOf("line", Character, kLineBreak),
+    WordOf("emdash", Character, 0x2014),
+    WordOf("endash", Character, 0x2013),
+    WordOf("bullet", Character, 0x2022),
+    WordOf("lquote", Character, 0x2018),
+    WordOf("rquote", Character, 0x2019),
+    WordOf("ldblquote", Character, 0x201C),
+    WordOf("rdblquote", Character, 0x201D),
+    WordOf("emspace", Character, 0x2003),
+    WordOf("enspace", Character, 0x2002),
+    WordOf("qmspace", Character, 0x2005),
+    WordOf("zwj", Character, 0x200D),
+    WordOf("zwnj", Character, 0x200C),
+    WordOf("ltrmark", Character, 0x200E),
+    WordOf("rtlmark", Character, 0x200F),
+    End("par"),
+    End("sect"),
+    End("page"),
+    End("row"),
+    End("nestrow"),
+    {"u", Unicode, 0, 0, WordKind::Structure},
+    Word("uc", FallbackLength, 1),
+
+    WordOf("ansi", CharacterSet, kWesternPage),
+    WordOf("mac", CharacterSet, kMacintoshPage),
+    WordOf("pc", CharacterSet, 437),
+    WordOf("pca", CharacterSet, 850),
+    Word("ansicpg", AnsiCodePage),
+
+    Word("deff", DefaultFont),
+    Word("f", Font),
+    Word("fcharset", FontCharset),
+    Word("cpg", FontCodePage),
+    Word("red", Component<&RtfColorTable::SetRed>),
+    Word("green", Component<&RtfColorTable::SetGreen>),
+    Word("blue", Component<&RtfColorTable::SetBlue>),
+    Word("cf", Color),
+
+    Word("plain", Plain),
+    Word("fs", FontSize, kDefaultHalfPoints),
+    Word("b", Toggle<&CharacterState::bold>, kOn),
+    Word("i", Toggle<&CharacterState::italic>, kOn),
+    Word("strike", Toggle<&CharacterState::strikethrough>, kOn),
+    Word("striked", Toggle<&CharacterState::strikethrough>, kOn),
+    WordOf("ulnone", Underline, UnderlineKind::None, kOn),
+    WordOf("ul", Underline, kSingle, kOn),
+    WordOf("uld", Underline, kSingle, kOn),
+    WordOf("uldash", Underline, kSingle, kOn),
+    WordOf("uldashd", Underline, kSingle, kOn),
+    WordOf("uldashdd", Underline, kSingle, kOn),
+    WordOf("uldb", Underline, kSingle, kOn),
+    WordOf("ulhair", Underline, kSingle, kOn),
+    WordOf("ulhwave", Underline, kSingle, kOn),
+    WordOf("ulldash", Underline, kSingle, kOn),
+    WordOf("ulth", Underline, kSingle, kOn),
+    WordOf("ulthd", Underline, kSingle, kOn),
+    WordOf("ulthdash", Underline, kSingle, kOn),
+    WordOf("ulthdashd", Underline, kSingle, kOn),
+    WordOf("ulthdashdd", Underline, kSingle, kOn),
+    WordOf("ulthldash", Underline, kSingle, kOn),
+    WordOf("ululdbwave", Underline, kSingle, kOn),
+    WordOf("ulw", Underline, kSingle, kOn),
+    WordOf("ulwave", Underline, kSingle, kOn),
+
+    Word("pard", ParagraphDefault),
+    WordOf("ql", Align, Alignment::Left),
+    WordOf("qr", Align, Alignment::Right),
+    WordOf("qc", Align, Alignment::Center),
+    WordOf("qj", Align, Alignment::Justify),
+    WordOf("qd", Align, Alignment::Justify),
+    Word("li", Indent<&ParagraphFormat::leftIndent>),
+    Word("ri", Indent<&ParagraphFormat::rightIndent>),
+    Word("fi", Indent<&ParagraphFormat::firstLineIndent>),
+
+    Sent("fonttbl", Destination::FontTable),
+    Sent("colortbl", Destination::ColorTable),
+    Sent("upr", Destination::Discard),
+    {"ud", UnicodeTwin, 0, 0, WordKind::Destination},
+    {"pict", PictureGroup, 0, 0, WordKind::Destination},
+    Shown("field"),
+    Shown("fldrslt"),
+    Shown("shppict"),
+    Shown("object"),
+    Shown("result"),
+    Shown("nesttableprops"),
+
+    WordOf("pngblip", KindOfPicture, PictureKind::Png),
+    Word("picw", Extent<&PictureSide::Width, &PictureExtent::pixels>),
+    Word("pich", Extent<&PictureSide::Height, &PictureExtent::pixels>),
+    Word("picwgoal", Extent<&PictureSide::Width, &PictureExtent::goal>),
+    Word("pichgoal", Extent<&PictureSide::Height, &PictureExtent::goal>),
+    Word("picscalex", Extent<&PictureSide::Width, &PictureExtent::scalePercent>, 100),
+    Word("picscaley", Extent<&PictureSide::Height, &PictureExtent::scalePercent>, 100),
+};
+
+// Groups that are passed over, which many write without "\*". The labels of lists are made anew by whoever
+// shows them.
+constexpr std::string_view kSkipped[] = {"annotation",   "background",
+                                         "bkmkend",      "bkmkstart",
+                                         "blipuid",      "colorschememapping",
+                                         "datafield",    "datastore",
+                                         "docvar",       "falt",
+                                         "filetbl",      "fldinst",
+                                         "fname",        "footer",
+                                         "footerf",      "footerl",
+                                         "footerr",      "footnote",
+                                         "generator",    "header",
+                                         "headerf",      "headerl",
+                                         "headerr",      "info",
+                                         "latentstyles", "listoverridetable",
+                                         "listtable",    "listtext",
+                                         "mmath",        "nonesttables",
+                                         "nonshppict",   "objclass",
+                                         "objdata",      "objname",
+                                         "panose",       "pgptbl",
+                                         "picprop",      "pn",
+                                         "pntext",       "pntxta",
+                                         "pntxtb",       "private",
+                                         "revtbl",       "rsidtbl",
+                                         "sp",           "stylesheet",
+                                         "tc",           "template",
+                                         "themedata",    "xe",
+                                         "xmlnstbl"};
+
+constexpr std::size_t kCount = std::size(kWords) + std::size(kSkipped);
+
+constexpr std::array<ControlWord, kCount> kAllWords = [] {
+  std::array<ControlWord, kCount> all{};
+  std::size_t at = 0;
+  for (const ControlWord& word : kWords) all[at++] = word;
+  for (const std::string_view name : kSkipped) all[at++] = Skipped(name);
+  return all;
+}();
+
+// The table by name: open addressing, made while compiling.
+constexpr std::size_t kSlots = 512;
+static_assert(kCount < kSlots / 2 && kCount < 255);
+
+constexpr std::size_t SlotOf(std::string_view name) {
+  std::uint32_t hash = 2166136261U;
+  for (const char letter : name) hash = (hash ^ static_cast<unsigned char>(letter)) * 16777619U;
+  return (hash ^ (hash >> 15)) % kSlots;
+}
+
+constexpr std::array<std::uint8_t, kSlots> kRowOfSlot = [] {
+  std::array<std::uint8_t, kSlots> rows{};  // 0: free, else the row's number + 1
+  for (std::size_t row = 0; row < kCount; ++row) {
+    std::size_t slot = SlotOf(kAllWords[row].name);
+    while (rows[slot] != 0) slot = (slot + 1) % kSlots;
+    rows[slot] = static_cast<std::uint8_t>(row + 1);
+  }
+  return rows;
+}();
+
+constexpr std::size_t kLongestName = 20;
+
+}  // namespace
+
+const ControlWord* FindControlWord(std::string_view name) {
+  if (name.size() > kLongestName) return nullptr;
+  for (std::size_t slot = SlotOf(name); kRowOfSlot[slot] != 0; slot = (slot + 1) % kSlots) {
+    const ControlWord& word = kAllWords[kRowOfSlot[slot] - 1U];
+    if (word.name == name) return &word;
+  }
+  return nullptr;
+}
+
+}  // namespace richtext

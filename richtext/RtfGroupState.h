@@ -1,0 +1,65 @@
+// What braces keep: every group starts with a copy of its surroundings, and its end brings them back.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "richtext/Document.h"
+#include "richtext/Limits.h"
+
+namespace richtext {
+
+// Where the text of a group goes.
+enum class Destination : std::uint8_t { Body, FontTable, ColorTable, Picture, Discard };
+
+constexpr std::int32_t kDefaultFont = -1;
+constexpr std::int32_t kAutomaticColor = -1;
+
+struct CharacterState {
+  std::int32_t font = kDefaultFont;  // index in the font table
+  std::int32_t halfPoints = kDefaultHalfPoints;
+  std::int32_t color = kAutomaticColor;  // or 0x00BBGGRR
+  bool bold = false;
+  bool italic = false;
+  bool strikethrough = false;
+  UnderlineKind underline = UnderlineKind::None;
+};
+
+struct GroupState {
+  static constexpr std::uint32_t kNotAsked = UINT32_MAX;
+
+  CharacterState character;
+  ParagraphFormat paragraph;
+  std::int32_t fallbackLength = 1;  // \uc
+  Destination destination = Destination::Body;
+  Destination around = Destination::Body;     // \upr: where its \ud goes
+  std::uint32_t formatNumber = kNotAsked;     // the document's number of `character`, once text asked for it
+  std::uint32_t paragraphNumber = kNotAsked;  // likewise of `paragraph`
+};
+
+// The stack is a vector: input never recurses. Beyond kMaxStoredDepth braces are counted but share one state;
+// the deepest document met in the wild has 15 levels. A group that is passed over needs no state at all.
+class GroupStack {
+ public:
+  static constexpr std::size_t kMaxStoredDepth = 4096;
+
+  GroupState& Top() { return states_.back(); }
+  const GroupState& Top() const { return states_.back(); }
+
+  std::size_t Depth() const { return depth_; }
+  bool HasOwnState() const { return depth_ <= kMaxStoredDepth; }
+  void Push();
+  void Pop();
+
+  // Until the group in force ends, nothing in it counts. At least one group must be open.
+  void SkipGroup() { skippedDepth_ = depth_; }
+  bool Skipping() const { return skippedDepth_ != 0; }
+
+ private:
+  std::vector<GroupState> states_{GroupState{}};  // of depth 0, 1, 2 ...
+  std::size_t depth_ = 0;
+  std::size_t skippedDepth_ = 0;  // 0: nothing is passed over
+};
+
+}  // namespace richtext

@@ -1,0 +1,74 @@
+#include "richtext/RtfTables.h"
+
+#include <unordered_map>
+
+#include "richtext/Limits.h"
+#include "richtext/RtfEscape.h"
+#include "richtext/Unicode.h"
+
+namespace richtext {
+namespace {
+
+// The formats of the document's text and paragraph ends, each once, in the order of their first use.
+std::vector<std::uint32_t> FormatsInUse(const Document& document) {
+  std::vector<std::uint32_t> used;
+  std::vector<bool> seen(document.formats.size());
+  const auto use = [&](std::uint32_t format) {
+    if (!seen[format]) used.push_back(format);
+    seen[format] = true;
+  };
+  std::size_t run = 0;
+  for (const Paragraph& paragraph : document.paragraphs) {
+    for (std::uint32_t at = 0; at < paragraph.length; at += document.runs[run++].length)
+      use(document.runs[run].format);
+    use(paragraph.markFormat);
+  }
+  return used;
+}
+
+// The value's place in the list, at whose end it is put when it is new.
+template <typename Value>
+std::size_t PlaceOf(const Value& value, std::unordered_map<Value, std::size_t>& places,
+                    std::vector<Value>& list) {
+  const auto [found, isNew] = places.try_emplace(value, list.size());
+  if (isNew) list.push_back(value);
+  return found->second;
+}
+
+void AppendColor(std::uint32_t color, std::string& rtf) {
+  AppendWord("red", static_cast<std::int32_t>(color & 0xFF), rtf);
+  AppendWord("green", static_cast<std::int32_t>((color >> 8) & 0xFF), rtf);
+  AppendWord("blue", static_cast<std::int32_t>((color >> 16) & 0xFF), rtf);
+  rtf += ';';
+}
+
+}  // namespace
+
+RtfTables::RtfTables(const Document& document)
+    : fontOfFormat_(document.formats.size()), colorOfFormat_(document.formats.size()) {
+  std::unordered_map<std::u16string, std::size_t> fontPlaces;
+  std::unordered_map<std::uint32_t, std::size_t> colorPlaces;
+  for (const std::uint32_t number : FormatsInUse(document)) {
+    const CharacterFormat& format = document.formats[number];
+    fontOfFormat_[number] = PlaceOf(FittingFontName(ToUtf16(format.fontName)), fontPlaces, fonts_);
+    if (format.color) colorOfFormat_[number] = PlaceOf(*format.color & 0xFFFFFF, colorPlaces, colors_) + 1;
+  }
+}
+
+void RtfTables::AppendTo(std::string& rtf) const {
+  rtf += "{\\fonttbl";
+  for (std::size_t i = 0; i < fonts_.size(); ++i) {
+    rtf += '{';
+    AppendWord("f", static_cast<std::int32_t>(i), rtf);
+    rtf += "\\fnil\\fcharset0 ";
+    for (const char16_t unit : fonts_[i]) AppendNameUnit(unit, rtf);
+    rtf += ";}";
+  }
+  rtf += "}\r\n";
+  if (colors_.empty()) return;
+  rtf += "{\\colortbl ;";
+  for (const std::uint32_t color : colors_) AppendColor(color, rtf);
+  rtf += "}\r\n";
+}
+
+}  // namespace richtext

@@ -1,0 +1,31 @@
+// The tables at the head of a written document: fonts and colours, numbered by first use, so that equal
+// documents are written in equal bytes.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "richtext/Document.h"
+
+namespace richtext {
+
+class RtfTables {
+ public:
+  explicit RtfTables(const Document& document);
+
+  // The \f and \cf numbers of one of the document's formats, which the document must use. \cf0 is automatic.
+  std::size_t Font(std::uint32_t format) const { return fontOfFormat_[format]; }
+  std::size_t Color(std::uint32_t format) const { return colorOfFormat_[format]; }
+
+  void AppendTo(std::string& rtf) const;
+
+ private:
+  std::vector<std::u16string> fonts_;
+  std::vector<std::uint32_t> colors_;  // the first is \cf1
+  std::vector<std::size_t> fontOfFormat_;
+  std::vector<std::size_t> colorOfFormat_;
+};
+
+}  // namespace richtext

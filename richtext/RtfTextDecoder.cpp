@@ -1,0 +1,87 @@
+#include "richtext/RtfTextDecoder.h"
+
+#include <cstddef>
+#include <utility>
+
+#include "richtext/Unicode.h"
+
+namespace richtext {
+namespace {
+
+// As in a code page: of the control characters only the blanks mean something; a picture's mark would stand
+// for a picture that is not there.
+char16_t TextUnit(char16_t unit) {
+  if (unit < 0x20) return WesternCodePage().units[unit];
+  return unit == kPicture || IsNoncharacter(unit) ? kReplacement : unit;
+}
+
+}  // namespace
+
+void RtfTextDecoder::AppendBytes(std::string_view bytes, const CodePage& page, std::u16string& out) {
+  if (highSurrogate_ != 0) EndText(out);
+  const std::size_t start = out.size();
+  out.resize(start + bytes.size() + 1);  // a unit for each byte, and for a lead byte from before
+  char16_t* to = out.data() + start;
+  for (const char byte : bytes) {
+    const char16_t unit = page.units[static_cast<unsigned char>(byte)];
+    if (unit < CodePage::kLeadByte && leadByte_ == 0) [[likely]] {
+      *to++ = unit;
+    } else {
+      to = PutRareByte(static_cast<unsigned char>(byte), page, to);
+    }
+  }
+  out.resize(static_cast<std::size_t>(to - out.data()));
+}
+
+// A byte that is no character by itself. One that cannot be a second half stands for itself, so that a lead
+// byte in the wrong place takes no text with it.
+char16_t* RtfTextDecoder::PutRareByte(unsigned char byte, const CodePage& page, char16_t* to) {
+  const unsigned char lead = std::exchange(leadByte_, 0);
+  if (lead != 0) *to++ = DoubleByteUnit(page, lead, byte);
+  if (lead != 0 && IsTrailByte(byte)) return to;
+  const char16_t unit = page.units[byte];
+  if (unit == CodePage::kLeadByte) {
+    leadByte_ = byte;
+  } else if (unit != CodePage::kNothing) {
+    *to++ = unit;
+  }
+  return to;
+}
+
+void RtfTextDecoder::AppendUnicode(std::int32_t number, std::u16string& out) {
+  if (number < 0 && number >= -0x8000) number += 0x10000;
+  if (number < 0 || number > 0xFFFF) {
+    EndText(out);
+    AppendCodePoint(number < 0 ? char32_t{kReplacement} : static_cast<char32_t>(number), out);
+  } else {
+    AppendUnit(static_cast<char16_t>(number), out);
+  }
+}
+
+void RtfTextDecoder::AppendUnit(char16_t unit, std::u16string& out) {
+  leadByte_ = 0;
+  if (IsLowSurrogate(unit) && highSurrogate_ != 0) {
+    out += {highSurrogate_, unit};
+    highSurrogate_ = 0;
+    return;
+  }
+  EndText(out);
+  if (IsHighSurrogate(unit)) {
+    highSurrogate_ = unit;
+  } else if (const char16_t clean = IsLowSurrogate(unit) ? kReplacement : TextUnit(unit);
+             clean != CodePage::kNothing) {
+    out += clean;
+  }
+}
+
+void RtfTextDecoder::EndText(std::u16string& out) {
+  if (highSurrogate_ != 0) out += kReplacement;
+  highSurrogate_ = 0;
+  leadByte_ = 0;
+}
+
+bool IsUnicodeParagraphEnd(std::int32_t number) {
+  return number == '\n' || number == '\r' || number == kParagraphSeparator;
+}
+
+}  // namespace richtext

@@ -1,0 +1,85 @@
+// A document in one readable line.
+#pragma once
+
+#include <cstdio>
+#include <string>
+
+#include "richtext/Document.h"
+#include "richtext/Unicode.h"
+
+namespace richtext {
+
+// "[center li720](b 40 Arial #ff0000)red() plain|next": paragraphs are parted by '|', a paragraph's format
+// stands in brackets, a character format in parentheses where it changes, and what is the default is left
+// out. A line break is '/', a tab '>', a picture "<png 3 720x360>".
+inline std::string Dump(const CharacterFormat& format) {
+  std::string words;
+  const auto add = [&words](const std::string& word) { words += words.empty() ? word : ' ' + word; };
+  if (format.bold) add("b");
+  if (format.italic) add("i");
+  if (format.underline == UnderlineKind::Single) add("u");
+  if (format.strikethrough) add("s");
+  if (format.halfPoints != 24) add(std::to_string(format.halfPoints));
+  if (!format.fontName.empty()) add(format.fontName);
+  if (format.color) {
+    char color[8];
+    const std::uint32_t bgr = *format.color;
+    std::snprintf(color, sizeof color, "#%02x%02x%02x", bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF);
+    add(color);
+  }
+  return '(' + words + ')';
+}
+
+inline std::string Dump(const ParagraphFormat& format) {
+  constexpr const char* kAlignments[] = {"", "right", "center", "justify"};
+  std::string words = kAlignments[static_cast<int>(format.alignment)];
+  const auto add = [&words](const char* name, std::int32_t twips) {
+    if (twips != 0) words += (words.empty() ? "" : " ") + std::string(name) + std::to_string(twips);
+  };
+  add("li", format.leftIndent);
+  add("ri", format.rightIndent);
+  add("fi", format.firstLineIndent);
+  return words.empty() ? words : '[' + words + ']';
+}
+
+inline std::string Dump(const Picture& picture) {
+  return "<png " + std::to_string(picture.bytes.size()) + ' ' + std::to_string(picture.widthTwips) + 'x' +
+         std::to_string(picture.heightTwips) + '>';
+}
+
+inline std::string DumpText(const std::u16string& text, const Document& document, std::size_t& picture) {
+  std::string line;
+  for (const char byte : ToUtf8(text)) line += byte == '\t' ? '>' : byte;
+  const auto replaceAll = [&line](const std::string& what, const auto& with) {
+    for (auto at = line.find(what); at != std::string::npos; at = line.find(what))
+      line.replace(at, 3, with());
+  };
+  replaceAll("\u2028", [] { return std::string("/"); });
+  replaceAll("\uFFFC", [&] { return Dump(document.pictures.at(picture++)); });
+  return line;
+}
+
+inline std::string Dump(const Document& document) {
+  std::string line;
+  std::string inForce = "()";
+  std::size_t text = 0;
+  std::size_t run = 0;
+  std::size_t picture = 0;
+  const auto switchTo = [&](std::uint32_t format) {
+    const std::string wanted = Dump(document.formats.at(format));
+    if (wanted != inForce) line += inForce = wanted;
+  };
+  for (const Paragraph& paragraph : document.paragraphs) {
+    if (&paragraph != &document.paragraphs.front()) line += '|';
+    line += Dump(document.paragraphFormats.at(paragraph.format));
+    for (const std::size_t end = text + paragraph.length; text < end; ++run) {
+      switchTo(document.runs.at(run).format);
+      line += DumpText(document.text.substr(text, document.runs[run].length), document, picture);
+      text += document.runs[run].length;
+    }
+    switchTo(paragraph.markFormat);
+  }
+  return line;
+}
+
+}  // namespace richtext
