@@ -1,6 +1,7 @@
 #include "app/Main.h"
 
 #include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
 
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmInitJournal.h"
@@ -73,6 +74,7 @@ void ActivatePrevInstance(const platform::RunningInstance& instance, const platf
 }
 
 void Main(platform::RunningInstance& instance, const platform::ActivationToken& token) {
+  QApplication::setQuitOnLastWindowClosed(false);  // the windows hide for one another; EndProcess alone ends
   ActivatePrevInstance(instance, token);
   QObject::connect(&instance, &platform::RunningInstance::ActivationRequested, &ComeToTheFront);
   platform::RemoveStaleTemporaries(platform::ProgramFolder());

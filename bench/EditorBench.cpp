@@ -1,7 +1,6 @@
 // What a person waits for at the open book: opening it, turning a page, a letter on the screen.
 #include <benchmark/benchmark.h>
-#include <cmath>
-#include <cstdio>
+#include <cstdlib>
 #include <fstream>
 
 #include <QtCore/QTemporaryDir>
@@ -71,7 +70,7 @@ class Diary {
   void Open() {
     LoadJournalFile(Journals[1].FileName);
     look::The<frmJournal>().ShowModeless();
-    QTest::qWaitForWindowExposed(&look::The<frmJournal>());
+    if (!QTest::qWaitForWindowExposed(&look::The<frmJournal>())) std::abort();
     Draw();
   }
   void Draw() {
