@@ -1,0 +1,194 @@
+// The pages on their way between the disk and the text box. Each work runs in turn with its floor, the
+// plainest program that moves the same bytes, and its label tells the two medians and their ratio.
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+#include "platform/Files.h"
+#include "state/State.h"
+#include "store/JournalFile.h"
+#include "store/PageCipher.h"
+#include "store/Scrambler.h"
+
+namespace {
+
+constexpr std::size_t megabyte = 1 << 20;
+constexpr std::int32_t shift = 65;
+const char* const fileName = "j00000.tqf";
+
+template <class Work>
+double SecondsOf(Work&& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+double MedianOf(std::vector<double> times) {
+  const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+  std::nth_element(times.begin(), middle, times.end());
+  return *middle;
+}
+
+// `work` and `floor` each return the seconds that they took, so that tidying up costs neither of them.
+template <class Work, class Floor>
+void RunBeside(benchmark::State& state, Work&& work, Floor&& floor) {
+  std::vector<double> works;
+  std::vector<double> floors;
+  for ([[maybe_unused]] auto iteration : state) {
+    floors.push_back(floor());
+    works.push_back(work());
+    state.SetIterationTime(works.back());
+  }
+  const double workMedian = MedianOf(works) * 1e3;
+  const double floorMedian = MedianOf(floors) * 1e3;
+  char label[120];
+  std::snprintf(label, sizeof label, "%.3f ms, floor %.3f ms: %.2f times its time, %.2f of its speed",
+                workMedian, floorMedian, workMedian / floorMedian, floorMedian / workMedian);
+  state.SetLabel(label);
+}
+
+// Copying as many bytes as the body has.
+double CopyBody(const std::string& from, std::string& to) {
+  return SecondsOf([&] {
+    std::memcpy(to.data(), from.data(), from.size());
+    benchmark::ClobberMemory();
+  });
+}
+
+void DecipherBody(benchmark::State& state) {
+  const std::string body(megabyte, 'q');
+  std::string copy(megabyte, '\0');
+  std::string plain(megabyte / 2, '\0');
+  const auto work = [&] {
+    return SecondsOf([&] {
+      store::Decipher(body, shift, plain.data());
+      benchmark::ClobberMemory();
+    });
+  };
+  RunBeside(state, work, [&] { return CopyBody(body, copy); });
+}
+BENCHMARK(DecipherBody)->UseManualTime()->MinTime(1);
+
+void EncipherText(benchmark::State& state) {
+  const std::string plain(megabyte / 2, 'q');
+  std::string body(megabyte, '\0');
+  std::string copy(megabyte, '\0');
+  const auto work = [&] {
+    return SecondsOf([&] {
+      store::Encipher(plain, shift, body.data());
+      benchmark::ClobberMemory();
+    });
+  };
+  RunBeside(state, work, [&] { return CopyBody(body, copy); });
+}
+BENCHMARK(EncipherText)->UseManualTime()->MinTime(1);
+
+// A program folder with one journal, open.
+class OpenJournal {
+ public:
+  OpenJournal(std::int32_t pageCount, std::size_t bodySize) {
+    char name[] = "/tmp/thornquill-bench-XXXXXX";
+    if (mkdtemp(name) == nullptr) std::abort();
+    platform::SetProgramFolder(name);
+    MasterPassword = ScrambleText("a password");
+    Journals.assign(2, {});
+    JournalCount = PagesJournal = CurrentJournal = 1;
+    Journals[1].FileName = fileName;
+    Pages.assign(pageCount + 1, {std::string(bodySize, 'q'), 45000.5});
+    PageCount = pageCount;
+    SaveJournalFile(fileName);
+    bytes = platform::ReadFile(Path());
+  }
+  ~OpenJournal() {
+    ResetState();
+    std::filesystem::remove_all(platform::ProgramFolder());
+    platform::SetProgramFolder({});
+  }
+  OpenJournal(const OpenJournal&) = delete;
+  OpenJournal& operator=(const OpenJournal&) = delete;
+
+  static std::string Path() { return platform::PathOf(fileName); }
+
+  std::string bytes;  // what the file holds
+};
+
+void MustBe(bool holds) {
+  if (!holds) std::abort();
+}
+
+// The file's bytes into fresh memory, a page at a time.
+double ReadPlain(std::size_t pageSize) {
+  std::vector<std::unique_ptr<char[]>> pieces;
+  return SecondsOf([&] {
+    const int descriptor = open(OpenJournal::Path().c_str(), O_RDONLY);
+    for (;;) {
+      pieces.push_back(std::make_unique_for_overwrite<char[]>(pageSize));
+      if (read(descriptor, pieces.back().get(), pageSize) <= 0) break;
+    }
+    close(descriptor);
+  });
+}
+
+double WritePlain(const std::string& bytes) {
+  const std::string path = OpenJournal::Path() + ".plain";
+  const std::string temporary = path + ".new";
+  return SecondsOf([&] {
+    const int descriptor = open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    MustBe(write(descriptor, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()));
+    MustBe(fsync(descriptor) == 0);
+    close(descriptor);
+    MustBe(rename(temporary.c_str(), path.c_str()) == 0);
+  });
+}
+
+constexpr std::int32_t manyPages = 9999;    // and the title page
+constexpr std::size_t manyBodySize = 6290;  // 63 MB in all
+
+void ReadManyPages(benchmark::State& state) {
+  const OpenJournal journal(manyPages, manyBodySize);
+  ForgetPages();
+  const auto work = [] {
+    store::DecodedJournal decoded;
+    const double seconds = SecondsOf([&] { decoded = store::ReadJournalFile(fileName); });
+    MustBe(decoded.health == store::JournalHealth::Sound);
+    return seconds;
+  };
+  RunBeside(state, work, [] { return ReadPlain(manyBodySize + 10); });
+}
+BENCHMARK(ReadManyPages)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(2);
+
+void SaveManyPages(benchmark::State& state) {
+  const OpenJournal journal(manyPages, manyBodySize);
+  const auto work = [] { return SecondsOf([] { SaveJournalFile(fileName); }); };
+  RunBeside(state, work, [&] { return WritePlain(journal.bytes); });
+}
+BENCHMARK(SaveManyPages)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(4);
+
+// What the turn of a changed page costs: 3 KB of text enciphered, and a year's journal saved.
+void TurnChangedPage(benchmark::State& state) {
+  const OpenJournal journal(364, 6290);
+  const std::string text(3 * 1024, 'q');
+  const auto work = [&] {
+    return SecondsOf([&] {
+      std::string body(2 * text.size(), '\0');
+      store::Encipher(text, shift, body.data());
+      Pages[200].Body = std::move(body);
+      SaveJournalFile(fileName);
+    });
+  };
+  RunBeside(state, work, [&] { return WritePlain(journal.bytes); });
+}
+BENCHMARK(TurnChangedPage)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(2);
+
+}  // namespace
+
+BENCHMARK_MAIN();
