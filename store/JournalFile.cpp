@@ -96,23 +96,52 @@ std::string PasswordBlock(std::string_view scrambledPassword) {
   return text;
 }
 
-std::size_t SizeOf(const std::vector<JournalPage>& pages) {
-  std::size_t size = headerSize;
-  for (const JournalPage& page : pages) {
-    size += (page.Body.size() < longBodyMark ? 2 : 6) + page.Body.size() + dateSize;
-  }
-  return size;
+// The file in pieces, in order: the bodies where they lie in `pages`, and between them the small fields,
+// which lie here. A long journal is so never in memory twice.
+class JournalPieces {
+ public:
+  JournalPieces(const std::vector<JournalPage>& pages, std::string_view scrambledPassword);
+  JournalPieces(const JournalPieces&) = delete;
+  JournalPieces& operator=(const JournalPieces&) = delete;
+
+  const std::vector<std::string_view>& pieces() const { return pieces_; }
+
+ private:
+  void AddPage(const JournalPage& page);
+  // The fields since the last piece become one.
+  void EndFields();
+
+  std::string fields_;  // has room for all from the start, so that it never moves
+  std::size_t begun_ = 0;
+  std::vector<std::string_view> pieces_;
+};
+
+JournalPieces::JournalPieces(const std::vector<JournalPage>& pages, std::string_view scrambledPassword) {
+  if (pages.empty()) throw Failure(FailureKind::SubscriptOutOfRange);
+  fields_.reserve(headerSize + (2 + 4 + dateSize) * pages.size());
+  pieces_.reserve(2 * pages.size() + 1);
+  fields_ += magic;
+  fields_ += PasswordBlock(scrambledPassword);
+  AppendNumber(fields_, static_cast<std::int32_t>(pages.size() - 1));
+  for (const JournalPage& page : pages) AddPage(page);
+  EndFields();
 }
 
-void AppendPage(std::string& bytes, const JournalPage& page) {
+void JournalPieces::AddPage(const JournalPage& page) {
   const std::size_t length = page.Body.size();
   if (length > std::numeric_limits<std::uint32_t>::max()) {
     throw Failure(FailureKind::InvalidArgument, "a page is too long for a journal file");
   }
-  AppendNumber(bytes, static_cast<std::uint16_t>(std::min<std::size_t>(length, longBodyMark)));
-  if (length >= longBodyMark) AppendNumber(bytes, static_cast<std::uint32_t>(length));
-  bytes += page.Body;
-  AppendDouble(bytes, page.PageDate);
+  AppendNumber(fields_, static_cast<std::uint16_t>(std::min<std::size_t>(length, longBodyMark)));
+  if (length >= longBodyMark) AppendNumber(fields_, static_cast<std::uint32_t>(length));
+  EndFields();
+  pieces_.push_back(page.Body);
+  AppendDouble(fields_, page.PageDate);
+}
+
+void JournalPieces::EndFields() {
+  pieces_.push_back(std::string_view(fields_).substr(begun_));
+  begun_ = fields_.size();
 }
 
 bool StartsAsJournal(platform::InputFile& file) {
@@ -169,13 +198,12 @@ DecodedJournal DecodeJournal(const ByteSource& source, std::uint64_t size) {
 }
 
 std::string EncodeJournal(const std::vector<JournalPage>& pages, std::string_view scrambledPassword) {
-  if (pages.empty()) throw Failure(FailureKind::SubscriptOutOfRange);
+  const JournalPieces journal(pages, scrambledPassword);
+  std::size_t size = 0;
+  for (const std::string_view piece : journal.pieces()) size += piece.size();
   std::string bytes;
-  bytes.reserve(SizeOf(pages));
-  bytes += magic;
-  bytes += PasswordBlock(scrambledPassword);
-  AppendNumber(bytes, static_cast<std::int32_t>(pages.size() - 1));
-  for (const JournalPage& page : pages) AppendPage(bytes, page);
+  bytes.reserve(size);
+  for (const std::string_view piece : journal.pieces()) bytes += piece;
   return bytes;
 }
 

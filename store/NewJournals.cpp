@@ -32,8 +32,10 @@ std::unordered_set<std::string_view> NamesOfRows() {
 }
 
 std::string NumberedName(int number) {
-  const std::string digits = std::to_string(number);
-  return "j" + std::string(5 - digits.size(), '0') + digits + ".tqf";
+  std::string name = std::to_string(fileNumbers + number);  // a one and the five digits
+  name.front() = 'j';
+  name += ".tqf";
+  return name;
 }
 
 void RefuseUnusable(const std::string& password) {
