@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -56,6 +57,8 @@ std::string ReadFile(const std::string& path);
 // PathNotFound, DeviceError or PathAccess. A kill in the last moment can leave one file named as
 // IsStaleTemporary tells.
 void ReplaceFile(const std::string& path, std::string_view bytes);
+// The same with the bytes in pieces, one behind the other, so that they need not be brought together first.
+void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces);
 
 // Throws when the file exists and cannot be deleted; a missing file is no failure.
 void DeleteFile(const std::string& path);

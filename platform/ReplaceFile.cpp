@@ -1,7 +1,9 @@
 // Writing a file in one step: the bytes go into a nameless file, and when they are on the disk that file
 // takes the old one's name.
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/uio.h>
 #include <unistd.h>
 
 #include <QtCore/QFile>
@@ -57,15 +59,55 @@ bool MayChange(const std::string& path) {
   return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 || errno == ENOENT;
 }
 
+// How many pieces one call to the system takes.
+constexpr std::size_t BatchSize = 1024;
+
+using Batch = std::vector<iovec>;
+
+Batch BatchOf(std::span<const std::string_view> pieces) {
+  Batch batch;
+  for (const std::string_view piece : pieces.first(std::min(BatchSize, pieces.size())))
+    batch.push_back({const_cast<char*>(piece.data()), piece.size()});
+  return batch;
+}
+
+// Moves the start of `left` on by so many bytes, and over pieces that are empty.
+void Advance(std::span<iovec>& left, std::size_t done) {
+  for (; !left.empty() && done >= left.front().iov_len; left = left.subspan(1)) done -= left.front().iov_len;
+  if (left.empty()) return;
+  left.front().iov_base = static_cast<char*>(left.front().iov_base) + done;
+  left.front().iov_len -= done;
+}
+
+// The system may take fewer bytes than it was given.
+void WriteBatch(int descriptor, std::span<iovec> left, const std::string& path) {
+  for (Advance(left, 0); !left.empty();) {
+    const ssize_t written = writev(descriptor, left.data(), static_cast<int>(left.size()));
+    if (written == 0 || (written < 0 && errno != EINTR)) Fail(written == 0 ? EIO : errno, path);
+    if (written > 0) Advance(left, static_cast<std::size_t>(written));
+  }
+}
+
+void WriteAll(int descriptor, std::span<const std::string_view> pieces, const std::string& path) {
+  while (!pieces.empty()) {
+    Batch batch = BatchOf(pieces);
+    pieces = pieces.subspan(batch.size());
+    WriteBatch(descriptor, batch, path);
+  }
+}
+
 }  // namespace
 
 void ReplaceFile(const std::string& path, std::string_view bytes) {
+  ReplaceFile(path, std::span(&bytes, 1));
+}
+
+void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces) {
   Must(path, [&] { return MayChange(path); });
   const ToolkitPath forToolkit(path);
   QSaveFile file(forToolkit.path());
-  const auto size = static_cast<qint64>(bytes.size());
   Must(path, [&] { return file.open(QFile::WriteOnly | QFile::Unbuffered); });
-  Must(path, [&] { return file.write(bytes.data(), size) == size; });
+  WriteAll(file.handle(), pieces, path);
   Must(path, [&] { return Sync(file); });
   Must(path, [&] { return file.commit(); });
 }

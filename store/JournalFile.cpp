@@ -234,10 +234,10 @@ void SaveJournalFile(const std::string& fileName) {
   if (MasterPassword.empty()) platform::ShowMessage("password is null on save!");
   store::RefuseForeignPages(fileName);
   const std::string path = platform::PathOf(fileName);
-  const std::string bytes = store::EncodeJournal(Pages, MasterPassword);
+  const store::JournalPieces journal(Pages, MasterPassword);
   store::RefuseAlienFile(path);
   store::KeepDamagedFile(path);
-  platform::ReplaceFile(path, bytes);
+  platform::ReplaceFile(path, journal.pieces());
 }
 
 std::int32_t PeekJournalPageCount(std::string& fileName) {
