@@ -5,11 +5,13 @@
 
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmInitJournal.h"
+#include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
 #include "look/Form.h"
 #include "look/Pass.h"
+#include "platform/Application.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Process.h"
@@ -36,7 +38,7 @@ QWidget* VisibleWindow() {
   if (look::IsLoaded<frmBookcase>() && look::The<frmBookcase>().isVisible()) return &look::The<frmBookcase>();
   if (look::IsLoaded<frmPass>()) return &look::The<frmPass>();
   if (look::IsLoaded<frmInitJournal>()) return &look::The<frmInitJournal>();
-  return nullptr;
+  return QApplication::activeModalWidget();  // a message of the start
 }
 
 void ComeToTheFront(const platform::ActivationToken& token) {
@@ -80,10 +82,10 @@ void Main(platform::RunningInstance& instance, const platform::ActivationToken& 
   platform::RemoveStaleTemporaries(platform::ProgramFolder());
   TellWhenTheFolderIsReadOnly();
   look::The<frmBookcase>();  // lists what the index loads
-  if (platform::FileExists(platform::PathOf("journal.tqt"))) {
-    StartLocked();
-  } else {
+  if (platform::IsMissing(platform::PathOf("journal.tqt"))) {
     StartForTheFirstTime();
+  } else {
+    StartLocked();
   }
 }
 
@@ -92,9 +94,23 @@ void LeaveTheProgram() {
     look::Pass::RunAfterwards(&LeaveTheProgram);
     return;
   }
-  if (look::IsLoaded<frmInitJournal>()) {
+  const auto* application = dynamic_cast<platform::Application*>(qApp);
+  if (application && application->IsDying()) StoreOpenPage();
+  if (!BookcaseLoaded || (application && application->IsDying())) {
     platform::EndProcess();
     return;
   }
   if (!JournalStaysOpen()) SaveAndExit();
+}
+
+void SaveWithoutDisplay() {
+  if (!BookcaseLoaded) return;
+  platform::SetMessageAnswerer([](const platform::Message&) { return platform::Answer::Ok; });
+  StoreOpenPage();
+  try {
+    SaveJournalIndex();
+  } catch (const std::exception&) {
+    // Nobody is there to be told; the file is as it was.
+  }
+  platform::EndProcess();
 }

@@ -12,6 +12,10 @@ void Main(platform::RunningInstance& instance, const platform::ActivationToken& 
 void ActivatePrevInstance(const platform::RunningInstance& instance, const platform::ActivationToken& token);
 
 // What the system's request to end comes to: an open journal is stored and closed, the index is saved, and
-// the process ends. A first run that was never finished leaves nothing behind. What cannot be written keeps
-// the program alive, with its message.
+// the process ends. Before the bookcase is loaded, or while a failure ends the program, the index is left
+// alone. What cannot be written keeps the program alive, with its message.
 void LeaveTheProgram();
+
+// Stores the open page and the index when the display is gone, without a window or a question, and ends the
+// process.
+void SaveWithoutDisplay();

@@ -1,5 +1,7 @@
 #include "app/Main.h"
 
+#include <QtCore/QTimer>
+
 #include "editor/PagePasses.h"
 #include "platform/Application.h"
 #include "platform/WayOut.h"
@@ -10,6 +12,8 @@ int main(int argc, char** argv) {
   application.SetLastWill(&StoreOpenPage);
   platform::RunningInstance instance;
   platform::ListenForTheWayOut(&LeaveTheProgram);
-  Main(instance, token);
+  platform::ListenForTheLostDisplay(&SaveWithoutDisplay);
+  // From the event loop, where a failure of the start is told like any other.
+  QTimer::singleShot(0, &application, [&] { Main(instance, token); });
   return application.exec();
 }

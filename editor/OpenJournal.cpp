@@ -68,7 +68,7 @@ bool TakePages(const std::string& fileName) {
 void LoadJournalFile(std::string& fileName) {
   WithFallbackName(fileName);
   DropFormerJournal();
-  if (!platform::FileExists(platform::PathOf(fileName))) {
+  if (platform::IsMissing(platform::PathOf(fileName))) {
     NewJournalPages();
     return;
   }

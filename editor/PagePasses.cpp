@@ -121,9 +121,13 @@ void StoreCurrentPage() {
   guarded([&] { text = Face().txtM->TextRTF(); });
   if (text.empty()) return;
   guarded([&] { AnnouncePass(QStringLiteral("Encrypting page:"), text.size()); });
-  guarded([&] { PageRow(CurrentPage).Body = Enciphered(text); });
+  bool enciphered = false;
+  guarded([&] {
+    PageRow(CurrentPage).Body = Enciphered(text);
+    enciphered = true;
+  });
   guarded([] { SaveJournalFile(Journals.at(static_cast<std::size_t>(CurrentJournal)).FileName); });
-  PageDirty = False;
+  if (enciphered) PageDirty = False;  // otherwise the text is in the box alone, and must be stored yet
   guarded(EndProgress);
 }
 

@@ -37,8 +37,8 @@ bool WantsNewPage(std::int32_t number) {
 // page before, which must find its row if the program has to end.
 void AskAndAddPage() {
   if (WantsNewPage(PageCount + 1)) {
+    Pages.resize(Pages.size() + 1);
     ++PageCount;
-    Pages.resize(static_cast<std::size_t>(PageCount) + 1);
     CurrentPage = PageCount;
     StartNewPage();
   }

@@ -20,6 +20,8 @@ class Application : public QApplication {
 
   // Shows the failure's text in a box (stop icon), carries out the last will once and ends the process.
   void DieOf(const std::string& text);
+  // True from the failure to the end: its box is up, or the last will is being carried out.
+  bool IsDying() const { return dying_; }
 
  private:
   std::function<void()> lastWill_;

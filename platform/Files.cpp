@@ -55,6 +55,11 @@ bool FileExists(const std::string& path) {
   return stat(path.c_str(), &entry) == 0 && !S_ISDIR(entry.st_mode);
 }
 
+bool IsMissing(const std::string& path) {
+  struct stat entry {};
+  return stat(path.c_str(), &entry) != 0 && errno == ENOENT;
+}
+
 void DeleteFile(const std::string& path) {
   if (unlink(path.c_str()) != 0 && errno != ENOENT) throw FailureOf(errno, path, FailureKind::PathNotFound);
 }

@@ -24,6 +24,9 @@ std::string PathOf(std::string_view name);
 
 // True for an existing entry that is not a folder.
 bool FileExists(const std::string& path);
+// True when the folder has no entry of that name, of any kind. An entry that cannot be looked at is not
+// missing.
+bool IsMissing(const std::string& path);
 
 // Whether a file can be created in the folder: tried, and the trial removed.
 bool CanWriteTo(const std::string& folder);
@@ -49,8 +52,8 @@ class InputFile {
   std::string path_;
 };
 
-// The whole file. Throws as InputFile does.
-std::string ReadFile(const std::string& path);
+// The whole file. Throws as InputFile does, and OutOfMemory when it is longer than `most` bytes.
+std::string ReadFile(const std::string& path, std::uint64_t most = std::uint64_t{1} << 30);
 
 // The one way a data file is written: the file holds `bytes` afterwards, or, on failure, what it held before.
 // The new bytes are on the disk before they take the name in one step. Throws DiskFull, PermissionDenied,

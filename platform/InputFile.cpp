@@ -42,8 +42,9 @@ std::size_t InputFile::Read(char* buffer, std::size_t size) {
   return done;
 }
 
-std::string ReadFile(const std::string& path) {
+std::string ReadFile(const std::string& path, std::uint64_t most) {
   InputFile file(path);
+  if (file.size() > most) throw Failure(FailureKind::OutOfMemory, path);
   std::string bytes(file.size(), '\0');
   bytes.resize(file.Read(bytes.data(), bytes.size()));
   return bytes;

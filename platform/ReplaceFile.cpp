@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
 
@@ -113,6 +114,9 @@ void ReplaceFile(const std::string& path, std::span<const std::string_view> piec
 }
 
 bool CanWriteTo(const std::string& folder) {
+  const int nameless = open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
+  if (nameless >= 0) return close(nameless) == 0;
+  if (errno != EOPNOTSUPP && errno != EISDIR) return false;
   std::string trial = folder + "/.trial-XXXXXX";
   const int descriptor = mkostemp(trial.data(), O_CLOEXEC);
   if (descriptor < 0) return false;

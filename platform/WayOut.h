@@ -10,4 +10,8 @@ namespace platform {
 // QApplication.
 void ListenForTheWayOut(std::function<void()> leave);
 
+// Calls `save` once when the display is gone, as at the end of a desktop session that has no manager. No
+// window can be shown any more and nobody can be asked; the process ends behind it.
+void ListenForTheLostDisplay(std::function<void()> save);
+
 }  // namespace platform

@@ -12,6 +12,8 @@ std::int32_t CurrentJournal = 0;
 std::string MasterPassword;
 std::int32_t PageShift = 0;
 
+bool BookcaseLoaded = false;
+
 std::int32_t PagesJournal = 0;
 std::int32_t TextPage = -1;
 
@@ -36,6 +38,7 @@ void ResetState() {
   CurrentJournal = 0;
   MasterPassword.clear();
   PageShift = 0;
+  BookcaseLoaded = false;
   chkGotoLastPage = 1;
   optColor = 0;
   JournalAdded = nullptr;

@@ -61,6 +61,10 @@ extern std::string MasterPassword;
 // life.
 extern std::int32_t PageShift;
 
+// Whether the variables above hold a bookcase that may be saved: set when the index has been read to its end
+// or the first journal was made. Before that, a save would put an empty bookcase in the place of a good one.
+extern bool BookcaseLoaded;
+
 // Whose text is where. A page may only ever go back to the journal and the row that it was read from.
 extern std::int32_t PagesJournal;  // the row of Journals that Pages was read for; 0 while Pages is erased
 extern std::int32_t TextPage;      // the row of Pages that the text box's text came from; -1 for none

@@ -27,10 +27,11 @@ bool IsNoise(std::string_view scrambled) {
 
 // Whether the name leads out of the program's folder, or to a file there that is something else.
 bool IsAbsurdFileName(std::string_view name) {
-  constexpr std::array<std::string_view, 6> taken = {".",           "..",         "journal.tqt",
-                                                     "journal.ini", "tqpics.bin", "jpics.bin"};
+  constexpr std::array<std::string_view, 9> taken = {
+      ".",         "..",         "journal.tqt",    "journal.ini", "tqpics.bin",
+      "jpics.bin", "thornquill", "THORNQUILL.HLP", "LICENSE"};
   return name.size() > longestFileName || name.find_first_of(std::string_view("/\\\0", 3)) != name.npos ||
-         std::find(taken.begin(), taken.end(), name) != taken.end();
+         name.ends_with(".damaged") || std::find(taken.begin(), taken.end(), name) != taken.end();
 }
 
 // A name of an odd length as long as the length field allows grows beyond it when it is scrambled again.

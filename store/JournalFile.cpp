@@ -59,6 +59,12 @@ bool ReadPage(PieceReader& reader, JournalPage& page) {
   return true;
 }
 
+// A file that is cut within its magic, an empty one too, is a damaged journal and holds nothing else of
+// anybody's.
+bool CouldBeJournal(std::string_view start) {
+  return start.starts_with(magic) || magic.starts_with(start);
+}
+
 // Reads pages until there are `most` of them or the next one is not whole.
 std::vector<JournalPage> ReadPages(PieceReader& reader, std::uint64_t most) {
   std::vector<JournalPage> pages;
@@ -146,8 +152,7 @@ void JournalPieces::EndFields() {
 
 bool StartsAsJournal(platform::InputFile& file) {
   std::array<char, magic.size()> start{};
-  const std::size_t size = file.Read(start.data(), start.size());
-  return std::string_view(start.data(), size) == magic;
+  return CouldBeJournal({start.data(), file.Read(start.data(), start.size())});
 }
 
 // The count as it stands in the file; 0 when the file is no journal, or is cut before it.
@@ -192,7 +197,7 @@ DecodedJournal DecodeJournal(const ByteSource& source, std::uint64_t size) {
   PieceReader reader(source, size);
   std::array<char, headerSize> header;
   const std::string_view start(header.data(), reader.ReadUpTo(header.data(), header.size()));
-  if (!start.starts_with(magic)) return {{}, JournalHealth::Alien, 0};
+  if (!CouldBeJournal(start)) return {{}, JournalHealth::Alien, 0};
   if (start.size() < headerSize) return {std::vector<JournalPage>(fewestRows), JournalHealth::Damaged, 0};
   return DecodePages(reader, LoadNumber<std::int32_t>(header.data() + countOffset));
 }

@@ -13,6 +13,9 @@
 
 namespace {
 
+// Far more than a hundred thousand journals need; a larger file is none of ours.
+constexpr std::uint64_t largestIndex = 256u << 20;
+
 // Whether the file on disk holds more than what was read from it.
 bool fileIsDamaged = false;
 
@@ -53,12 +56,13 @@ void TakeOver(store::Index index) {
 }
 
 void LoadFrom(const std::string& path) {
-  store::DecodedIndex decoded = store::DecodeIndex(platform::ReadFile(path));
+  store::DecodedIndex decoded = store::DecodeIndex(platform::ReadFile(path, largestIndex));
   if (decoded.health == store::IndexHealth::Headless) {
     return GiveUp("The file journal.tqt is damaged at its start (" + decoded.problem + "): " + path);
   }
-  TakeOver(std::move(decoded.index));
   fileIsDamaged = decoded.health == store::IndexHealth::Damaged;
+  TakeOver(std::move(decoded.index));
+  BookcaseLoaded = true;
   if (fileIsDamaged) TellDamage(decoded.problem);
 }
 
@@ -90,10 +94,10 @@ void KeepDamagedFile(const std::string& path) {
 void LoadJournalIndex() {
   const std::string path = IndexPath();
   fileIsDamaged = false;
-  if (!platform::FileExists(path)) return;
+  if (platform::IsMissing(path)) return;
   try {
     LoadFrom(path);
-  } catch (const platform::Failure& failure) {
+  } catch (const std::exception& failure) {
     GiveUp(std::string("The file journal.tqt cannot be read. ") + failure.what());
   }
 }

@@ -76,6 +76,7 @@ void MakeFirstJournal(const std::string& name, const std::string& password) {
   AddJournalEntry(name);
   MasterPassword = ScrambleText(password);
   PageShift = static_cast<unsigned char>(password.back());
+  BookcaseLoaded = true;
 }
 
 void MakeJournal(const std::string& name) {
@@ -87,6 +88,7 @@ void MakeJournal(const std::string& name) {
 void RemoveJournal(std::int32_t row) {
   if (row < 1 || row > JournalCount) throw Failure(FailureKind::SubscriptOutOfRange);
   JournalEntry& entry = Journals[row];
-  if (!entry.FileName.empty()) platform::DeleteFile(platform::PathOf(entry.FileName));
+  const std::string path = platform::PathOf(entry.FileName);
+  if (platform::FileExists(path)) platform::DeleteFile(path);
   entry.Deleted = True;
 }
