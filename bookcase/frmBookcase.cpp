@@ -110,6 +110,7 @@ void frmBookcase::AddItem(int row) {
   const QString name = platform::FromCodePage(entry.Name);
   auto* item = new QListWidgetItem(JournalIcon(entry.Icon), name, ListView1);
   item->setData(RowTag, row);
+  if (name.isEmpty()) item->setData(Qt::AccessibleTextRole, QStringLiteral("a journal without a name"));
   item->setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped()));  // where the list has cut it short
   KeepASelection();
 }

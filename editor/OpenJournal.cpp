@@ -18,8 +18,7 @@ namespace {
 // A journal may still be here that was opened without being shown. Its text must not meet the next one's
 // pages.
 void DropFormerJournal() {
-  richtext::RichTextBox& text = *Face().txtM;
-  if (!text.document()->isEmpty()) text.SetTextRTF({});
+  Face().txtM->SetTextRTF({});  // an empty box too may remember, for its undo, what stood in it
   ForgetPages();
 }
 

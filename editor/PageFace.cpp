@@ -114,6 +114,7 @@ void PageFace::MakeHead() {
 }
 
 void PageFace::MakeSlots() {
+  Placed(new PictureBox(this), QStringLiteral("picTemp"), 1320, 4545, 1020, 885)->hide();
   constexpr int left[] = {1500, 4800, 2400, 5100, 1200, 3600, 4500};
   constexpr int top[] = {1200, 1500, 3300, 4200, 5700, 6300, 6900};
   for (std::size_t i = 0; i < picDisplayPics.size(); ++i) {
@@ -125,6 +126,7 @@ void PageFace::MakeSlots() {
     imgPhoto[i] = HiddenImage(named(u"imgPhoto"), slot);
     imgFrame[i] = HiddenImage(named(u"imgFrame"), slot);
     imgController[i] = HiddenImage(named(u"imgController"), slot);
+    imgController[i]->setAccessibleName(slot->accessibleName());
   }
 }
 

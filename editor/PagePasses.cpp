@@ -23,6 +23,9 @@ constexpr std::size_t LongPass = 10'000;
 // Characters between two looks at the clock: far less work than a frame lasts.
 constexpr std::size_t Chunk = 64 * 1024;
 
+// Bytes of RTF whose laying out outlasts a frame by far. No event is served meanwhile.
+constexpr std::size_t LongLayout = 256 * 1024;
+
 constexpr std::string_view DecryptionError = "Page Decryption Error:";
 constexpr std::string_view EncryptionError = "Page Encryption Error:";
 
@@ -84,6 +87,7 @@ std::string Enciphered(std::string_view plain) {
 // From here on the text box's text belongs to the current page, if it could be set at all.
 void SetPageText(std::string_view rtf) {
   TextPage = -1;
+  if (rtf.size() > LongLayout) look::The<look::frmWait>().ShowNow();
   Face().txtM->SetTextRTF(rtf);
   TextPage = CurrentPage;
 }

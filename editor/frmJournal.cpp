@@ -12,6 +12,7 @@ frmJournal::frmJournal()
   face->setGeometry(rect());
   Toolbar1 = new Toolbar(face->picTop);
   Toolbar1->setObjectName(QStringLiteral("Toolbar1"));
+  Toolbar1->setAccessibleName(QStringLiteral("the journal's commands"));
   Toolbar1->setGeometry(look::Pixels(30), look::Pixels(30), look::Pixels(8400), look::Pixels(570));
   connect(Toolbar1, &Toolbar::ButtonClick, this, &frmJournal::Toolbar1_ButtonClick);
   face->txtM->setFocus();
@@ -22,6 +23,9 @@ void frmJournal::PageBack() {
 }
 void frmJournal::PageFirst() {
   GoFirstPage();
+}
+void frmJournal::OpenJournalProperties() {
+  Q_EMIT JournalPropertiesRequested();
 }
 void frmJournal::PageLast() {
   GoLastPage();
@@ -34,9 +38,6 @@ void frmJournal::PageNext() {
 }
 void frmJournal::CloseBook() {
   CloseJournal();
-}
-void frmJournal::OpenJournalProperties() {
-  Q_EMIT JournalPropertiesRequested();
 }
 void frmJournal::OpenOptions() {
   Q_EMIT OptionsRequested();

@@ -17,11 +17,11 @@ class frmJournal : public look::Form {
   // The window's public surface, beside the toolbar: none of these stores the page first.
   void PageBack();
   void PageFirst();
+  void OpenJournalProperties();
   void PageLast();
   void PageNew();
   void PageNext();
   void CloseBook();
-  void OpenJournalProperties();
   void OpenOptions();
   void SwitchToolbarCaptions();
 

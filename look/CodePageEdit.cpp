@@ -1,6 +1,7 @@
 #include "look/CodePageEdit.h"
 
 #include <QtGui/QValidator>
+#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QToolTip>
 
 #include "platform/CodePage.h"
@@ -31,6 +32,15 @@ class CodePageValidator : public QValidator {
   QWidget* box_;
 };
 
+// A style sheet could say the same, but takes the form's colours away from the box.
+class AsteriskStyle : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    return hint == SH_LineEdit_PasswordCharacter ? '*' : QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
+
 }  // namespace
 
 CodePageEdit::CodePageEdit(QWidget* parent) : QLineEdit(parent) {
@@ -45,7 +55,9 @@ void CodePageEdit::HideText() {
   setEchoMode(Password);
   setInputMethodHints(inputMethodHints() | Qt::ImhHiddenText | Qt::ImhSensitiveData |
                       Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
-  setStyleSheet(QStringLiteral("QLineEdit { lineedit-password-character: 42 }"));  // the asterisk
+  auto* style = new AsteriskStyle;
+  style->setParent(this);
+  setStyle(style);
 }
 
 }  // namespace look

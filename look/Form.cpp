@@ -19,6 +19,9 @@ namespace {
 
 constexpr double TwipsPerPixel = 15;
 
+// What a window manager's frame takes at most, in pixels; the frame itself is known only once it is there.
+constexpr QSize FrameAround{16, 48};
+
 Qt::WindowFlags FlagsOf(Form::Kind kind) {
   const Qt::WindowFlags both = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
   if (kind == Form::Kind::Dialog) return Qt::Dialog | both;
@@ -91,7 +94,7 @@ void Form::CentreOnce() {
   if (centred_) return;
   centred_ = true;
   const QRect screen = ScreenForNewWindows()->availableGeometry();
-  if (kind_ == Kind::Window) resize(size().boundedTo(screen.size()).expandedTo(minimumSize()));
+  if (kind_ == Kind::Window) resize(size().boundedTo(screen.size() - FrameAround).expandedTo(minimumSize()));
   const QPoint place = screen.center() - rect().center();
   move(std::max(place.x(), screen.left()), std::max(place.y(), screen.top()));
 }

@@ -40,6 +40,13 @@ void frmWait::ShowSoon() {
   if (!isVisible()) appearance_.start(Frame);
 }
 
+void frmWait::ShowNow() {
+  if (!wanted_) return;
+  appearance_.stop();
+  if (!isVisible()) Appear();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 void frmWait::HideNow() {
   wanted_ = false;
   appearance_.stop();

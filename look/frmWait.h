@@ -22,6 +22,9 @@ class frmWait : public Form {
   // served a frame later, so that a pass that is over by then never flashes. It never takes the keyboard
   // focus.
   void ShowSoon();
+  // Brings a window that was asked for to the screen now: for work that serves no events and outlasts a
+  // frame.
+  void ShowNow();
   // The pass is over: hidden, on the screen or not.
   void HideNow();
   bool CountsAsShown() const { return wanted_; }

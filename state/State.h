@@ -34,6 +34,8 @@ struct JournalEntry {
   Flag FontUnderline = False;
   Flag FontStrikethru = False;
   std::uint32_t PaperColor = 0;
+
+  bool operator==(const JournalEntry&) const = default;
 };
 
 // One page of the open journal.

@@ -16,6 +16,17 @@ namespace {
 // Far more than a hundred thousand journals need; a larger file is none of ours.
 constexpr std::uint64_t largestIndex = 256u << 20;
 
+// The bookcase as it was loaded, by which a save that cannot be made is known to matter or not.
+struct LoadedBookcase {
+  std::vector<JournalEntry> journals;
+  std::string masterPassword;
+};
+LoadedBookcase loaded;
+
+bool HasChanged() {
+  return Journals != loaded.journals || MasterPassword != loaded.masterPassword;
+}
+
 // Whether the file on disk holds more than what was read from it.
 bool fileIsDamaged = false;
 
@@ -63,6 +74,7 @@ void LoadFrom(const std::string& path) {
   fileIsDamaged = decoded.health == store::IndexHealth::Damaged;
   TakeOver(std::move(decoded.index));
   BookcaseLoaded = true;
+  loaded = {Journals, MasterPassword};
   if (fileIsDamaged) TellDamage(decoded.problem);
 }
 
@@ -87,6 +99,15 @@ void LeaveNamesScrambled(store::Index index) {
 void KeepDamagedFile(const std::string& path) {
   if (fileIsDamaged && platform::FileExists(path)) platform::KeepDamaged(path);
   fileIsDamaged = false;  // one copy, even when the writing has to be tried again
+}
+
+void TellNotSaved(const std::exception& failure) {
+  const char* const changed =
+      "Nothing is lost: the file is as it was, and Thornquill stays open and tries again when you leave the "
+      "next time.";
+  const char* const unchanged = "Nothing is lost: the file is as it was, and there was nothing new to save.";
+  platform::ShowMessage(std::string("The bookcase could not be saved in journal.tqt. ") + failure.what() +
+                        "\n\n" + (HasChanged() ? changed : unchanged));
 }
 
 }  // namespace
@@ -115,10 +136,8 @@ void SaveAndExit() {
   try {
     SaveJournalIndex();
   } catch (const std::exception& failure) {
-    platform::ShowMessage(std::string("The bookcase could not be saved in journal.tqt. ") + failure.what() +
-                          "\n\nNothing is lost: the file is as it was, and Thornquill stays open and tries "
-                          "again when you leave the next time.");
-    return;
+    TellNotSaved(failure);
+    if (HasChanged()) return;
   }
   platform::EndProcess();
 }

@@ -13,5 +13,5 @@ void LoadJournalIndex();
 void SaveJournalIndex();
 
 // SaveJournalIndex, then the end of the process, whatever windows are open. When the index cannot be written,
-// a message says so and the program goes on.
+// a message says so, and the program goes on if the bookcase has changed since it was loaded.
 void SaveAndExit();
