@@ -2,7 +2,7 @@
 #pragma once
 
 #include <algorithm>
-#include <deque>
+#include <functional>
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
@@ -14,19 +14,22 @@
 #include <QtCore/QTemporaryDir>
 
 #include "platform/Dates.h"
+#include "platform/Failure.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Process.h"
+#include "state/State.h"
 
 namespace fixture {
+
+using Texts = std::vector<std::string>;
 
 // An empty program folder, removed at the end.
 class Folder {
  public:
   Folder() { platform::SetProgramFolder(path()); }
   ~Folder() { platform::SetProgramFolder({}); }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
+  Q_DISABLE_COPY_MOVE(Folder)
 
   std::string path() const { return QFile::encodeName(folder_.path()).toStdString(); }
   // Names are UTF-8; a name may lead into a folder that exists.
@@ -34,19 +37,22 @@ class Folder {
 
   void Write(std::string_view name, std::string_view bytes) const {
     QFile file(QtPath(name));
-    ASSERT_TRUE(file.open(QFile::WriteOnly)) << name;
-    ASSERT_EQ(file.write(bytes.data(), static_cast<qint64>(bytes.size())), static_cast<qint64>(bytes.size()));
+    const auto size = static_cast<qint64>(bytes.size());
+    ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes.data(), size) == size) << name;
   }
-  // The file's bytes; a failed test and nothing when there is no such file.
+  // The file's bytes; none when there is no such file.
   std::string Read(std::string_view name) const {
     QFile file(QtPath(name));
-    EXPECT_TRUE(file.open(QFile::ReadOnly)) << name;
-    return file.readAll().toStdString();
+    return file.open(QFile::ReadOnly) ? file.readAll().toStdString() : std::string();
   }
   bool Exists(std::string_view name) const { return QFile::exists(QtPath(name)); }
+  // Puts a full folder into the file's place, which can be neither written over nor deleted, and takes it
+  // away.
+  void Block(std::string_view name) const { EXPECT_TRUE(QDir().mkpath(QtPath(name) + u"/full"_qs)) << name; }
+  void Unblock(std::string_view name) const { EXPECT_TRUE(QDir(QtPath(name)).removeRecursively()) << name; }
   // The names of all entries, hidden ones too, in the order of their bytes.
-  std::vector<std::string> Names() const {
-    std::vector<std::string> names;
+  Texts Names() const {
+    Texts names;
     const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
     for (const QString& name : QDir(folder_.path()).entryList(all)) names.push_back(name.toStdString());
     std::sort(names.begin(), names.end());
@@ -58,89 +64,83 @@ class Folder {
   QTemporaryDir folder_;
 };
 
-// Answers every message box and keeps what was asked. Without a script an Ok box is answered Ok and a Yes/No
-// box No.
+// Answers every message box, Ok boxes with Ok, and keeps what was asked.
 class Answers {
  public:
-  Answers() {
-    before_ = platform::SetMessageAnswerer([this](const platform::Message& message) {
-      messages.push_back(message);
-      return Next(message.buttons);
-    });
-  }
+  Answers()
+      : before_(platform::SetMessageAnswerer([this](const platform::Message& message) {
+          messages.push_back(message);
+          if (message.buttons == platform::Buttons::Ok) return platform::Answer::Ok;
+          return yes-- > 0 ? platform::Answer::Yes : platform::Answer::No;
+        })) {}
   ~Answers() { platform::SetMessageAnswerer(std::move(before_)); }
-  Answers(const Answers&) = delete;
-  Answers& operator=(const Answers&) = delete;
+  Q_DISABLE_COPY_MOVE(Answers)
 
-  // The answers of the coming Yes/No boxes, in order; Ok boxes use none up.
-  Answers& Yes() { return Then(platform::Answer::Yes); }
-  Answers& No() { return Then(platform::Answer::No); }
-
-  std::vector<std::string> texts() const {
-    std::vector<std::string> texts;
+  Texts texts() const {
+    Texts texts;
     for (const platform::Message& message : messages) texts.push_back(message.text);
     return texts;
   }
-  // The text of the last message; empty when there was none.
   std::string last() const { return messages.empty() ? std::string() : messages.back().text; }
 
+  int yes = 0;                              // so many coming Yes/No boxes are answered Yes
   std::vector<platform::Message> messages;  // in the order of their showing
 
  private:
-  Answers& Then(platform::Answer answer) {
-    script_.push_back(answer);
-    return *this;
-  }
-  platform::Answer Next(platform::Buttons buttons) {
-    if (buttons == platform::Buttons::Ok) return platform::Answer::Ok;
-    if (script_.empty()) return platform::Answer::No;
-    const platform::Answer answer = script_.front();
-    script_.pop_front();
-    return answer;
-  }
-
-  std::deque<platform::Answer> script_;
   platform::MessageAnswerer before_;
 };
 
 // Counts the ends of the process, which then goes on: what a routine does after its EndProcess() is seen too.
 class End {
  public:
-  End() {
-    before_ = platform::SetProcessEnder([this] { ++count; });
-  }
+  End() = default;
   ~End() { platform::SetProcessEnder(std::move(before_)); }
-  End(const End&) = delete;
-  End& operator=(const End&) = delete;
+  Q_DISABLE_COPY_MOVE(End)
 
   int count = 0;
 
  private:
-  platform::ProcessEnder before_;
+  platform::ProcessEnder before_ = platform::SetProcessEnder([this] { ++count; });
 };
 
-// A clock that stands at a date (days since 30 December 1899) until it is moved.
+// A clock that stands at a date (days since 30 December 1899) until it is moved, and long dates that read the
+// same on every machine: "day 45000".
 class Clock {
  public:
   explicit Clock(double date) : now(date) {
     platform::SetClock([this] { return now; });
+    platform::SetLongDate([](double day) { return QStringLiteral("day %1").arg(static_cast<long>(day)); });
   }
-  ~Clock() { platform::SetClock({}); }
-  Clock(const Clock&) = delete;
-  Clock& operator=(const Clock&) = delete;
+  ~Clock() {
+    platform::SetClock({});
+    platform::SetLongDate({});
+  }
+  Q_DISABLE_COPY_MOVE(Clock)
 
   double now;
 };
 
-// Long dates that read the same on every machine: "day 45000".
-class PlainLongDates {
- public:
-  PlainLongDates() {
-    platform::SetLongDate([](double date) { return QStringLiteral("day %1").arg(static_cast<long>(date)); });
+// The routine must fail with this kind, in a sentence that has these words in it.
+inline void ExpectFailure(platform::FailureKind kind, const std::string& words,
+                          const std::function<void()>& routine) {
+  try {
+    routine();
+    ADD_FAILURE() << "no failure with " << words;
+  } catch (const platform::Failure& failure) {
+    EXPECT_EQ(failure.kind(), kind) << failure.what();
+    EXPECT_NE(std::string(failure.what()).find(words), std::string::npos) << failure.what();
   }
-  ~PlainLongDates() { platform::SetLongDate({}); }
-  PlainLongDates(const PlainLongDates&) = delete;
-  PlainLongDates& operator=(const PlainLongDates&) = delete;
+}
+
+// The state at the start of a program that has an empty folder, and a desktop to answer it.
+class Desk : public testing::Test {
+ protected:
+  Desk() { ResetState(); }
+  ~Desk() override { ResetState(); }
+
+  Folder folder;
+  Answers answers;
+  End end;
 };
 
 }  // namespace fixture
