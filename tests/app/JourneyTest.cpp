@@ -1,8 +1,5 @@
 // The program from its start to its end, and what the next start finds.
-#include <gtest/gtest.h>
-
 #include <QtCore/QTimer>
-#include <QtTest/QTest>
 
 #include "app/Main.h"
 #include "bookcase/frmBookcase.h"
@@ -11,171 +8,158 @@
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
 #include "platform/Application.h"
-#include "platform/Failure.h"
-#include "state/State.h"
-#include "tests/support/Fixtures.h"
+#include "tests/support/Windows.h"
 
 namespace {
 
-class Journey : public testing::Test {
+class Journey : public fixture::Windows {
  protected:
-  ~Journey() override { EndOfRun(); }
-
   // One run of the program, up to the first window. A first run is answered by what is given, on a timer,
   // since its dialog blocks.
   void Start(const std::function<void(frmInitJournal&)>& firstRun = {}) {
-    EndOfRun();
+    look::UnloadAllForms();
+    instance_.reset();
+    ResetState();
+    end.count = 0;
     if (firstRun) QTimer::singleShot(0, [firstRun] { firstRun(look::The<frmInitJournal>()); });
     instance_ = std::make_unique<platform::RunningInstance>();
     Main(*instance_, {});
   }
-  void EndOfRun() {
-    look::UnloadAllForms();
-    instance_.reset();
-    ResetState();
+  static void Fill(frmInitJournal& dialog, const std::string& name, const std::string& password,
+                   const std::string& again) {
+    dialog.txtPass->setText(QString::fromStdString(name));
+    dialog.txtNewPass->setText(QString::fromStdString(password));
+    dialog.txtNewPass2->setText(QString::fromStdString(again));
+    Click(dialog.cmdOK);
   }
-  static void FillFirstRun(frmInitJournal& dialog) {
-    QTest::keyClicks(dialog.txtPass, QStringLiteral("My Diary"));
-    QTest::keyClicks(dialog.txtNewPass, QStringLiteral("Rosebud7"));
-    QTest::keyClicks(dialog.txtNewPass2, QStringLiteral("Rosebud7"));
-    QTest::mouseClick(dialog.cmdOK, Qt::LeftButton);
+  // A first run that has been filled in, with the first journal open and something typed.
+  void StartAndWrite(const char* text) {
+    Start([](frmInitJournal& dialog) { Fill(dialog, "My Diary", "Rosebud7", "Rosebud7"); });
+    EXPECT_TRUE(folder.Names().empty());
+    OpenTheJournal();
+    QTest::keyClicks(Book().face->txtM, QString::fromUtf8(text));
   }
-  void Unlock(const char* password = "Rosebud7") {
-    auto& lock = look::The<frmPass>();
-    QTest::keyClicks(lock.txtPass, QLatin1String(password));
-    QTest::mouseClick(lock.cmdOK, Qt::LeftButton);
-    ASSERT_TRUE(look::The<frmBookcase>().isVisible());
-  }
-  void OpenTheJournal() {
-    QTest::mouseClick(look::The<frmBookcase>().cmdOpen, Qt::LeftButton);
+  static void OpenTheJournal() {
+    Click(look::The<frmBookcase>().cmdOpen);
     ASSERT_TRUE(Book().isVisible());
   }
-  static void Press(const char* key) {
-    QTest::mouseClick(Book().Toolbar1->Button(QLatin1String(key)), Qt::LeftButton);
+  void ExpectAtTheNextStart(const QString& text) {
+    EXPECT_EQ(end.count, 1);
+    Start();
+    Enter("Rosebud7");
+    OpenTheJournal();
+    EXPECT_EQ(Book().face->txtM->Text(), text);
   }
+  static void Enter(const char* password) {
+    Lock().txtPass->setText(QLatin1String(password));
+    QTest::keyClick(Lock().txtPass, Qt::Key_Return);
+  }
+  static frmPass& Lock() { return look::The<frmPass>(); }
   static frmJournal& Book() { return look::The<frmJournal>(); }
-  static QString Text() { return Book().face->txtM->Text(); }
-
-  fixture::Folder folder;
-  fixture::Answers answers;
-  fixture::End end;
 
  private:
   std::unique_ptr<platform::RunningInstance> instance_;
 };
 
-TEST_F(Journey, FirstRunThatIsLeftLeavesNothingBehind) {
-  Start([](frmInitJournal& dialog) { QTest::mouseClick(dialog.cmdCancel, Qt::LeftButton); });
-  EXPECT_EQ(end.count, 1);
-  EXPECT_TRUE(folder.Names().empty());
-  Start([](frmInitJournal& dialog) { dialog.close(); });
-  EXPECT_EQ(end.count, 2);
+TEST_F(Journey, AFirstRunThatIsLeftLeavesNothingBehind) {
+  const std::function<void(frmInitJournal&)> exits[] = {
+      [](frmInitJournal& dialog) { Click(dialog.cmdCancel); }, [](frmInitJournal& dialog) { dialog.close(); },
+      [](frmInitJournal& dialog) { QTest::keyClick(dialog.txtNewPass, Qt::Key_Escape); }};
+  for (const auto& leave : exits) {
+    Start(leave);
+    EXPECT_EQ(end.count, 1);
+    EXPECT_FALSE(look::IsLoaded<frmInitJournal>());
+    EXPECT_TRUE(folder.Names().empty());
+  }
+}
+
+TEST_F(Journey, AFirstRunChecksItsEntriesInOrderAndChangesNothingMeanwhile) {
+  const std::string longest(128, 'a'), tooLong(129, 'a');
+  const struct {
+    std::string name, password, again, message;
+    bool clears = false;
+  } entries[] = {{"", "", "x", "Please enter a name for this journal!"},
+                 {"n", "", "x", "Please enter a password!"},
+                 {"n", "Abc", "abc", "Password entries do not match!", true},
+                 {"n", tooLong, longest, "Password entries do not match!", true},
+                 {"n", tooLong, tooLong, "The password has 129 characters. It can have at most 128."}};
+  Start([&](frmInitJournal& dialog) {
+    for (const auto& entry : entries) {
+      Fill(dialog, entry.name, entry.password, entry.again);
+      EXPECT_EQ(answers.last(), entry.message);
+      EXPECT_EQ(answers.messages.back().icon == platform::BoxIcon::Stop, entry.password != "");
+      EXPECT_EQ(std::to_string(JournalCount) + MasterPassword, "0");
+      EXPECT_EQ(dialog.txtNewPass->text().toStdString(), entry.clears ? "" : entry.password);
+      EXPECT_EQ(dialog.txtNewPass2->text().toStdString(), entry.clears ? "" : entry.again);
+    }
+    Fill(dialog, " My Diary ", longest, longest);
+  });
+  EXPECT_EQ(answers.messages.size(), 5u);
+  EXPECT_EQ(Journals.at(1).Name, " My Diary ");
+  EXPECT_EQ(PageShift, 'a');
+  EXPECT_EQ(look::The<frmBookcase>().ListView1->count(), 1);
   EXPECT_TRUE(folder.Names().empty());
 }
 
-TEST_F(Journey, FirstRunWritesTheIndexOnlyOnTheWayOut) {
-  Start(&FillFirstRun);
-  EXPECT_TRUE(folder.Names().empty());
-  look::The<frmBookcase>().close();
-  EXPECT_EQ(end.count, 1);
-  EXPECT_EQ(folder.Names(), std::vector<std::string>{"journal.tqt"});
+TEST_F(Journey, TheLockOpensWithThePasswordAloneAndEveryExitSavesTheIndex) {
+  StartAndWrite("");
+  LeaveTheProgram();
+  const std::function<void()> exits[] = {[] { Click(Lock().cmdCancel); }, [] { Lock().close(); },
+                                         [] { QTest::keyClick(Lock().txtPass, Qt::Key_Escape); },
+                                         [] { QTest::keyClick(&Lock(), Qt::Key_X, Qt::AltModifier); }};
+  for (const auto& leave : exits) {
+    const std::string before = folder.Read("journal.tqt");
+    Start();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Lock()));
+    leave();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return end.count == 1; }));  // a mnemonic presses the button first
+    EXPECT_EQ(folder.Read("journal.tqt").size(), before.size());
+    EXPECT_NE(folder.Read("journal.tqt"), before) << "other fillers";
+  }
   Start();
-  Unlock();
-  OpenTheJournal();
-  EXPECT_EQ(Book().face->lblPageNum1->text(), QStringLiteral("Page 1"));
-  EXPECT_EQ(Text(), QString());
-}
-
-TEST_F(Journey, WhatWasWrittenIsThereAfterTheNextStart) {
-  Start(&FillFirstRun);
-  OpenTheJournal();
-  QTest::keyClicks(Book().face->txtM, QStringLiteral("Page one: \"quoted\""));
-  Press("btnFirstPage");
-  QTest::keyClicks(Book().face->txtM, QStringLiteral("The title"));
-  answers.Yes();
-  Press("btnNewPage");
-  QTest::keyClicks(Book().face->txtM, QStringLiteral("Page two"));
-  Book().close();
-  look::The<frmBookcase>().close();
-
-  Start();
-  Unlock();
-  OpenTheJournal();
-  EXPECT_EQ(Text(), QStringLiteral("Page two"));
-  Press("btnBack");
-  EXPECT_EQ(Text(), QStringLiteral("Page one: \"quoted\""));
-  Press("btnBack");
-  EXPECT_EQ(Text(), QStringLiteral("The title"));
+  for (const char* wrong : {"rosebud7", "ROSEBUD7", "Rosebud", "Rosebud77", " Rosebud7", ""}) {
+    answers.messages.clear();
+    Enter(wrong);
+    ASSERT_EQ(answers.texts(), fixture::Texts{"password incorrect!"}) << wrong;
+    EXPECT_EQ(answers.messages[0].icon, platform::BoxIcon::Stop);
+    EXPECT_EQ(Lock().txtPass->text(), QLatin1String(wrong));
+    EXPECT_FALSE(look::The<frmBookcase>().isVisible());
+  }
+  Enter("Rosebud7");
+  EXPECT_FALSE(look::IsLoaded<frmPass>());
+  EXPECT_TRUE(look::The<frmBookcase>().isVisible());
 }
 
 TEST_F(Journey, TheSystemsOrderToEndStoresThePageAndTheIndex) {
-  Start(&FillFirstRun);
-  OpenTheJournal();
-  QTest::keyClicks(Book().face->txtM, QStringLiteral("Unsaved"));
+  StartAndWrite("Unsaved: \"quoted\"");
   LeaveTheProgram();
-  EXPECT_EQ(end.count, 1);
-  Start();
-  Unlock();
-  OpenTheJournal();
-  EXPECT_EQ(Text(), QStringLiteral("Unsaved"));
+  ExpectAtTheNextStart(QStringLiteral("Unsaved: \"quoted\""));
 }
 
-TEST_F(Journey, AnUnwritableJournalKeepsTheProgramAndTheText) {
-  Start(&FillFirstRun);
-  OpenTheJournal();
-  QTest::keyClicks(Book().face->txtM, QStringLiteral("Kept"));
-  ASSERT_TRUE(QDir(QString::fromStdString(folder.path())).mkdir(QStringLiteral("j00000.tqf")));
+TEST_F(Journey, AnUnwritableJournalOrIndexKeepsTheProgramAndTheText) {
+  StartAndWrite("Kept");
+  for (const char* name : {"j00000.tqf", "journal.tqt"}) {
+    folder.Block(name);
+    LeaveTheProgram();
+    EXPECT_EQ(end.count, 0);
+    EXPECT_TRUE(Book().isVisible() || look::The<frmBookcase>().isVisible());
+    EXPECT_NE(answers.last().find(name), std::string::npos) << answers.last();
+    folder.Unblock(name);
+  }
   LeaveTheProgram();
-  EXPECT_EQ(end.count, 0);
-  EXPECT_TRUE(Book().isVisible());
-  EXPECT_EQ(Text(), QStringLiteral("Kept"));
-  EXPECT_NE(answers.last().find("j00000.tqf"), std::string::npos) << answers.last();
-  ASSERT_TRUE(QDir(QString::fromStdString(folder.path())).rmdir(QStringLiteral("j00000.tqf")));
-  LeaveTheProgram();
-  EXPECT_EQ(end.count, 1);
-  Start();
-  Unlock();
-  OpenTheJournal();
-  EXPECT_EQ(Text(), QStringLiteral("Kept"));
-}
-
-TEST_F(Journey, AnUnwritableIndexKeepsTheBookcase) {
-  Start(&FillFirstRun);
-  ASSERT_TRUE(QDir(QString::fromStdString(folder.path())).mkdir(QStringLiteral("journal.tqt")));
-  QTest::mouseClick(look::The<frmBookcase>().cmdClose, Qt::LeftButton);
-  EXPECT_EQ(end.count, 0);
-  EXPECT_TRUE(look::The<frmBookcase>().isVisible());
-  EXPECT_EQ(Journals[1].Name, "My Diary");
-  EXPECT_NE(answers.last().find("journal.tqt"), std::string::npos) << answers.last();
-}
-
-TEST_F(Journey, QuittingAtTheLockRewritesTheIndex) {
-  Start(&FillFirstRun);
-  look::The<frmBookcase>().close();
-  const std::string before = folder.Read("journal.tqt");
-  Start();
-  QTest::mouseClick(look::The<frmPass>().cmdCancel, Qt::LeftButton);
-  EXPECT_EQ(end.count, 2);
-  const std::string after = folder.Read("journal.tqt");
-  ASSERT_EQ(after.size(), before.size());
-  EXPECT_NE(after, before);  // other fillers
-  Start();
-  Unlock();
+  ExpectAtTheNextStart(QStringLiteral("Kept"));
 }
 
 TEST_F(Journey, AFailureThatNobodyGuardsStoresThePageAndNotTheIndex) {
-  Start(&FillFirstRun);
-  OpenTheJournal();
-  QTest::keyClicks(Book().face->txtM, QStringLiteral("Last words"));
+  StartAndWrite("Last words");
   auto& application = static_cast<platform::Application&>(*qApp);
   application.SetLastWill(&StoreOpenPage);
   QTimer::singleShot(0, [] { throw platform::Failure(platform::FailureKind::PathNotFound, "somewhere"); });
   QTest::qWait(50);
   application.SetLastWill({});
-  EXPECT_EQ(answers.texts(), std::vector<std::string>{"Path not found: somewhere"});
+  EXPECT_EQ(answers.texts(), fixture::Texts{"Path not found: somewhere"});
   EXPECT_EQ(end.count, 1);
-  EXPECT_TRUE(folder.Exists("j00000.tqf"));
-  EXPECT_FALSE(folder.Exists("journal.tqt"));
+  EXPECT_EQ(folder.Names(), fixture::Texts{"j00000.tqf"});
 }
 
 TEST_F(Journey, AHeadlessIndexEndsTheStartWithNothingWritten) {
