@@ -1,22 +1,13 @@
 // The journal window over a scratch folder, driven as a person drives it.
 #pragma once
 
-#include <gtest/gtest.h>
-#include <string>
-#include <string_view>
-#include <utility>
-#include <vector>
-
-#include <QtTest/QTest>
-
 #include "editor/OpenJournal.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
 #include "editor/frmJournal.h"
-#include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
-#include "tests/support/Fixtures.h"
+#include "tests/support/Windows.h"
 
 namespace fixture {
 
@@ -24,41 +15,31 @@ inline std::string Rtf(std::string_view text) {
   return "{\\rtf1\\ansi\\ansicpg1252{\\fonttbl{\\f0 Verdana;}}\\f0\\fs32 " + std::string(text) + "}";
 }
 
-inline std::string Enciphered(std::string_view plain) {
-  std::string body(plain.size() * 2, '\0');
-  store::Encipher(plain, PageShift, body.data());
-  return body;
-}
-
-class OpenBook : public testing::Test {
+class OpenBook : public Windows {
  protected:
   OpenBook() {
-    ResetState();
     MasterPassword = "xAyB";
     PageShift = 71;
     chkGotoLastPage = 0;
-  }
-  ~OpenBook() override {
-    look::UnloadAllForms();
-    ResetState();
   }
 
   // One more row of the bookcase; its file is "j" and the row's number. Returns the row.
   std::int32_t AddJournal() {
     Journals.resize(static_cast<std::size_t>(++JournalCount) + 1);
-    JournalEntry& entry = Journals.back();
-    entry.FileName = "j" + std::to_string(JournalCount) + ".tqf";
-    entry.FontName = "DejaVu Serif";
-    entry.FontSize = 16;
+    Journals.back().FileName = FileOf(JournalCount);
+    Journals.back().FontName = "DejaVu Serif";
+    Journals.back().FontSize = 16;
     return JournalCount;
   }
   // The same with a file of these pages, dated from day 40000 on; an empty text is a page never stored.
-  std::int32_t AddJournal(const std::vector<std::string>& texts) {
-    const std::int32_t row = AddJournal();
+  std::int32_t AddJournal(const Texts& texts) {
     std::vector<JournalPage> pages;
-    for (const std::string& text : texts)
-      pages.push_back(
-          {text.empty() ? "" : Enciphered(Rtf(text)), 40000.0 + static_cast<double>(pages.size())});
+    for (const std::string& text : texts) {
+      const std::string plain = text.empty() ? "" : Rtf(text);
+      pages.push_back({std::string(plain.size() * 2, '\0'), 40000.0 + static_cast<double>(pages.size())});
+      store::Encipher(plain, PageShift, pages.back().Body.data());
+    }
+    const std::int32_t row = AddJournal();
     folder.Write(FileOf(row), store::EncodeJournal(pages, MasterPassword));
     return row;
   }
@@ -77,17 +58,10 @@ class OpenBook : public testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
   }
   // The texts of a file's pages, as a person reads them.
-  std::vector<std::string> TextsIn(std::int32_t row) {
-    const std::string bytes = BytesOf(row);
-    std::size_t at = 0;
-    const auto source = [&](char* buffer, std::size_t size) {
-      const std::size_t read = bytes.copy(buffer, size, at);
-      at += read;
-      return read;
-    };
-    std::vector<std::string> texts;
+  Texts TextsIn(std::int32_t row) {
+    Texts texts;
     richtext::RichTextBox box;
-    for (const JournalPage& page : store::DecodeJournal(source, bytes.size()).pages) {
+    for (const JournalPage& page : store::ReadJournalFile(FileOf(row)).pages) {
       std::string plain(page.Body.size() / 2, '\0');
       store::Decipher(page.Body, PageShift, plain.data());
       box.SetTextRTF(plain);
@@ -99,18 +73,15 @@ class OpenBook : public testing::Test {
   frmJournal& window() { return look::The<frmJournal>(); }
   richtext::RichTextBox& text() { return *window().face->txtM; }
   std::string Text() { return text().Text().toStdString(); }
-  void Type(const char* letters) { QTest::keyClicks(&text(), QString::fromLatin1(letters)); }
-  void Press(const char* key) {
-    QTest::mouseClick(window().Toolbar1->Button(QString::fromLatin1(key)), Qt::LeftButton);
+  void Type(const std::string& letters) { QTest::keyClicks(&text(), QString::fromStdString(letters)); }
+  void Press(const char* key) { Click(window().Toolbar1->Button(QString::fromLatin1(key))); }
+  // Date and page number, as the head strip shows them, and the page's text.
+  std::string Shown() {
+    const PageFace& face = *window().face;
+    return (face.lblDate->text() + face.lblPageNum1->text()).toStdString() + ": " + Text();
   }
-  // Date and page number, as the head strip shows them.
-  QString Header() { return window().face->lblDate->text() + window().face->lblPageNum1->text(); }
 
-  Folder folder;
-  Answers answers;
-  End end;
   Clock clock{45000.5};
-  PlainLongDates longDates;
 };
 
 }  // namespace fixture

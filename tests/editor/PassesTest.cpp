@@ -4,6 +4,8 @@
 
 namespace {
 
+using fixture::Texts;
+
 class Passes : public fixture::OpenBook {
  protected:
   look::frmWait& wait() { return look::The<look::frmWait>(); }
@@ -34,23 +36,19 @@ TEST_F(Passes, AnEmptyPageIsStoredAsTheEmptyDocument) {
   QTest::keyClick(&text(), Qt::Key_A, Qt::ControlModifier);
   QTest::keyClick(&text(), Qt::Key_Delete);
   Press("btnFirstPage");
-  EXPECT_EQ(TextsIn(row), (std::vector<std::string>{"cover", "", ""}));
+  EXPECT_EQ(TextsIn(row), (Texts{"cover", "", ""}));
   QTest::keyClick(&text(), Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Text(), "cover") << "undo brings back no other page's text";
 }
 
 TEST_F(Passes, OnlyTheCommandsThatLeaveOrLookUpAPageStoreIt) {
   Open(AddJournal({"cover", "one"}));
-  Type("x");
   for (const char* key : {"btnPrint", "btnInsertEmoticon", "btnInsertPicture", "btnFont", "btnOptions",
-                          "btnJournalProperties", "btnHelp"}) {
-    Press(key);
-    EXPECT_EQ(PageDirty, True) << key;
-  }
-  for (const char* key : {"btnIndex", "btnCal"}) {
+                          "btnJournalProperties", "btnHelp", "btnIndex", "btnCal"}) {
     PageDirty = True;
     Press(key);
-    EXPECT_EQ(PageDirty, False) << key;
+    EXPECT_EQ(PageDirty, key == std::string("btnIndex") || key == std::string("btnCal") ? False : True)
+        << key;
   }
 }
 
@@ -63,7 +61,6 @@ TEST_F(Passes, NothingIsLostWhenTheFileCannotBeWritten) {
   ASSERT_EQ(answers.messages.size(), 1u);
   EXPECT_EQ(answers.last().find("Page Encryption Error:"), 0u);
   Press("btnBack");
-  EXPECT_EQ(Text(), "My cover");
   window().CloseBox();
   EXPECT_NE(answers.last().find("j1.tqf"), std::string::npos);
   EXPECT_TRUE(window().isVisible());
@@ -73,32 +70,35 @@ TEST_F(Passes, NothingIsLostWhenTheFileCannotBeWritten) {
   platform::SetProgramFolder(folder.path());
   window().CloseBox();
   EXPECT_EQ(PagesJournal, 0);
-  EXPECT_EQ(TextsIn(row), (std::vector<std::string>{"My cover", "one"}));
+  EXPECT_EQ(TextsIn(row), (Texts{"My cover", "one"}));
 }
 
 TEST_F(Passes, TextGoesBackOnlyToTheRowItCameFrom) {
-  const auto row = AddJournal({"cover", "one"});
-  const auto other = AddJournal({"other cover", "other one"});
+  const auto row = AddJournal({"cover", "one"}), other = AddJournal({"other cover", "other one"});
   Open(row);
-  const std::string before = BytesOf(row), otherBefore = BytesOf(other);
+  const std::string before = BytesOf(row) + BytesOf(other);
   Type("My ");
-  CurrentPage = 1;
-  StoreCurrentPage();
-  CurrentPage = 0;
-  CurrentJournal = other;
-  StoreCurrentPage();
-  StoreOpenPage();
+  for (const auto& [journal, page] : {std::pair{row, 1}, {row, 77}, {other, 0}}) {
+    CurrentJournal = journal;
+    CurrentPage = page;
+    StoreCurrentPage();
+  }
+  StoreOpenPage();  // the other journal is the current one
   CurrentJournal = row;
   window().hide();
   StoreOpenPage();
-  EXPECT_EQ(BytesOf(row), before);
-  EXPECT_EQ(BytesOf(other), otherBefore);
-
+  EXPECT_EQ(BytesOf(row) + BytesOf(other), before);
   window().show();
   CurrentPage = 77;  // wherever a failure has left it
   StoreOpenPage();
   EXPECT_EQ(CurrentPage, 77);
-  EXPECT_EQ(TextsIn(row), (std::vector<std::string>{"My cover", "one"}));
+  EXPECT_EQ(TextsIn(row), (Texts{"My cover", "one"}));
+  ShowCurrentPage();
+  EXPECT_EQ(GetPlainPage(2), "");
+  EXPECT_EQ(answers.texts(), Texts(2, "Page Decryption Error:Subscript out of range"));
+  Type("x");
+  StoreCurrentPage();
+  EXPECT_EQ(TextsIn(row), (Texts{"My cover", "one"}));
 }
 
 TEST_F(Passes, TheProgressWindowComesAboveTenThousand) {
@@ -116,38 +116,14 @@ TEST_F(Passes, TheProgressWindowComesAboveTenThousand) {
   EXPECT_EQ(wait().lblInfo->text(), u"Decrypting page: 9 kb");
   EXPECT_TRUE(show(10'001));
   EXPECT_EQ(Text().size(), 5001u) << "an odd body lacks only its last filler";
-  EXPECT_TRUE(show(20'000));
-  EXPECT_EQ(wait().lblInfo->text(), u"Decrypting page: 19 kb");
   Type("x");
+  EXPECT_EQ(GetPlainPage(0), fixture::Rtf("cover"));
+  EXPECT_EQ(wait().ProgressBar1->maximum(), 10'001) << "a short page is read without a sign";
+  EXPECT_EQ(GetPlainPage(1), std::string(5001, 'a'));
+  EXPECT_EQ(PageDirty, True);
   StoreCurrentPage();
   EXPECT_EQ(wait().lblInfo->text(),
             QStringLiteral("Encrypting page: %1 kb").arg(Pages[1].Body.size() / 2048));
-}
-
-TEST_F(Passes, APlainPageIsReadWithoutTouchingAnything) {
-  Open(AddJournal({"cover", "one", "", std::string(6000, 'x')}));
-  Type("x");
-  wait().lblInfo->setText(QStringLiteral("as before"));
-  EXPECT_EQ(GetPlainPage(1), fixture::Rtf("one"));
-  EXPECT_EQ(GetPlainPage(2), "");
-  EXPECT_EQ(wait().lblInfo->text(), u"as before");
-  EXPECT_EQ(GetPlainPage(3), fixture::Rtf(std::string(6000, 'x')));
-  EXPECT_EQ(wait().lblInfo->text(), u"Decrypting page: 11 kb");
-  EXPECT_EQ(PageDirty, True);
-  EXPECT_EQ(Text(), "xcover");
-}
-
-TEST_F(Passes, ARowThatDoesNotExistIsToldAndNothingIsStoredFromIt) {
-  const auto row = AddJournal({"cover", "one"});
-  Open(row);
-  const std::string before = BytesOf(row);
-  EXPECT_EQ(GetPlainPage(2), "");
-  CurrentPage = -1;
-  ShowCurrentPage();
-  EXPECT_EQ(answers.texts(), std::vector<std::string>(2, "Page Decryption Error:Subscript out of range"));
-  Type("x");
-  StoreCurrentPage();
-  EXPECT_EQ(BytesOf(row), before);
 }
 
 }  // namespace
