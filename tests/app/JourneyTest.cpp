@@ -162,12 +162,47 @@ TEST_F(Journey, AFailureThatNobodyGuardsStoresThePageAndNotTheIndex) {
   EXPECT_EQ(folder.Names(), fixture::Texts{"j00000.tqf"});
 }
 
-TEST_F(Journey, AHeadlessIndexEndsTheStartWithNothingWritten) {
-  folder.Write("journal.tqt", "ZANDOLK JOURNAL INDEX FILE V00003\x01");
+// A good index that could not be read must never be replaced by the empty bookcase in memory, whatever else
+// ends the program while the message is up.
+TEST_F(Journey, AnUnreadableIndexEndsTheStartWithNothingWritten) {
+  const std::string headless = "ZANDOLK JOURNAL INDEX FILE V00003\x01";
+  folder.Write("journal.tqt", headless);
+  for (const auto& meanwhile : {std::function<void()>([] {}), std::function<void()>(&LeaveTheProgram),
+                                std::function<void()>(&SaveWithoutDisplay)}) {
+    platform::SetMessageAnswerer([&](const platform::Message& message) {
+      answers.messages.push_back(message);
+      meanwhile();
+      return platform::Answer::Ok;
+    });
+    Start();
+    EXPECT_GE(end.count, 1);
+    EXPECT_NE(answers.last().find("journal.tqt"), std::string::npos);
+    EXPECT_EQ(folder.Read("journal.tqt"), headless);
+  }
+}
+
+TEST_F(Journey, AFolderInThePlaceOfTheIndexIsNoFirstRun) {
+  folder.Block("journal.tqt");
   Start();
   EXPECT_EQ(end.count, 1);
-  EXPECT_NE(answers.last().find("journal.tqt"), std::string::npos);
-  EXPECT_EQ(folder.Read("journal.tqt"), "ZANDOLK JOURNAL INDEX FILE V00003\x01");
+  EXPECT_FALSE(look::IsLoaded<frmInitJournal>());
+}
+
+TEST_F(Journey, ALostDisplayStoresThePageAndTheIndex) {
+  StartAndWrite("Typed before the display went");
+  SaveWithoutDisplay();
+  ExpectAtTheNextStart(QStringLiteral("Typed before the display went"));
+}
+
+TEST_F(Journey, AnUnchangedBookcaseCanBeLeftThoughItCannotBeSaved) {
+  StartAndWrite("");
+  LeaveTheProgram();
+  Start();
+  ASSERT_TRUE(QFile::remove(QString::fromStdString(folder.PathOf("journal.tqt"))));
+  folder.Block("journal.tqt");
+  Click(Lock().cmdCancel);
+  EXPECT_EQ(end.count, 1);
+  EXPECT_NE(answers.last().find("nothing new to save"), std::string::npos) << answers.last();
 }
 
 }  // namespace
