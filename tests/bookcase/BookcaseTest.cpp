@@ -52,8 +52,9 @@ TEST_F(BookcaseTest, ListsTheLiveRowsWhereverTheyComeFrom) {
   EXPECT_EQ(Listed(), "before the window 1 after 3 <b>&1 [*] 4 ");
   EXPECT_EQ(Window().SelectedRow(), 1);
   ClickList(BesideTheItems());
-  ClickList(MiddleOf(0), Qt::ControlModifier);
   EXPECT_TRUE(List().item(0)->isSelected()) << "no click takes the selection away";
+  ClickList(MiddleOf(0), Qt::ControlModifier);
+  EXPECT_TRUE(List().item(0)->isSelected());
   const QSize before = List().size();
   Window().resize(Window().size() + QSize(100, 50));
   QCoreApplication::processEvents();
