@@ -15,9 +15,9 @@
 namespace richtext {
 namespace {
 
-constexpr char16_t kLineBreak = u'\u2028';
-constexpr char16_t kPicture = u'\uFFFC';
-constexpr char16_t kUnknown = u'\uFFFD';
+constexpr char16_t LineBreak = u'\u2028';
+constexpr char16_t PictureMark = u'\uFFFC';
+constexpr char16_t Replacement = u'\uFFFD';
 
 // The toolkit takes some characters for the borders of its paragraphs and frames; these may not slip in.
 char16_t WithinParagraph(char16_t unit) {
@@ -25,10 +25,10 @@ char16_t WithinParagraph(char16_t unit) {
     case u'\n':
     case u'\r':
     case u'\u2029':
-      return kLineBreak;
+      return LineBreak;
     case 0xFDD0:
     case 0xFDD1:
-      return kUnknown;
+      return Replacement;
     default:
       return unit;
   }
@@ -69,7 +69,7 @@ class Filler {
     const QTextCharFormat& format = formats_[run.format];
     at_ += run.length;
     while (!rest.empty()) {
-      const std::size_t plain = std::min(rest.find(kPicture), rest.size());
+      const std::size_t plain = std::min(rest.find(PictureMark), rest.size());
       Insert(rest.substr(0, plain), format);
       if (plain < rest.size()) InsertPicture(format);
       rest.remove_prefix(std::min(plain + 1, rest.size()));
@@ -83,9 +83,9 @@ class Filler {
   }
 
   void InsertPicture(const QTextCharFormat& format) {
-    if (picture_ == source_.pictures.size()) return Insert({&kUnknown, 1}, format);
+    if (picture_ == source_.pictures.size()) return Insert({&Replacement, 1}, format);
     const Picture& picture = source_.pictures[picture_++];
-    Insert({&kPicture, 1}, KeepPicture(picture, format, *cursor_.document()));
+    Insert({&PictureMark, 1}, KeepPicture(picture, format, *cursor_.document()));
   }
 
   const Document& source_;
@@ -185,8 +185,8 @@ class Taker {
   void AddText(QStringView text, const QTextFragment& fragment) {
     const std::size_t begin = taken_.text.size();
     taken_.text.append(text.utf16(), static_cast<std::size_t>(text.size()));
-    for (std::size_t at = taken_.text.find(kPicture, begin); at != std::u16string::npos;
-         at = taken_.text.find(kPicture, at + 1))
+    for (std::size_t at = taken_.text.find(PictureMark, begin); at != std::u16string::npos;
+         at = taken_.text.find(PictureMark, at + 1))
       TakePicture(taken_.text[at], fragment.charFormat());
   }
 
@@ -195,7 +195,7 @@ class Taker {
     if (format.isImageFormat())
       taken_.pictures.push_back(KeptPicture(format.toImageFormat(), source_));
     else
-      sign = kUnknown;
+      sign = Replacement;
   }
 
   const QTextDocument& source_;

@@ -6,16 +6,16 @@
 namespace richtext {
 namespace {
 
-const char16_t kChosenFont[] = u"Verdana";
-constexpr double kChosenSize = 12;
-constexpr std::int32_t kWidestIndent = 31680;  // twips, the most that the format knows
+const char16_t ChosenFont[] = u"Verdana";
+constexpr double ChosenSize = 12;
+constexpr std::int32_t WidestIndent = 31680;  // twips, the most that the format knows
 
 double Pixels(std::int32_t twips) {
-  return std::clamp(twips, -kWidestIndent, kWidestIndent) / kTwipsPerPixel;
+  return std::clamp(twips, -WidestIndent, WidestIndent) / TwipsPerPixel;
 }
 
 std::int32_t Twips(double pixels) {
-  return static_cast<std::int32_t>(std::lround(pixels * kTwipsPerPixel));
+  return static_cast<std::int32_t>(std::lround(pixels * TwipsPerPixel));
 }
 
 Qt::Alignment ToAlignment(Alignment alignment) {
@@ -51,12 +51,12 @@ std::uint32_t FromColor(const QColor& color) {
 
 QString FontNameOf(const QTextCharFormat& format) {
   const QStringList families = format.fontFamilies().toStringList();
-  return families.isEmpty() ? QString::fromUtf16(kChosenFont) : families.front();
+  return families.isEmpty() ? QString::fromUtf16(ChosenFont) : families.front();
 }
 
 double FontSizeOf(const QTextCharFormat& format) {
   const double points = format.fontPointSize();
-  return points > 0 ? points : kChosenSize;
+  return points > 0 ? points : ChosenSize;
 }
 
 std::uint32_t ColorOf(const QTextCharFormat& format) {
@@ -69,13 +69,13 @@ void SetFontName(QTextCharFormat& format, const QString& name) {
 }
 
 void SetFontSize(QTextCharFormat& format, double points) {
-  format.setFontPointSize(std::clamp(std::round(points * 2), 1.0, double{kLargestFont}) / 2);
+  format.setFontPointSize(std::clamp(std::round(points * 2), 1.0, double{LargestFont}) / 2);
 }
 
 QTextCharFormat ToTextFormat(const CharacterFormat& format) {
   QTextCharFormat made;
   const QString name = QString::fromStdString(format.fontName);
-  SetFontName(made, name.isEmpty() ? QString::fromUtf16(kChosenFont) : name);
+  SetFontName(made, name.isEmpty() ? QString::fromUtf16(ChosenFont) : name);
   made.setProperty(NamelessFont, name.isEmpty());
   SetFontSize(made, format.halfPoints / 2.0);
   made.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);
@@ -108,8 +108,12 @@ QTextBlockFormat ToBlockFormat(const ParagraphFormat& format) {
 }
 
 ParagraphFormat FromBlockFormat(const QTextBlockFormat& format) {
-  return {FromAlignment(format.alignment()), Twips(format.leftMargin()), Twips(format.rightMargin()),
-          Twips(format.textIndent())};
+  ParagraphFormat taken;
+  taken.alignment = FromAlignment(format.alignment());
+  taken.leftIndent = Twips(format.leftMargin());
+  taken.rightIndent = Twips(format.rightMargin());
+  taken.firstLineIndent = Twips(format.textIndent());
+  return taken;
 }
 
 }  // namespace richtext

@@ -17,8 +17,8 @@ enum BoxProperty : int {
   PictureTwipsHigh,
 };
 
-constexpr double kTwipsPerPixel = 15;        // 96 pixels to the inch
-constexpr std::int32_t kLargestFont = 3276;  // half points
+constexpr double TwipsPerPixel = 15;        // 96 pixels to the inch
+constexpr std::int32_t LargestFont = 3276;  // half points
 
 QTextCharFormat ToTextFormat(const CharacterFormat& format);
 CharacterFormat FromTextFormat(const QTextCharFormat& format);

@@ -6,14 +6,14 @@
 
 namespace richtext {
 
-constexpr std::int32_t kWesternPage = 1252;
-constexpr std::int32_t kMacintoshPage = 10000;
-constexpr std::int32_t kSymbolPage = 42;
+constexpr std::int32_t WesternPage = 1252;
+constexpr std::int32_t MacintoshPage = 10000;
+constexpr std::int32_t SymbolPage = 42;
 
 // What each byte means. Two entries are no characters: a byte that is passed over, and the first byte of two.
 struct CodePage {
-  static constexpr char16_t kNothing = 0xFFFF;
-  static constexpr char16_t kLeadByte = 0xFFFE;
+  static constexpr char16_t Nothing = 0xFFFF;
+  static constexpr char16_t LeadByte = 0xFFFE;
 
   std::int32_t number = 0;
   std::array<char16_t, 256> units{};

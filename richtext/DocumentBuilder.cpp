@@ -56,7 +56,7 @@ void DocumentBuilder::ClaimText(std::uint32_t format) {
 
 void DocumentBuilder::AddPicture(Picture picture, std::uint32_t format) {
   document_.pictures.push_back(std::move(picture));
-  document_.text += kPicture;
+  document_.text += PictureMark;
   ClaimText(format);
 }
 

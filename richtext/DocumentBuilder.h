@@ -26,7 +26,7 @@ class Numbering {
   Result NumberOf(const Value& value) {
     if (const auto found = numbers_.find(value); found != numbers_.end())
       return {last_ = found->second, false};
-    if (numbers_.size() == kMaxFormats) return {last_, false};
+    if (numbers_.size() == MaxFormats) return {last_, false};
     last_ = static_cast<std::uint32_t>(numbers_.size());
     numbers_.emplace(value, last_);
     return {last_, true};

@@ -22,7 +22,7 @@ std::u16string_view Cut(std::u16string_view name, std::size_t length) {
 
 std::u16string FittingFontName(std::u16string_view name) {
   std::u16string clean;
-  for (const char16_t unit : Cut(Trimmed(name), kMaxFontName))
+  for (const char16_t unit : Cut(Trimmed(name), MaxFontName))
     if (unit >= u' ') clean += unit;
   return std::u16string(Trimmed(clean));
 }

@@ -13,8 +13,9 @@
 namespace richtext {
 namespace {
 
-const QLatin1String kRtf("text/rtf");
-const QLatin1String kRtfNames[] = {kRtf, QLatin1String("application/rtf"), QLatin1String("Rich Text Format")};
+const QLatin1String RtfName("text/rtf");
+const QLatin1String RtfNames[] = {RtfName, QLatin1String("application/rtf"),
+                                  QLatin1String("Rich Text Format")};
 
 QString WithoutSigns(QString text) {
   static const QString signs = QStringLiteral("\uFFFC\uFDD0\uFDD1") + QChar(QChar::Null);
@@ -26,12 +27,12 @@ QString WithoutSigns(QString text) {
 
 bool CanBePasted(const QMimeData& offered) {
   return offered.hasText() || offered.hasHtml() || offered.hasImage() ||
-         std::any_of(std::begin(kRtfNames), std::end(kRtfNames),
+         std::any_of(std::begin(RtfNames), std::end(RtfNames),
                      [&](QLatin1String name) { return offered.hasFormat(name); });
 }
 
 std::string OfferedRtf(const QMimeData& offered) {
-  for (const QLatin1String name : kRtfNames)
+  for (const QLatin1String name : RtfNames)
     if (offered.hasFormat(name)) return offered.data(name).toStdString();
   return {};
 }
@@ -55,7 +56,7 @@ QMimeData* Offer(const QTextCursor& selection) {
   QString text = selection.selectedText();
   text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
   offer->setText(WithoutSigns(text));
-  offer->setData(kRtf, QByteArray::fromStdString(WriteRtf(TakeSelection(selection))));
+  offer->setData(RtfName, QByteArray::fromStdString(WriteRtf(TakeSelection(selection))));
   return offer;
 }
 

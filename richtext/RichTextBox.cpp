@@ -17,10 +17,10 @@
 namespace richtext {
 namespace {
 
-constexpr double kDocumentMargin = 4;              // pixels
-constexpr double kTabStop = 720 / kTwipsPerPixel;  // pixels; half an inch
-constexpr std::uint32_t kWhite = 0xffffff;
-constexpr std::size_t kLongPage = 10000;  // UTF-16 units; more than any window shows at once
+constexpr double DocumentMargin = 4;                     // pixels
+constexpr double TabStopDistance = 720 / TwipsPerPixel;  // pixels; half an inch
+constexpr std::uint32_t White = 0xffffff;
+constexpr std::size_t LongPage = 10000;  // UTF-16 units; more than any window shows at once
 
 // What `attribute` gives for all of the selection, or for the caret; nothing where it differs within.
 template <class Attribute>
@@ -46,11 +46,11 @@ auto Common(const QTextCursor& cursor, Attribute attribute)
 RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
   setAcceptRichText(true);
   setTabChangesFocus(false);
-  setTabStopDistance(kTabStop);
-  document()->setDocumentMargin(kDocumentMargin);
+  setTabStopDistance(TabStopDistance);
+  document()->setDocumentMargin(DocumentMargin);
   connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::NoteEdit);
   connect(document(), &QTextDocument::contentsChanged, this, &RichTextBox::TellEdits);
-  SetBackColor(kWhite);
+  SetBackColor(White);
   Fill({});
 }
 
@@ -67,7 +67,7 @@ void RichTextBox::Fill(std::string_view rtf) {
   const QScopedValueRollback quiet(quiet_, true);
   const Document page = rtf.empty() ? EmptyDocument() : ReadRtf(rtf);
   // With its scroll bar there beforehand, a long page is laid out once, and not at the width without it too.
-  if (page.text.size() > kLongPage) setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  if (page.text.size() > LongPage) setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   FillDocument(page, *document());
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setTextCursor(QTextCursor(document()));
@@ -194,7 +194,7 @@ void RichTextBox::SetAttribute(const QTextCharFormat& attribute) {
 
 // Paper and ink are the journal's and not the desktop's: on a dark desktop the page stays what it is.
 void RichTextBox::SetBackColor(std::uint32_t color) {
-  backColor_ = color & kWhite;
+  backColor_ = color & White;
   QPalette paper;
   paper.setColor(QPalette::Base, ToColor(backColor_));
   paper.setColor(QPalette::Text, Qt::black);
@@ -210,8 +210,8 @@ std::uint32_t RichTextBox::BackColor() const {
 
 void RichTextBox::InsertBitmap(const QImage& image) {
   if (image.isNull()) return;
-  const auto twips = [&](int pixels) { return qRound(pixels * kTwipsPerPixel / image.devicePixelRatio()); };
-  const Picture picture{PictureKind::Png, SmallestPng(image), twips(image.width()), twips(image.height())};
+  const auto twips = [&](int pixels) { return qRound(pixels * TwipsPerPixel / image.devicePixelRatio()); };
+  const Picture picture{PictureKind::Png, SmallestPng(image), {}, twips(image.width()), twips(image.height())};
   QTextCursor cursor = textCursor();
   cursor.insertText(QString(QChar::ObjectReplacementCharacter),
                     KeepPicture(picture, cursor.charFormat(), *document()));

@@ -20,7 +20,7 @@ CharacterFormat FormatOf(const CharacterState& state, const RtfFontTable& fonts)
   format.italic = state.italic;
   format.strikethrough = state.strikethrough;
   format.underline = state.underline;
-  if (state.color != kAutomaticColor) format.color = static_cast<std::uint32_t>(state.color);
+  if (state.color != AutomaticColor) format.color = static_cast<std::uint32_t>(state.color);
   return format;
 }
 
@@ -54,12 +54,12 @@ void RtfContext::SendTextTo(Destination destination) {
 }
 
 CharacterState& RtfContext::ChangeCharacter() {
-  State().formatNumber = GroupState::kNotAsked;
+  State().formatNumber = GroupState::NotAsked;
   return State().character;
 }
 
 ParagraphFormat& RtfContext::ChangeParagraph() {
-  State().paragraphNumber = GroupState::kNotAsked;
+  State().paragraphNumber = GroupState::NotAsked;
   return State().paragraph;
 }
 
@@ -152,7 +152,7 @@ Document RtfContext::Take() {
 
 std::uint32_t RtfContext::FormatNumber() {
   GroupState& state = State();
-  if (state.formatNumber == GroupState::kNotAsked) {
+  if (state.formatNumber == GroupState::NotAsked) {
     const CharacterState& character = state.character;
     state.formatNumber =
         builder_.FormatNumber(KeyOf(character, fonts_), [&] { return FormatOf(character, fonts_); });
@@ -161,7 +161,7 @@ std::uint32_t RtfContext::FormatNumber() {
 }
 
 std::uint32_t RtfContext::ParagraphNumber(GroupState& state) {
-  if (state.paragraphNumber == GroupState::kNotAsked)
+  if (state.paragraphNumber == GroupState::NotAsked)
     state.paragraphNumber = builder_.ParagraphFormatNumber(state.paragraph);
   return state.paragraphNumber;
 }

@@ -38,15 +38,14 @@ constexpr ControlWord Sent(std::string_view name, Destination destination) {
   return {name, SendTo, static_cast<Number>(destination), 0, WordKind::Destination};
 }
 
-constexpr Number kOn = 1;  // toggles are on where no parameter is written
-constexpr auto kSingle = UnderlineKind::Single;
-using PictureSide = RtfPictureReader;
+constexpr Number On = 1;  // toggles are on where no parameter is written
+constexpr auto Single = UnderlineKind::Single;
 
-constexpr ControlWord kWords[] = {
+constexpr ControlWord KnownWords[] = {
     WordOf("tab", Character, u'\t'),
     WordOf("cell", Character, u'\t'),
     WordOf("nestcell", Character, u'\t'),
-    WordOf("line", Character, kLineBreak),
+    WordOf("line", Character, LineBreak),
     WordOf("emdash", Character, 0x2014),
     WordOf("endash", Character, 0x2013),
     WordOf("bullet", Character, 0x2022),
@@ -69,8 +68,8 @@ constexpr ControlWord kWords[] = {
     {"u", Unicode, 0, 0, WordKind::Structure},
     Word("uc", FallbackLength, 1),
 
-    WordOf("ansi", CharacterSet, kWesternPage),
-    WordOf("mac", CharacterSet, kMacintoshPage),
+    WordOf("ansi", CharacterSet, WesternPage),
+    WordOf("mac", CharacterSet, MacintoshPage),
     WordOf("pc", CharacterSet, 437),
     WordOf("pca", CharacterSet, 850),
     Word("ansicpg", AnsiCodePage),
@@ -85,30 +84,30 @@ constexpr ControlWord kWords[] = {
     Word("cf", Color),
 
     Word("plain", Plain),
-    Word("fs", FontSize, kDefaultHalfPoints),
-    Word("b", Toggle<&CharacterState::bold>, kOn),
-    Word("i", Toggle<&CharacterState::italic>, kOn),
-    Word("strike", Toggle<&CharacterState::strikethrough>, kOn),
-    Word("striked", Toggle<&CharacterState::strikethrough>, kOn),
-    WordOf("ulnone", Underline, UnderlineKind::None, kOn),
-    WordOf("ul", Underline, kSingle, kOn),
-    WordOf("uld", Underline, kSingle, kOn),
-    WordOf("uldash", Underline, kSingle, kOn),
-    WordOf("uldashd", Underline, kSingle, kOn),
-    WordOf("uldashdd", Underline, kSingle, kOn),
-    WordOf("uldb", Underline, kSingle, kOn),
-    WordOf("ulhair", Underline, kSingle, kOn),
-    WordOf("ulhwave", Underline, kSingle, kOn),
-    WordOf("ulldash", Underline, kSingle, kOn),
-    WordOf("ulth", Underline, kSingle, kOn),
-    WordOf("ulthd", Underline, kSingle, kOn),
-    WordOf("ulthdash", Underline, kSingle, kOn),
-    WordOf("ulthdashd", Underline, kSingle, kOn),
-    WordOf("ulthdashdd", Underline, kSingle, kOn),
-    WordOf("ulthldash", Underline, kSingle, kOn),
-    WordOf("ululdbwave", Underline, kSingle, kOn),
-    WordOf("ulw", Underline, kSingle, kOn),
-    WordOf("ulwave", Underline, kSingle, kOn),
+    Word("fs", FontSize, DefaultHalfPoints),
+    Word("b", Toggle<&CharacterState::bold>, On),
+    Word("i", Toggle<&CharacterState::italic>, On),
+    Word("strike", Toggle<&CharacterState::strikethrough>, On),
+    Word("striked", Toggle<&CharacterState::strikethrough>, On),
+    WordOf("ulnone", Underline, UnderlineKind::None, On),
+    WordOf("ul", Underline, Single, On),
+    WordOf("uld", Underline, Single, On),
+    WordOf("uldash", Underline, Single, On),
+    WordOf("uldashd", Underline, Single, On),
+    WordOf("uldashdd", Underline, Single, On),
+    WordOf("uldb", Underline, Single, On),
+    WordOf("ulhair", Underline, Single, On),
+    WordOf("ulhwave", Underline, Single, On),
+    WordOf("ulldash", Underline, Single, On),
+    WordOf("ulth", Underline, Single, On),
+    WordOf("ulthd", Underline, Single, On),
+    WordOf("ulthdash", Underline, Single, On),
+    WordOf("ulthdashd", Underline, Single, On),
+    WordOf("ulthdashdd", Underline, Single, On),
+    WordOf("ulthldash", Underline, Single, On),
+    WordOf("ululdbwave", Underline, Single, On),
+    WordOf("ulw", Underline, Single, On),
+    WordOf("ulwave", Underline, Single, On),
 
     Word("pard", ParagraphDefault),
     WordOf("ql", Align, Alignment::Left),
@@ -131,83 +130,75 @@ constexpr ControlWord kWords[] = {
     Shown("object"),
     Shown("result"),
     Shown("nesttableprops"),
-
-    WordOf("pngblip", KindOfPicture, PictureKind::Png),
-    Word("picw", Extent<&PictureSide::Width, &PictureExtent::pixels>),
-    Word("pich", Extent<&PictureSide::Height, &PictureExtent::pixels>),
-    Word("picwgoal", Extent<&PictureSide::Width, &PictureExtent::goal>),
-    Word("pichgoal", Extent<&PictureSide::Height, &PictureExtent::goal>),
-    Word("picscalex", Extent<&PictureSide::Width, &PictureExtent::scalePercent>, 100),
-    Word("picscaley", Extent<&PictureSide::Height, &PictureExtent::scalePercent>, 100),
 };
 
 // Groups that are passed over, which many write without "\*". The labels of lists are made anew by whoever
 // shows them.
-constexpr std::string_view kSkipped[] = {"annotation",   "background",
-                                         "bkmkend",      "bkmkstart",
-                                         "blipuid",      "colorschememapping",
-                                         "datafield",    "datastore",
-                                         "docvar",       "falt",
-                                         "filetbl",      "fldinst",
-                                         "fname",        "footer",
-                                         "footerf",      "footerl",
-                                         "footerr",      "footnote",
-                                         "generator",    "header",
-                                         "headerf",      "headerl",
-                                         "headerr",      "info",
-                                         "latentstyles", "listoverridetable",
-                                         "listtable",    "listtext",
-                                         "mmath",        "nonesttables",
-                                         "nonshppict",   "objclass",
-                                         "objdata",      "objname",
-                                         "panose",       "pgptbl",
-                                         "picprop",      "pn",
-                                         "pntext",       "pntxta",
-                                         "pntxtb",       "private",
-                                         "revtbl",       "rsidtbl",
-                                         "sp",           "stylesheet",
-                                         "tc",           "template",
-                                         "themedata",    "xe",
-                                         "xmlnstbl"};
+constexpr std::string_view SkippedNames[] = {"annotation",   "background",
+                                             "bkmkend",      "bkmkstart",
+                                             "blipuid",      "colorschememapping",
+                                             "datafield",    "datastore",
+                                             "docvar",       "falt",
+                                             "filetbl",      "fldinst",
+                                             "fname",        "footer",
+                                             "footerf",      "footerl",
+                                             "footerr",      "footnote",
+                                             "generator",    "header",
+                                             "headerf",      "headerl",
+                                             "headerr",      "info",
+                                             "latentstyles", "listoverridetable",
+                                             "listtable",    "listtext",
+                                             "mmath",        "nonesttables",
+                                             "nonshppict",   "objclass",
+                                             "objdata",      "objname",
+                                             "panose",       "pgptbl",
+                                             "picprop",      "pn",
+                                             "pntext",       "pntxta",
+                                             "pntxtb",       "private",
+                                             "revtbl",       "rsidtbl",
+                                             "sp",           "stylesheet",
+                                             "tc",           "template",
+                                             "themedata",    "xe",
+                                             "xmlnstbl"};
 
-constexpr std::size_t kCount = std::size(kWords) + std::size(kSkipped);
+constexpr std::size_t WordCount = std::size(KnownWords) + std::size(SkippedNames);
 
-constexpr std::array<ControlWord, kCount> kAllWords = [] {
-  std::array<ControlWord, kCount> all{};
+constexpr std::array<ControlWord, WordCount> AllWords = [] {
+  std::array<ControlWord, WordCount> all{};
   std::size_t at = 0;
-  for (const ControlWord& word : kWords) all[at++] = word;
-  for (const std::string_view name : kSkipped) all[at++] = Skipped(name);
+  for (const ControlWord& word : KnownWords) all[at++] = word;
+  for (const std::string_view name : SkippedNames) all[at++] = Skipped(name);
   return all;
 }();
 
 // The table by name: open addressing, made while compiling.
-constexpr std::size_t kSlots = 512;
-static_assert(kCount < kSlots / 2 && kCount < 255);
+constexpr std::size_t SlotCount = 512;
+static_assert(WordCount < SlotCount / 2 && WordCount < 255);
 
 constexpr std::size_t SlotOf(std::string_view name) {
   std::uint32_t hash = 2166136261U;
   for (const char letter : name) hash = (hash ^ static_cast<unsigned char>(letter)) * 16777619U;
-  return (hash ^ (hash >> 15)) % kSlots;
+  return (hash ^ (hash >> 15)) % SlotCount;
 }
 
-constexpr std::array<std::uint8_t, kSlots> kRowOfSlot = [] {
-  std::array<std::uint8_t, kSlots> rows{};  // 0: free, else the row's number + 1
-  for (std::size_t row = 0; row < kCount; ++row) {
-    std::size_t slot = SlotOf(kAllWords[row].name);
-    while (rows[slot] != 0) slot = (slot + 1) % kSlots;
+constexpr std::array<std::uint8_t, SlotCount> RowOfSlot = [] {
+  std::array<std::uint8_t, SlotCount> rows{};  // 0: free, else the row's number + 1
+  for (std::size_t row = 0; row < WordCount; ++row) {
+    std::size_t slot = SlotOf(AllWords[row].name);
+    while (rows[slot] != 0) slot = (slot + 1) % SlotCount;
     rows[slot] = static_cast<std::uint8_t>(row + 1);
   }
   return rows;
 }();
 
-constexpr std::size_t kLongestName = 20;
+constexpr std::size_t LongestName = 20;
 
 }  // namespace
 
 const ControlWord* FindControlWord(std::string_view name) {
-  if (name.size() > kLongestName) return nullptr;
-  for (std::size_t slot = SlotOf(name); kRowOfSlot[slot] != 0; slot = (slot + 1) % kSlots) {
-    const ControlWord& word = kAllWords[kRowOfSlot[slot] - 1U];
+  if (name.size() > LongestName) return nullptr;
+  for (std::size_t slot = SlotOf(name); RowOfSlot[slot] != 0; slot = (slot + 1) % SlotCount) {
+    const ControlWord& word = AllWords[RowOfSlot[slot] - 1U];
     if (word.name == name) return &word;
   }
   return nullptr;

@@ -80,7 +80,7 @@ inline void Plain(Context& context, Number, Number) {
 }
 
 inline void FontSize(Context& context, Number, Number halfPoints) {
-  if (halfPoints > 0) context.ChangeCharacter().halfPoints = std::min(halfPoints, kMaxHalfPoints);
+  if (halfPoints > 0) context.ChangeCharacter().halfPoints = std::min(halfPoints, MaxHalfPoints);
 }
 
 template <bool CharacterState::*Flag>
@@ -128,17 +128,6 @@ inline void PictureGroup(Context& context, Number, Number) {
   if (context.Depth() <= 1) return;
   context.SendTextTo(Destination::Picture);
   context.PictureInHand().Begin();
-}
-
-// Pictures.
-
-inline void KindOfPicture(Context& context, Number kind, Number) {
-  context.PictureInHand().SetKind(static_cast<PictureKind>(kind));
-}
-
-template <PictureExtent& (RtfPictureReader::*Side)(), Number PictureExtent::*Measure>
-inline void Extent(Context& context, Number, Number value) {
-  (context.PictureInHand().*Side)().*Measure = value;
 }
 
 }  // namespace richtext::handlers

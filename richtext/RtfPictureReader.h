@@ -20,10 +20,9 @@ class RtfPictureReader {
  public:
   // Forgets what was read and begins a picture.
   void Begin();
-  // Bytes of a picture whose kind was not named, or is none of PictureKind, are passed over.
-  void SetKind(PictureKind kind) { kind_ = kind; }
-  PictureExtent& Width() { return width_; }
-  PictureExtent& Height() { return height_; }
+  // A control word of the group; the parameter is 0 when absent. Bytes of a picture whose kind was not named,
+  // or is none of PictureKind, are passed over.
+  void TakeWord(std::string_view name, bool hasParameter, std::int32_t parameter);
   void AppendHex(std::string_view digits);  // whatever is no digit is passed over
   void AppendRaw(std::string_view bytes);
   // The picture; nothing when it has no bytes.

@@ -91,6 +91,9 @@ void Reader::Take(const Token& token) {
 void Reader::TakeWord(const Token& token, bool ignorable) {
   const ControlWord* word = FindControlWord(token.text);
   if (ignorable && (word == nullptr || word->kind != WordKind::Destination)) return context_.SkipGroup();
+  const bool names = word != nullptr && word->kind == WordKind::Destination;
+  if (!names && context_.State().destination == Destination::Picture)
+    return context_.PictureInHand().TakeWord(token.text, token.hasParameter, token.parameter);
   if (word == nullptr) return;
   word->handle(context_, word->argument, token.hasParameter ? token.parameter : word->whenAbsent);
   if (token.text == "u") fallbackLeft_ = context_.State().fallbackLength;

@@ -10,6 +10,7 @@
 
 #include "richtext/Limits.h"
 #include "richtext/RtfEscape.h"
+#include "richtext/RtfPictureWriter.h"
 #include "richtext/RtfTables.h"
 #include "richtext/Unicode.h"
 
@@ -33,7 +34,7 @@ std::vector<Look> LooksOf(const Document& document, const RtfTables& tables) {
   looks.reserve(document.formats.size());
   for (std::uint32_t i = 0; i < document.formats.size(); ++i) {
     const CharacterFormat& format = document.formats[i];
-    looks.push_back({tables.Font(i), std::clamp(format.halfPoints, 1, kMaxHalfPoints), tables.Color(i),
+    looks.push_back({tables.Font(i), std::clamp(format.halfPoints, 1, MaxHalfPoints), tables.Color(i),
                      format.bold, format.italic, format.strikethrough, format.underline});
   }
   return looks;
@@ -104,16 +105,19 @@ void Writer::WriteParagraph(const Paragraph& paragraph) {
 }
 
 void Writer::SetParagraph(const ParagraphFormat& format) {
-  constexpr std::string_view kAlignments[] = {"ql", "qr", "qc", "qj"};
-  const ParagraphFormat fitting{format.alignment, FittingIndent(format.leftIndent),
-                                FittingIndent(format.rightIndent), FittingIndent(format.firstLineIndent)};
+  constexpr std::string_view Alignments[] = {"ql", "qr", "qc", "qj"};
+  ParagraphFormat fitting;
+  fitting.alignment = format.alignment;
+  fitting.leftIndent = FittingIndent(format.leftIndent);
+  fitting.rightIndent = FittingIndent(format.rightIndent);
+  fitting.firstLineIndent = FittingIndent(format.firstLineIndent);
   if (paragraph_ == fitting) return;
   paragraph_ = fitting;
   Word("pard");
   Measure("fi", fitting.firstLineIndent);
   Measure("li", fitting.leftIndent);
   Measure("ri", fitting.rightIndent);
-  if (fitting.alignment != Alignment::Left) Word(kAlignments[static_cast<std::size_t>(fitting.alignment)]);
+  if (fitting.alignment != Alignment::Left) Word(Alignments[static_cast<std::size_t>(fitting.alignment)]);
 }
 
 void Writer::SetLook(const Look& look) {
@@ -145,7 +149,7 @@ void Writer::WriteText(std::u16string_view text) {
     const bool pair = text.size() > 1 && IsHighSurrogate(text[0]) && IsLowSurrogate(text[1]);
     const std::size_t length = pair ? 2 : 1;
     for (const char16_t unit : text.substr(0, length))
-      WriteRare(IsSurrogate(unit) && !pair ? kReplacement : unit);
+      WriteRare(IsSurrogate(unit) && !pair ? Replacement : unit);
     text.remove_prefix(length);
   }
 }
@@ -175,7 +179,7 @@ void Writer::WriteRare(char16_t unit) {
       return Symbol(static_cast<char>(unit));
     case u'\t':
       return Word("tab");
-    case kLineBreak:
+    case LineBreak:
       return Word("line");
     case 0x00A0:
       return Symbol('~');
@@ -183,28 +187,20 @@ void Writer::WriteRare(char16_t unit) {
       return Symbol('-');
     case 0x2011:
       return Symbol('_');
-    case kPicture:
+    case PictureMark:
       return WritePicture();
     default:
       break;
   }
-  const bool wrong = unit < u' ' || unit == kParagraphSeparator || IsNoncharacter(unit);
-  AppendUnicode(wrong ? kReplacement : unit, rtf_);
+  const bool wrong = unit < u' ' || unit == ParagraphSeparator || IsNoncharacter(unit);
+  AppendUnicode(wrong ? Replacement : unit, rtf_);
   afterWord_ = false;
 }
 
 void Writer::WritePicture() {
   afterWord_ = false;
-  if (pictureAt_ == document_.pictures.size()) return AppendUnicode(kReplacement, rtf_);
-  const Picture& picture = document_.pictures[pictureAt_++];
-  if (picture.bytes.empty()) return AppendUnicode(kReplacement, rtf_);
-  rtf_ += "{\\pict\\pngblip";
-  Measure("picwgoal", FittingPictureSize(picture.widthTwips));
-  Measure("pichgoal", FittingPictureSize(picture.heightTwips));
-  rtf_ += "\r\n";
-  AppendHexLines(picture.bytes, rtf_);
-  rtf_ += "\r\n}";
-  afterWord_ = false;
+  if (pictureAt_ == document_.pictures.size()) return AppendUnicode(Replacement, rtf_);
+  if (!AppendPicture(document_.pictures[pictureAt_++], rtf_)) AppendUnicode(Replacement, rtf_);
 }
 
 void Writer::Word(std::string_view name) {

@@ -19,12 +19,38 @@ namespace richtext {
 namespace {
 
 CharacterFormat Font(const char* name, int halfPoints, std::optional<std::uint32_t> color = {}) {
-  return {name, halfPoints, false, false, false, UnderlineKind::None, color};
+  CharacterFormat format;
+  format.fontName = name;
+  format.halfPoints = halfPoints;
+  format.color = color;
+  return format;
 }
 
-const CharacterFormat kPlain = Font("Arial", 20);
-const CharacterFormat kLoud{"No Such Font", 37, true, true, true, UnderlineKind::Single, 0x0000ff};
-const CharacterFormat kJournal{"Courier", 17, true, false, false, UnderlineKind::None, 0x00ff0000};
+CharacterFormat LoudFont() {
+  CharacterFormat format = Font("No Such Font", 37, 0x0000ff);
+  format.bold = format.italic = format.strikethrough = true;
+  format.underline = UnderlineKind::Single;
+  return format;
+}
+
+CharacterFormat JournalFont() {
+  CharacterFormat format = Font("Courier", 17, 0x00ff0000);
+  format.bold = true;
+  return format;
+}
+
+ParagraphFormat Indented(Alignment alignment, int left, int right, int first) {
+  ParagraphFormat format;
+  format.alignment = alignment;
+  format.leftIndent = left;
+  format.rightIndent = right;
+  format.firstLineIndent = first;
+  return format;
+}
+
+const CharacterFormat Plain = Font("Arial", 20);
+const CharacterFormat Loud = LoudFont();
+const CharacterFormat Journal = JournalFont();
 
 // One paragraph of runs.
 Document Page(const std::vector<std::pair<std::u16string, CharacterFormat>>& runs) {
@@ -120,7 +146,7 @@ TEST_F(RichTextBoxTest, EverySetIsOneChange) {
 }
 
 TEST_F(RichTextBoxTest, EveryEditIsOneChange) {
-  Set(Page({{u"one two three", kPlain}}));
+  Set(Page({{u"one two three", Plain}}));
   const std::vector<std::pair<const char*, std::function<void()>>> edits = {
       {"letter", [&] { Type("x"); }},
       {"over a selection", [&] { Select(1, 3), Type("y"); }},
@@ -145,7 +171,7 @@ TEST_F(RichTextBoxTest, EveryEditIsOneChange) {
 }
 
 TEST_F(RichTextBoxTest, WhatIsNoEditIsNoChange) {
-  for (const Document& page : {Page({{u"one two three", kPlain}}), EmptyDocument()}) {
+  for (const Document& page : {Page({{u"one two three", Plain}}), EmptyDocument()}) {
     Set(page);
     GiveJournalFont();
     box.SetSelFontName({});
@@ -172,14 +198,14 @@ TEST_F(RichTextBoxTest, WhatIsNoEditIsNoChange) {
 
 TEST_F(RichTextBoxTest, EmptyBoxIsTheEmptyDocument) {
   EXPECT_EQ(ReadRtf(box.TextRTF()), EmptyDocument());
-  Set(Page({{u"x", kPlain}}));
+  Set(Page({{u"x", Plain}}));
   box.SetTextRTF("");
   EXPECT_EQ(box.Text(), QString());
   EXPECT_EQ(ReadRtf(box.TextRTF()), EmptyDocument());
 }
 
 TEST_F(RichTextBoxTest, CaretFormatGovernsWhatIsTyped) {
-  for (const Document& page : {EmptyDocument(), Page({{u"before", kPlain}})}) {
+  for (const Document& page : {EmptyDocument(), Page({{u"before", Plain}})}) {
     Set(page);
     GiveJournalFont();
     box.clearFocus();
@@ -189,31 +215,31 @@ TEST_F(RichTextBoxTest, CaretFormatGovernsWhatIsTyped) {
     Press(Qt::Key_Return);
     Press(Qt::Key_Return);
     Type("ab");
-    EXPECT_EQ(FormatAt(start + 3), kJournal);
-    EXPECT_EQ(FormatAt(start + 4), kJournal);
+    EXPECT_EQ(FormatAt(start + 3), Journal);
+    EXPECT_EQ(FormatAt(start + 4), Journal);
     if (start > 0) {
-      EXPECT_EQ(FormatAt(start), kPlain);
+      EXPECT_EQ(FormatAt(start), Plain);
     }
     Press(Qt::Key_Backspace);
     Press(Qt::Key_Backspace);
     Type("c");
-    EXPECT_EQ(FormatAt(start + 3), kJournal) << "all letters of the paragraph were deleted before";
+    EXPECT_EQ(FormatAt(start + 3), Journal) << "all letters of the paragraph were deleted before";
   }
 }
 
 TEST_F(RichTextBoxTest, CaretTakesTheFormatWhereItGoes) {
-  Set(Page({{u"plain", kPlain}, {u"loud", kLoud}}));
+  Set(Page({{u"plain", Plain}, {u"loud", Loud}}));
   box.SetSelStart(9);
   EXPECT_EQ(box.SelFontSize(), 18.5);
   box.SetSelStart(3);
   EXPECT_EQ(box.SelFontName(), QStringLiteral("Arial"));
   Press(Qt::Key_End, Qt::ControlModifier);
   Type("x");
-  EXPECT_EQ(FormatAt(10), kLoud);
+  EXPECT_EQ(FormatAt(10), Loud);
 }
 
 TEST_F(RichTextBoxTest, SelectionReadsAsMixed) {
-  Set(Page({{u"plain", kPlain}, {u"loud", kLoud}}));
+  Set(Page({{u"plain", Plain}, {u"loud", Loud}}));
   Select(4, 2);
   EXPECT_FALSE(box.SelFontName() || box.SelFontSize() || box.SelBold() || box.SelItalic() ||
                box.SelUnderline() || box.SelStrikeThru() || box.SelColor());
@@ -232,7 +258,7 @@ TEST_F(RichTextBoxTest, SelectionReadsAsMixed) {
 }
 
 TEST_F(RichTextBoxTest, SelectionTakesAttributes) {
-  Set(Page({{u"plain", kPlain}, {u"loud", kLoud}}));
+  Set(Page({{u"plain", Plain}, {u"loud", Loud}}));
   Select(3, 4);
   box.SetSelFontName(QStringLiteral("Courier"));
   box.SetSelFontSize(8.25);
@@ -244,13 +270,13 @@ TEST_F(RichTextBoxTest, SelectionTakesAttributes) {
   EXPECT_EQ(Changes(), 7);
   const Document page = TakeDocument(*box.document());
   EXPECT_EQ(page.runs, (std::vector<richtext::Run>{{3, 0}, {4, 1}, {2, 2}}));
-  EXPECT_EQ(page.formats, (std::vector<CharacterFormat>{kPlain, kJournal, kLoud}));
+  EXPECT_EQ(page.formats, (std::vector<CharacterFormat>{Plain, Journal, Loud}));
 }
 
 TEST_F(RichTextBoxTest, UndoStopsAtThePage) {
-  Set(Page({{u"first", kPlain}}));
+  Set(Page({{u"first", Plain}}));
   Type("typed");
-  Set(Page({{u"second", kPlain}}));
+  Set(Page({{u"second", Plain}}));
   for (int i = 0; i < 3; ++i) Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(box.Text(), QStringLiteral("second"));
   EXPECT_EQ(Changes(), 0);
@@ -261,20 +287,19 @@ TEST_F(RichTextBoxTest, UndoStopsAtThePage) {
 
 // Every format and every kind of letter, in paragraphs of every kind, with a picture of each way to be sized.
 Document FullPage() {
-  Document page = Page({{u"a\tb\u2028\u00a0\U0001F600", kPlain},
-                        {u"\ufffc", kLoud},
-                        {u"\ufffc\ufffc\ufffc", kPlain},
+  Document page = Page({{u"a\tb\u2028\u00a0\U0001F600", Plain},
+                        {u"\ufffc", Loud},
+                        {u"\ufffc\ufffc\ufffc", Plain},
                         {u"tail", Font("Tim\xc3\xb6s", 3, 0)}});
   page.formats.push_back(Font("", 96));  // of an empty paragraph, with no font named
   const std::string png = SignedPng();
-  page.pictures = {{PictureKind::Png, png, 301, 77},
-                   {PictureKind::Png, png, 0, 0},
-                   {PictureKind::Png, "no picture", 600, 300},
-                   {PictureKind::Png, png, 0, 90}};
-  page.paragraphFormats = {{Alignment::Left, 0, 0, 0},
-                           {Alignment::Right, 1, 719, -360},
-                           {Alignment::Center, -15, 0, 7},
-                           {Alignment::Justify, 1440, 20, 360}};
+  page.pictures = {{PictureKind::Png, png, {}, 301, 77},
+                   {PictureKind::Png, png, {}, 0, 0},
+                   {PictureKind::Png, "no picture", {}, 600, 300},
+                   {PictureKind::Png, png, {}, 0, 90}};
+  page.paragraphFormats = {Indented(Alignment::Left, 0, 0, 0), Indented(Alignment::Right, 1, 719, -360),
+                           Indented(Alignment::Center, -15, 0, 7),
+                           Indented(Alignment::Justify, 1440, 20, 360)};
   page.paragraphs = {{3, 0, 0}, {5, 1, 1}, {0, 2, 4}, {7, 3, 3}};
   page.runs = {{3, 0}, {4, 0}, {1, 1}, {3, 2}, {4, 3}};
   page.formats[2] = Font("Arial", 21);
@@ -305,7 +330,7 @@ TEST_F(RichTextBoxTest, HoldsWhatThePageHolds) {
 }
 
 TEST_F(RichTextBoxTest, ForeignSignsStayWithinTheirParagraph) {
-  Document page = Page({{u"a\u2029b\nc\ufdd0d\ufffce", kPlain}});
+  Document page = Page({{u"a\u2029b\nc\ufdd0d\ufffce", Plain}});
   FillDocument(page, *box.document());
   page.text = u"a\u2028b\u2028c\ufffdd\ufffde";
   EXPECT_EQ(TakeDocument(*box.document()), page);
@@ -343,7 +368,7 @@ TEST_F(RichTextBoxTest, PasteTakesTheCaretsFormat) {
     data.setImageData(Checkers({2, 2}));
   });
   EXPECT_EQ(box.Text(), QStringLiteral("one\ntwo"));
-  EXPECT_EQ(TakeDocument(*box.document()).formats.at(0), kJournal);
+  EXPECT_EQ(TakeDocument(*box.document()).formats.at(0), Journal);
   box.selectAll();
   Paste([](QMimeData& data) { data.setHtml(QStringLiteral("<b>bold</b><img src='file:///etc/passwd'>")); });
   EXPECT_EQ(box.Text(), QStringLiteral("bold"));

@@ -31,8 +31,8 @@ inline std::string Dump(const CharacterFormat& format) {
 }
 
 inline std::string Dump(const ParagraphFormat& format) {
-  constexpr const char* kAlignments[] = {"", "right", "center", "justify"};
-  std::string words = kAlignments[static_cast<int>(format.alignment)];
+  constexpr const char* Alignments[] = {"", "right", "center", "justify"};
+  std::string words = Alignments[static_cast<int>(format.alignment)];
   const auto add = [&words](const char* name, std::int32_t twips) {
     if (twips != 0) words += (words.empty() ? "" : " ") + std::string(name) + std::to_string(twips);
   };
