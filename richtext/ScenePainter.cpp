@@ -16,7 +16,7 @@ namespace {
 
 // A window may be larger than the bitmap in it, as for an icon above its name; one far larger shows only
 // paper.
-constexpr double MaxPaper = 64;
+constexpr double MaxPaper = 16;
 
 struct Frame {
   double left, top, right, bottom;
