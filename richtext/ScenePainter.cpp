@@ -149,11 +149,26 @@ class Painter {
     }
     const double width = std::max(1.0, std::round((frame.right - frame.left) * scaleX));
     const double height = std::max(1.0, std::round((frame.bottom - frame.top) * scaleY));
+    if (ShowsItsBitmapWhole(width, height)) {
+      canvas_ = std::move(stamps_.front().bitmap);
+      stamps_.clear();
+      return true;
+    }
     if (width * height > std::min(pixels * MaxPaper, double(pixelsLeft_))) return false;
     frame_ = frame;
     canvas_ = {int(width), int(height), std::vector<std::uint32_t>(std::size_t(width * height))};
     pixelsLeft_ -= canvas_.argb.size();
     return true;
+  }
+
+  // The usual case: the one bitmap is the picture.
+  bool ShowsItsBitmapWhole(double width, double height) const {
+    const Stamp& stamp = stamps_.front();
+    const bool upright =
+        !stamp.mirroredX && !stamp.mirroredY && stamp.source.left == 0 && stamp.source.top == 0;
+    const bool whole = stamp.source.width == stamp.bitmap.width && stamp.source.height == stamp.bitmap.height;
+    return stamps_.size() == 1 && stamp.mixing == Mixing::Copy && upright && whole &&
+           width == stamp.bitmap.width && height == stamp.bitmap.height;
   }
 
   Stretch Columns(const Stamp& stamp) const {
