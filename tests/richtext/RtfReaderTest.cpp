@@ -120,7 +120,7 @@ TEST(RtfReader, ReadsFontsSizesAndColors) {
 TEST(RtfReader, ReadsCharacterAndParagraphFormats) {
   ExpectEach({
       {R"({\rtf1 a\b b\i c\b0 d\i0 e})", "a(b)b(b i)c(i)d()e"},
-      {R"({\rtf1\ul a\ulnone b\ulwave c\ul0 d\uld e\ulw0 f})", "(u)a()b(u)c()d(u)e()f"},
+      {R"({\rtf1\ul a\ulnone b\ulwave c\ul0 d\uld e\ulw0 f})", "(u)a()b(u-wave)c()d(u-dotted)e()f"},
       {R"({\rtf1\strike a\strike0 b\striked1 c\plain d})", "(s)a()b(s)c()d"},
       {R"({\rtf1 a{\b b{\i c}d}e})", "a(b)b(b i)c(b)d()e"},
       {R"({\rtf1\qc a\par b\par\pard\qr c\par\qj d\par\ql e\par})",
@@ -149,7 +149,7 @@ TEST(RtfReader, ReadsPictures) {
       {R"({\rtf1{\*\shppict{\pict{\*\picprop{\sp{\sn a}{\sv 1}}}\pngblip{\*\blipuid 0123}00ff}}{\nonshppict{\pict\wmetafile8 0011}}})",
        "<png 2 0x0>"},
       {R"({\rtf1\b{\object\objemb{\*\objdata 0105}{\result{\pict\pngblip 00}}}})", "(b)<png 1 0x0>"},
-      {R"({\rtf1 a{\pict\pngblip}b{\pict\wmetafile8 0100}c{\pict\pngblip zz}d})", "abcd"},
+      {R"({\rtf1 a{\pict\pngblip}b{\pict\pngblip zz}c})", "abc"},
   });
 }
 

@@ -59,7 +59,8 @@ TEST(RtfWriter, WritesTheClassicShape) {
       "\\pard\\fi-360\\li720\\qc\\cf1\\ul red\\cf0\\ulnone\\tab\\f1\\u945?\\u955?\\fs40 big\\f0\\fs20\\line "
       "next\\par\r\n"
       "\\pard{\\pict\\pngblip\\picwgoal300\\pichgoal150\r\n89504e47\r\n}\\strike gone\\strike0  "
-      "\\u-10179?\\u-8704?\\par\r\nthere\\i\\par\r\n\\i0\\par\r\n}\r\n");
+      "\\u-10179?\\u-8704?\\par\r\n{\\field{\\*\\fldinst{HYPERLINK \"x\"}}{\\fldrslt "
+      "there}}\\i\\par\r\n\\i0\\par\r\n}\r\n");
 }
 
 TEST(RtfWriter, EscapesWhatIsNotPlainText) {
