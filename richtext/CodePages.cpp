@@ -1,8 +1,13 @@
 #include "richtext/CodePages.h"
 
+#include <algorithm>
+#include <iterator>
+#include <map>
+#include <mutex>
 #include <vector>
 
 #include "richtext/CodePageTables.h"
+#include "richtext/PageConversion.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
@@ -31,11 +36,26 @@ struct CharsetPage {
   std::int32_t page;
 };
 
-constexpr std::array<CharsetPage, 19> Charsets{{
-    {0, 1252},   {2, SymbolPage}, {77, MacintoshPage}, {128, 932},  {129, 949},  {130, 1361}, {134, 936},
-    {136, 950},  {161, 1253},     {162, 1254},         {163, 1258}, {177, 1255}, {178, 1256}, {186, 1257},
-    {204, 1251}, {222, 874},      {238, 1250},         {254, 437},  {255, 850},
-}};
+constexpr CharsetPage Charsets[] = {
+    {0, 1252},   {2, SymbolPage}, {77, MacintoshPage}, {78, 932},   {79, 949},   {80, 936},   {81, 950},
+    {88, 10029}, {89, 10007},     {128, 932},          {129, 949},  {130, 1361}, {134, 936},  {136, 950},
+    {161, 1253}, {162, 1254},     {163, 1258},         {177, 1255}, {178, 1256}, {186, 1257}, {204, 1251},
+    {222, 874},  {238, 1250},     {254, 437},          {255, 850},
+};
+
+struct Alias {
+  std::int32_t number;
+  std::int32_t page;
+};
+
+// Pages that differ from others in a few rare signs only.
+constexpr Alias Aliases[] = {{10001, 932}, {10002, 950},  {10003, 949},
+                             {10008, 936}, {20127, 1252}, {28591, 1252}};
+
+// Pages of single bytes that are rare enough to be left to the C library.
+constexpr std::int32_t RarePages[] = {737,   775,   852,   855,   857,   860,   861,   862,   863,   864,
+                                      865,   866,   869,   10007, 10017, 10029, 10079, 20866, 21866, 28592,
+                                      28593, 28594, 28595, 28596, 28597, 28598, 28599, 28603, 28605};
 
 // The lower half, the same in every page: of the control characters only the blanks mean something in text.
 CodePage PageOfAscii(std::int32_t number) {
@@ -66,10 +86,71 @@ CodePage PageOfPairs(const DoubleBytePage& pairs) {
   for (const ByteRange& range : pairs.leads)
     for (std::size_t byte = range.first; range.first != 0 && byte <= range.last; ++byte)
       page.units[byte] = CodePage::LeadByte;
+  if (pairs.number == 936) page.units[0x80] = 0x20AC;
   if (pairs.number == 932)
     for (std::size_t byte = 0xA1; byte <= 0xDF; ++byte)
       page.units[byte] = static_cast<char16_t>(0xFEC0 + byte);
   return page;
+}
+
+CodePage PageOfUtf8() {
+  CodePage page = PageOfAscii(Utf8Page);
+  for (std::size_t byte = 128; byte < 256; ++byte)
+    page.units[byte] = byte >= 0xC2 && byte <= 0xF4 ? CodePage::LeadByte : Replacement;
+  return page;
+}
+
+CodePage ConvertedPage(std::int32_t number) {
+  CodePage page = PageOfAscii(number);
+  const PageConversion conversion(number);
+  for (std::size_t byte = 128; byte < 256; ++byte) {
+    const auto character = static_cast<char>(byte);
+    page.units[byte] = conversion.UnitOf({&character, 1});
+  }
+  return page;
+}
+
+const CodePage* FindRarePage(std::int32_t number) {
+  static std::mutex mutex;
+  static std::map<std::int32_t, CodePage> pages;
+  if (std::find(std::begin(RarePages), std::end(RarePages), number) == std::end(RarePages)) return nullptr;
+  const std::lock_guard lock(mutex);
+  const auto known = pages.find(number);
+  return &(known != pages.end() ? known : pages.emplace(number, ConvertedPage(number)).first)->second;
+}
+
+// All pairs of a page, made when the first one is met.
+class PairTable {
+ public:
+  explicit PairTable(std::int32_t page) : page_(page) {}
+
+  char16_t At(unsigned char lead, unsigned char trail) {
+    std::call_once(made_, [this] { Make(); });
+    return units_[lead * 256U + trail];
+  }
+
+ private:
+  void Make() {
+    units_.resize(65536, Replacement);
+    const PageConversion conversion(page_);
+    for (std::size_t lead = 0x81; lead < 0xFF; ++lead)
+      for (std::size_t trail = 0x31; trail < 0xFF; ++trail) {
+        const char bytes[] = {static_cast<char>(lead), static_cast<char>(trail)};
+        units_[lead * 256 + trail] = conversion.UnitOf({bytes, 2});
+      }
+  }
+
+  std::int32_t page_;
+  std::once_flag made_;
+  std::vector<char16_t> units_;
+};
+
+PairTable& PairsOf(std::int32_t page) {
+  static std::array<PairTable, 5> tables{PairTable(932), PairTable(936), PairTable(949), PairTable(950),
+                                         PairTable(1361)};
+  for (std::size_t i = 0; i < DoubleBytePages.size(); ++i)
+    if (DoubleBytePages[i].number == page) return tables[i];
+  return tables[0];
 }
 
 const std::vector<CodePage>& AllPages() {
@@ -78,6 +159,7 @@ const std::vector<CodePage>& AllPages() {
     for (const UpperHalf& upper : UpperHalves) made.push_back(SingleBytePage(upper));
     for (const DoubleBytePage& pairs : DoubleBytePages) made.push_back(PageOfPairs(pairs));
     made.push_back(PageOfSymbols());
+    made.push_back(PageOfUtf8());
     return made;
   }();
   return pages;
@@ -86,9 +168,11 @@ const std::vector<CodePage>& AllPages() {
 }  // namespace
 
 const CodePage* FindCodePage(std::int32_t number) {
+  for (const Alias& alias : Aliases)
+    if (alias.number == number) number = alias.page;
   for (const CodePage& page : AllPages())
     if (page.number == number) return &page;
-  return nullptr;
+  return FindRarePage(number);
 }
 
 const CodePage& WesternCodePage() {
@@ -102,8 +186,8 @@ std::int32_t CodePageOfCharset(std::int32_t charset) {
   return 0;
 }
 
-char16_t DoubleByteUnit(const CodePage& /*page*/, unsigned char /*lead*/, unsigned char /*trail*/) {
-  return Replacement;
+char16_t DoubleByteUnit(const CodePage& page, unsigned char lead, unsigned char trail) {
+  return PairsOf(page.number).At(lead, trail);
 }
 
 }  // namespace richtext

@@ -9,8 +9,10 @@ namespace richtext {
 constexpr std::int32_t WesternPage = 1252;
 constexpr std::int32_t MacintoshPage = 10000;
 constexpr std::int32_t SymbolPage = 42;
+constexpr std::int32_t Utf8Page = 65001;
 
-// What each byte means. Two entries are no characters: a byte that is passed over, and the first byte of two.
+// What each byte means. Two entries are no characters: a byte that is passed over, and the first byte of
+// several.
 struct CodePage {
   static constexpr char16_t Nothing = 0xFFFF;
   static constexpr char16_t LeadByte = 0xFFFE;
@@ -31,8 +33,7 @@ constexpr bool IsTrailByte(unsigned char byte) {
   return byte > 0x30 && byte != 0x7F && byte != 0xFF;
 }
 
-// The character of a lead byte and the byte after it. The double-byte tables are not carried: a pair is known
-// to be one character, and shows as U+FFFD.
+// The character of a lead byte and the byte after it, in a page of such pairs.
 char16_t DoubleByteUnit(const CodePage& page, unsigned char lead, unsigned char trail);
 
 }  // namespace richtext

@@ -36,6 +36,7 @@ void RtfTextDecoder::AppendBytes(std::string_view bytes, const CodePage& page, s
 // A byte that is no character by itself. One that cannot be a second half stands for itself, so that a lead
 // byte in the wrong place takes no text with it.
 char16_t* RtfTextDecoder::PutRareByte(unsigned char byte, const CodePage& page, char16_t* to) {
+  if (page.number == Utf8Page) return PutUtf8Byte(byte, page, to);
   const unsigned char lead = std::exchange(leadByte_, 0);
   if (lead != 0) *to++ = DoubleByteUnit(page, lead, byte);
   if (lead != 0 && IsTrailByte(byte)) return to;
@@ -45,6 +46,29 @@ char16_t* RtfTextDecoder::PutRareByte(unsigned char byte, const CodePage& page, 
   } else if (unit != CodePage::Nothing) {
     *to++ = unit;
   }
+  return to;
+}
+
+char16_t* RtfTextDecoder::PutUtf8Byte(unsigned char byte, const CodePage& page, char16_t* to) {
+  const bool isTail = (byte & 0xC0) == 0x80;
+  if (leadByte_ != 0 && isTail) {
+    code_ = (code_ << 6) | (byte & 0x3FU);
+    if (--tailsLeft_ > 0) return to;
+    leadByte_ = 0;
+    std::u16string character;
+    AppendCodePoint(code_, character);
+    for (const char16_t unit : character) *to++ = unit == LineBreak ? unit : TextUnit(unit);
+    return to;
+  }
+  if (std::exchange(leadByte_, 0) != 0) *to++ = Replacement;
+  const char16_t unit = page.units[byte];
+  if (unit != CodePage::LeadByte) {
+    if (unit != CodePage::Nothing) *to++ = unit;
+    return to;
+  }
+  leadByte_ = byte;
+  tailsLeft_ = byte < 0xE0 ? 1 : byte < 0xF0 ? 2 : 3;
+  code_ = byte & (0x3FU >> tailsLeft_);
   return to;
 }
 
