@@ -1,142 +1,14 @@
 // The text box as a person uses it: shown, with real keys and clicks.
-#include <gtest/gtest.h>
-
-#include <QtCore/QBuffer>
-#include <QtCore/QMimeData>
 #include <QtCore/QTemporaryFile>
-#include <QtGui/QClipboard>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
 
-#include "richtext/BoxDocument.h"
-#include "richtext/RichTextBox.h"
-#include "richtext/RtfReader.h"
-#include "richtext/RtfWriter.h"
+#include "BoxFixture.h"
 #include "richtext/SmallPng.h"
 
 namespace richtext {
 namespace {
 
-CharacterFormat Font(const char* name, int halfPoints, std::optional<std::uint32_t> color = {}) {
-  CharacterFormat format;
-  format.fontName = name;
-  format.halfPoints = halfPoints;
-  format.color = color;
-  return format;
-}
-
-CharacterFormat LoudFont() {
-  CharacterFormat format = Font("No Such Font", 37, 0x0000ff);
-  format.bold = format.italic = format.strikethrough = true;
-  format.underline = UnderlineKind::Single;
-  return format;
-}
-
-CharacterFormat JournalFont() {
-  CharacterFormat format = Font("Courier", 17, 0x00ff0000);
-  format.bold = true;
-  return format;
-}
-
-ParagraphFormat Indented(Alignment alignment, int left, int right, int first) {
-  ParagraphFormat format;
-  format.alignment = alignment;
-  format.leftIndent = left;
-  format.rightIndent = right;
-  format.firstLineIndent = first;
-  return format;
-}
-
-const CharacterFormat Plain = Font("Arial", 20);
-const CharacterFormat Loud = LoudFont();
-const CharacterFormat Journal = JournalFont();
-
-// One paragraph of runs.
-Document Page(const std::vector<std::pair<std::u16string, CharacterFormat>>& runs) {
-  Document page;
-  for (const auto& [text, format] : runs) {
-    page.runs.push_back({std::uint32_t(text.size()), std::uint32_t(page.formats.size())});
-    page.text += text;
-    page.formats.push_back(format);
-  }
-  page.paragraphFormats = {ParagraphFormat{}};
-  page.paragraphs = {{std::uint32_t(page.text.size()), 0, std::uint32_t(page.formats.size()) - 1}};
-  return page;
-}
-
-QImage Checkers(QSize size) {
-  QImage image(size, QImage::Format_ARGB32);
-  for (int y = 0; y < size.height(); ++y)
-    for (int x = 0; x < size.width(); ++x) image.setPixel(x, y, (x ^ y) & 1 ? 0xffcc2200 : 0xff0022cc);
-  return image;
-}
-
-// A PNG file with a text of its own, which nobody who encodes the picture anew would write again.
-std::string SignedPng() {
-  QImage image = Checkers({8, 6});
-  image.setText(QStringLiteral("Author"), QStringLiteral("someone"));
-  QByteArray file;
-  QBuffer buffer(&file);
-  image.save(&buffer, "PNG");
-  return file.toStdString();
-}
-
-class RichTextBoxTest : public testing::Test {
- protected:
-  RichTextBoxTest() {
-    box.resize(400, 300);
-    box.show();
-    box.activateWindow();
-    box.setFocus();
-    QObject::connect(&box, &RichTextBox::Change, [this] { ++changes_; });
-    QObject::connect(&box, &RichTextBox::MousePressed, [this] { ++presses; });
-  }
-
-  // The notifications since the last call, those that come late included.
-  int Changes() {
-    QApplication::processEvents();
-    return std::exchange(changes_, 0);
-  }
-  void Set(const Document& page) {
-    box.SetTextRTF(WriteRtf(page));
-    changes_ = 0;
-  }
-  void Type(const char* keys) { QTest::keyClicks(&box, QString::fromLatin1(keys)); }
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(&box, key, modifiers);
-  }
-  void Select(int start, int length) {
-    box.SetSelStart(start);
-    box.SetSelLength(length);
-  }
-  void GiveJournalFont() {
-    box.SetSelStart(1 << 30);
-    box.SetSelFontName(QStringLiteral("Courier"));
-    box.SetSelFontSize(8.25);
-    box.SetSelBold(true);
-    box.SetSelColor(0x00ff0000);
-  }
-  // The format of the letter before a position.
-  CharacterFormat FormatAt(int position) {
-    QTextCursor letter(box.document());
-    letter.setPosition(position - 1);
-    letter.setPosition(position, QTextCursor::KeepAnchor);
-    return TakeSelection(letter).formats.at(0);
-  }
-  void Paste(const std::function<void(QMimeData&)>& offer) {
-    auto* data = new QMimeData;
-    offer(*data);
-    QApplication::clipboard()->setMimeData(data);
-    Press(Qt::Key_V, Qt::ControlModifier);
-  }
-
-  RichTextBox box;
-  int presses = 0;
-
- private:
-  int changes_ = 0;
-};
+using RichTextBoxTest = BoxTest;
 
 TEST_F(RichTextBoxTest, EverySetIsOneChange) {
   for (const char* rtf : {"", "", "{\\rtf1 a}", "{\\rtf1 a}", "plain", ""}) {
@@ -309,20 +181,8 @@ Document FullPage() {
 TEST_F(RichTextBoxTest, HoldsWhatThePageHolds) {
   const Document page = FullPage();
   FillDocument(page, *box.document());
-  Document taken = TakeDocument(*box.document());
-  EXPECT_EQ(taken.text, page.text);
-  EXPECT_EQ(taken.pictures, page.pictures);
-  // The numbers of the formats may differ, what they stand for may not.
-  const auto formats = [](const Document& of) {
-    std::vector<std::pair<std::uint32_t, CharacterFormat>> runs;
-    for (const richtext::Run& run : of.runs) runs.emplace_back(run.length, of.formats[run.format]);
-    for (const Paragraph& paragraph : of.paragraphs)
-      runs.emplace_back(paragraph.length, of.formats[paragraph.markFormat]);
-    return runs;
-  };
-  EXPECT_EQ(formats(taken), formats(page));
-  ASSERT_EQ(taken.paragraphs.size(), page.paragraphs.size());
-  EXPECT_EQ(taken.paragraphFormats, page.paragraphFormats);
+  const Document taken = Taken();
+  ExpectSame(taken, page);
   QApplication::processEvents();
   EXPECT_EQ(TakeDocument(*box.document()), taken) << "drawing it changed it";
   box.SetTextRTF(WriteRtf(taken));
@@ -347,46 +207,6 @@ TEST_F(RichTextBoxTest, TextCountsAsTheSelectionDoes) {
   Select(text.indexOf(u't'), 4);
   Type("x");
   EXPECT_TRUE(box.Text().endsWith(QStringLiteral("\ufffcx")));
-}
-
-TEST_F(RichTextBoxTest, CopyAndPasteKeepTheFormats) {
-  FillDocument(FullPage(), *box.document());
-  const Document before = TakeDocument(*box.document());
-  box.selectAll();
-  Press(Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("a\tb\n\n\u00a0\U0001F600\n\ntail"));
-  box.SetTextRTF("");
-  Press(Qt::Key_V, Qt::ControlModifier);
-  EXPECT_EQ(TakeDocument(*box.document()), before);
-}
-
-TEST_F(RichTextBoxTest, PasteTakesTheCaretsFormat) {
-  GiveJournalFont();
-  Paste([](QMimeData& data) {
-    data.setText(QStringLiteral("one\ntwo\ufffc"));
-    data.setHtml(QStringLiteral("<p style='color:white;background:black'>one<br>two</p>"));
-    data.setImageData(Checkers({2, 2}));
-  });
-  EXPECT_EQ(box.Text(), QStringLiteral("one\ntwo"));
-  EXPECT_EQ(TakeDocument(*box.document()).formats.at(0), Journal);
-  box.selectAll();
-  Paste([](QMimeData& data) { data.setHtml(QStringLiteral("<b>bold</b><img src='file:///etc/passwd'>")); });
-  EXPECT_EQ(box.Text(), QStringLiteral("bold"));
-}
-
-TEST_F(RichTextBoxTest, PastedBitmapIsASmallPng) {
-  const QImage image = Checkers({64, 32});
-  Paste([&](QMimeData& data) {
-    data.setImageData(image);
-    data.setHtml(QStringLiteral("<img src='http://example.invalid/a.png'>"));
-  });
-  const Document page = TakeDocument(*box.document());
-  ASSERT_EQ(page.pictures.size(), 1u);
-  const Picture& picture = page.pictures[0];
-  EXPECT_EQ(std::pair(picture.widthTwips, picture.heightTwips), std::pair(64 * 15, 32 * 15));
-  EXPECT_LT(picture.bytes.size(), 200u);
-  QImage stored = QImage::fromData(QByteArray::fromStdString(picture.bytes));
-  EXPECT_EQ(stored.convertToFormat(QImage::Format_ARGB32), image);
 }
 
 TEST(SmallPngTest, KeepsEveryPixel) {
