@@ -2,6 +2,7 @@
 //
 //   rtfcat --text FILE      its plain text, in UTF-8
 //   rtfcat --rewrite FILE   the RTF that a page with its content is stored as
+//   rtfcat --box FILE       the same after a way through the text box's document; needs no display
 //
 // Status 1 when the file cannot be read, 2 when it is called in another way.
 #include <array>
@@ -12,6 +13,10 @@
 #include <string>
 #include <string_view>
 
+#include <QtGui/QGuiApplication>
+#include <QtGui/QTextDocument>
+
+#include "richtext/BoxDocument.h"
 #include "richtext/PlainText.h"
 #include "richtext/RtfReader.h"
 #include "richtext/RtfWriter.h"
@@ -33,10 +38,23 @@ std::optional<std::string> ReadWhole(const char* path) {
   return bytes;
 }
 
+std::string ThroughBox(const std::string& rtf) {
+  char name[] = "rtfcat";
+  char option[] = "-platform";
+  char platform[] = "offscreen";
+  char* arguments[] = {name, option, platform, nullptr};
+  int count = 3;
+  const QGuiApplication application(count, arguments);
+  QTextDocument box;
+  richtext::FillDocument(richtext::ReadRtf(rtf), box);
+  return richtext::WriteRtf(richtext::TakeDocument(box));
+}
+
 std::optional<std::string> Converted(std::string_view way, const std::string& rtf) {
   using namespace richtext;
   if (way == "--text") return PlainText(ReadRtf(rtf));
   if (way == "--rewrite") return WriteRtf(ReadRtf(rtf));
+  if (way == "--box") return ThroughBox(rtf);
   return std::nullopt;
 }
 
@@ -44,8 +62,8 @@ std::optional<std::string> Converted(std::string_view way, const std::string& rt
 
 int main(int count, char** arguments) {
   const std::string_view way = count == 3 ? arguments[1] : "";
-  if (!Converted(way, {})) {
-    std::fprintf(stderr, "usage: rtfcat --text|--rewrite FILE\n");
+  if (way != "--text" && way != "--rewrite" && way != "--box") {
+    std::fprintf(stderr, "usage: rtfcat --text|--rewrite|--box FILE\n");
     return 2;
   }
   const std::optional<std::string> rtf = ReadWhole(arguments[2]);
