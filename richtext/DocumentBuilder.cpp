@@ -81,10 +81,9 @@ void DocumentBuilder::ClaimText(std::uint32_t format) {
   claimed_ = document_.text.size();
 }
 
-void DocumentBuilder::AddPicture(Picture picture, std::uint32_t format) {
+void DocumentBuilder::AddPicture(Picture picture) {
   document_.pictures.push_back(std::move(picture));
   document_.text += PictureMark;
-  ClaimText(format);
 }
 
 void DocumentBuilder::EndParagraph(std::uint32_t paragraphFormat, std::uint32_t markFormat) {

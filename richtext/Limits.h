@@ -26,8 +26,9 @@ constexpr std::size_t MaxTableEntries = 65'536;
 
 constexpr std::size_t MaxFontName = 64;  // UTF-16 units; every format holds its font's name
 
-constexpr std::size_t MaxListText = 32;  // UTF-16 units before or behind a list's number
-constexpr std::size_t MaxLink = 2048;    // bytes; a longer one is none, as half an address leads nowhere
+constexpr std::size_t MaxListText = 32;         // UTF-16 units before or behind a list's number
+constexpr std::size_t MaxLinkText = 1'000'000;  // bytes of all links, as often as they are written
+constexpr std::size_t MaxLink = 2048;  // bytes; a longer one is none, as half an address leads nowhere
 
 constexpr std::int32_t FittingIndent(std::int32_t twips) {
   return std::clamp(twips, -MaxIndent, MaxIndent);

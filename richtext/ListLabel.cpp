@@ -14,11 +14,12 @@ struct Sign {
   char16_t character;
 };
 
-// What stands at these places of Symbol and Wingdings; a middle dot is a bullet whose font was lost.
-constexpr Sign Signs[] = {{0xF0B7, Bullet}, {0xB7, Bullet},   {0xF0A7, 0x25AA}, {0xF0A8, 0x25FB},
-                          {0xF0D8, 0x27A2}, {0xF0FC, 0x2714}, {0xF076, 0x2756}, {0xF06E, 0x25A0},
-                          {0xF06C, 0x25CF}, {0xF071, 0x2751}, {0xF0E0, 0x2192}, {0xF06F, 0x25A1},
-                          {0xF02D, u'-'}};
+// What stands at these places of Symbol and Wingdings.
+constexpr Sign Signs[] = {{0xF0B7, Bullet}, {0xF0A7, 0x25AA}, {0xF0A8, 0x25FB}, {0xF0D8, 0x27A2},
+                          {0xF0FC, 0x2714}, {0xF076, 0x2756}, {0xF06E, 0x25A0}, {0xF06C, 0x25CF},
+                          {0xF071, 0x2751}, {0xF0E0, 0x2192}, {0xF06F, 0x25A1}, {0xF02D, u'-'}};
+
+constexpr char16_t MiddleDot = 0xB7;  // a bullet whose font was lost
 
 constexpr std::u16string_view Bullets =
     u"\u2022\u00B7*-\u2013\u2014\u2023\u2043\u2192\u2219\u25A0\u25A1\u25AA\u25AB\u25B6\u25BA\u25C6\u25C7"
@@ -26,12 +27,6 @@ constexpr std::u16string_view Bullets =
 
 constexpr bool IsPrivate(char16_t unit) {
   return unit >= 0xE000 && unit <= 0xF8FF;
-}
-
-char16_t BulletCharacter(char16_t unit) {
-  for (const Sign& sign : Signs)
-    if (sign.symbol == unit) return sign.character;
-  return IsPrivate(unit) ? Bullet : unit;
 }
 
 constexpr bool IsDigit(char16_t unit) {
@@ -148,14 +143,21 @@ std::optional<ListFormat> ListOfNumber(std::u16string_view counted) {
 
 }  // namespace
 
+char16_t ShownBullet(char16_t unit) {
+  for (const Sign& sign : Signs)
+    if (sign.symbol == unit) return sign.character;
+  return IsPrivate(unit) ? Bullet : unit;
+}
+
 ListFormat BulletList(std::u16string_view text) {
   ListFormat list;
   list.kind = ListKind::Bullet;
   const std::u16string clean = FittingListText(Trimmed(text));
   const bool pair = clean.size() > 1 && IsHighSurrogate(clean[0]);
-  list.before = pair                               ? clean.substr(0, 2)
-                : clean.empty() || clean[0] < u' ' ? std::u16string(1, Bullet)
-                                                   : std::u16string(1, BulletCharacter(clean[0]));
+  list.before = pair ? clean.substr(0, 2)
+                : clean.empty() || clean[0] < u' '
+                    ? std::u16string(1, Bullet)
+                    : std::u16string(1, clean[0] == MiddleDot ? Bullet : ShownBullet(clean[0]));
   return list;
 }
 

@@ -13,8 +13,12 @@ namespace richtext {
 
 constexpr char16_t Bullet = 0x2022;
 
-// A list of bullets, each the first character of `text`: the signs that symbol fonts are used for come as
-// characters of any font, and what has no sign becomes U+2022.
+// A sign of Symbol or Wingdings as a character of any font: what has none becomes U+2022. Every other
+// character stays.
+char16_t ShownBullet(char16_t unit);
+
+// A list of bullets, each the first character of `text` as any font shows it, and U+2022 when there is
+// none.
 ListFormat BulletList(std::u16string_view text);
 
 // `list` as a document can hold it: nothing is told that its kind does not use, and all is within Limits.h.

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "richtext/Hyperlink.h"
+#include "richtext/ListLabel.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
@@ -89,8 +90,7 @@ void RtfContext::Finish(Destination ended) {
       numbering_.list.after = aside_;
       return;
     case Destination::Numbering:
-      ChangeParagraph().numbering = paragraphs_.NumberOf(numbering_);
-      return;
+      return FinishNumbering();
     case Destination::FieldInstruction:
       State().fieldLink = links_.NumberOf(LinkOfInstruction(ToUtf8(aside_)));
       return;
@@ -101,6 +101,12 @@ void RtfContext::Finish(Destination ended) {
     default:
       return;
   }
+}
+
+void RtfContext::FinishNumbering() {
+  ParagraphState& paragraph = ChangeParagraph();
+  if (numbering_.list.level != 0) paragraph.listLevel = std::exchange(numbering_.list.level, 0);
+  paragraph.numbering = paragraphs_.NumberOf(numbering_);
 }
 
 void RtfContext::FinishLevelText() {
@@ -234,6 +240,7 @@ void RtfContext::EndParagraph() {
   SettleLabel();
   EndText();
   builder_.EndParagraph(ParagraphNumber(), MarkNumber());
+  openLink_ = 0;
 }
 
 void RtfContext::EndCell() {
@@ -259,7 +266,7 @@ void RtfContext::SettleLabel() {
   if (kind == LabelKind::None || paragraphs_.IsListed(State().paragraph)) return;
   if (kind == LabelKind::ListText) labelList_ = paragraphs_.NumberOfLabel(label_);
   if (labelList_ != 0) return;
-  for (const char16_t unit : label_) decoder_.AppendUnit(unit, builder_.Text());
+  for (const char16_t unit : label_) decoder_.AppendUnit(ShownBullet(unit), builder_.Text());
   ClaimText();
 }
 
@@ -312,7 +319,15 @@ std::uint32_t RtfContext::ParagraphNumber() {
 void RtfContext::ClaimText() {
   if (!builder_.HasUnclaimedText()) return;
   openParagraph_ = State().paragraph;
+  if (State().character.link != openLink_) CountLink();
   builder_.ClaimText(FormatNumber());
+}
+
+// A link is told anew in every paragraph and behind other text.
+void RtfContext::CountLink() {
+  linkText_ += links_.At(State().character.link).size();
+  if (linkText_ > MaxLinkText) ChangeCharacter().link = 0;
+  openLink_ = State().character.link;
 }
 
 // The picture stands in the group around it.
@@ -321,8 +336,9 @@ void RtfContext::PutPicture() {
   if (!picture || State().destination != Destination::Body) return;
   SettleLabel();
   EndText();
-  openParagraph_ = State().paragraph;
-  builder_.AddPicture(std::move(*picture), FormatNumber());
+  modernPicture_ = true;
+  builder_.AddPicture(std::move(*picture));
+  ClaimText();
 }
 
 }  // namespace richtext

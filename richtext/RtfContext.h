@@ -22,6 +22,7 @@ class RtfContext {
   RtfFontTable& Fonts() { return fonts_; }
   RtfColorTable& Colors() { return colors_; }
   RtfPictureReader& PictureInHand() { return picture_; }
+  bool& ModernPicture() { return modernPicture_; }  // whether a picture came since a \shppict began
   RtfParagraphs& Paragraphs() { return paragraphs_; }
   RtfNumbering& NumberingInHand() { return numbering_; }
 
@@ -74,19 +75,24 @@ class RtfContext {
   std::uint32_t ParagraphNumber();
   std::u16string* TextInHand();
   void Finish(Destination ended);
+  void FinishNumbering();
   void FinishLevelText();
   void SettleLabel();
   void EndText();
   void ClaimText();
+  void CountLink();
   void PutPicture();
 
   GroupStack groups_;
   RtfFontTable fonts_;
   RtfColorTable colors_;
   RtfPictureReader picture_;
+  bool modernPicture_ = false;
   RtfTextDecoder decoder_;
   RtfParagraphs paragraphs_;
   RtfLinks links_;
+  std::uint32_t openLink_ = 0;  // of the text met last, in the open paragraph
+  std::size_t linkText_ = 0;    // bytes, as of MaxLinkText
   RtfNumbering numbering_;
   DocumentBuilder builder_;
   std::u16string aside_;  // text of the group that is set aside

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include "richtext/RtfContext.h"
 
@@ -197,6 +198,14 @@ inline void NumberingBody(Context& context, Number, Number) {
   if (kind == ListKind::None) kind = ListKind::Decimal;
 }
 
+// 1 to 9 are levels; 10 and 11 are lists without levels, 11 of bullets.
+inline void NumberingLevel(Context& context, Number, Number level) {
+  ListFormat& list = context.NumberingInHand().list;
+  if (level == 11) list.kind = ListKind::Bullet;
+  if (list.kind == ListKind::None) list.kind = ListKind::Decimal;
+  if (level <= MaxListLevel + 1) list.level = std::max(level - 1, 0);
+}
+
 inline void NumberingStart(Context& context, Number, Number start) {
   context.NumberingInHand().list.start = start;
 }
@@ -242,6 +251,15 @@ inline void ShapeText(Context& context, Number, Number) {
 // \upr says the same twice: in bytes, which are passed over, and after \ud in Unicode.
 inline void UnicodeTwin(Context& context, Number, Number) {
   if (context.State().destination == Destination::Discard) context.SendTextTo(context.State().around);
+}
+
+inline void ModernPicture(Context& context, Number, Number) {
+  context.ModernPicture() = false;
+}
+
+// The same picture again, for older readers.
+inline void OlderPicture(Context& context, Number, Number) {
+  if (std::exchange(context.ModernPicture(), false)) context.SkipGroup();
 }
 
 inline void PictureGroup(Context& context, Number, Number) {

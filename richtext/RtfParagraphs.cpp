@@ -11,7 +11,8 @@ namespace richtext {
 namespace {
 
 constexpr std::int32_t SingleLine = 240;
-constexpr std::size_t MaxTabWords = 4'000'000;
+// Room for the tab stops of each format that a document can hold, one by one.
+constexpr std::size_t MaxTabNodes = MaxFormats * MaxTabStops;
 
 // How \sl and \slmult tell it: a negative number is exact.
 void SetLineSpacing(const ParagraphState& state, ParagraphFormat& format) {
@@ -43,10 +44,13 @@ std::int32_t RtfListCounter::Count(std::int32_t list, std::int32_t level, std::i
 }
 
 std::uint32_t RtfParagraphs::AddTab(std::uint32_t tabs, TabStop tab) {
-  if (tabs_.size() == MaxTabWords) return tabs;
   tab.position = FittingIndent(tab.position);
+  const auto place = static_cast<std::uint64_t>(tab.position + MaxIndent);
+  const std::uint64_t key = (std::uint64_t{tabs} << 32) | (place << 8) | static_cast<std::uint64_t>(tab.kind);
+  if (const auto known = tabNumbers_.find(key); known != tabNumbers_.end()) return known->second;
+  if (tabs_.size() == MaxTabNodes) return tabs;
   tabs_.push_back({tab, tabs});
-  return static_cast<std::uint32_t>(tabs_.size());
+  return tabNumbers_[key] = static_cast<std::uint32_t>(tabs_.size());
 }
 
 // Those told last outrank those before, of one place and when there are too many.
@@ -112,11 +116,13 @@ ParagraphFormat RtfParagraphs::FormatOf(const ParagraphState& state) const {
 
 ParagraphFormat RtfParagraphs::FormatOfNext(const ParagraphState& state) {
   ParagraphFormat format = FormatOf(state);
-  const bool inTable = state.listNumber != 0 && format.list.kind != ListKind::None;
-  if (!inTable || !lists_.Has(state.listNumber)) {
+  const bool counted = state.listNumber != 0 && lists_.Has(state.listNumber);
+  if (!counted || format.list.kind == ListKind::None) {
     counter_.Interrupt();
-  } else if (format.list.kind != ListKind::Bullet) {
-    format.list.start = counter_.Count(lists_.ListId(state.listNumber), state.listLevel, format.list.start);
+  } else {
+    const std::int32_t list = lists_.ListId(state.listNumber);
+    const std::int32_t start = counter_.Count(list, state.listLevel, format.list.start);
+    if (format.list.kind != ListKind::Bullet) format.list.start = start;
   }
   return format;
 }

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <map>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -69,8 +70,9 @@ class RtfParagraphs {
 
   std::vector<TabStop> TabsOf(std::uint32_t tabs) const;
 
-  std::vector<TabNode> tabs_;             // number 1 is the first
-  std::vector<RtfNumbering> numberings_;  // likewise
+  std::unordered_map<std::uint64_t, std::uint32_t> tabNumbers_;  // by what makes a node
+  std::vector<TabNode> tabs_;                                    // number 1 is the first
+  std::vector<RtfNumbering> numberings_;                         // likewise
   RtfListTable lists_;
   RtfListCounter counter_;
   std::uint32_t label_ = 0;  // the list of the last label

@@ -138,6 +138,7 @@ Document ReadPlainText(std::string_view text) {
 }  // namespace
 
 Document ReadRtf(std::string_view rtf) {
+  if (rtf.substr(0, 8) == "\xEF\xBB\xBF{\\rtf") rtf.remove_prefix(3);  // an editor's mark of UTF-8
   const bool isRtf = rtf.substr(0, 5) == "{\\rtf" || rtf.substr(0, 6) == "{\\urtf";
   return isRtf ? Reader(rtf).Read() : ReadPlainText(rtf);
 }

@@ -78,16 +78,18 @@ inline std::string Dump(const Picture& picture) {
          std::to_string(picture.heightTwips) + '>';
 }
 
-inline std::string DumpText(const std::u16string& text, const Document& document, std::size_t& picture) {
+inline std::string DumpText(std::u16string_view text, const Document& document, std::size_t& picture) {
   std::string line;
-  for (const char byte : ToUtf8(text)) line += byte == '\t' ? '>' : byte;
-  const auto replaceAll = [&line](const std::string& what, const auto& with) {
-    for (auto at = line.find(what); at != std::string::npos; at = line.find(what))
-      line.replace(at, 3, with());
-  };
-  replaceAll("\u2028", [] { return std::string("/"); });
-  replaceAll("\uFFFC", [&] { return Dump(document.pictures.at(picture++)); });
-  return line;
+  std::u16string plain;
+  for (const char16_t unit : text) {
+    if (unit != PictureMark) {
+      plain += unit == LineBreak ? u'/' : unit == u'\t' ? u'>' : unit;
+      continue;
+    }
+    line += ToUtf8(plain) + Dump(document.pictures.at(picture++));
+    plain.clear();
+  }
+  return line + ToUtf8(plain);
 }
 
 inline std::string Dump(const Document& document) {
