@@ -38,12 +38,12 @@ std::size_t HashOf(const ParagraphFormat& format) {
 }  // namespace
 
 std::size_t FormatKeyHash::operator()(const FormatKey& key) const {
-  Hash hash;
-  hash.AddAll({key.halfPoints, key.color, key.highlight});
-  hash.Add(key.fontName);
-  hash.Add(key.link);
-  hash.Add(key.flags);
-  return hash.Value();
+  const auto pair = [](std::uint32_t high, std::uint32_t low) { return std::uint64_t{high} << 32 | low; };
+  const std::uint64_t hash =
+      (pair(key.fontName, static_cast<std::uint32_t>(key.halfPoints)) * 0x9E3779B97F4A7C15U) ^
+      (pair(static_cast<std::uint32_t>(key.color), key.flags) * 0xC2B2AE3D27D4EB4FU) ^
+      (pair(static_cast<std::uint32_t>(key.highlight), key.link) * 0xD6E8FEB86659FD93U);
+  return static_cast<std::size_t>(hash ^ (hash >> 32));
 }
 
 std::uint32_t DocumentBuilder::FormatNumber(const FormatKey& key,

@@ -18,6 +18,9 @@ namespace richtext {
 
 class RtfContext {
  public:
+  // `length` of the input, which the text is shorter than.
+  explicit RtfContext(std::size_t length) { builder_.Text().reserve(length); }
+
   GroupState& State() { return groups_.Top(); }
   RtfFontTable& Fonts() { return fonts_; }
   RtfColorTable& Colors() { return colors_; }

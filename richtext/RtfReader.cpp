@@ -16,7 +16,7 @@ namespace {
 
 class Reader {
  public:
-  explicit Reader(std::string_view rtf) : tokens_(rtf) {}
+  explicit Reader(std::string_view rtf) : tokens_(rtf), context_(rtf.size()) {}
   Document Read();
 
  private:
@@ -123,7 +123,7 @@ void Reader::TakeSymbol(char symbol) {
 
 // CR LF, CR and LF end a paragraph each.
 Document ReadPlainText(std::string_view text) {
-  RtfContext context;
+  RtfContext context(text.size());
   while (!text.empty()) {
     const std::size_t end = text.find_first_of("\r\n");
     context.PutBytes(text.substr(0, end));
