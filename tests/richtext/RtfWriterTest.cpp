@@ -63,6 +63,18 @@ TEST(RtfWriter, WritesTheClassicShape) {
       "there}}\\i\\par\r\n\\i0\\par\r\n}\r\n");
 }
 
+TEST(RtfWriter, WritesListsAndLinksForOldReaders) {
+  const std::string header = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 ;}";
+  const std::string rtf =
+      "{\\f1\\fnil\\fcharset2 Symbol;}}\r\n\\viewkind4\\uc1"
+      "\\pard{\\pntext\\f1\\'b7\\tab}{\\*\\pn\\pnlvlblt\\pnf1\\pnindent0{\\pntxtb\\'b7}}\\fi-360\\li720"
+      "\\f0\\fs24 a\\par\r\n{\\pntext\\f1\\'b7\\tab}b\\par\r\n"
+      "\\pard{\\pntext iv)\\tab}{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart4\\pnlcrm{\\pntxta )}} c\\par\r\n"
+      "{\\pntext v)\\tab}{\\field{\\*\\fldinst{HYPERLINK \"x\\\\\\\\\\u233?\"}}{\\fldrslt\\b d}} e\\par\r\n"
+      "\\pard f\\par\r\n}\r\n";
+  EXPECT_EQ(WriteRtf(ReadRtf(header + rtf)), header + rtf);
+}
+
 TEST(RtfWriter, EscapesWhatIsNotPlainText) {
   EXPECT_EQ(Body(WriteRtf(OneParagraph(u"a\\b{c}\t d\u2028e"))), " a\\\\b\\{c\\}\\tab  d\\line e");
   EXPECT_EQ(Body(WriteRtf(OneParagraph(u"\u00A0x\u00AD-\u2011"))), "\\~x\\--\\_");
