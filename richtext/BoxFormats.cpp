@@ -3,40 +3,92 @@
 #include <algorithm>
 #include <cmath>
 
+#include "richtext/Limits.h"
+
 namespace richtext {
 namespace {
 
-const char16_t kChosenFont[] = u"Verdana";
-constexpr double kChosenSize = 12;
-constexpr std::int32_t kWidestIndent = 31680;  // twips, the most that the format knows
+const char16_t ChosenFont[] = u"Verdana";
+constexpr double ChosenSize = 12;
 
-double Pixels(std::int32_t twips) {
-  return std::clamp(twips, -kWidestIndent, kWidestIndent) / kTwipsPerPixel;
+// What the toolkit cannot draw is drawn as a plain line.
+QTextCharFormat::UnderlineStyle DrawnUnderline(UnderlineKind kind) {
+  switch (kind) {
+    case UnderlineKind::None:
+      return QTextCharFormat::NoUnderline;
+    case UnderlineKind::Dotted:
+      return QTextCharFormat::DotLine;
+    case UnderlineKind::Dash:
+      return QTextCharFormat::DashUnderline;
+    case UnderlineKind::DashDot:
+      return QTextCharFormat::DashDotLine;
+    case UnderlineKind::DashDotDot:
+      return QTextCharFormat::DashDotDotLine;
+    case UnderlineKind::Wave:
+      return QTextCharFormat::WaveUnderline;
+    default:
+      return QTextCharFormat::SingleUnderline;
+  }
 }
 
-std::int32_t Twips(double pixels) {
-  return static_cast<std::int32_t>(std::lround(pixels * kTwipsPerPixel));
-}
-
-Qt::Alignment ToAlignment(Alignment alignment) {
-  switch (alignment) {
-    case Alignment::Right:
-      return Qt::AlignRight;
-    case Alignment::Center:
-      return Qt::AlignHCenter;
-    case Alignment::Justify:
-      return Qt::AlignJustify;
-    case Alignment::Left:
+UnderlineKind KindOf(const QTextCharFormat& format) {
+  switch (format.underlineStyle()) {
+    case QTextCharFormat::NoUnderline:
+      return UnderlineKind::None;
+    case QTextCharFormat::DotLine:
+      return UnderlineKind::Dotted;
+    case QTextCharFormat::DashUnderline:
+      return UnderlineKind::Dash;
+    case QTextCharFormat::DashDotLine:
+      return UnderlineKind::DashDot;
+    case QTextCharFormat::DashDotDotLine:
+      return UnderlineKind::DashDotDot;
+    case QTextCharFormat::WaveUnderline:
+    case QTextCharFormat::SpellCheckUnderline:
+      return UnderlineKind::Wave;
+    default:
       break;
   }
-  return Qt::AlignLeft;
+  const auto kind = static_cast<UnderlineKind>(format.intProperty(UnderlineOfDocument));
+  return kind == UnderlineKind::None ? UnderlineKind::Single : kind;
 }
 
-Alignment FromAlignment(Qt::Alignment alignment) {
-  if (alignment & Qt::AlignRight) return Alignment::Right;
-  if (alignment & Qt::AlignHCenter) return Alignment::Center;
-  if (alignment & Qt::AlignJustify) return Alignment::Justify;
-  return Alignment::Left;
+QFont::Capitalization ToCapitalization(Capitals capitals) {
+  if (capitals == Capitals::All) return QFont::AllUppercase;
+  return capitals == Capitals::Small ? QFont::SmallCaps : QFont::MixedCase;
+}
+
+Capitals FromCapitalization(QFont::Capitalization capitalization) {
+  if (capitalization == QFont::AllUppercase) return Capitals::All;
+  return capitalization == QFont::SmallCaps ? Capitals::Small : Capitals::AsWritten;
+}
+
+QTextCharFormat::VerticalAlignment ToVerticalAlignment(VerticalPlace place) {
+  if (place == VerticalPlace::Superscript) return QTextCharFormat::AlignSuperScript;
+  return place == VerticalPlace::Subscript ? QTextCharFormat::AlignSubScript : QTextCharFormat::AlignNormal;
+}
+
+VerticalPlace FromVerticalAlignment(QTextCharFormat::VerticalAlignment alignment) {
+  if (alignment == QTextCharFormat::AlignSuperScript) return VerticalPlace::Superscript;
+  return alignment == QTextCharFormat::AlignSubScript ? VerticalPlace::Subscript : VerticalPlace::Baseline;
+}
+
+void SetFont(QTextCharFormat& made, const CharacterFormat& format) {
+  const QString name = QString::fromStdString(format.fontName);
+  made.setFontFamilies({name.isEmpty() ? QString::fromUtf16(ChosenFont) : name});
+  if (name.isEmpty()) made.setProperty(NamelessFont, true);
+  SetFontSize(made, format.halfPoints / 2.0);
+}
+
+void SetLink(QTextCharFormat& made, const std::string& address) {
+  if (address.empty()) return;
+  made.setAnchor(true);
+  made.setAnchorHref(QString::fromStdString(address));
+}
+
+void ClearLink(QTextCharFormat& format) {
+  format.clearProperty(QTextFormat::IsAnchor);
+  format.clearProperty(QTextFormat::AnchorHref);
 }
 
 }  // namespace
@@ -51,16 +103,20 @@ std::uint32_t FromColor(const QColor& color) {
 
 QString FontNameOf(const QTextCharFormat& format) {
   const QStringList families = format.fontFamilies().toStringList();
-  return families.isEmpty() ? QString::fromUtf16(kChosenFont) : families.front();
+  return families.isEmpty() ? QString::fromUtf16(ChosenFont) : families.front();
 }
 
 double FontSizeOf(const QTextCharFormat& format) {
   const double points = format.fontPointSize();
-  return points > 0 ? points : kChosenSize;
+  return points > 0 ? points : ChosenSize;
 }
 
 std::uint32_t ColorOf(const QTextCharFormat& format) {
   return format.foreground().style() == Qt::NoBrush ? 0 : FromColor(format.foreground().color());
+}
+
+bool IsUnderlined(const QTextCharFormat& format) {
+  return format.underlineStyle() != QTextCharFormat::NoUnderline;
 }
 
 void SetFontName(QTextCharFormat& format, const QString& name) {
@@ -69,20 +125,27 @@ void SetFontName(QTextCharFormat& format, const QString& name) {
 }
 
 void SetFontSize(QTextCharFormat& format, double points) {
-  format.setFontPointSize(std::clamp(std::round(points * 2), 1.0, double{kLargestFont}) / 2);
+  format.setFontPointSize(std::clamp(std::round(points * 2), 1.0, double{MaxHalfPoints}) / 2);
 }
 
+void SetUnderline(QTextCharFormat& format, UnderlineKind kind) {
+  format.setUnderlineStyle(DrawnUnderline(kind));
+  format.setProperty(UnderlineOfDocument, static_cast<int>(kind));
+}
+
+// Only what differs from plain text is set: the toolkit compares formats property by property.
 QTextCharFormat ToTextFormat(const CharacterFormat& format) {
   QTextCharFormat made;
-  const QString name = QString::fromStdString(format.fontName);
-  SetFontName(made, name.isEmpty() ? QString::fromUtf16(kChosenFont) : name);
-  made.setProperty(NamelessFont, name.isEmpty());
-  SetFontSize(made, format.halfPoints / 2.0);
-  made.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);
-  made.setFontItalic(format.italic);
-  made.setFontStrikeOut(format.strikethrough);
-  made.setFontUnderline(format.underline != UnderlineKind::None);
+  SetFont(made, format);
+  if (format.bold) made.setFontWeight(QFont::Bold);
+  if (format.italic) made.setFontItalic(true);
+  if (format.strikethrough) made.setFontStrikeOut(true);
+  if (format.underline != UnderlineKind::None) SetUnderline(made, format.underline);
+  if (format.capitals != Capitals::AsWritten) made.setFontCapitalization(ToCapitalization(format.capitals));
+  if (format.place != VerticalPlace::Baseline) made.setVerticalAlignment(ToVerticalAlignment(format.place));
   if (format.color) made.setForeground(ToColor(*format.color));
+  if (format.highlight) made.setBackground(ToColor(*format.highlight));
+  SetLink(made, format.link);
   return made;
 }
 
@@ -93,23 +156,27 @@ CharacterFormat FromTextFormat(const QTextCharFormat& format) {
   taken.bold = format.fontWeight() > QFont::Medium;
   taken.italic = format.fontItalic();
   taken.strikethrough = format.fontStrikeOut();
-  taken.underline = format.fontUnderline() ? UnderlineKind::Single : UnderlineKind::None;
-  if (format.foreground().style() != Qt::NoBrush) taken.color = ColorOf(format);
+  taken.underline = KindOf(format);
+  taken.capitals = FromCapitalization(format.fontCapitalization());
+  taken.place = FromVerticalAlignment(format.verticalAlignment());
+  if (format.foreground().style() != Qt::NoBrush) taken.color = FromColor(format.foreground().color());
+  if (format.background().style() != Qt::NoBrush) taken.highlight = FromColor(format.background().color());
+  taken.link = format.anchorHref().toStdString();
   return taken;
 }
 
-QTextBlockFormat ToBlockFormat(const ParagraphFormat& format) {
-  QTextBlockFormat made;
-  made.setAlignment(ToAlignment(format.alignment));
-  made.setLeftMargin(Pixels(format.leftIndent));
-  made.setRightMargin(Pixels(format.rightIndent));
-  made.setTextIndent(Pixels(format.firstLineIndent));
+QTextCharFormat ToMarkFormat(const CharacterFormat& format) {
+  QTextCharFormat made = ToTextFormat(format);
+  ClearLink(made);
+  if (format.hidden) made.setProperty(HiddenMark, true);
   return made;
 }
 
-ParagraphFormat FromBlockFormat(const QTextBlockFormat& format) {
-  return {FromAlignment(format.alignment()), Twips(format.leftMargin()), Twips(format.rightMargin()),
-          Twips(format.textIndent())};
+CharacterFormat FromMarkFormat(const QTextCharFormat& format) {
+  CharacterFormat taken = FromTextFormat(format);
+  taken.link.clear();
+  taken.hidden = format.boolProperty(HiddenMark);
+  return taken;
 }
 
 }  // namespace richtext

@@ -1,8 +1,7 @@
-// The formats of a page as the text box holds them. Every format in the box names its font and size, so that
-// a page looks the same whatever font the desktop prefers.
+// The character formats of a page as the text box holds them. Every format in the box names its font and
+// size, so that a page looks the same whatever font the desktop prefers.
 #pragma once
 
-#include <QtGui/QTextBlockFormat>
 #include <QtGui/QTextCharFormat>
 
 #include "richtext/Document.h"
@@ -12,20 +11,31 @@ namespace richtext {
 // Properties that the toolkit's formats have no place for.
 enum BoxProperty : int {
   NamelessFont = QTextFormat::UserProperty + 1,  // bool: the document names no font, the box chose one
-  PictureKindOfFile,                             // int, a PictureKind
+  UnderlineOfDocument,                           // int, an UnderlineKind that is drawn as a plain one
+  HiddenText,                                    // QString, see HiddenText.h
+  HiddenMark,                                    // bool: the end of the paragraph is hidden
   PictureTwipsWide,                              // int, as the document told them
   PictureTwipsHigh,
+  LineSpacingOfDocument,  // int
+  LeftIndentOfDocument,   // int, twips; of an item of a list, which is shown with room for its label
+  RightIndentOfDocument,
+  FirstIndentOfDocument,
+  ListKindOfDocument,  // int, a ListKind
+  ListStartOfDocument,
+  ListLevelOfDocument,
+  TextBeforeNumber,  // QString
+  TextAfterNumber,
 };
 
-constexpr double kTwipsPerPixel = 15;        // 96 pixels to the inch
-constexpr std::int32_t kLargestFont = 3276;  // half points
+constexpr double TwipsPerPixel = 15;  // 96 pixels to the inch
 
+// Hidden text has the format of shown text here: that it is hidden is told beside it.
 QTextCharFormat ToTextFormat(const CharacterFormat& format);
 CharacterFormat FromTextFormat(const QTextCharFormat& format);
 
-// Indents beyond 22 inches are held at that.
-QTextBlockFormat ToBlockFormat(const ParagraphFormat& format);
-ParagraphFormat FromBlockFormat(const QTextBlockFormat& format);
+// The format of a paragraph's end, which can be hidden and has no link.
+QTextCharFormat ToMarkFormat(const CharacterFormat& format);
+CharacterFormat FromMarkFormat(const QTextCharFormat& format);
 
 // 0x00BBGGRR and the toolkit's colour.
 QColor ToColor(std::uint32_t bgr);
@@ -35,7 +45,9 @@ std::uint32_t FromColor(const QColor& color);
 QString FontNameOf(const QTextCharFormat& format);
 double FontSizeOf(const QTextCharFormat& format);      // points
 std::uint32_t ColorOf(const QTextCharFormat& format);  // automatic reads as black
+bool IsUnderlined(const QTextCharFormat& format);
 void SetFontName(QTextCharFormat& format, const QString& name);
 void SetFontSize(QTextCharFormat& format, double points);  // to the nearest half point
+void SetUnderline(QTextCharFormat& format, UnderlineKind kind);
 
 }  // namespace richtext

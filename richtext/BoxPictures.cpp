@@ -1,6 +1,7 @@
 #include "richtext/BoxPictures.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QtCore/QBuffer>
 #include <QtCore/QCryptographicHash>
@@ -9,31 +10,65 @@
 #include <QtGui/QPixmap>
 #include <QtGui/QTextDocument>
 
+#include "richtext/BitmapFromPicture.h"
 #include "richtext/BoxFormats.h"
+#include "richtext/Limits.h"
+#include "richtext/SmallPng.h"
 
 namespace richtext {
 namespace {
 
-constexpr double kLargestSide = 20000;      // pixels
-constexpr QSize kSizeOfUnknown{16, 16};     // of a picture that tells no size of its own
-const QLatin1String kDrawing("picture:");   // name of the resource that is drawn
-const QLatin1String kFile("picturefile:");  // name of the resource that is the picture's own file
+constexpr double LargestSide = 20000;                // pixels
+constexpr QSize SizeOfUnknown{16, 16};               // of a picture that tells no size of its own
+const QLatin1String DrawingResource("picture:");     // name of the resource that is drawn
+const QLatin1String SourceResource("picturefile:");  // name of the resource that is the picture as it came
 
-QUrl FileName(const QString& drawing) {
-  return QUrl(kFile + drawing.mid(kDrawing.size()));
+QUrl SourceName(const QString& drawing) {
+  return QUrl(SourceResource + drawing.mid(DrawingResource.size()));
 }
 
-QSizeF OwnSize(QByteArray file) {
+// Pictures of the same bytes are one, unless something else describes them.
+QString DrawingName(const QByteArray& bytes, const Picture& picture) {
+  QCryptographicHash digest(QCryptographicHash::Sha1);
+  digest.addData(bytes);
+  digest.addData(QByteArray::fromStdString(picture.header));
+  digest.addData(QByteArray::number(static_cast<int>(picture.kind)));
+  return DrawingResource + QLatin1String(digest.result().toHex());
+}
+
+QVariant Source(const QByteArray& bytes, const Picture& picture) {
+  return QVariantList{static_cast<int>(picture.kind), QByteArray::fromStdString(picture.header), bytes};
+}
+
+// Without the size shown, which is each place's own.
+Picture FromSource(const QVariant& source) {
+  Picture kept;
+  kept.kind = PictureKind::Other;
+  const QVariantList parts = source.toList();
+  if (parts.size() != 3) return kept;
+  kept.kind = static_cast<PictureKind>(parts[0].toInt());
+  kept.header = parts[1].toByteArray().toStdString();
+  kept.bytes = parts[2].toByteArray().toStdString();
+  return kept;
+}
+
+bool IsFile(const Picture& picture) {
+  return picture.kind == PictureKind::Png || picture.kind == PictureKind::Jpeg;
+}
+
+QSizeF OwnSize(const Picture& picture) {
+  if (!IsFile(picture)) return SizeOfUnknown;
+  QByteArray file = QByteArray::fromStdString(picture.bytes);
   QBuffer buffer(&file);
   const QSize size = QImageReader(&buffer).size();
-  return size.isEmpty() ? kSizeOfUnknown : size;
+  return size.isEmpty() ? SizeOfUnknown : size;
 }
 
 // The size in pixels; a side that is not told follows the other one.
-QSizeF ShownSize(const Picture& picture, const QByteArray& file) {
-  QSizeF size(picture.widthTwips / kTwipsPerPixel, picture.heightTwips / kTwipsPerPixel);
+QSizeF ShownSize(const Picture& picture) {
+  const QSizeF size(picture.widthTwips / TwipsPerPixel, picture.heightTwips / TwipsPerPixel);
   if (size.width() > 0 && size.height() > 0) return size;
-  const QSizeF own = OwnSize(file);
+  const QSizeF own = OwnSize(picture);
   if (size.width() > 0) return {size.width(), own.height() * size.width() / own.width()};
   if (size.height() > 0) return {own.width() * size.height() / own.height(), size.height()};
   return own;
@@ -47,36 +82,54 @@ QPixmap Placeholder() {
 
 }  // namespace
 
-QTextImageFormat KeepPicture(const Picture& picture, const QTextCharFormat& text, QTextDocument& document) {
-  const QByteArray file = QByteArray::fromStdString(picture.bytes);
-  const QByteArray digest = QCryptographicHash::hash(file, QCryptographicHash::Sha1).toHex();
-  const QString name = kDrawing + QLatin1String(digest);
-  document.addResource(QTextDocument::UserResource, FileName(name), file);
+Picture FromImage(const QImage& image) {
+  const auto twips = [&](int pixels) {
+    return static_cast<std::int32_t>(std::lround(pixels * TwipsPerPixel / image.devicePixelRatio()));
+  };
+  Picture picture;
+  picture.bytes = SmallestPng(image);
+  picture.widthTwips = FittingPictureSize(twips(image.width()));
+  picture.heightTwips = FittingPictureSize(twips(image.height()));
+  return picture;
+}
 
-  const QSizeF shown = ShownSize(picture, file);
+QTextImageFormat KeepPicture(const Picture& picture, const QTextCharFormat& text, QTextDocument& document) {
+  const QByteArray bytes = QByteArray::fromStdString(picture.bytes);
+  const QString name = DrawingName(bytes, picture);
+  document.addResource(QTextDocument::UserResource, SourceName(name), Source(bytes, picture));
+
+  const QSizeF shown = ShownSize(picture);
   QTextImageFormat format;
   format.merge(text);
   format.setObjectType(QTextFormat::ImageObject);
   format.setName(name);
-  format.setWidth(std::clamp(shown.width(), 1.0, kLargestSide));
-  format.setHeight(std::clamp(shown.height(), 1.0, kLargestSide));
-  format.setProperty(PictureKindOfFile, static_cast<int>(picture.kind));
+  format.setWidth(std::clamp(shown.width(), 1.0, LargestSide));
+  format.setHeight(std::clamp(shown.height(), 1.0, LargestSide));
   format.setProperty(PictureTwipsWide, picture.widthTwips);
   format.setProperty(PictureTwipsHigh, picture.heightTwips);
   return format;
 }
 
 Picture KeptPicture(const QTextImageFormat& format, const QTextDocument& document) {
-  const QVariant file = document.resource(QTextDocument::UserResource, FileName(format.name()));
-  return {static_cast<PictureKind>(format.intProperty(PictureKindOfFile)), file.toByteArray().toStdString(),
-          format.intProperty(PictureTwipsWide), format.intProperty(PictureTwipsHigh)};
+  Picture kept = FromSource(document.resource(QTextDocument::UserResource, SourceName(format.name())));
+  kept.widthTwips = format.intProperty(PictureTwipsWide);
+  kept.heightTwips = format.intProperty(PictureTwipsHigh);
+  return kept;
+}
+
+QImage DecodedPicture(const Picture& picture) {
+  if (IsFile(picture)) return QImage::fromData(QByteArray::fromStdString(picture.bytes));
+  const std::optional<Bitmap> bitmap = BitmapFromPicture(picture);
+  if (!bitmap) return {};
+  const auto* pixels = reinterpret_cast<const uchar*>(bitmap->argb.data());
+  return QImage(pixels, bitmap->width, bitmap->height, 4 * bitmap->width, QImage::Format_ARGB32).copy();
 }
 
 QVariant DrawnPicture(const QTextDocument& document, const QUrl& name) {
-  QPixmap drawn;
   const QString text = name.toString();
-  if (text.startsWith(kDrawing))
-    drawn.loadFromData(document.resource(QTextDocument::UserResource, FileName(text)).toByteArray());
+  if (!text.startsWith(DrawingResource)) return Placeholder();
+  const QVariant source = document.resource(QTextDocument::UserResource, SourceName(text));
+  const QPixmap drawn = QPixmap::fromImage(DecodedPicture(FromSource(source)));
   return drawn.isNull() ? Placeholder() : drawn;
 }
 

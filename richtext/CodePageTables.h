@@ -14,7 +14,7 @@ struct UpperHalf {
 };
 
 // clang-format off
-inline constexpr std::array<UpperHalf, 13> kUpperHalves{{
+inline constexpr std::array<UpperHalf, 13> UpperHalves{{
     {437,
       u"\u00C7\u00FC\u00E9\u00E2\u00E4\u00E0\u00E5\u00E7\u00EA\u00EB\u00E8\u00EF\u00EE\u00EC\u00C4\u00C5"
       u"\u00C9\u00E6\u00C6\u00F4\u00F6\u00F2\u00FB\u00F9\u00FF\u00D6\u00DC\u00A2\u00A3\u00A5\u20A7\u0192"

@@ -6,14 +6,16 @@
 
 namespace richtext {
 
-constexpr std::int32_t kWesternPage = 1252;
-constexpr std::int32_t kMacintoshPage = 10000;
-constexpr std::int32_t kSymbolPage = 42;
+constexpr std::int32_t WesternPage = 1252;
+constexpr std::int32_t MacintoshPage = 10000;
+constexpr std::int32_t SymbolPage = 42;
+constexpr std::int32_t Utf8Page = 65001;
 
-// What each byte means. Two entries are no characters: a byte that is passed over, and the first byte of two.
+// What each byte means. Two entries are no characters: a byte that is passed over, and the first byte of
+// several.
 struct CodePage {
-  static constexpr char16_t kNothing = 0xFFFF;
-  static constexpr char16_t kLeadByte = 0xFFFE;
+  static constexpr char16_t Nothing = 0xFFFF;
+  static constexpr char16_t LeadByte = 0xFFFE;
 
   std::int32_t number = 0;
   std::array<char16_t, 256> units{};
@@ -31,8 +33,7 @@ constexpr bool IsTrailByte(unsigned char byte) {
   return byte > 0x30 && byte != 0x7F && byte != 0xFF;
 }
 
-// The character of a lead byte and the byte after it. The double-byte tables are not carried: a pair is known
-// to be one character, and shows as U+FFFD.
+// The character of a lead byte and the byte after it, in a page of such pairs.
 char16_t DoubleByteUnit(const CodePage& page, unsigned char lead, unsigned char trail);
 
 }  // namespace richtext

@@ -11,9 +11,34 @@
 
 namespace richtext {
 
-enum class UnderlineKind : std::uint8_t { None, Single };
+enum class UnderlineKind : std::uint8_t {
+  None,
+  Single,
+  Words,
+  Double,
+  Dotted,
+  Dash,
+  DashDot,
+  DashDotDot,
+  Wave,
+  Thick
+};
+enum class Capitals : std::uint8_t { AsWritten, All, Small };
+enum class VerticalPlace : std::uint8_t { Baseline, Superscript, Subscript };
 enum class Alignment : std::uint8_t { Left, Right, Center, Justify };
-enum class PictureKind : std::uint8_t { Png };
+enum class Direction : std::uint8_t { LeftToRight, RightToLeft };
+enum class LineSpacingRule : std::uint8_t { Single, Multiple, AtLeast, Exact };
+enum class TabKind : std::uint8_t { Left, Right, Center, Decimal };
+enum class ListKind : std::uint8_t {
+  None,
+  Bullet,
+  Decimal,
+  LowerLetter,
+  UpperLetter,
+  LowerRoman,
+  UpperRoman
+};
+enum class PictureKind : std::uint8_t { Png, Jpeg, Dib, Metafile, EnhancedMetafile, Other };
 
 struct CharacterFormat {
   std::string fontName;          // UTF-8; empty: the reader of the document chooses
@@ -21,25 +46,59 @@ struct CharacterFormat {
   bool bold = false;
   bool italic = false;
   bool strikethrough = false;
+  bool hidden = false;  // kept, not shown, and no part of the plain text
   UnderlineKind underline = UnderlineKind::None;
-  std::optional<std::uint32_t> color;  // 0x00BBGGRR; nothing: automatic, which is black
+  Capitals capitals = Capitals::AsWritten;  // the text itself keeps its own letters
+  VerticalPlace place = VerticalPlace::Baseline;
+  std::optional<std::uint32_t> color;      // 0x00BBGGRR; nothing: automatic, which is black
+  std::optional<std::uint32_t> highlight;  // 0x00BBGGRR behind the letters; nothing: the paper
+  std::string link;                        // UTF-8, the address of a hyperlink; empty: none
 
   bool operator==(const CharacterFormat&) const = default;
+};
+
+struct TabStop {
+  std::int32_t position = 0;  // twips from the left edge of the text
+  TabKind kind = TabKind::Left;
+  bool operator==(const TabStop&) const = default;
+};
+
+// A paragraph's label is made from these; it is no part of the text.
+struct ListFormat {
+  ListKind kind = ListKind::None;
+  std::int32_t start = 1;  // the number of the list's first item
+  std::int32_t level = 0;  // 0 to 8, for lists within lists
+  std::u16string before;   // text before the number, such as "("
+  std::u16string
+      after;  // text behind it, such as "." or ")"; for bullets the bullet itself stands in `before`
+
+  bool operator==(const ListFormat&) const = default;
 };
 
 // Measures are in twips, 1440 to the inch.
 struct ParagraphFormat {
   Alignment alignment = Alignment::Left;
+  Direction direction = Direction::LeftToRight;
   std::int32_t leftIndent = 0;
   std::int32_t rightIndent = 0;
   std::int32_t firstLineIndent = 0;  // added to leftIndent for the first line; negative: hanging
+  std::int32_t spaceBefore = 0;
+  std::int32_t spaceAfter = 0;
+  LineSpacingRule lineSpacingRule = LineSpacingRule::Single;
+  std::int32_t lineSpacing = 0;  // Multiple: 240ths of a line; AtLeast, Exact: twips
+  std::vector<TabStop> tabs;     // by position
+  ListFormat list;
 
   bool operator==(const ParagraphFormat&) const = default;
 };
 
+// A picture keeps what it came as, so that one that cannot be drawn goes out unchanged.
 struct Picture {
   PictureKind kind = PictureKind::Png;
-  std::string bytes;            // the picture's own file, unchanged
+  std::string bytes;   // the data as they stood in the document: a PNG or JPEG file, a DIB without a file
+                       // header, a metafile
+  std::string header;  // kinds without a size of their own: the control words that described the data, such
+                       // as "\\wmetafile8\\picw100\\pich50"; empty for PNG and JPEG
   std::int32_t widthTwips = 0;  // the size shown; 0: the picture's own at 96 dots per inch
   std::int32_t heightTwips = 0;
 

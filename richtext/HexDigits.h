@@ -14,12 +14,12 @@ constexpr std::array<std::int8_t, 256> HexDigitTable() {
   for (int i = 0; i < 6; ++i) table['a' + i] = table['A' + i] = static_cast<std::int8_t>(10 + i);
   return table;
 }
-inline constexpr std::array<std::int8_t, 256> kHexDigits = HexDigitTable();
+inline constexpr std::array<std::int8_t, 256> HexDigitValues = HexDigitTable();
 }  // namespace detail
 
 // 0 to 15; -1 when `c` is no digit, in either case of letters.
 constexpr int HexDigit(char c) {
-  return detail::kHexDigits[static_cast<unsigned char>(c)];
+  return detail::HexDigitValues[static_cast<unsigned char>(c)];
 }
 
 }  // namespace richtext

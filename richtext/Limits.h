@@ -9,26 +9,44 @@
 
 namespace richtext {
 
-constexpr std::int32_t kDefaultHalfPoints = 24;
-constexpr std::int32_t kMaxHalfPoints = 3276;  // the largest size of the classic edit controls
-constexpr std::int32_t kMaxIndent = 32767;     // twips; the format's own range of parameters
-constexpr std::int32_t kMaxPictureTwips = 1'000'000;
+constexpr std::int32_t DefaultHalfPoints = 24;
+constexpr std::int32_t MaxHalfPoints = 3276;  // the largest size of the classic edit controls
+constexpr std::int32_t MaxIndent = 32767;     // twips; the format's own range of parameters
+constexpr std::size_t MaxTabStops = 32;       // of a paragraph; as many as the classic edit controls keep
+constexpr std::int32_t MaxListLevel = 8;
+constexpr std::int32_t MaxListNumber = 32767;
+constexpr std::int32_t MaxPictureTwips = 1'000'000;
 
 // More formats than a person can make; a hostile document would make one a letter.
-constexpr std::size_t kMaxFormats = 32'000;
+constexpr std::size_t MaxFormats = 32'000;
+// Bytes of fonts' names and links in all character formats, since each holds its own copy.
+constexpr std::size_t MaxFormatText = 4'000'000;
 // Fonts and colours: room for each format's own, and an end to tables that only cost memory.
-constexpr std::size_t kMaxTableEntries = 65'536;
+constexpr std::size_t MaxTableEntries = 65'536;
 
-constexpr std::size_t kMaxFontName = 64;  // UTF-16 units; every format holds its font's name
+constexpr std::size_t MaxFontName = 64;  // UTF-16 units; every format holds its font's name
+
+constexpr std::size_t MaxListText = 32;         // UTF-16 units before or behind a list's number
+constexpr std::size_t MaxLinkText = 1'000'000;  // bytes of all links, as often as they are written
+constexpr std::size_t MaxLink = 2048;  // bytes; a longer one is none, as half an address leads nowhere
 
 constexpr std::int32_t FittingIndent(std::int32_t twips) {
-  return std::clamp(twips, -kMaxIndent, kMaxIndent);
+  return std::clamp(twips, -MaxIndent, MaxIndent);
+}
+constexpr std::int32_t FittingSpace(std::int32_t twips) {
+  return std::clamp(twips, 0, MaxIndent);
 }
 constexpr std::int32_t FittingPictureSize(std::int64_t twips) {
-  return static_cast<std::int32_t>(std::clamp<std::int64_t>(twips, 0, kMaxPictureTwips));
+  return static_cast<std::int32_t>(std::clamp<std::int64_t>(twips, 0, MaxPictureTwips));
 }
 
-// `name` without control characters and outer blanks, cut to kMaxFontName.
+// `name` without control characters and outer blanks, cut to MaxFontName.
 std::u16string FittingFontName(std::u16string_view name);
+
+// `text` without control characters, cut to MaxListText.
+std::u16string FittingListText(std::u16string_view text);
+
+// `link` without control characters and outer blanks; empty when it is longer than MaxLink.
+std::string FittingLink(std::string_view link);
 
 }  // namespace richtext

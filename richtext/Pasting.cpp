@@ -3,59 +3,81 @@
 #include <algorithm>
 #include <iterator>
 
-#include <QtGui/QImage>
 #include <QtGui/QTextCursor>
-#include <QtGui/QTextDocumentFragment>
 
 #include "richtext/BoxDocument.h"
+#include "richtext/HtmlReader.h"
+#include "richtext/HtmlWriter.h"
+#include "richtext/PlainText.h"
+#include "richtext/RtfReader.h"
 #include "richtext/RtfWriter.h"
+#include "richtext/Unicode.h"
 
 namespace richtext {
 namespace {
 
-const QLatin1String kRtf("text/rtf");
-const QLatin1String kRtfNames[] = {kRtf, QLatin1String("application/rtf"), QLatin1String("Rich Text Format")};
+const QLatin1String RtfName("text/rtf");
+const QLatin1String RtfNames[] = {RtfName, QLatin1String("application/rtf"),
+                                  QLatin1String("Rich Text Format")};
 
-QString WithoutSigns(QString text) {
-  static const QString signs = QStringLiteral("\uFFFC\uFDD0\uFDD1") + QChar(QChar::Null);
-  text.removeIf([](QChar letter) { return signs.contains(letter); });
-  return text;
+// What a page cannot hold is left out; a form feed and a vertical tab end a line.
+QString Keepable(QString text) {
+  for (const char16_t end : {u'\v', u'\f'}) text.replace(QChar(end), u'\n');
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+  text.removeIf([](QChar letter) {
+    const char16_t unit = letter.unicode();
+    return unit == PictureMark || IsNoncharacter(unit) || (unit < u' ' && unit != u'\t' && unit != u'\n');
+  });
+  return QString::fromStdU16String(ToUtf16(ToUtf8(text.toStdU16String())));
+}
+
+Document Kept(const Document& page) {
+  return ReadRtf(WriteRtf(page));
+}
+
+bool SaysSomething(const Document& page) {
+  return !page.pictures.empty() || !QString::fromStdU16String(page.text).trimmed().isEmpty();
+}
+
+std::string OfferedRtf(const QMimeData& offered) {
+  for (const QLatin1String name : RtfNames)
+    if (const QByteArray rtf = offered.data(name); rtf.startsWith("{\\rtf")) return rtf.toStdString();
+  return {};
 }
 
 }  // namespace
 
 bool CanBePasted(const QMimeData& offered) {
   return offered.hasText() || offered.hasHtml() || offered.hasImage() ||
-         std::any_of(std::begin(kRtfNames), std::end(kRtfNames),
+         std::any_of(std::begin(RtfNames), std::end(RtfNames),
                      [&](QLatin1String name) { return offered.hasFormat(name); });
 }
 
-std::string OfferedRtf(const QMimeData& offered) {
-  for (const QLatin1String name : kRtfNames)
-    if (offered.hasFormat(name)) return offered.data(name).toStdString();
-  return {};
+// A browser offers a copied picture as a bitmap and as markup that names it.
+std::optional<Document> OfferedPage(const QMimeData& offered, const CharacterFormat& caret) {
+  if (const std::string rtf = OfferedRtf(offered); !rtf.empty())
+    if (Document page = Kept(ReadRtf(rtf)); SaysSomething(page)) return page;
+  if (!offered.hasHtml()) return std::nullopt;
+  Document page = Kept(ReadHtml(offered.html(), caret, OfferedBitmap(offered)));
+  return SaysSomething(page) ? std::optional(std::move(page)) : std::nullopt;
+}
+
+QImage OfferedBitmap(const QMimeData& offered) {
+  return offered.hasImage() ? qvariant_cast<QImage>(offered.imageData()) : QImage();
 }
 
 QString OfferedText(const QMimeData& offered) {
   const QString text = offered.text();
-  if (!text.isEmpty() || !offered.hasHtml()) return WithoutSigns(text);
-  return WithoutSigns(QTextDocumentFragment::fromHtml(offered.html()).toPlainText());
-}
-
-// A browser offers a copied picture with the markup that names it, and copied words with their markup alone;
-// a spreadsheet offers its cells as words and as a bitmap.
-QImage OfferedBitmap(const QMimeData& offered) {
-  if (!offered.hasImage()) return {};
-  if (offered.hasHtml() && !OfferedText(offered).trimmed().isEmpty()) return {};
-  return qvariant_cast<QImage>(offered.imageData());
+  if (!text.isEmpty() || !offered.hasHtml()) return Keepable(text);
+  return Keepable(QString::fromStdString(PlainText(ReadHtml(offered.html(), {}, {}))));
 }
 
 QMimeData* Offer(const QTextCursor& selection) {
+  const Document page = TakeSelection(selection);
   auto* offer = new QMimeData;
-  QString text = selection.selectedText();
-  text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
-  offer->setText(WithoutSigns(text));
-  offer->setData(kRtf, QByteArray::fromStdString(WriteRtf(TakeSelection(selection))));
+  offer->setText(QString::fromStdString(PlainText(page)));
+  offer->setHtml(WriteHtml(page));
+  offer->setData(RtfName, QByteArray::fromStdString(WriteRtf(page)));
   return offer;
 }
 

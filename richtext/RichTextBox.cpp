@@ -1,26 +1,33 @@
 #include "richtext/RichTextBox.h"
 
 #include <algorithm>
+#include <memory>
 
 #include <QtCore/QScopedValueRollback>
+#include <QtGui/QClipboard>
+#include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QScrollBar>
 
 #include "richtext/BoxDocument.h"
 #include "richtext/BoxFormats.h"
+#include "richtext/BoxLabels.h"
+#include "richtext/BoxParagraphs.h"
 #include "richtext/BoxPictures.h"
+#include "richtext/HiddenText.h"
 #include "richtext/Pasting.h"
 #include "richtext/RtfReader.h"
 #include "richtext/RtfWriter.h"
-#include "richtext/SmallPng.h"
 
 namespace richtext {
 namespace {
 
-constexpr double kDocumentMargin = 4;              // pixels
-constexpr double kTabStop = 720 / kTwipsPerPixel;  // pixels; half an inch
-constexpr std::uint32_t kWhite = 0xffffff;
-constexpr std::size_t kLongPage = 10000;  // UTF-16 units; more than any window shows at once
+constexpr double DocumentMargin = 4;                     // pixels
+constexpr double TabStopDistance = 720 / TwipsPerPixel;  // pixels; half an inch
+constexpr std::uint32_t White = 0xffffff;
+constexpr QKeyCombination PlainPasteKey = Qt::CTRL | Qt::SHIFT | Qt::Key_V;
+constexpr std::size_t LongPage = 10000;  // UTF-16 units; more than any window shows at once
 
 // What `attribute` gives for all of the selection, or for the caret; nothing where it differs within.
 template <class Attribute>
@@ -46,11 +53,11 @@ auto Common(const QTextCursor& cursor, Attribute attribute)
 RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
   setAcceptRichText(true);
   setTabChangesFocus(false);
-  setTabStopDistance(kTabStop);
-  document()->setDocumentMargin(kDocumentMargin);
+  setTabStopDistance(TabStopDistance);
+  document()->setDocumentMargin(DocumentMargin);
   connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::NoteEdit);
   connect(document(), &QTextDocument::contentsChanged, this, &RichTextBox::TellEdits);
-  SetBackColor(kWhite);
+  SetBackColor(White);
   Fill({});
 }
 
@@ -67,7 +74,7 @@ void RichTextBox::Fill(std::string_view rtf) {
   const QScopedValueRollback quiet(quiet_, true);
   const Document page = rtf.empty() ? EmptyDocument() : ReadRtf(rtf);
   // With its scroll bar there beforehand, a long page is laid out once, and not at the width without it too.
-  if (page.text.size() > kLongPage) setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  if (page.text.size() > LongPage) setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   FillDocument(page, *document());
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setTextCursor(QTextCursor(document()));
@@ -84,35 +91,41 @@ void RichTextBox::TellEdits() {
   if (!edited_) return;
   edited_ = false;
   ++edits_;
+  if (labelled_) viewport()->update();  // an edit can change the numbers of items far from it
   Q_EMIT Change();
 }
 
 QString RichTextBox::Text() const {
-  QString text = document()->toRawText();
-  return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+  return ShownText(*document());
 }
 
 int RichTextBox::SelStart() const {
-  return textCursor().selectionStart();
+  return ToShown(*document(), textCursor().selectionStart());
 }
 
 void RichTextBox::SetSelStart(int position) {
   QTextCursor cursor = textCursor();
-  cursor.setPosition(std::clamp(position, 0, document()->characterCount() - 1));
+  cursor.setPosition(PlaceOf(position));
   setTextCursor(cursor);
 }
 
 int RichTextBox::SelLength() const {
-  return textCursor().selectionEnd() - textCursor().selectionStart();
+  return ToShown(*document(), textCursor().selectionEnd()) - SelStart();
 }
 
 void RichTextBox::SetSelLength(int length) {
   QTextCursor cursor = textCursor();
-  const int start = cursor.selectionStart();
-  const int most = document()->characterCount() - 1 - start;
-  cursor.setPosition(start);
-  cursor.setPosition(start + std::clamp(length, 0, most), QTextCursor::KeepAnchor);
+  const int start = SelStart();
+  cursor.setPosition(cursor.selectionStart());
+  cursor.setPosition(PlaceOf(start + std::clamp(length, 0, document()->characterCount() - start)),
+                     QTextCursor::KeepAnchor);
   setTextCursor(cursor);
+}
+
+// The place in the document for one in the shown text, which may be too large or too small.
+int RichTextBox::PlaceOf(int position) const {
+  const int end = document()->characterCount() - 1;
+  return std::min(FromShown(*document(), std::clamp(position, 0, end)), end);
 }
 
 std::optional<QString> RichTextBox::SelFontName() const {
@@ -133,7 +146,7 @@ std::optional<bool> RichTextBox::SelItalic() const {
 }
 
 std::optional<bool> RichTextBox::SelUnderline() const {
-  return Common(textCursor(), [](const QTextCharFormat& format) { return format.fontUnderline(); });
+  return Common(textCursor(), IsUnderlined);
 }
 
 std::optional<bool> RichTextBox::SelStrikeThru() const {
@@ -172,7 +185,7 @@ void RichTextBox::SetSelItalic(bool on) {
 
 void RichTextBox::SetSelUnderline(bool on) {
   QTextCharFormat attribute;
-  attribute.setFontUnderline(on);
+  SetUnderline(attribute, on ? UnderlineKind::Single : UnderlineKind::None);
   SetAttribute(attribute);
 }
 
@@ -194,7 +207,7 @@ void RichTextBox::SetAttribute(const QTextCharFormat& attribute) {
 
 // Paper and ink are the journal's and not the desktop's: on a dark desktop the page stays what it is.
 void RichTextBox::SetBackColor(std::uint32_t color) {
-  backColor_ = color & kWhite;
+  backColor_ = color & White;
   QPalette paper;
   paper.setColor(QPalette::Base, ToColor(backColor_));
   paper.setColor(QPalette::Text, Qt::black);
@@ -210,11 +223,9 @@ std::uint32_t RichTextBox::BackColor() const {
 
 void RichTextBox::InsertBitmap(const QImage& image) {
   if (image.isNull()) return;
-  const auto twips = [&](int pixels) { return qRound(pixels * kTwipsPerPixel / image.devicePixelRatio()); };
-  const Picture picture{PictureKind::Png, SmallestPng(image), twips(image.width()), twips(image.height())};
   QTextCursor cursor = textCursor();
   cursor.insertText(QString(QChar::ObjectReplacementCharacter),
-                    KeepPicture(picture, cursor.charFormat(), *document()));
+                    KeepPicture(FromImage(image), CaretFormat(), *document()));
   ensureCursorVisible();
 }
 
@@ -233,13 +244,30 @@ QMimeData* RichTextBox::createMimeDataFromSelection() const {
 void RichTextBox::insertFromMimeData(const QMimeData* source) {
   if (isReadOnly()) return;
   QTextCursor cursor = textCursor();
-  if (const std::string rtf = OfferedRtf(*source); !rtf.empty())
-    InsertDocument(ReadRtf(rtf), cursor);
+  if (const auto page = OfferedPage(*source, FromTextFormat(cursor.charFormat())))
+    InsertDocument(*page, cursor);
   else if (const QImage bitmap = OfferedBitmap(*source); !bitmap.isNull())
     InsertBitmap(bitmap);
   else
-    cursor.insertText(OfferedText(*source));
+    InsertText(*source);
   ensureCursorVisible();
+}
+
+void RichTextBox::PasteWithoutFormatting() {
+  if (const QMimeData* offered = QGuiApplication::clipboard()->mimeData(); offered && !isReadOnly())
+    InsertText(*offered);
+  ensureCursorVisible();
+}
+
+// In the format that letters typed here have.
+void RichTextBox::InsertText(const QMimeData& source) {
+  QTextCursor cursor = textCursor();
+  cursor.insertText(OfferedText(source), CaretFormat());
+}
+
+// Of letters alone: a cursor behind a picture or hidden text tells of these too.
+QTextCharFormat RichTextBox::CaretFormat() const {
+  return ToTextFormat(FromTextFormat(textCursor().charFormat()));
 }
 
 // What an input method shows while a word is being composed is not yet in the text.
@@ -253,16 +281,52 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
 void RichTextBox::keyPressEvent(QKeyEvent* event) {
   const unsigned before = edits_;
   const QTextCharFormat format = textCursor().charFormat();
-  if (event->matches(QKeySequence::InsertParagraphSeparator) && !isReadOnly())
-    InsertParagraph();
-  else
+  if (isReadOnly())
     QTextEdit::keyPressEvent(event);
+  else
+    PressKey(*event);
   if (edits_ != before) CarryOn(format);
 }
 
-// The toolkit's own Enter drops all formats after an empty paragraph, and now and then makes no paragraph.
+void RichTextBox::PressKey(QKeyEvent& event) {
+  const bool bare = !textCursor().hasSelection() && event.modifiers() == Qt::NoModifier;
+  if (event.keyCombination() == PlainPasteKey) return PasteWithoutFormatting();
+  if (event.matches(QKeySequence::InsertParagraphSeparator)) return InsertParagraph();
+  if (bare && event.key() == Qt::Key_Backspace) return DeleteBack(event);
+  if (bare && event.key() == Qt::Key_Delete) return DeleteNext(event);
+  QTextEdit::keyPressEvent(&event);
+}
+
+// At the start of an item the key takes away its label and nothing more. Hidden text stays: what a person
+// cannot see she does not mean to delete.
+void RichTextBox::DeleteBack(QKeyEvent& event) {
+  QTextCursor cursor = textCursor();
+  PassBack(cursor);
+  setTextCursor(cursor);
+  if (cursor.atBlockStart() && LeaveList()) return;
+  QTextEdit::keyPressEvent(&event);
+}
+
+void RichTextBox::DeleteNext(QKeyEvent& event) {
+  QTextCursor cursor = textCursor();
+  SelectNextLetter(cursor);
+  setTextCursor(cursor);
+  QTextEdit::keyPressEvent(&event);
+}
+
+bool RichTextBox::LeaveList() {
+  QTextCursor cursor = textCursor();
+  const QTextBlockFormat format = cursor.blockFormat();
+  if (!IsListItem(format)) return false;
+  cursor.setBlockFormat(WithoutList(format));
+  return true;
+}
+
+// The toolkit's own Enter drops all formats after an empty paragraph, and now and then makes no paragraph. An
+// empty list item is where a list ends.
 void RichTextBox::InsertParagraph() {
-  textCursor().insertBlock();
+  const bool isEmpty = textCursor().block().length() <= 1;
+  if (!(isEmpty && LeaveList())) textCursor().insertBlock();
   ensureCursorVisible();
 }
 
@@ -272,6 +336,34 @@ void RichTextBox::CarryOn(const QTextCharFormat& format) {
   const QTextCursor cursor = textCursor();
   if (cursor.hasSelection() || cursor.block().length() > 1) return;
   setCurrentCharFormat(ToTextFormat(FromTextFormat(format)));
+}
+
+// What is cut from the menu is an edit like one from the keyboard.
+void RichTextBox::contextMenuEvent(QContextMenuEvent* event) {
+  const unsigned before = edits_;
+  const QTextCharFormat format = textCursor().charFormat();
+  const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
+  auto* plain = new QAction(tr("Paste without formatting"), menu.get());
+  plain->setShortcut(PlainPasteKey);
+  plain->setEnabled(canPaste());
+  connect(plain, &QAction::triggered, this, &RichTextBox::PasteWithoutFormatting);
+  const QList<QAction*> actions = menu->actions();
+  const auto paste = std::find_if(actions.begin(), actions.end(), [](const QAction* action) {
+    return action->objectName() == QLatin1String("edit-paste");
+  });
+  menu->insertAction(paste == actions.end() || paste + 1 == actions.end() ? nullptr : *(paste + 1), plain);
+  menu->exec(event->globalPos());
+  if (edits_ != before) CarryOn(format);
+}
+
+void RichTextBox::paintEvent(QPaintEvent* event) {
+  QTextEdit::paintEvent(event);
+  QPainter painter(viewport());
+  const QScrollBar& across = *horizontalScrollBar();
+  const QPoint scrolled(isRightToLeft() ? across.maximum() - across.value() : across.value(),
+                        verticalScrollBar()->value());
+  painter.translate(-scrolled);
+  labelled_ = DrawLabels(painter, *document(), QRectF(event->rect().translated(scrolled)));
 }
 
 void RichTextBox::mousePressEvent(QMouseEvent* event) {

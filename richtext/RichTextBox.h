@@ -22,7 +22,8 @@ class RichTextBox : public QTextEdit {
   // shows as plain text. The caret goes to the start. Change is raised, once, whatever stood there before.
   void SetTextRTF(std::string_view rtf);
 
-  // The content as plain text: paragraphs and line breaks are '\n', a picture is U+FFFC.
+  // The content as plain text: paragraphs and line breaks are '\n', a picture is U+FFFC. Hidden text and the
+  // labels of lists are no part of it.
   QString Text() const;
 
   // The selection, in UTF-16 units of Text(). Values beyond the text mean its end; setting the start makes
@@ -57,6 +58,9 @@ class RichTextBox : public QTextEdit {
   // Puts a bitmap at the caret, in the place of the selection.
   void InsertBitmap(const QImage& image);
 
+  // Puts the clipboard's text at the caret, in the place of the selection and in the caret's format.
+  void PasteWithoutFormatting();
+
   // Gives the page's own pictures. Nothing is ever read from a file or a network, whatever a name says.
   QVariant loadResource(int type, const QUrl& name) override;
 
@@ -67,25 +71,35 @@ class RichTextBox : public QTextEdit {
   void MousePressed();
 
  protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   QMimeData* createMimeDataFromSelection() const override;
   void insertFromMimeData(const QMimeData* source) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void NoteEdit();
   void TellEdits();
   void Fill(std::string_view rtf);
   void SetAttribute(const QTextCharFormat& attribute);
+  QTextCharFormat CaretFormat() const;
+  int PlaceOf(int position) const;
+  void InsertText(const QMimeData& source);
+  void PressKey(QKeyEvent& event);
+  bool LeaveList();
+  void DeleteBack(QKeyEvent& event);
+  void DeleteNext(QKeyEvent& event);
   void InsertParagraph();
   void CarryOn(const QTextCharFormat& format);
 
   std::uint32_t backColor_ = 0xffffff;
-  bool quiet_ = false;   // what happens to the document now is no edit
-  bool edited_ = false;  // an edit was seen that Change has not told yet
-  unsigned edits_ = 0;   // told so far
+  bool quiet_ = false;     // what happens to the document now is no edit
+  bool edited_ = false;    // an edit was seen that Change has not told yet
+  unsigned edits_ = 0;     // told so far
+  bool labelled_ = false;  // list labels were drawn last
 };
 
 }  // namespace richtext

@@ -22,14 +22,14 @@ void RtfColorTable::EndTable() {
 }
 
 void RtfColorTable::EndEntry() {
-  if (colors_.size() < kMaxTableEntries) colors_.push_back(hasComponent_ ? color_ : kAutomaticColor);
+  if (colors_.size() < MaxTableEntries) colors_.push_back(hasComponent_ ? color_ : AutomaticColor);
   hasComponent_ = false;
   color_ = 0;
 }
 
 std::int32_t RtfColorTable::Find(std::int32_t index) const {
   const auto at = static_cast<std::size_t>(index);
-  return index >= 0 && at < colors_.size() ? colors_[at] : kAutomaticColor;
+  return index >= 0 && at < colors_.size() ? colors_[at] : AutomaticColor;
 }
 
 }  // namespace richtext

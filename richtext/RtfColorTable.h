@@ -17,7 +17,7 @@ class RtfColorTable {
   void AppendText(std::string_view bytes);  // each semicolon ends an entry
   void EndTable();
 
-  // 0x00BBGGRR; kAutomaticColor for the automatic one and past the end.
+  // 0x00BBGGRR; AutomaticColor for the automatic one and past the end.
   std::int32_t Find(std::int32_t index) const;
 
  private:

@@ -1,27 +1,30 @@
 #include "richtext/RtfContext.h"
 
+#include <optional>
 #include <utility>
+
+#include "richtext/Hyperlink.h"
+#include "richtext/ListLabel.h"
+#include "richtext/RtfCharacters.h"
+#include "richtext/Unicode.h"
 
 namespace richtext {
 namespace {
 
-FormatKey KeyOf(const CharacterState& state, const RtfFontTable& fonts) {
-  const std::uint32_t flags = (state.bold ? 1U : 0U) | (state.italic ? 2U : 0U) |
-                              (state.strikethrough ? 4U : 0U) |
-                              static_cast<std::uint32_t>(state.underline) << 8;
-  return {fonts.At(state.font).name, state.halfPoints, state.color, flags};
-}
+// Text that is set aside tells little in many words; this is more than any of it needs.
+constexpr std::size_t MaxAside = 16'384;
 
-CharacterFormat FormatOf(const CharacterState& state, const RtfFontTable& fonts) {
-  CharacterFormat format;
-  format.fontName = fonts.Name(fonts.At(state.font).name);
-  format.halfPoints = state.halfPoints;
-  format.bold = state.bold;
-  format.italic = state.italic;
-  format.strikethrough = state.strikethrough;
-  format.underline = state.underline;
-  if (state.color != kAutomaticColor) format.color = static_cast<std::uint32_t>(state.color);
-  return format;
+bool IsAside(Destination destination) {
+  switch (destination) {
+    case Destination::Label:
+    case Destination::FieldInstruction:
+    case Destination::ListLevelText:
+    case Destination::NumberingBefore:
+    case Destination::NumberingAfter:
+      return true;
+    default:
+      return false;
+  }
 }
 
 }  // namespace
@@ -36,10 +39,49 @@ void RtfContext::EndGroup() {
   const bool skipped = Skipping();
   const Destination ended = State().destination;
   if (!skipped && ended == Destination::FontTable) fonts_.EndGroup(Depth());
+  if (!skipped && IsAside(ended)) decoder_.EndText(aside_);
   groups_.Pop();
   if (skipped || State().destination == ended) return;
-  if (ended == Destination::ColorTable) colors_.EndTable();
-  if (ended == Destination::Picture) PutPicture();
+  Finish(ended);
+}
+
+void RtfContext::Finish(Destination ended) {
+  switch (ended) {
+    case Destination::ColorTable:
+      return colors_.EndTable();
+    case Destination::Picture:
+      return PutPicture();
+    case Destination::ListLevelText:
+      return FinishLevelText();
+    case Destination::NumberingBefore:
+      numbering_.list.before = aside_;
+      return;
+    case Destination::NumberingAfter:
+      numbering_.list.after = aside_;
+      return;
+    case Destination::Numbering:
+      return FinishNumbering();
+    case Destination::FieldInstruction:
+      State().fieldLink = links_.NumberOf(LinkOfInstruction(ToUtf8(aside_)));
+      return;
+    case Destination::Label:
+      label_ = aside_;
+      waitingLabel_ = labelKind_;
+      return;
+    default:
+      return;
+  }
+}
+
+void RtfContext::FinishNumbering() {
+  ParagraphState& paragraph = ChangeParagraph();
+  if (numbering_.list.level != 0) paragraph.listLevel = std::exchange(numbering_.list.level, 0);
+  paragraph.numbering = paragraphs_.NumberOf(numbering_);
+}
+
+void RtfContext::FinishLevelText() {
+  if (!aside_.empty() && aside_.back() == u';') aside_.pop_back();
+  paragraphs_.Lists().SetText(aside_);
 }
 
 void RtfContext::SkipGroup() {
@@ -53,13 +95,23 @@ void RtfContext::SendTextTo(Destination destination) {
   State().destination = destination;
 }
 
+void RtfContext::SetAside(Destination destination) {
+  const Destination within = State().destination;
+  const bool known =
+      within == Destination::Body || within == Destination::Numbering || within == Destination::ListTable;
+  if (!known) return SkipGroup();
+  if (within == Destination::Body) EndText();
+  aside_.clear();
+  SendTextTo(destination);
+}
+
 CharacterState& RtfContext::ChangeCharacter() {
-  State().formatNumber = GroupState::kNotAsked;
+  State().formatNumber = GroupState::NotAsked;
   return State().character;
 }
 
-ParagraphFormat& RtfContext::ChangeParagraph() {
-  State().paragraphNumber = GroupState::kNotAsked;
+ParagraphState& RtfContext::ChangeParagraph() {
+  State().paragraphNumber = GroupState::NotAsked;
   return State().paragraph;
 }
 
@@ -70,7 +122,9 @@ void RtfContext::SetFont(std::int32_t number) {
 
 void RtfContext::ResetCharacter() {
   decoder_.DropLeadByte();
+  const std::uint32_t link = State().character.link;
   ChangeCharacter() = CharacterState();
+  State().character.link = link;  // what a field is does not hang on its look
 }
 
 void RtfContext::SetCharacterSetPage(std::int32_t page) {
@@ -91,25 +145,39 @@ const CodePage& RtfContext::TextPage() const {
   return page != nullptr ? *page : DocumentPage();
 }
 
+// Where text goes; nothing when it is passed over.
+std::u16string* RtfContext::TextInHand() {
+  if (State().destination == Destination::Body) {
+    SettleLabel();
+    return &builder_.Text();
+  }
+  return IsAside(State().destination) && aside_.size() < MaxAside ? &aside_ : nullptr;
+}
+
 void RtfContext::PutBytes(std::string_view bytes) {
   switch (State().destination) {
-    case Destination::Body:
-      decoder_.AppendBytes(bytes, TextPage(), builder_.Text());
-      return ClaimText();
     case Destination::FontTable:
       return fonts_.AppendText(bytes, DocumentPage());
     case Destination::ColorTable:
       return colors_.AppendText(bytes);
     case Destination::Picture:
       return picture_.AppendHex(bytes);
-    case Destination::Discard:
-      return;
+    default:
+      break;
+  }
+  if (std::u16string* text = TextInHand()) {
+    decoder_.AppendBytes(bytes, TextPage(), *text);
+    ClaimText();
   }
 }
 
 void RtfContext::PutLiteral(char byte) {
-  if (State().destination == Destination::FontTable) return fonts_.AppendByte(byte, DocumentPage());
-  if (State().destination == Destination::Body) PutBytes({&byte, 1});
+  const Destination destination = State().destination;
+  if (destination == Destination::FontTable) return fonts_.AppendByte(byte, DocumentPage());
+  const bool isMark = destination == Destination::ListLevelText && static_cast<unsigned char>(byte) < 0x20;
+  if (isMark && aside_.size() < MaxAside) aside_ += static_cast<char16_t>(byte);
+  if (!isMark && destination != Destination::ColorTable && destination != Destination::Picture)
+    PutBytes({&byte, 1});
 }
 
 void RtfContext::PutBinary(std::string_view bytes) {
@@ -118,51 +186,102 @@ void RtfContext::PutBinary(std::string_view bytes) {
 
 void RtfContext::PutUnicode(std::int32_t number) {
   if (State().destination == Destination::FontTable) return fonts_.AppendUnicode(number);
-  if (State().destination != Destination::Body) return;
   if (IsUnicodeParagraphEnd(number)) return EndParagraph();
-  decoder_.AppendUnicode(number, builder_.Text());
-  ClaimText();
+  if (std::u16string* text = TextInHand()) {
+    decoder_.AppendUnicode(number, *text);
+    ClaimText();
+  }
 }
 
 void RtfContext::PutCharacter(char16_t character) {
-  if (State().destination != Destination::Body) return;
-  decoder_.AppendUnit(character, builder_.Text());
+  if (std::u16string* text = TextInHand()) {
+    decoder_.AppendUnit(character, *text);
+    ClaimText();
+  }
+}
+
+void RtfContext::EndText() {
+  decoder_.EndText(builder_.Text());
   ClaimText();
 }
 
 void RtfContext::EndParagraph() {
   if (State().destination != Destination::Body) return;
-  decoder_.EndText(builder_.Text());
+  SettleLabel();
+  EndText();
+  builder_.EndParagraph(ParagraphNumber(), MarkNumber());
+  openLink_ = 0;
+}
+
+void RtfContext::EndCell() {
+  PutCharacter(u'\t');
+  labelList_ = 0;
+}
+
+void RtfContext::BeginShapeText() {
+  if (builder_.HasOpenText()) EndParagraph();
+}
+
+void RtfContext::BeginLabel(bool isListText) {
+  labelKind_ = isListText ? LabelKind::ListText : LabelKind::Text;
+  if (State().destination == Destination::Body)
+    SetAside(Destination::Label);
+  else
+    SkipGroup();
+}
+
+// A label is no text where a list makes one, and else as much of a list as it tells.
+void RtfContext::SettleLabel() {
+  const LabelKind kind = std::exchange(waitingLabel_, LabelKind::None);
+  if (kind == LabelKind::None || paragraphs_.IsListed(State().paragraph)) return;
+  if (kind == LabelKind::ListText) labelList_ = paragraphs_.NumberOfLabel(label_);
+  if (labelList_ != 0) return;
+  for (const char16_t unit : label_) decoder_.AppendUnit(ShownBullet(unit), builder_.Text());
   ClaimText();
-  builder_.EndParagraph(ParagraphNumber(State()), FormatNumber());
 }
 
 // The \par that ends the last paragraph is no more than its end; without it the paragraph is as it was
 // written.
 Document RtfContext::Take() {
-  decoder_.EndText(builder_.Text());
-  ClaimText();
+  SettleLabel();
+  EndText();
   if (builder_.HasOpenText()) {
-    builder_.EndParagraph(builder_.ParagraphFormatNumber(openParagraph_), FormatNumber());
+    builder_.EndParagraph(ParagraphNumber(openParagraph_), MarkNumber());
   } else if (!builder_.HasParagraphs()) {
-    builder_.EndParagraph(ParagraphNumber(State()), FormatNumber());
+    builder_.EndParagraph(ParagraphNumber(State().paragraph), MarkNumber());
   }
   return builder_.Take();
 }
 
+std::uint32_t RtfContext::FormatNumberOf(const CharacterState& state) {
+  return builder_.FormatNumber(KeyOf(state, fonts_), [&] { return FormatOf(state, fonts_, links_); });
+}
+
 std::uint32_t RtfContext::FormatNumber() {
   GroupState& state = State();
-  if (state.formatNumber == GroupState::kNotAsked) {
-    const CharacterState& character = state.character;
-    state.formatNumber =
-        builder_.FormatNumber(KeyOf(character, fonts_), [&] { return FormatOf(character, fonts_); });
-  }
+  if (state.formatNumber == GroupState::NotAsked) state.formatNumber = FormatNumberOf(state.character);
   return state.formatNumber;
 }
 
-std::uint32_t RtfContext::ParagraphNumber(GroupState& state) {
-  if (state.paragraphNumber == GroupState::kNotAsked)
-    state.paragraphNumber = builder_.ParagraphFormatNumber(state.paragraph);
+// The end of a paragraph leads nowhere.
+std::uint32_t RtfContext::MarkNumber() {
+  if (State().character.link == 0) return FormatNumber();
+  CharacterState mark = State().character;
+  mark.link = 0;
+  return FormatNumberOf(mark);
+}
+
+std::uint32_t RtfContext::ParagraphNumber(ParagraphState paragraph) {
+  const std::uint32_t labelList = std::exchange(labelList_, 0);
+  if (!paragraphs_.IsListed(paragraph)) paragraph.numbering = labelList;
+  return builder_.ParagraphFormatNumber(paragraphs_.FormatOfNext(paragraph));
+}
+
+std::uint32_t RtfContext::ParagraphNumber() {
+  GroupState& state = State();
+  if (labelList_ != 0 || paragraphs_.IsListed(state.paragraph)) return ParagraphNumber(state.paragraph);
+  paragraphs_.PassUnlisted();
+  if (state.paragraphNumber == GroupState::NotAsked) state.paragraphNumber = ParagraphNumber(state.paragraph);
   return state.paragraphNumber;
 }
 
@@ -170,17 +289,26 @@ std::uint32_t RtfContext::ParagraphNumber(GroupState& state) {
 void RtfContext::ClaimText() {
   if (!builder_.HasUnclaimedText()) return;
   openParagraph_ = State().paragraph;
+  if (State().character.link != openLink_) CountLink();
   builder_.ClaimText(FormatNumber());
+}
+
+// A link is told anew in every paragraph and behind other text.
+void RtfContext::CountLink() {
+  linkText_ += links_.At(State().character.link).size();
+  if (linkText_ > MaxLinkText) ChangeCharacter().link = 0;
+  openLink_ = State().character.link;
 }
 
 // The picture stands in the group around it.
 void RtfContext::PutPicture() {
   std::optional<Picture> picture = picture_.Take();
   if (!picture || State().destination != Destination::Body) return;
-  decoder_.EndText(builder_.Text());
+  SettleLabel();
+  EndText();
+  modernPicture_ = true;
+  builder_.AddPicture(std::move(*picture));
   ClaimText();
-  openParagraph_ = State().paragraph;
-  builder_.AddPicture(std::move(*picture), FormatNumber());
 }
 
 }  // namespace richtext

@@ -9,6 +9,8 @@
 #include "richtext/RtfColorTable.h"
 #include "richtext/RtfFontTable.h"
 #include "richtext/RtfGroupState.h"
+#include "richtext/RtfLinks.h"
+#include "richtext/RtfParagraphs.h"
 #include "richtext/RtfPictureReader.h"
 #include "richtext/RtfTextDecoder.h"
 
@@ -16,10 +18,16 @@ namespace richtext {
 
 class RtfContext {
  public:
+  // `length` of the input, which the text is shorter than.
+  explicit RtfContext(std::size_t length) { builder_.Text().reserve(length); }
+
   GroupState& State() { return groups_.Top(); }
   RtfFontTable& Fonts() { return fonts_; }
   RtfColorTable& Colors() { return colors_; }
   RtfPictureReader& PictureInHand() { return picture_; }
+  bool& ModernPicture() { return modernPicture_; }  // whether a picture came since a \shppict began
+  RtfParagraphs& Paragraphs() { return paragraphs_; }
+  RtfNumbering& NumberingInHand() { return numbering_; }
 
   std::size_t Depth() const { return groups_.Depth(); }
   bool Skipping() const { return groups_.Skipping(); }
@@ -29,10 +37,13 @@ class RtfContext {
   // whatever stands in it: neither does anything there.
   void SkipGroup();
   void SendTextTo(Destination destination);
+  // Of a group whose text is read for what it tells of the text around it: sent there when the group stands
+  // in text at all, else passed over.
+  void SetAside(Destination destination);
 
   // Formats of the text that follows. What they change must be told, since the number of a format is kept.
   CharacterState& ChangeCharacter();
-  ParagraphFormat& ChangeParagraph();
+  ParagraphState& ChangeParagraph();
   void SetFont(std::int32_t number);
   void ResetCharacter();
 
@@ -47,6 +58,12 @@ class RtfContext {
   void PutUnicode(std::int32_t number);
   void PutCharacter(char16_t character);
   void EndParagraph();
+  void EndCell();
+  // A group begins whose text stands for itself, not within the paragraph around it.
+  void BeginShapeText();
+  // The label that a writer put before a list's paragraph, for readers who know nothing of lists. One who
+  // wrote \listtext meant a list in any case.
+  void BeginLabel(bool isListText);
 
   // The document, when its last brace was met or the input ended.
   Document Take();
@@ -55,19 +72,43 @@ class RtfContext {
   const CodePage& DocumentPage() const;
   const CodePage& TextPage() const;
   std::uint32_t FormatNumber();
-  std::uint32_t ParagraphNumber(GroupState& state);
+  std::uint32_t FormatNumberOf(const CharacterState& state);
+  std::uint32_t MarkNumber();
+  std::uint32_t ParagraphNumber(ParagraphState paragraph);
+  std::uint32_t ParagraphNumber();
+  std::u16string* TextInHand();
+  void Finish(Destination ended);
+  void FinishNumbering();
+  void FinishLevelText();
+  void SettleLabel();
+  void EndText();
   void ClaimText();
+  void CountLink();
   void PutPicture();
 
   GroupStack groups_;
   RtfFontTable fonts_;
   RtfColorTable colors_;
   RtfPictureReader picture_;
+  bool modernPicture_ = false;
   RtfTextDecoder decoder_;
+  RtfParagraphs paragraphs_;
+  RtfLinks links_;
+  std::uint32_t openLink_ = 0;  // of the text met last, in the open paragraph
+  std::size_t linkText_ = 0;    // bytes, as of MaxLinkText
+  RtfNumbering numbering_;
   DocumentBuilder builder_;
+  std::u16string aside_;  // text of the group that is set aside
   const CodePage* characterSetPage_ = nullptr;
   const CodePage* ansiPage_ = nullptr;
-  ParagraphFormat openParagraph_;  // in force where the open paragraph's text was met last
+  ParagraphState openParagraph_;  // in force where the open paragraph's text was met last
+
+  // Whether the label belongs to a list is known only where the paragraph's text begins.
+  enum class LabelKind : std::uint8_t { None, Text, ListText };
+  LabelKind labelKind_ = LabelKind::None;
+  LabelKind waitingLabel_ = LabelKind::None;
+  std::u16string label_;
+  std::uint32_t labelList_ = 0;  // the list that the open paragraph's label tells of
 };
 
 }  // namespace richtext

@@ -34,19 +34,22 @@ constexpr ControlWord Shown(std::string_view name) {
   return {name, Transparent, 0, 0, WordKind::Destination};
 }
 
+constexpr ControlWord Aside(std::string_view name, Destination destination) {
+  return {name, SetAside, static_cast<Number>(destination), 0, WordKind::Destination};
+}
+
 constexpr ControlWord Sent(std::string_view name, Destination destination) {
   return {name, SendTo, static_cast<Number>(destination), 0, WordKind::Destination};
 }
 
-constexpr Number kOn = 1;  // toggles are on where no parameter is written
-constexpr auto kSingle = UnderlineKind::Single;
-using PictureSide = RtfPictureReader;
+constexpr Number On = 1;          // toggles are on where no parameter is written
+constexpr Number UsualShift = 6;  // half points
 
-constexpr ControlWord kWords[] = {
+constexpr ControlWord KnownWords[] = {
     WordOf("tab", Character, u'\t'),
-    WordOf("cell", Character, u'\t'),
-    WordOf("nestcell", Character, u'\t'),
-    WordOf("line", Character, kLineBreak),
+    Word("cell", CellEnd),
+    Word("nestcell", CellEnd),
+    WordOf("line", Character, LineBreak),
     WordOf("emdash", Character, 0x2014),
     WordOf("endash", Character, 0x2013),
     WordOf("bullet", Character, 0x2022),
@@ -59,6 +62,8 @@ constexpr ControlWord kWords[] = {
     WordOf("qmspace", Character, 0x2005),
     WordOf("zwj", Character, 0x200D),
     WordOf("zwnj", Character, 0x200C),
+    WordOf("zwbo", Character, 0x200B),
+    WordOf("zwnbo", Character, 0x2060),
     WordOf("ltrmark", Character, 0x200E),
     WordOf("rtlmark", Character, 0x200F),
     End("par"),
@@ -69,8 +74,8 @@ constexpr ControlWord kWords[] = {
     {"u", Unicode, 0, 0, WordKind::Structure},
     Word("uc", FallbackLength, 1),
 
-    WordOf("ansi", CharacterSet, kWesternPage),
-    WordOf("mac", CharacterSet, kMacintoshPage),
+    WordOf("ansi", CharacterSet, WesternPage),
+    WordOf("mac", CharacterSet, MacintoshPage),
     WordOf("pc", CharacterSet, 437),
     WordOf("pca", CharacterSet, 850),
     Word("ansicpg", AnsiCodePage),
@@ -83,32 +88,43 @@ constexpr ControlWord kWords[] = {
     Word("green", Component<&RtfColorTable::SetGreen>),
     Word("blue", Component<&RtfColorTable::SetBlue>),
     Word("cf", Color),
+    Word("highlight", Highlight),
+    Word("cb", Highlight),
+    Word("chcbpat", Highlight),
 
     Word("plain", Plain),
-    Word("fs", FontSize, kDefaultHalfPoints),
-    Word("b", Toggle<&CharacterState::bold>, kOn),
-    Word("i", Toggle<&CharacterState::italic>, kOn),
-    Word("strike", Toggle<&CharacterState::strikethrough>, kOn),
-    Word("striked", Toggle<&CharacterState::strikethrough>, kOn),
-    WordOf("ulnone", Underline, UnderlineKind::None, kOn),
-    WordOf("ul", Underline, kSingle, kOn),
-    WordOf("uld", Underline, kSingle, kOn),
-    WordOf("uldash", Underline, kSingle, kOn),
-    WordOf("uldashd", Underline, kSingle, kOn),
-    WordOf("uldashdd", Underline, kSingle, kOn),
-    WordOf("uldb", Underline, kSingle, kOn),
-    WordOf("ulhair", Underline, kSingle, kOn),
-    WordOf("ulhwave", Underline, kSingle, kOn),
-    WordOf("ulldash", Underline, kSingle, kOn),
-    WordOf("ulth", Underline, kSingle, kOn),
-    WordOf("ulthd", Underline, kSingle, kOn),
-    WordOf("ulthdash", Underline, kSingle, kOn),
-    WordOf("ulthdashd", Underline, kSingle, kOn),
-    WordOf("ulthdashdd", Underline, kSingle, kOn),
-    WordOf("ulthldash", Underline, kSingle, kOn),
-    WordOf("ululdbwave", Underline, kSingle, kOn),
-    WordOf("ulw", Underline, kSingle, kOn),
-    WordOf("ulwave", Underline, kSingle, kOn),
+    Word("fs", FontSize, DefaultHalfPoints),
+    Word("b", Toggle<&CharacterState::bold>, On),
+    Word("i", Toggle<&CharacterState::italic>, On),
+    Word("strike", Toggle<&CharacterState::strikethrough>, On),
+    Word("striked", Toggle<&CharacterState::doubleStrikethrough>, On),
+    Word("v", Toggle<&CharacterState::hidden>, On),
+    WordOf("caps", Capital, Capitals::All, On),
+    WordOf("scaps", Capital, Capitals::Small, On),
+    WordOf("super", Place, VerticalPlace::Superscript, On),
+    WordOf("sub", Place, VerticalPlace::Subscript, On),
+    WordOf("nosupersub", Place, VerticalPlace::Baseline, On),
+    WordOf("up", Shift, 1, UsualShift),
+    WordOf("dn", Shift, -1, UsualShift),
+    WordOf("ulnone", Underline, UnderlineKind::None, On),
+    WordOf("ul", Underline, UnderlineKind::Single, On),
+    WordOf("ulw", Underline, UnderlineKind::Words, On),
+    WordOf("uldb", Underline, UnderlineKind::Double, On),
+    WordOf("uld", Underline, UnderlineKind::Dotted, On),
+    WordOf("uldash", Underline, UnderlineKind::Dash, On),
+    WordOf("uldashd", Underline, UnderlineKind::DashDot, On),
+    WordOf("uldashdd", Underline, UnderlineKind::DashDotDot, On),
+    WordOf("ulwave", Underline, UnderlineKind::Wave, On),
+    WordOf("ulth", Underline, UnderlineKind::Thick, On),
+    WordOf("ulhair", Underline, UnderlineKind::Single, On),
+    WordOf("ulhwave", Underline, UnderlineKind::Wave, On),
+    WordOf("ululdbwave", Underline, UnderlineKind::Wave, On),
+    WordOf("ulldash", Underline, UnderlineKind::Dash, On),
+    WordOf("ulthd", Underline, UnderlineKind::Dotted, On),
+    WordOf("ulthdash", Underline, UnderlineKind::Dash, On),
+    WordOf("ulthldash", Underline, UnderlineKind::Dash, On),
+    WordOf("ulthdashd", Underline, UnderlineKind::DashDot, On),
+    WordOf("ulthdashdd", Underline, UnderlineKind::DashDotDot, On),
 
     Word("pard", ParagraphDefault),
     WordOf("ql", Align, Alignment::Left),
@@ -116,98 +132,139 @@ constexpr ControlWord kWords[] = {
     WordOf("qc", Align, Alignment::Center),
     WordOf("qj", Align, Alignment::Justify),
     WordOf("qd", Align, Alignment::Justify),
-    Word("li", Indent<&ParagraphFormat::leftIndent>),
-    Word("ri", Indent<&ParagraphFormat::rightIndent>),
-    Word("fi", Indent<&ParagraphFormat::firstLineIndent>),
+    Word("li", Indent<&ParagraphState::leftIndent>),
+    Word("ri", Indent<&ParagraphState::rightIndent>),
+    Word("fi", Indent<&ParagraphState::firstLineIndent>),
+    Word("sb", Space<&ParagraphState::spaceBefore>),
+    Word("sa", Space<&ParagraphState::spaceAfter>),
+    Word("sl", Indent<&ParagraphState::lineSpacing>),
+    Word("slmult", MultipleSpacing, On),
+    WordOf("ltrpar", Flow, Direction::LeftToRight),
+    WordOf("rtlpar", Flow, Direction::RightToLeft),
+    WordOf("tqr", NextTab, TabKind::Right),
+    WordOf("tqc", NextTab, TabKind::Center),
+    WordOf("tqdec", NextTab, TabKind::Decimal),
+    Word("tx", Tab),
+
+    Word("ls", ListOfTable),
+    Word("ilvl", ListLevel),
+    Word("list", BeginInTable<&RtfListTable::BeginList>),
+    Word("listlevel", BeginInTable<&RtfListTable::BeginLevel>),
+    Word("levelnfc", SetInTable<&RtfListTable::SetNumberKind>),
+    Word("levelnfcn", SetInTable<&RtfListTable::SetNumberKind>),
+    Word("levelstartat", SetInTable<&RtfListTable::SetStart>, 1),
+    Word("listid", SetInTable<&RtfListTable::SetListId>),
+    Word("listoverride", BeginInTable<&RtfListTable::BeginOverride>),
+    Word("lfolevel", BeginInTable<&RtfListTable::BeginOverrideLevel>),
+    WordOf("pnlvlblt", NumberingKind, ListKind::Bullet),
+    WordOf("pnlvlcont", NumberingKind, ListKind::None),
+    Word("pnlvlbody", NumberingBody),
+    Word("pnlvl", NumberingLevel, 1),
+    WordOf("pncard", NumberingKind, ListKind::Decimal),
+    WordOf("pndec", NumberingKind, ListKind::Decimal),
+    WordOf("pnord", NumberingKind, ListKind::Decimal),
+    WordOf("pnordt", NumberingKind, ListKind::Decimal),
+    WordOf("pnlcltr", NumberingKind, ListKind::LowerLetter),
+    WordOf("pnucltr", NumberingKind, ListKind::UpperLetter),
+    WordOf("pnlcrm", NumberingKind, ListKind::LowerRoman),
+    WordOf("pnucrm", NumberingKind, ListKind::UpperRoman),
+    Word("pnstart", NumberingStart, 1),
+    Word("pnindent", NumberingIndent),
+    Word("pnf", Font),
 
     Sent("fonttbl", Destination::FontTable),
     Sent("colortbl", Destination::ColorTable),
     Sent("upr", Destination::Discard),
     {"ud", UnicodeTwin, 0, 0, WordKind::Destination},
     {"pict", PictureGroup, 0, 0, WordKind::Destination},
-    Shown("field"),
-    Shown("fldrslt"),
-    Shown("shppict"),
+    Sent("listtable", Destination::ListTable),
+    Sent("listoverridetable", Destination::ListTable),
+    Aside("leveltext", Destination::ListLevelText),
+    {"pn", BeginNumbering, 0, 0, WordKind::Destination},
+    Aside("pntxtb", Destination::NumberingBefore),
+    Aside("pntxta", Destination::NumberingAfter),
+    {"pntext", Label, 0, 0, WordKind::Destination},
+    {"listtext", Label, 1, 0, WordKind::Destination},
+    {"field", Field, 0, 0, WordKind::Destination},
+    Aside("fldinst", Destination::FieldInstruction),
+    {"fldrslt", FieldResult, 0, 0, WordKind::Destination},
+    {"shppict", ModernPicture, 0, 0, WordKind::Destination},
+    {"nonshppict", OlderPicture, 0, 0, WordKind::Destination},
     Shown("object"),
     Shown("result"),
+    Shown("shpinst"),
+    Shown("do"),
+    {"shptxt", ShapeText, 0, 0, WordKind::Destination},
+    {"dptxbxtext", ShapeText, 0, 0, WordKind::Destination},
     Shown("nesttableprops"),
-
-    WordOf("pngblip", KindOfPicture, PictureKind::Png),
-    Word("picw", Extent<&PictureSide::Width, &PictureExtent::pixels>),
-    Word("pich", Extent<&PictureSide::Height, &PictureExtent::pixels>),
-    Word("picwgoal", Extent<&PictureSide::Width, &PictureExtent::goal>),
-    Word("pichgoal", Extent<&PictureSide::Height, &PictureExtent::goal>),
-    Word("picscalex", Extent<&PictureSide::Width, &PictureExtent::scalePercent>, 100),
-    Word("picscaley", Extent<&PictureSide::Height, &PictureExtent::scalePercent>, 100),
 };
 
-// Groups that are passed over, which many write without "\*". The labels of lists are made anew by whoever
-// shows them.
-constexpr std::string_view kSkipped[] = {"annotation",   "background",
-                                         "bkmkend",      "bkmkstart",
-                                         "blipuid",      "colorschememapping",
-                                         "datafield",    "datastore",
-                                         "docvar",       "falt",
-                                         "filetbl",      "fldinst",
-                                         "fname",        "footer",
-                                         "footerf",      "footerl",
-                                         "footerr",      "footnote",
-                                         "generator",    "header",
-                                         "headerf",      "headerl",
-                                         "headerr",      "info",
-                                         "latentstyles", "listoverridetable",
-                                         "listtable",    "listtext",
-                                         "mmath",        "nonesttables",
-                                         "nonshppict",   "objclass",
-                                         "objdata",      "objname",
-                                         "panose",       "pgptbl",
-                                         "picprop",      "pn",
-                                         "pntext",       "pntxta",
-                                         "pntxtb",       "private",
-                                         "revtbl",       "rsidtbl",
-                                         "sp",           "stylesheet",
-                                         "tc",           "template",
-                                         "themedata",    "xe",
-                                         "xmlnstbl"};
+// Groups that are passed over, which many write without "\*".
+constexpr std::string_view SkippedNames[] = {"annotation",  "background",
+                                             "bkmkend",     "bkmkstart",
+                                             "blipuid",     "colorschememapping",
+                                             "datafield",   "datastore",
+                                             "docvar",      "falt",
+                                             "filetbl",     "fname",
+                                             "footer",      "footerf",
+                                             "footerl",     "footerr",
+                                             "footnote",    "generator",
+                                             "header",      "headerf",
+                                             "headerl",     "headerr",
+                                             "info",        "latentstyles",
 
-constexpr std::size_t kCount = std::size(kWords) + std::size(kSkipped);
+                                             "mmath",       "levelnumbers",
+                                             "listname",    "liststylename",
+                                             "listpicture", "nonesttables",
+                                             "objclass",    "objdata",
+                                             "objname",     "panose",
+                                             "pgptbl",      "picprop",
 
-constexpr std::array<ControlWord, kCount> kAllWords = [] {
-  std::array<ControlWord, kCount> all{};
+                                             "private",     "revtbl",
+                                             "rsidtbl",     "shprslt",
+                                             "sp",          "stylesheet",
+                                             "tc",          "template",
+                                             "themedata",   "xe",
+                                             "xmlnstbl"};
+
+constexpr std::size_t WordCount = std::size(KnownWords) + std::size(SkippedNames);
+
+constexpr std::array<ControlWord, WordCount> AllWords = [] {
+  std::array<ControlWord, WordCount> all{};
   std::size_t at = 0;
-  for (const ControlWord& word : kWords) all[at++] = word;
-  for (const std::string_view name : kSkipped) all[at++] = Skipped(name);
+  for (const ControlWord& word : KnownWords) all[at++] = word;
+  for (const std::string_view name : SkippedNames) all[at++] = Skipped(name);
   return all;
 }();
 
 // The table by name: open addressing, made while compiling.
-constexpr std::size_t kSlots = 512;
-static_assert(kCount < kSlots / 2 && kCount < 255);
+constexpr std::size_t SlotCount = 512;
+static_assert(WordCount < SlotCount / 2 && WordCount < 255);
 
 constexpr std::size_t SlotOf(std::string_view name) {
   std::uint32_t hash = 2166136261U;
   for (const char letter : name) hash = (hash ^ static_cast<unsigned char>(letter)) * 16777619U;
-  return (hash ^ (hash >> 15)) % kSlots;
+  return (hash ^ (hash >> 15)) % SlotCount;
 }
 
-constexpr std::array<std::uint8_t, kSlots> kRowOfSlot = [] {
-  std::array<std::uint8_t, kSlots> rows{};  // 0: free, else the row's number + 1
-  for (std::size_t row = 0; row < kCount; ++row) {
-    std::size_t slot = SlotOf(kAllWords[row].name);
-    while (rows[slot] != 0) slot = (slot + 1) % kSlots;
+constexpr std::array<std::uint8_t, SlotCount> RowOfSlot = [] {
+  std::array<std::uint8_t, SlotCount> rows{};  // 0: free, else the row's number + 1
+  for (std::size_t row = 0; row < WordCount; ++row) {
+    std::size_t slot = SlotOf(AllWords[row].name);
+    while (rows[slot] != 0) slot = (slot + 1) % SlotCount;
     rows[slot] = static_cast<std::uint8_t>(row + 1);
   }
   return rows;
 }();
 
-constexpr std::size_t kLongestName = 20;
+constexpr std::size_t LongestName = 20;
 
 }  // namespace
 
 const ControlWord* FindControlWord(std::string_view name) {
-  if (name.size() > kLongestName) return nullptr;
-  for (std::size_t slot = SlotOf(name); kRowOfSlot[slot] != 0; slot = (slot + 1) % kSlots) {
-    const ControlWord& word = kAllWords[kRowOfSlot[slot] - 1U];
+  if (name.size() > LongestName) return nullptr;
+  for (std::size_t slot = SlotOf(name); RowOfSlot[slot] != 0; slot = (slot + 1) % SlotCount) {
+    const ControlWord& word = AllWords[RowOfSlot[slot] - 1U];
     if (word.name == name) return &word;
   }
   return nullptr;

@@ -6,8 +6,8 @@
 namespace richtext {
 namespace {
 
-constexpr char kDigits[] = "0123456789abcdef";
-constexpr std::size_t kBytesInLine = 64;
+constexpr char HexDigits[] = "0123456789abcdef";
+constexpr std::size_t BytesInLine = 64;
 
 void AppendNumber(std::int32_t number, std::string& rtf) {
   char digits[12];
@@ -16,8 +16,8 @@ void AppendNumber(std::int32_t number, std::string& rtf) {
 }
 
 void AppendHexByte(unsigned char byte, std::string& rtf) {
-  rtf += kDigits[byte >> 4];
-  rtf += kDigits[byte & 15];
+  rtf += HexDigits[byte >> 4];
+  rtf += HexDigits[byte & 15];
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ void AppendNameUnit(char16_t unit, std::string& rtf) {
 
 void AppendHexLines(std::string_view bytes, std::string& rtf) {
   for (std::size_t i = 0; i < bytes.size(); ++i) {
-    if (i != 0 && i % kBytesInLine == 0) rtf += "\r\n";
+    if (i != 0 && i % BytesInLine == 0) rtf += "\r\n";
     AppendHexByte(static_cast<unsigned char>(bytes[i]), rtf);
   }
 }

@@ -9,10 +9,10 @@
 namespace richtext {
 namespace {
 
-const RtfFont kNoFont;
+const RtfFont NoFont;
 
 // Room for outer blanks, which do not count. The rest of a longer name is passed over.
-constexpr std::size_t kMaxNameRead = 4 * kMaxFontName;
+constexpr std::size_t MaxNameRead = 4 * MaxFontName;
 
 }  // namespace
 
@@ -39,7 +39,7 @@ void RtfFontTable::SetCodePage(std::int32_t page) {
 void RtfFontTable::AppendText(std::string_view bytes, const CodePage& documentPage) {
   while (!bytes.empty()) {
     const std::size_t end = bytes.find(';');
-    for (const char byte : bytes.substr(0, end).substr(0, kMaxNameRead)) AppendByte(byte, documentPage);
+    for (const char byte : bytes.substr(0, end).substr(0, MaxNameRead)) AppendByte(byte, documentPage);
     if (end == std::string_view::npos) return;
     EndEntry();
     bytes.remove_prefix(end + 1);
@@ -48,13 +48,13 @@ void RtfFontTable::AppendText(std::string_view bytes, const CodePage& documentPa
 
 // The name of a symbol font is written in letters all the same.
 void RtfFontTable::AppendByte(char byte, const CodePage& documentPage) {
-  if (!open_ || name_.size() >= kMaxNameRead) return;
+  if (!open_ || name_.size() >= MaxNameRead) return;
   const CodePage& page = page_ == nullptr ? documentPage : *page_;
-  decoder_.AppendBytes({&byte, 1}, page.number == kSymbolPage ? WesternCodePage() : page, name_);
+  decoder_.AppendBytes({&byte, 1}, page.number == SymbolPage ? WesternCodePage() : page, name_);
 }
 
 void RtfFontTable::AppendUnicode(std::int32_t number) {
-  if (open_ && name_.size() < kMaxNameRead) decoder_.AppendUnicode(number, name_);
+  if (open_ && name_.size() < MaxNameRead) decoder_.AppendUnicode(number, name_);
 }
 
 void RtfFontTable::EndGroup(std::size_t depth) {
@@ -64,7 +64,7 @@ void RtfFontTable::EndGroup(std::size_t depth) {
 void RtfFontTable::EndEntry() {
   if (!open_) return;
   decoder_.EndText(name_);
-  if (fonts_.size() < kMaxTableEntries) {
+  if (fonts_.size() < MaxTableEntries) {
     fonts_.push_back({NameNumber(ToUtf8(FittingFontName(name_))), page_});
     indices_[number_] = static_cast<std::int32_t>(fonts_.size() - 1);
   }
@@ -80,12 +80,12 @@ std::uint32_t RtfFontTable::NameNumber(std::string name) {
 
 std::int32_t RtfFontTable::Find(std::int32_t number) const {
   const auto found = indices_.find(number);
-  return found == indices_.end() ? kDefaultFont : found->second;
+  return found == indices_.end() ? DefaultFontIndex : found->second;
 }
 
 const RtfFont& RtfFontTable::At(std::int32_t index) const {
-  if (index == kDefaultFont) index = Find(defaultNumber_);
-  return index == kDefaultFont ? kNoFont : fonts_[static_cast<std::size_t>(index)];
+  if (index == DefaultFontIndex) index = Find(defaultNumber_);
+  return index == DefaultFontIndex ? NoFont : fonts_[static_cast<std::size_t>(index)];
 }
 
 }  // namespace richtext

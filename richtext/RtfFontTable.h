@@ -34,9 +34,9 @@ class RtfFontTable {
   // The font that stands for a missing one and for none.
   void SetDefault(std::int32_t number) { defaultNumber_ = number; }
 
-  // The index of a \f; kDefaultFont when there is no such font.
+  // The index of a \f; DefaultFontIndex when there is no such font.
   std::int32_t Find(std::int32_t number) const;
-  // The font at an index, kDefaultFont included. A table without the default font: one without a name.
+  // The font at an index, DefaultFontIndex included. A table without the default font: one without a name.
   const RtfFont& At(std::int32_t index) const;
   const std::string& Name(std::uint32_t name) const { return names_[name]; }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include "richtext/RtfContext.h"
 
@@ -16,6 +17,10 @@ using Number = std::int32_t;
 
 inline void Character(Context& context, Number character, Number) {
   context.PutCharacter(static_cast<char16_t>(character));
+}
+
+inline void CellEnd(Context& context, Number, Number) {
+  context.EndCell();
 }
 
 inline void ParagraphEnd(Context& context, Number, Number) {
@@ -73,6 +78,11 @@ inline void Color(Context& context, Number, Number index) {
   context.ChangeCharacter().color = context.Colors().Find(index);
 }
 
+// Number 0 is no colour here, whatever the table begins with.
+inline void Highlight(Context& context, Number, Number index) {
+  context.ChangeCharacter().highlight = index == 0 ? AutomaticColor : context.Colors().Find(index);
+}
+
 // Characters' looks.
 
 inline void Plain(Context& context, Number, Number) {
@@ -80,7 +90,7 @@ inline void Plain(Context& context, Number, Number) {
 }
 
 inline void FontSize(Context& context, Number, Number halfPoints) {
-  if (halfPoints > 0) context.ChangeCharacter().halfPoints = std::min(halfPoints, kMaxHalfPoints);
+  if (halfPoints > 0) context.ChangeCharacter().halfPoints = std::min(halfPoints, MaxHalfPoints);
 }
 
 template <bool CharacterState::*Flag>
@@ -92,19 +102,130 @@ inline void Underline(Context& context, Number kind, Number on) {
   context.ChangeCharacter().underline = on != 0 ? static_cast<UnderlineKind>(kind) : UnderlineKind::None;
 }
 
+// What one word turned on, another does not turn off.
+inline void Capital(Context& context, Number kind, Number on) {
+  Capitals& capitals = context.ChangeCharacter().capitals;
+  if (on != 0)
+    capitals = static_cast<Capitals>(kind);
+  else if (capitals == static_cast<Capitals>(kind))
+    capitals = Capitals::AsWritten;
+}
+
+inline void Place(Context& context, Number place, Number on) {
+  context.ChangeCharacter().place = on != 0 ? static_cast<VerticalPlace>(place) : VerticalPlace::Baseline;
+}
+
+// Half points up, or times -1 down.
+inline void Shift(Context& context, Number sign, Number halfPoints) {
+  const bool up = (halfPoints > 0) == (sign > 0);
+  const VerticalPlace shifted = up ? VerticalPlace::Superscript : VerticalPlace::Subscript;
+  context.ChangeCharacter().place = halfPoints == 0 ? VerticalPlace::Baseline : shifted;
+}
+
 // Paragraphs' looks.
 
 inline void ParagraphDefault(Context& context, Number, Number) {
-  context.ChangeParagraph() = ParagraphFormat();
+  context.ChangeParagraph() = ParagraphState();
 }
 
 inline void Align(Context& context, Number alignment, Number) {
   context.ChangeParagraph().alignment = static_cast<Alignment>(alignment);
 }
 
-template <Number ParagraphFormat::*Measure>
+inline void Flow(Context& context, Number direction, Number) {
+  context.ChangeParagraph().direction = static_cast<Direction>(direction);
+}
+
+template <Number ParagraphState::*Measure>
 inline void Indent(Context& context, Number, Number twips) {
   context.ChangeParagraph().*Measure = FittingIndent(twips);
+}
+
+template <Number ParagraphState::*Measure>
+inline void Space(Context& context, Number, Number twips) {
+  context.ChangeParagraph().*Measure = FittingSpace(twips);
+}
+
+inline void MultipleSpacing(Context& context, Number, Number on) {
+  context.ChangeParagraph().multipleSpacing = on != 0;
+}
+
+inline void NextTab(Context& context, Number kind, Number) {
+  context.ChangeParagraph().nextTab = static_cast<TabKind>(kind);
+}
+
+inline void Tab(Context& context, Number, Number position) {
+  ParagraphState& paragraph = context.ChangeParagraph();
+  paragraph.tabs = context.Paragraphs().AddTab(paragraph.tabs, {position, paragraph.nextTab});
+  paragraph.nextTab = TabKind::Left;
+}
+
+// Lists.
+
+inline void ListOfTable(Context& context, Number, Number number) {
+  if (context.State().destination == Destination::ListTable)
+    context.Paragraphs().Lists().SetOverrideNumber(number);
+  else
+    context.ChangeParagraph().listNumber = number;
+}
+
+inline void ListLevel(Context& context, Number, Number level) {
+  context.ChangeParagraph().listLevel = std::clamp(level, 0, MaxListLevel);
+}
+
+template <void (RtfListTable::*Begin)()>
+inline void BeginInTable(Context& context, Number, Number) {
+  if (context.State().destination == Destination::ListTable) (context.Paragraphs().Lists().*Begin)();
+}
+
+template <void (RtfListTable::*Set)(Number)>
+inline void SetInTable(Context& context, Number, Number number) {
+  if (context.State().destination == Destination::ListTable) (context.Paragraphs().Lists().*Set)(number);
+}
+
+inline void BeginNumbering(Context& context, Number, Number) {
+  context.NumberingInHand() = RtfNumbering();
+  context.SetAside(Destination::Numbering);
+}
+
+inline void NumberingKind(Context& context, Number kind, Number) {
+  context.NumberingInHand().list.kind = static_cast<ListKind>(kind);
+}
+
+// Numbers of some kind, counted as the words before or after tell.
+inline void NumberingBody(Context& context, Number, Number) {
+  ListKind& kind = context.NumberingInHand().list.kind;
+  if (kind == ListKind::None) kind = ListKind::Decimal;
+}
+
+// 1 to 9 are levels; 10 and 11 are lists without levels, 11 of bullets.
+inline void NumberingLevel(Context& context, Number, Number level) {
+  ListFormat& list = context.NumberingInHand().list;
+  if (level == 11) list.kind = ListKind::Bullet;
+  if (list.kind == ListKind::None) list.kind = ListKind::Decimal;
+  if (level <= MaxListLevel + 1) list.level = std::max(level - 1, 0);
+}
+
+inline void NumberingStart(Context& context, Number, Number start) {
+  context.NumberingInHand().list.start = start;
+}
+
+inline void NumberingIndent(Context& context, Number, Number twips) {
+  context.NumberingInHand().indent = twips;
+}
+
+inline void Label(Context& context, Number isListText, Number) {
+  context.BeginLabel(isListText != 0);
+}
+
+// Fields.
+
+inline void Field(Context& context, Number, Number) {
+  context.State().fieldLink = 0;
+}
+
+inline void FieldResult(Context& context, Number, Number) {
+  if (const std::uint32_t link = context.State().fieldLink) context.ChangeCharacter().link = link;
 }
 
 // Destinations.
@@ -119,26 +240,32 @@ inline void SendTo(Context& context, Number destination, Number) {
   context.SendTextTo(static_cast<Destination>(destination));
 }
 
+inline void SetAside(Context& context, Number destination, Number) {
+  context.SetAside(static_cast<Destination>(destination));
+}
+
+inline void ShapeText(Context& context, Number, Number) {
+  context.BeginShapeText();
+}
+
 // \upr says the same twice: in bytes, which are passed over, and after \ud in Unicode.
 inline void UnicodeTwin(Context& context, Number, Number) {
   if (context.State().destination == Destination::Discard) context.SendTextTo(context.State().around);
+}
+
+inline void ModernPicture(Context& context, Number, Number) {
+  context.ModernPicture() = false;
+}
+
+// The same picture again, for older readers.
+inline void OlderPicture(Context& context, Number, Number) {
+  if (std::exchange(context.ModernPicture(), false)) context.SkipGroup();
 }
 
 inline void PictureGroup(Context& context, Number, Number) {
   if (context.Depth() <= 1) return;
   context.SendTextTo(Destination::Picture);
   context.PictureInHand().Begin();
-}
-
-// Pictures.
-
-inline void KindOfPicture(Context& context, Number kind, Number) {
-  context.PictureInHand().SetKind(static_cast<PictureKind>(kind));
-}
-
-template <PictureExtent& (RtfPictureReader::*Side)(), Number PictureExtent::*Measure>
-inline void Extent(Context& context, Number, Number value) {
-  (context.PictureInHand().*Side)().*Measure = value;
 }
 
 }  // namespace richtext::handlers

@@ -1,21 +1,84 @@
 #include "richtext/RtfPictureReader.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <limits>
 #include <utility>
 
 #include "richtext/HexDigits.h"
 #include "richtext/Limits.h"
+#include "richtext/RtfEscape.h"
 
 namespace richtext {
 namespace {
 
-constexpr std::int64_t kTwipsPerPixel = 15;  // 1440 twips and 96 pixels to the inch
+constexpr std::int64_t TwipsPerPixel = 15;  // 1440 twips and 96 pixels to the inch
+constexpr std::int64_t TwipsPerInch = 1440;
+constexpr std::int64_t HiMetricPerInch = 2540;
 
-// Twips; 0 when the picture is shown in its own size.
-std::int32_t ShownSize(const PictureExtent& extent) {
-  const bool scaled = extent.scalePercent > 0 && extent.scalePercent != 100;
-  const std::int64_t pixelTwips = scaled ? extent.pixels * kTwipsPerPixel : 0;
-  const std::int64_t natural = extent.goal > 0 ? extent.goal : pixelTwips;
-  return FittingPictureSize(scaled ? natural * extent.scalePercent / 100 : natural);
+struct KindWord {
+  std::string_view name;
+  PictureKind kind;
+};
+constexpr KindWord KindWords[] = {
+    {"pngblip", PictureKind::Png},
+    {"jpegblip", PictureKind::Jpeg},
+    {"dibitmap", PictureKind::Dib},
+    {"wmetafile", PictureKind::Metafile},
+    {"emfblip", PictureKind::EnhancedMetafile},
+    {"macpict", PictureKind::Other},
+    {"pmmetafile", PictureKind::Other},
+    {"wbitmap", PictureKind::Other},
+};
+
+// What the data cannot be understood without, in the order of a header.
+constexpr std::string_view DescribingWords[] = {"picw", "pich", "wbmbitspixel", "wbmplanes", "wbmwidthbytes"};
+
+struct ExtentWord {
+  std::string_view name;
+  bool ofWidth;
+  std::int32_t PictureExtent::*measure;
+};
+constexpr ExtentWord ExtentWords[] = {
+    {"picw", true, &PictureExtent::own},
+    {"pich", false, &PictureExtent::own},
+    {"picwgoal", true, &PictureExtent::goal},
+    {"pichgoal", false, &PictureExtent::goal},
+    {"picscalex", true, &PictureExtent::scalePercent},
+    {"picscaley", false, &PictureExtent::scalePercent},
+};
+
+template <typename Word, std::size_t Count>
+const Word* Find(const Word (&words)[Count], std::string_view name) {
+  const auto* found = std::find_if(std::begin(words), std::end(words),
+                                   [name](const Word& word) { return word.name == name; });
+  return found == std::end(words) ? nullptr : found;
+}
+
+bool IsFile(PictureKind kind) {
+  return kind == PictureKind::Png || kind == PictureKind::Jpeg;
+}
+
+// The size in twips before it is scaled; 0 where only the data know it. A file tells its own better than
+// \picw, in which some writers put another unit.
+std::int64_t NaturalSize(const PictureExtent& extent, PictureKind kind, bool scaled) {
+  if (extent.goal > 0) return extent.goal;
+  const std::int64_t own = std::max(extent.own, 0);
+  if (kind == PictureKind::Metafile || kind == PictureKind::EnhancedMetafile)
+    return own * TwipsPerInch / HiMetricPerInch;
+  return IsFile(kind) && !scaled ? 0 : own * TwipsPerPixel;
+}
+
+// Twips; 0 when the picture is shown in its own size. A scale or a crop that leaves nothing was not meant.
+std::int32_t ShownSize(const PictureExtent& extent, PictureKind kind) {
+  const std::int64_t percent = extent.scalePercent > 0 ? extent.scalePercent : 100;
+  const std::int64_t natural = std::min<std::int64_t>(NaturalSize(extent, kind, percent != 100),
+                                                      std::numeric_limits<std::int32_t>::max());
+  const std::int64_t scaled = natural * percent / 100;
+  const bool isCropped = natural > 0 && extent.cropped < scaled;
+  const std::int64_t shown = isCropped ? scaled - extent.cropped : scaled;
+  return natural > 0 ? FittingPictureSize(std::max<std::int64_t>(shown, 1)) : 0;
 }
 
 }  // namespace
@@ -24,23 +87,69 @@ void RtfPictureReader::Begin() {
   *this = RtfPictureReader();
 }
 
-void RtfPictureReader::AppendHex(std::string_view digits) {
-  if (!kind_) return;
-  for (const char c : digits) {
-    const int digit = HexDigit(c);
-    if (digit < 0) continue;
-    if (highDigit_ >= 0) bytes_ += static_cast<char>(highDigit_ * 16 + digit);
-    highDigit_ = highDigit_ < 0 ? digit : -1;
+void RtfPictureReader::TakeWord(std::string_view name, bool hasParameter, std::int32_t parameter) {
+  if (const KindWord* word = Find(KindWords, name)) {
+    kind_ = word->kind;
+    return Describe(0, name, hasParameter, parameter);
+  }
+  const auto* described = std::find(std::begin(DescribingWords), std::end(DescribingWords), name);
+  if (described != std::end(DescribingWords))
+    Describe(static_cast<std::size_t>(described - DescribingWords) + 1, name, hasParameter, parameter);
+  if (const ExtentWord* word = Find(ExtentWords, name)) {
+    PictureExtent& extent =
+        word->ofWidth ? width_ : height_;  // g++ 12 would write to a copy without the name
+    extent.*word->measure = parameter;
+  }
+  if (name == "piccropl" || name == "piccropr") width_.cropped += parameter;
+  if (name == "piccropt" || name == "piccropb") height_.cropped += parameter;
+}
+
+void RtfPictureReader::Describe(std::size_t place, std::string_view name, bool hasParameter,
+                                std::int32_t parameter) {
+  description_[place].clear();
+  if (hasParameter) {
+    AppendWord(name, parameter, description_[place]);
+  } else {
+    AppendWord(name, description_[place]);
   }
 }
 
+void RtfPictureReader::AppendHex(std::string_view digits) {
+  const std::size_t start = bytes_.size();
+  bytes_.resize(start + digits.size() / 2 + 1);
+  char* to = bytes_.data() + start;
+  for (const char c : digits) {
+    const int digit = HexDigit(c);
+    if (digit < 0) continue;
+    if (highDigit_ >= 0) *to++ = static_cast<char>(highDigit_ * 16 + digit);
+    highDigit_ = highDigit_ < 0 ? digit : -1;
+  }
+  bytes_.resize(static_cast<std::size_t>(to - bytes_.data()));
+}
+
 void RtfPictureReader::AppendRaw(std::string_view bytes) {
-  if (kind_) bytes_ += bytes;
+  bytes_ += bytes;
+}
+
+PictureKind RtfPictureReader::Kind() const {
+  if (kind_) return *kind_;
+  if (bytes_.starts_with("\x89PNG")) return PictureKind::Png;
+  return bytes_.starts_with("\xFF\xD8\xFF") ? PictureKind::Jpeg : PictureKind::Other;
+}
+
+std::string RtfPictureReader::Header() const {
+  std::string header;
+  for (const std::string& word : description_) header += word;
+  return header;
 }
 
 std::optional<Picture> RtfPictureReader::Take() {
-  if (!kind_ || bytes_.empty()) return std::nullopt;
-  return Picture{*kind_, std::move(bytes_), ShownSize(width_), ShownSize(height_)};
+  if (bytes_.empty()) return std::nullopt;
+  const PictureKind kind = Kind();
+  Picture picture{
+      kind, {}, IsFile(kind) ? std::string() : Header(), ShownSize(width_, kind), ShownSize(height_, kind)};
+  picture.bytes = std::move(bytes_);
+  return picture;
 }
 
 }  // namespace richtext

@@ -16,7 +16,7 @@ namespace {
 
 class Reader {
  public:
-  explicit Reader(std::string_view rtf) : tokens_(rtf) {}
+  explicit Reader(std::string_view rtf) : tokens_(rtf), context_(rtf.size()) {}
   Document Read();
 
  private:
@@ -91,6 +91,9 @@ void Reader::Take(const Token& token) {
 void Reader::TakeWord(const Token& token, bool ignorable) {
   const ControlWord* word = FindControlWord(token.text);
   if (ignorable && (word == nullptr || word->kind != WordKind::Destination)) return context_.SkipGroup();
+  const bool names = word != nullptr && word->kind == WordKind::Destination;
+  if (!names && context_.State().destination == Destination::Picture)
+    return context_.PictureInHand().TakeWord(token.text, token.hasParameter, token.parameter);
   if (word == nullptr) return;
   word->handle(context_, word->argument, token.hasParameter ? token.parameter : word->whenAbsent);
   if (token.text == "u") fallbackLeft_ = context_.State().fallbackLength;
@@ -120,7 +123,7 @@ void Reader::TakeSymbol(char symbol) {
 
 // CR LF, CR and LF end a paragraph each.
 Document ReadPlainText(std::string_view text) {
-  RtfContext context;
+  RtfContext context(text.size());
   while (!text.empty()) {
     const std::size_t end = text.find_first_of("\r\n");
     context.PutBytes(text.substr(0, end));
@@ -135,6 +138,7 @@ Document ReadPlainText(std::string_view text) {
 }  // namespace
 
 Document ReadRtf(std::string_view rtf) {
+  if (rtf.substr(0, 8) == "\xEF\xBB\xBF{\\rtf") rtf.remove_prefix(3);  // an editor's mark of UTF-8
   const bool isRtf = rtf.substr(0, 5) == "{\\rtf" || rtf.substr(0, 6) == "{\\urtf";
   return isRtf ? Reader(rtf).Read() : ReadPlainText(rtf);
 }

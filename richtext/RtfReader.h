@@ -9,7 +9,8 @@
 namespace richtext {
 
 // Text that does not begin with "{\rtf" (or "{\urtf") is taken as plain text in Windows-1252. The very last
-// \par of the document is swallowed.
+// \par of the document is swallowed. Table cells end in a tab and rows are paragraphs; headers, footnotes and
+// comments are left out.
 Document ReadRtf(std::string_view rtf);
 
 }  // namespace richtext

@@ -1,5 +1,7 @@
 #include "richtext/RtfTables.h"
 
+#include <algorithm>
+#include <optional>
 #include <unordered_map>
 
 #include "richtext/Limits.h"
@@ -35,6 +37,12 @@ std::size_t PlaceOf(const Value& value, std::unordered_map<Value, std::size_t>& 
   return found->second;
 }
 
+bool HasBullets(const Document& document) {
+  return std::any_of(document.paragraphs.begin(), document.paragraphs.end(), [&](const Paragraph& paragraph) {
+    return document.paragraphFormats[paragraph.format].list.kind == ListKind::Bullet;
+  });
+}
+
 void AppendColor(std::uint32_t color, std::string& rtf) {
   AppendWord("red", static_cast<std::int32_t>(color & 0xFF), rtf);
   AppendWord("green", static_cast<std::int32_t>((color >> 8) & 0xFF), rtf);
@@ -45,13 +53,20 @@ void AppendColor(std::uint32_t color, std::string& rtf) {
 }  // namespace
 
 RtfTables::RtfTables(const Document& document)
-    : fontOfFormat_(document.formats.size()), colorOfFormat_(document.formats.size()) {
+    : fontOfFormat_(document.formats.size()),
+      colorOfFormat_(document.formats.size()),
+      highlightOfFormat_(document.formats.size()),
+      hasBullets_(HasBullets(document)) {
   std::unordered_map<std::u16string, std::size_t> fontPlaces;
   std::unordered_map<std::uint32_t, std::size_t> colorPlaces;
   for (const std::uint32_t number : FormatsInUse(document)) {
     const CharacterFormat& format = document.formats[number];
     fontOfFormat_[number] = PlaceOf(FittingFontName(ToUtf16(format.fontName)), fontPlaces, fonts_);
-    if (format.color) colorOfFormat_[number] = PlaceOf(*format.color & 0xFFFFFF, colorPlaces, colors_) + 1;
+    const auto place = [&](const std::optional<std::uint32_t>& color) {
+      return color ? PlaceOf(*color & 0xFFFFFF, colorPlaces, colors_) + 1 : 0;
+    };
+    colorOfFormat_[number] = place(format.color);
+    highlightOfFormat_[number] = place(format.highlight);
   }
 }
 
@@ -63,6 +78,11 @@ void RtfTables::AppendTo(std::string& rtf) const {
     rtf += "\\fnil\\fcharset0 ";
     for (const char16_t unit : fonts_[i]) AppendNameUnit(unit, rtf);
     rtf += ";}";
+  }
+  if (hasBullets_) {
+    rtf += '{';
+    AppendWord("f", SymbolFont(), rtf);
+    rtf += "\\fnil\\fcharset2 Symbol;}";
   }
   rtf += "}\r\n";
   if (colors_.empty()) return;

@@ -18,6 +18,10 @@ class RtfTables {
   // The \f and \cf numbers of one of the document's formats, which the document must use. \cf0 is automatic.
   std::size_t Font(std::uint32_t format) const { return fontOfFormat_[format]; }
   std::size_t Color(std::uint32_t format) const { return colorOfFormat_[format]; }
+  // \highlight0 is none.
+  std::size_t Highlight(std::uint32_t format) const { return highlightOfFormat_[format]; }
+  // The \f number of the symbol font that bullets are written in; the table has it when there are any.
+  std::int32_t SymbolFont() const { return static_cast<std::int32_t>(fonts_.size()); }
 
   void AppendTo(std::string& rtf) const;
 
@@ -26,6 +30,8 @@ class RtfTables {
   std::vector<std::uint32_t> colors_;  // the first is \cf1
   std::vector<std::size_t> fontOfFormat_;
   std::vector<std::size_t> colorOfFormat_;
+  std::vector<std::size_t> highlightOfFormat_;
+  bool hasBullets_ = false;
 };
 
 }  // namespace richtext

@@ -26,8 +26,11 @@ class RtfTextDecoder {
 
  private:
   char16_t* PutRareByte(unsigned char byte, const CodePage& page, char16_t* to);
+  char16_t* PutUtf8Byte(unsigned char byte, const CodePage& page, char16_t* to);
 
   unsigned char leadByte_ = 0;
+  int tailsLeft_ = 0;  // of a character in UTF-8 that leadByte_ began
+  char32_t code_ = 0;  // its bits so far
   char16_t highSurrogate_ = 0;
 };
 

@@ -14,7 +14,7 @@ constexpr std::array<bool, 256> SyntaxBytes() {
   return table;
 }
 
-constexpr std::array<bool, 256> kIsSyntax = SyntaxBytes();
+constexpr std::array<bool, 256> IsSyntax = SyntaxBytes();
 
 constexpr bool IsLetter(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
@@ -60,7 +60,7 @@ Token RtfTokenizer::Next() {
 
 Token RtfTokenizer::Text() {
   const std::size_t start = at_;
-  while (at_ < rtf_.size() && !kIsSyntax[static_cast<unsigned char>(rtf_[at_])]) ++at_;
+  while (at_ < rtf_.size() && !IsSyntax[static_cast<unsigned char>(rtf_[at_])]) ++at_;
   return {.kind = TokenKind::Text, .text = rtf_.substr(start, at_ - start)};
 }
 

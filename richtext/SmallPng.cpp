@@ -7,7 +7,7 @@
 namespace richtext {
 namespace {
 
-constexpr int kPaletteSize = 256;
+constexpr int PaletteSize = 256;
 
 const QRgb* Line(const QImage& image, int y) {
   return reinterpret_cast<const QRgb*>(image.constScanLine(y));
@@ -27,7 +27,7 @@ QHash<QRgb, int> Colors(const QImage& image) {
     for (int x = 0; x < image.width(); ++x) {
       const QRgb color = Line(image, y)[x];
       if (!numbers.contains(color)) numbers.insert(color, static_cast<int>(numbers.size()));
-      if (numbers.size() > kPaletteSize) return {};
+      if (numbers.size() > PaletteSize) return {};
     }
   return numbers;
 }

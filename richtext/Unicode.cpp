@@ -5,7 +5,7 @@
 namespace richtext {
 namespace {
 
-constexpr char32_t kLastCodePoint = 0x10FFFF;
+constexpr char32_t LastCodePoint = 0x10FFFF;
 
 char32_t Combined(char16_t high, char16_t low) {
   return 0x10000 + ((char32_t{high} & 0x3FF) << 10) + (low & 0x3FFU);
@@ -17,7 +17,7 @@ char32_t NextCodePoint(std::u16string_view text, std::size_t& at) {
   if (!IsSurrogate(unit)) return unit;
   if (IsHighSurrogate(unit) && at < text.size() && IsLowSurrogate(text[at]))
     return Combined(unit, text[at++]);
-  return kReplacement;
+  return Replacement;
 }
 
 void AppendUtf8(char32_t code, std::string& out) {
@@ -44,24 +44,24 @@ Utf8Lead LeadOf(unsigned char byte) {
   if (byte >= 0xC0 && byte < 0xE0) return {1, byte & 0x1FU, 0x80};
   if (byte >= 0xE0 && byte < 0xF0) return {2, byte & 0x0FU, 0x800};
   if (byte >= 0xF0 && byte < 0xF8) return {3, byte & 0x07U, 0x10000};
-  return {0, kReplacement, 0};
+  return {0, Replacement, 0};
 }
 
 char32_t NextCodePoint(std::string_view utf8, std::size_t& at) {
   const Utf8Lead lead = LeadOf(static_cast<unsigned char>(utf8[at++]));
   char32_t code = lead.bits;
   for (int i = 0; i < lead.tails; ++i) {
-    if (at == utf8.size() || (static_cast<unsigned char>(utf8[at]) & 0xC0) != 0x80) return kReplacement;
+    if (at == utf8.size() || (static_cast<unsigned char>(utf8[at]) & 0xC0) != 0x80) return Replacement;
     code = (code << 6) | (static_cast<unsigned char>(utf8[at++]) & 0x3F);
   }
-  return code < lead.smallest ? char32_t{kReplacement} : code;
+  return code < lead.smallest ? char32_t{Replacement} : code;
 }
 
 }  // namespace
 
 void AppendCodePoint(char32_t code, std::u16string& out) {
   const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
-  if (surrogate || code > kLastCodePoint || IsNoncharacter(code)) code = kReplacement;
+  if (surrogate || code > LastCodePoint || IsNoncharacter(code)) code = Replacement;
   if (code < 0x10000) {
     out += static_cast<char16_t>(code);
   } else {

@@ -6,10 +6,10 @@
 
 namespace richtext {
 
-constexpr char16_t kReplacement = 0xFFFD;
-constexpr char16_t kPicture = 0xFFFC;
-constexpr char16_t kLineBreak = 0x2028;
-constexpr char16_t kParagraphSeparator = 0x2029;
+constexpr char16_t Replacement = 0xFFFD;
+constexpr char16_t PictureMark = 0xFFFC;
+constexpr char16_t LineBreak = 0x2028;
+constexpr char16_t ParagraphSeparator = 0x2029;
 
 constexpr bool IsHighSurrogate(char16_t unit) {
   return (unit & 0xFC00) == 0xD800;

@@ -11,7 +11,7 @@ using namespace richtext;
 namespace {
 
 // One of everything.
-const std::string kRich =
+const std::string Rich =
     "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fswiss\\fcharset0 Arial;}{\\f1\\fcharset161 "
     "Caf\\'e9;}}\r\n"
     "{\\colortbl ;\\red255\\green0\\blue0;\\red0\\green128\\blue1;}\r\n"
@@ -51,7 +51,7 @@ TEST(RtfWriter, WritesTheClassicShape) {
             "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 ;}}\r\n"
             "\\viewkind4\\uc1\\pard\\f0\\fs24\\par\r\n}\r\n");
   EXPECT_EQ(
-      WriteRtf(ReadRtf(kRich)),
+      WriteRtf(ReadRtf(Rich)),
       "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Arial;}{\\f1\\fnil\\fcharset0 "
       "Caf\\u953?;}}\r\n"
       "{\\colortbl ;\\red255\\green0\\blue0;}\r\n"
@@ -59,7 +59,20 @@ TEST(RtfWriter, WritesTheClassicShape) {
       "\\pard\\fi-360\\li720\\qc\\cf1\\ul red\\cf0\\ulnone\\tab\\f1\\u945?\\u955?\\fs40 big\\f0\\fs20\\line "
       "next\\par\r\n"
       "\\pard{\\pict\\pngblip\\picwgoal300\\pichgoal150\r\n89504e47\r\n}\\strike gone\\strike0  "
-      "\\u-10179?\\u-8704?\\par\r\nthere\\i\\par\r\n\\i0\\par\r\n}\r\n");
+      "\\u-10179?\\u-8704?\\par\r\n{\\field{\\*\\fldinst{HYPERLINK \"x\"}}{\\fldrslt "
+      "there}}\\i\\par\r\n\\i0\\par\r\n}\r\n");
+}
+
+TEST(RtfWriter, WritesListsAndLinksForOldReaders) {
+  const std::string header = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 ;}";
+  const std::string rtf =
+      "{\\f1\\fnil\\fcharset2 Symbol;}}\r\n\\viewkind4\\uc1"
+      "\\pard{\\pntext\\f1\\'b7\\tab}{\\*\\pn\\pnlvlblt\\pnf1\\pnindent0{\\pntxtb\\'b7}}\\fi-360\\li720"
+      "\\f0\\fs24 a\\par\r\n{\\pntext\\f1\\'b7\\tab}b\\par\r\n"
+      "\\pard{\\pntext iv)\\tab}{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart4\\pnlcrm{\\pntxta )}} c\\par\r\n"
+      "{\\pntext v)\\tab}{\\field{\\*\\fldinst{HYPERLINK \"x\\\\\\\\\\u233?\"}}{\\fldrslt\\b d}} e\\par\r\n"
+      "\\pard f\\par\r\n}\r\n";
+  EXPECT_EQ(WriteRtf(ReadRtf(header + rtf)), header + rtf);
 }
 
 TEST(RtfWriter, EscapesWhatIsNotPlainText) {
@@ -73,8 +86,8 @@ TEST(RtfWriter, EscapesWhatIsNotPlainText) {
 TEST(RtfWriter, KeepsEveryCharacterThatADocumentHolds) {
   std::u16string all;
   for (char32_t code = 0x20; code <= 0x10FFFF; code += code < 0x3000 ? 1 : 13) {
-    const bool none = (code >= 0xD800 && code <= 0xDFFF) || IsNoncharacter(code) || code == kPicture ||
-                      code == kParagraphSeparator;
+    const bool none = (code >= 0xD800 && code <= 0xDFFF) || IsNoncharacter(code) || code == PictureMark ||
+                      code == ParagraphSeparator;
     if (!none) AppendCodePoint(code, all);
   }
   const Document document = OneParagraph(all);
@@ -87,7 +100,8 @@ TEST(RtfWriter, KeepsPicturesOfAllBytes) {
   Document document = OneParagraph(u"\uFFFC\uFFFC");
   std::string bytes;
   for (int i = 0; i < 1000; ++i) bytes += static_cast<char>(i * 7);
-  document.pictures = {{PictureKind::Png, bytes, 1500, 0}, {PictureKind::Png, bytes.substr(0, 64), 0, 20}};
+  document.pictures = {{PictureKind::Png, bytes, {}, 1500, 0},
+                       {PictureKind::Png, bytes.substr(0, 64), {}, 0, 20}};
   EXPECT_EQ(ReadRtf(WriteRtf(document)), document);
 }
 
@@ -112,8 +126,8 @@ TEST(RtfWriter, PutsRightWhatNoDocumentHolds) {
 }
 
 TEST(RtfWriter, EveryTruncationIsADocument) {
-  for (std::size_t length = 0; length <= kRich.size(); ++length) {
-    const Document document = ReadRtf(std::string(kRich, 0, length));
+  for (std::size_t length = 0; length <= Rich.size(); ++length) {
+    const Document document = ReadRtf(std::string(Rich, 0, length));
     const std::string written = WriteRtf(document);
     ASSERT_EQ(ReadRtf(written), document) << length;
     ASSERT_EQ(WriteRtf(ReadRtf(written)), written) << length;
@@ -122,9 +136,9 @@ TEST(RtfWriter, EveryTruncationIsADocument) {
 
 // A page deciphered under a wrong shift looks like this.
 TEST(RtfWriter, AnyByteInAnyPlaceIsADocument) {
-  for (std::size_t at = 0; at < kRich.size(); ++at)
+  for (std::size_t at = 0; at < Rich.size(); ++at)
     for (const int byte : {0x00, 0x0A, 0x5C, 0x7B, 0x7D, 0x2D, 0x39, 0x81, 0xFF}) {
-      std::string damaged = kRich;
+      std::string damaged = Rich;
       damaged[at] = static_cast<char>(byte);
       const Document document = ReadRtf(damaged);
       ASSERT_EQ(ReadRtf(WriteRtf(document)), document) << at << ' ' << byte;

@@ -1,0 +1,130 @@
+#include <algorithm>
+#include <unordered_map>
+
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
+
+#include "richtext/BoxDocument.h"
+#include "richtext/BoxFormats.h"
+#include "richtext/BoxParagraphs.h"
+#include "richtext/BoxPictures.h"
+#include "richtext/FormatNumbers.h"
+#include "richtext/HiddenText.h"
+#include "richtext/Unicode.h"
+
+namespace richtext {
+namespace {
+
+// Knows the toolkit's formats by its own numbers of them. Many of them can be one of the page's.
+template <class Format>
+class Known {
+ public:
+  explicit Known(FormatNumbers<Format>& numbers) : numbers_(numbers) {}
+
+  // `make` gives the page's format where the toolkit's is met for the first time.
+  template <class Make>
+  std::uint32_t operator()(int index, Make make) {
+    const auto [known, isNew] = byIndex_.try_emplace(index);
+    if (isNew) known->second = numbers_(make());
+    return known->second;
+  }
+
+ private:
+  FormatNumbers<Format>& numbers_;
+  std::unordered_map<int, std::uint32_t> byIndex_;
+};
+
+// Reads the part of a document between two positions.
+class Taker {
+ public:
+  Taker(const QTextDocument& source, int from, int to) : source_(source), from_(from), to_(to) {}
+
+  Document Take() {
+    for (QTextBlock block = source_.findBlock(from_); block.isValid() && block.position() <= to_;
+         block = block.next())
+      TakeBlock(block);
+    return std::move(taken_);
+  }
+
+ private:
+  void TakeBlock(const QTextBlock& block) {
+    const std::size_t before = taken_.text.size();
+    firstRun_ = taken_.runs.size();
+    for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) TakeFragment(fragment.fragment());
+    taken_.paragraphs.push_back(
+        {static_cast<std::uint32_t>(taken_.text.size() - before),
+         paragraphFormat_(block.blockFormatIndex(), [&] { return FromBlockFormat(block.blockFormat()); }),
+         mark_(block.charFormatIndex(), [&] { return FromMarkFormat(block.charFormat()); })});
+  }
+
+  void TakeFragment(const QTextFragment& fragment) {
+    const int from = std::max(from_, fragment.position());
+    const int to = std::min(to_, fragment.position() + fragment.length());
+    if (from >= to) return;
+    const QString text = fragment.text().mid(from - fragment.position(), to - from);
+    const QTextCharFormat format = fragment.charFormat();
+    const QString hidden = text.contains(QChar(HiddenSign)) ? HiddenTextOf(format) : QString();
+    const auto shown = shown_(fragment.charFormatIndex(), [&] { return FromTextFormat(format); });
+    if (hidden.isEmpty()) return AddText(text, shown, format);
+    for (const QChar unit : text) {
+      if (unit == QChar(HiddenSign))
+        AddText(hidden, HiddenNumber(format), format);
+      else
+        AddText(QStringView(&unit, 1), shown, format);
+    }
+  }
+
+  std::uint32_t HiddenNumber(const QTextCharFormat& format) {
+    CharacterFormat hidden = FromTextFormat(format);
+    hidden.hidden = true;
+    return numbers_(hidden);
+  }
+
+  void AddText(QStringView text, std::uint32_t format, const QTextCharFormat& drawn) {
+    AddRun(static_cast<std::uint32_t>(text.size()), format);
+    const std::size_t begin = taken_.text.size();
+    taken_.text.append(text.utf16(), static_cast<std::size_t>(text.size()));
+    for (std::size_t at = taken_.text.find(PictureMark, begin); at != std::u16string::npos;
+         at = taken_.text.find(PictureMark, at + 1))
+      TakePicture(taken_.text[at], drawn);
+  }
+
+  void AddRun(std::uint32_t length, std::uint32_t format) {
+    if (taken_.runs.size() > firstRun_ && taken_.runs.back().format == format)
+      taken_.runs.back().length += length;
+    else
+      taken_.runs.push_back({length, format});
+  }
+
+  // The sign of a picture that has none can come in as pasted text.
+  void TakePicture(char16_t& sign, const QTextCharFormat& format) {
+    if (format.isImageFormat() || !HiddenTextOf(format).isEmpty())
+      taken_.pictures.push_back(KeptPicture(format.toImageFormat(), source_));
+    else
+      sign = Replacement;
+  }
+
+  const QTextDocument& source_;
+  const int from_;
+  const int to_;
+  Document taken_;
+  std::size_t firstRun_ = 0;  // of the paragraph in hand
+  FormatNumbers<CharacterFormat> numbers_{taken_.formats};
+  FormatNumbers<ParagraphFormat> paragraphNumbers_{taken_.paragraphFormats};
+  Known<CharacterFormat> shown_{numbers_};
+  Known<CharacterFormat> mark_{numbers_};
+  Known<ParagraphFormat> paragraphFormat_{paragraphNumbers_};
+};
+
+}  // namespace
+
+Document TakeDocument(const QTextDocument& source) {
+  return Taker(source, 0, source.characterCount() - 1).Take();
+}
+
+Document TakeSelection(const QTextCursor& selection) {
+  return Taker(*selection.document(), selection.selectionStart(), selection.selectionEnd()).Take();
+}
+
+}  // namespace richtext

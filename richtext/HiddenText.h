@@ -1,0 +1,33 @@
+// Hidden text is part of a page and not of what the text box shows. It stands in the box as one sign for each
+// stretch of one format. The sign is drawn as nothing and counts as an accent of the letter before it, so
+// that the caret passes both in one step; its format holds the text.
+#pragma once
+
+#include <vector>
+
+#include <QtGui/QTextCharFormat>
+
+class QTextCursor;
+class QTextDocument;
+
+namespace richtext {
+
+constexpr char16_t HiddenSign = 0x034F;  // combining grapheme joiner; one without such a format is itself
+
+// The format of the sign. `text` is not empty; an object in it is the picture that `format` tells of.
+QTextCharFormat HiddenFormat(QTextCharFormat format, const QString& text);
+// The text behind a sign of this format; empty where it is no such format.
+QString HiddenTextOf(const QTextCharFormat& format);
+
+// What is shown: the document's text with '\n' for paragraph ends and line breaks, without signs.
+QString ShownText(const QTextDocument& document);
+// Places in that text and in the document. A place beside signs is the one behind them.
+int ToShown(const QTextDocument& document, int position);
+int FromShown(const QTextDocument& document, int position);
+
+// Moves a cursor that stands behind signs before them.
+void PassBack(QTextCursor& cursor);
+// Selects what the delete key takes away at the cursor: the letter that follows, without the signs around it.
+void SelectNextLetter(QTextCursor& cursor);
+
+}  // namespace richtext

@@ -1,0 +1,216 @@
+// What comes into the text box from other programs, and what goes out to them.
+#include <QtCore/QTemporaryFile>
+#include <QtCore/QTimer>
+#include <QtWidgets/QMenu>
+
+#include "BoxFixture.h"
+#include "RtfDump.h"
+#include "richtext/HtmlReader.h"
+
+namespace richtext {
+namespace {
+
+class PastingTest : public BoxTest {
+ protected:
+  // Takes an action from the menu that a right click opens.
+  void PickFromMenu(const QString& text) {
+    QTimer::singleShot(0, [text] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      ASSERT_NE(menu, nullptr);
+      for (QAction* action : menu->actions())
+        if (action->text().remove(u'&').startsWith(text)) action->trigger();
+      menu->close();
+    });
+    QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(5, 5), box.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(box.viewport(), &click);
+  }
+  static void OfferWords(QMimeData& data) {
+    data.setData(QStringLiteral("text/rtf"), "{\\rtf1{\\fonttbl{\\f0 Arial;}}\\f0\\fs20\\b rtf}");
+    data.setHtml(QStringLiteral("<i>html</i>"));
+    data.setText(QStringLiteral("text"));
+  }
+};
+
+TEST_F(PastingTest, TakesTheRichestOffer) {
+  Paste(OfferWords);
+  EXPECT_EQ(box.Text(), QStringLiteral("rtf"));
+  EXPECT_TRUE(FormatAt(3).bold);
+  box.selectAll();
+  Paste([](QMimeData& data) {
+    data.setData(QStringLiteral("text/rtf"), "no rtf at all");
+    data.setHtml(QStringLiteral("<i>html</i>"));
+    data.setText(QStringLiteral("text"));
+    data.setImageData(Checkers({2, 2}));
+  });
+  EXPECT_EQ(box.Text(), QStringLiteral("html"));
+  EXPECT_TRUE(FormatAt(4).italic);
+  box.selectAll();
+  Paste([](QMimeData& data) { data.setText(QStringLiteral("a\u0001b\r\nc\ufffcd\ufffe") + QChar(0xd800)); });
+  EXPECT_EQ(box.Text(), QStringLiteral("ab\ncd\ufffd"));
+  ExpectKept();
+}
+
+TEST_F(PastingTest, PlainPasteTakesTheCaretsFormat) {
+  GiveJournalFont();
+  Copy(OfferWords);
+  Press(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+  PickFromMenu(QStringLiteral("Paste without formatting"));
+  EXPECT_EQ(box.Text(), QStringLiteral("texttext"));
+  EXPECT_EQ(Taken().runs.size(), 1u);
+  EXPECT_EQ(FormatAt(8), Journal);
+}
+
+TEST_F(PastingTest, CutFromTheMenuKeepsTheCaretsFormat) {
+  Set(Page({{u"loud", Loud}}));
+  box.selectAll();
+  PickFromMenu(QStringLiteral("Cut"));
+  Type("x");
+  EXPECT_EQ(box.Text(), QStringLiteral("x"));
+  EXPECT_EQ(FormatAt(1), Loud);
+}
+
+TEST_F(PastingTest, HtmlBecomesWhatAPageKeeps) {
+  const struct {
+    const char* html;
+    const char* page;
+  } cases[] = {
+      {"a<b>b</b><i>c</i><u>d</u><s>e</s>",
+       "(20 Arial)a(b 20 Arial)b(i 20 Arial)c(u 20 Arial)d(s 20 Arial)e"},
+      {"<h1>big</h1>", "(b 40 Arial)big"},
+      {"<p style='font-size:16px'>px</p>", "(Arial)px"},
+      {"<p style='font-family:\"No Such Font\",sans-serif;font-size:9pt'>x</p>", "(18 Arial)x"},
+      {"<p align=center>x<br>y</p><p>z", "[center](20 Arial)x/y|z"},
+      {"<table><tr><td>a<td>b<tr><td><p>c<p>d<td>e</table>", "(20 Arial)a>b|c|d>e"},
+      {"<font color=#ff0000>x</font><hr>", "(20 Arial #ff0000)x"},
+      {"<style>@import 'http://example.invalid/';</style><script>x</script>a", "(20 Arial)a"},
+  };
+  for (const auto& [html, expected] : cases) {
+    Document page = ReadHtml(QString::fromUtf8(html), Plain, {});
+    for (ParagraphFormat& format : page.paragraphFormats) format.spaceBefore = format.spaceAfter = 0;
+    EXPECT_EQ(Dump(page), expected) << html;
+  }
+}
+
+TEST_F(PastingTest, HtmlListsArePagesLists) {
+  const Document page =
+      ReadHtml(QStringLiteral("<ol type=a><li>one<ul><li>two</ul><li>three</ol>"), Plain, {});
+  const ListFormat letters{ListKind::LowerLetter, 1, 0, u"", u"."};
+  ASSERT_EQ(page.paragraphs.size(), 3u);
+  EXPECT_EQ(ParagraphsOf(page)[0].list, letters);
+  EXPECT_EQ(ParagraphsOf(page)[1].list, (ListFormat{ListKind::Bullet, 1, 1, u"\u2022", u""}));
+  EXPECT_EQ(ParagraphsOf(page)[2].list, letters);
+  EXPECT_EQ(ParagraphsOf(page)[1].leftIndent, 1440);
+}
+
+TEST_F(PastingTest, PagesBackgroundsStayHighlightsCome) {
+  const struct {
+    const char* html;
+    std::vector<std::optional<std::uint32_t>> highlights;  // of the runs
+  } cases[] = {
+      {"a <mark>b</mark> c", {{}, 0x00ffff, {}}},
+      {"<mark>b</mark>", {0x00ffff}},
+      {"<span style='background-color:rgb(255,200,0)'>b</span>", {0x00c8ff}},
+      {"<p style='background:yellow'>a</p>", {{}}},
+      {"<p style='background:#eeeeee'>a <span style='background:#eeeeee'>b</span></p>", {{}}},
+      {"<body style='background:#112233'>a</body>", {{}}},
+      {"<span style='background-color:rgb(255,255,255)'>chrome</span>", {{}}},
+      {"<span style='background-color:#112233'>dark page <b style='background-color:#112233'>b</b></span>",
+       {{}, {}}},
+      {"<span style='background-color:#112233'>dark page </span><mark>b</mark>", {{}, 0x00ffff}},
+      {"<table><tr><td bgcolor=red>a</table>", {{}}},
+      {"<span style='background:rgba(0,0,0,0)'>a</span>", {{}}},
+  };
+  for (const auto& [html, highlights] : cases) {
+    const Document page = ReadHtml(QString::fromUtf8(html), Plain, {});
+    std::vector<std::optional<std::uint32_t>> found;
+    for (const auto& run : page.runs) found.push_back(page.formats[run.format].highlight);
+    EXPECT_EQ(found, highlights) << html;
+  }
+}
+
+TEST_F(PastingTest, LettersOfADarkPageCanBeRead) {
+  const auto ink = [](const char* html) {
+    return ReadHtml(QString::fromUtf8(html), Plain, {}).formats.at(0).color;
+  };
+  EXPECT_EQ(ink("<span style='color:#e6edf3;background:#0d1117'>a</span>"), std::nullopt);
+  EXPECT_EQ(ink("<span style='color:#ffcc00'>a</span>"), 0x00ccffu);
+}
+
+TEST_F(PastingTest, WhatWasPastedIsKept) {
+  const char* const pages[] = {
+      "<h1>Head</h1><p style='line-height:1.6; margin-left:33px; text-indent:7px'>a <sub>b</sub></p>",
+      "<ul><li>one<li>two</ul><blockquote dir=rtl>quote</blockquote><pre>a  b\n\tc</pre>",
+      "<p style='font-variant:small-caps; line-height:21px'>x <a "
+      "href='https://example.invalid/'>link</a></p>",
+      "<table><tr><td>a<td>b</table>",
+  };
+  for (const char* html : pages) {
+    box.SetTextRTF("");
+    Paste([&](QMimeData& data) { data.setHtml(QString::fromUtf8(html)); });
+    EXPECT_NE(box.Text(), QString());
+    ExpectKept();
+  }
+}
+
+TEST_F(PastingTest, PicturesComeFromTheClipboardAlone) {
+  QTemporaryFile file;
+  ASSERT_TRUE(file.open());
+  const std::string png = SignedPng();
+  file.write(png.data(), static_cast<qint64>(png.size()));
+  file.flush();
+  const QString named = QStringLiteral("a<img src='file://%1' alt='words'>b").arg(file.fileName());
+  const QString held = QStringLiteral("<img src='data:image/png;base64,%1' width=30>")
+                           .arg(QLatin1String(QByteArray::fromStdString(png).toBase64()));
+  EXPECT_EQ(Dump(ReadHtml(named, Plain, {})), "(20 Arial)awordsb");
+  const Document page = ReadHtml(named + held, Plain, Checkers({4, 4}));
+  ASSERT_EQ(page.pictures.size(), 2u);
+  EXPECT_EQ(page.pictures[0].widthTwips, 60) << "the clipboard's own bitmap";
+  EXPECT_EQ(page.pictures[1].bytes, png);
+  EXPECT_EQ(page.pictures[1].widthTwips, 450);
+}
+
+TEST_F(PastingTest, CopyOffersTheSelectionThreefold) {
+  CharacterFormat link = Plain;
+  link.link = "https://example.invalid/?a&b";
+  link.highlight = 0x00ffff;
+  Document page = Page({{u"a<b\t\ufffc", Loud}, {u"c", link}});
+  page.pictures = {{PictureKind::Png, SignedPng(), {}, 300, 150}};
+  page.formats.push_back(Plain);
+  page.paragraphs[0].markFormat = 2;
+  FillDocument(page, *box.document());
+  const Document before = Taken();
+  box.selectAll();
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("a<b\tc"));
+  const QString html = QApplication::clipboard()->mimeData()->html();
+  box.SetTextRTF("");
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(TakeDocument(*box.document()), before) << "RTF";
+  const Document back = ReadHtml(html, {}, {});
+  EXPECT_EQ(back.text, page.text);
+  EXPECT_EQ(back.pictures, page.pictures);
+  EXPECT_EQ(back.formats[1].link, link.link);
+  EXPECT_EQ(back.formats[1].highlight, link.highlight);
+  EXPECT_TRUE(back.formats[0].bold && back.formats[0].italic && back.formats[0].strikethrough);
+}
+
+TEST_F(PastingTest, PastedBitmapIsASmallPng) {
+  const QImage image = Checkers({64, 32});
+  for (const char* html : {"<img src='http://example.invalid/a.png' alt='a'>", ""}) {
+    box.SetTextRTF("");
+    Paste([&](QMimeData& data) {
+      data.setImageData(image);
+      if (*html) data.setHtml(QString::fromUtf8(html));
+    });
+    const Document page = Taken();
+    ASSERT_EQ(page.pictures.size(), 1u);
+    const Picture& picture = page.pictures[0];
+    EXPECT_EQ(std::pair(picture.widthTwips, picture.heightTwips), std::pair(64 * 15, 32 * 15));
+    EXPECT_LT(picture.bytes.size(), 200u);
+    const QImage stored = QImage::fromData(QByteArray::fromStdString(picture.bytes));
+    EXPECT_EQ(stored.convertToFormat(QImage::Format_ARGB32), image);
+  }
+}
+
+}  // namespace
+}  // namespace richtext

@@ -1,0 +1,165 @@
+#include <string>
+
+#include "richtext/Limits.h"
+#include "richtext/ListLabel.h"
+#include "richtext/PlainText.h"
+#include "tests/richtext/RtfExamples.h"
+
+using namespace richtext;
+
+namespace {
+
+TEST(RtfFormats, ReadsEveryLookOfLetters) {
+  ExpectEach({
+      {R"({\rtf1\ulw a\uldb b\uldash c\uldashd d\uldashdd e\ulth f\ululdbwave g\ulhair h\ulthdash i})",
+       "(u-words)a(u-double)b(u-dash)c(u-dashdot)d(u-dashdotdot)e(u-thick)f(u-wave)g(u)h(u-dash)i"},
+      {R"({\rtf1\strike a\striked0 b\striked1\strike0 c\striked0 d})", "(s)abc()d"},
+      {R"({\rtf1\super a\sub b\nosupersub c\up6 d\up0 e\dn f\up-3 g\dn-3 h\super0 i})",
+       "(super)a(sub)b()c(super)d()e(sub)fg(super)h()i"},
+      {R"({\rtf1\caps a\scaps b\caps0 c\scaps0 d\v e\v0 f})", "(caps)a(scaps)bc()d(v)e()f"},
+      {R"({\rtf1{\colortbl\red1;\red2;;}\highlight1 a\cb0 b\chcbpat1 c\highlight2 d\cb0\cf0 e\highlight9 f})",
+       "(on #020000)a()b(on #020000)c()d(#010000)ef"},
+  });
+}
+
+TEST(RtfFormats, ReadsHyperlinks) {
+  const auto field = [](const std::string& instruction) {
+    return R"({\rtf1 a{\field{\*\fldinst{)" + instruction + R"(}}{\fldrslt{\ul b}}}c})";
+  };
+  const struct {
+    const char* instruction;
+    const char* link;
+  } examples[] = {
+      {R"(HYPERLINK "http://x.y/?a=1&b#c")", " -> http://x.y/?a=1&b#c"},
+      {R"( hyperlink  http://x.y )", " -> http://x.y"},
+      {R"(HYPERLINK \\l "top" \\o "a tip")", " -> #top"},
+      {R"(HYPERLINK "x.rtf" \\t "_blank" \\l "top")", " -> x.rtf#top"},
+      {R"(HYPERLINK "c:\\\\a\\b \\"c\\"")", R"( -> c:\a\b "c")"},
+      {R"(HYPERLINK "caf\u233?\'e9\{\}")", " -> caféé{}"},
+      {R"(HYPERLINK \\* MERGEFORMAT)", ""},
+      {R"(PAGEREF "x")", ""},
+      {"", ""},
+  };
+  for (const auto& example : examples)
+    ExpectReads(field(example.instruction), "a(u" + std::string(example.link) + ")b()c");
+  ExpectReads(field("HYPERLINK \"" + std::string(MaxLink + 1, 'x') + '"'), "a(u)b()c");
+  ExpectEach({
+      {R"({\rtf1{{\field{\fldinst HYPERLINK x}{\fldrslt\plain\i a\par b}}}\par})",
+       "(i -> x)a(i)|(i -> x)b()"},
+      {R"({\rtf1{\field{\*\fldinst HYPERLINK x}{\fldrslt a{\field{\*\fldinst PAGE {\field{\*\fldinst y}{\fldrslt z}}}{\fldrslt 3}}b}}c})",
+       "(-> x)a3b()c"},
+      {R"({\rtf1{\field{\*\fldinst HYPERLINK x}}{\field{\fldrslt a}}})", "a"},
+  });
+}
+
+// The same link in every paragraph makes a document many times as long.
+TEST(RtfFormats, BoundsWhatLinksCost) {
+  std::string rtf = R"({\rtf1{\field{\*\fldinst HYPERLINK )" + std::string(MaxLink, 'x') + R"(}{\fldrslt )";
+  for (int i = 0; i < 1000; ++i) rtf += R"(a\par )";
+  const Document document = ReadRtf(rtf);
+  const std::string written = WriteRtf(document);
+  EXPECT_EQ(ReadRtf(written), document);
+  EXPECT_LT(written.size(), 2 * MaxLinkText);
+  EXPECT_EQ(document.formats.at(document.runs.front().format).link.size(), MaxLink);
+}
+
+TEST(RtfFormats, ReadsEveryLookOfParagraphs) {
+  ExpectEach({
+      {R"({\rtf1\sb120\sa-5 a\par\rtlpar b\par\ltrpar\sb0 c\par})", "[sb120]a|[rtl sb120]b|c"},
+      {R"({\rtf1\sl480\slmult1 a\par\slmult0 b\par\sl-300 c\par\sl240\slmult1 d\par\sl0 e\par})",
+       "[lines480]a|[atleast480]b|[exact300]c|d|e"},
+      {R"({\rtf1\tx900\tqr\tx400\tqdec\tx900\tqc\tx100\tb50 a\par\pard b\tx5{\tx6}\par})",
+       "[ctab100 rtab400 dtab900]a|[tab5]b"},
+  });
+  std::string many = R"({\rtf1\pard)";
+  std::string dump = "[";
+  for (std::size_t i = 1; i <= MaxTabStops + 2; ++i) {
+    many += "\\tx" + std::to_string(i);
+    if (i > 2) dump += (i > 3 ? " tab" : "tab") + std::to_string(i);
+  }
+  ExpectReads(many + " a}", dump + "]a");
+}
+
+TEST(RtfFormats, ReadsListsOfTheClassicControls) {
+  ExpectEach({
+      // The label comes before what tells of the list, and is no text.
+      {R"({\rtf1{\fonttbl{\f1\fcharset2 Symbol;}}{\pntext\f1\'B7\tab}{\*\pn\pnlvlblt\pnf1\pnindent0{\pntxtb\'B7}}\fi-360\li720 a\par{\pntext\f1\'B7\tab}b\par\pard c\par})",
+       "[li720 fi-360 bullet \u2022]a|[li720 fi-360 bullet \u2022]b|c"},
+      {R"({\rtf1{\*\pn\pnlvlblt\pnindent200{\pntxtb\'b7}}a\par{\*\pn\pnlvlblt{\pntxtb -}}b\par{\*\pn\pnlvlcont}c})",
+       "[li200 fi-200 bullet \u2022]a|[bullet -]b|c"},
+      {R"({\rtf1{\*\pn\pnlvlbody\pndec\pnstart3{\pntxtb (}{\pntxta )}}a\par{\*\pn\pnlvlbody\pnucrm}b\par{\*\pn\pnlcltr}c\par})",
+       "[decimal3 (#)]a|[ROMAN1 #]b|[letter1 #]c"},
+      {R"({\rtf1{\*\pn\pnlvl2\pnucltr{\pntxta .}}a\par{\*\pn\pnlvl11}b\par\pard\ilvl1{\*\pn\pnlvlbody\pnlcrm}c})",
+       "[>LETTER1 #.]a|[>bullet \u2022]b|[>roman1 #]c"},
+      // A label that no list follows was meant to be read.
+      {R"({\rtf1{\pntext\f1 1.\tab}a\par{\pntext\'b7\tab}})", "1.>a|·>"},
+  });
+}
+
+TEST(RtfFormats, ReadsListsOfTables) {
+  const std::string tables =
+      R"({\rtf1{\*\listtable{\list\listtemplateid7\listhybrid)"
+      R"({\listlevel\levelnfc0\levelnfcn4\levelstartat2{\leveltext\'03(\'00);}{\levelnumbers\'02;}\li99})"
+      R"({\listlevel\levelnfc23{\leveltext\'01\u-3929 ?;}{\levelnumbers;}\f3}{\listname ;}\listid5})"
+      R"({\list{\listlevel\levelnfc0{\leveltext\'04\'00.\'01.;}}\listid-6}})"
+      R"({\*\listoverridetable{\listoverride\listid5\listoverridecount0\ls1})"
+      R"({\listoverride\listid-6\listoverridecount1{\lfolevel\listoverridestartat\levelstartat8}\ls2}})";
+  const Example examples[] = {
+      {R"(\ls1{\listtext (b)\tab}a\par b\par\ilvl1 c\par\pard d})",
+       "[letter2 (#)]a|[letter2 (#)]b|[>bullet \u25AA]c|d"},
+      {R"(\ls2\ilvl9 a\par\ls1\ilvl0 b\par\ls0 c})", "[>>>>>>>>decimal1 #.]a|[letter2 (#)]b|c"},
+      {R"(\ls2 a\par})", "[decimal8 #.]a"},
+      // What goes on behind other text begins with the next number there, a deeper level anew.
+      {R"(\ls1 a\par b\par\pard x\par\pard\ls1 c\par})", "[letter2 (#)]a|[letter2 (#)]b|x|[letter4 (#)]c"},
+      {R"(\ls2 a\par\ilvl2 b\par\ilvl0 c\par\ilvl2 d\par})",
+       "[decimal8 #.]a|[>>decimal1 #.]b|[decimal8 #.]c|[>>decimal1 #.]d"},
+  };
+  for (const Example& example : examples) ExpectReads(tables + example.rtf + '}', example.dump);
+}
+
+TEST(RtfFormats, ReadsListsOfLabels) {
+  ExpectEach({
+      {R"({\rtf1\ls1{\listtext\tab\bullet\tab}a\par{\listtext -\tab}b\par\pard c})",
+       "[bullet \u2022]a|[bullet -]b|c"},
+      {R"({\rtf1{\listtext 3.\tab}a\par{\listtext 4.\tab}b\par x\par{\listtext 7.\tab}c})",
+       "[decimal3 #.]a|[decimal3 #.]b|x|[decimal7 #.]c"},
+      {R"({\rtf1{\listtext (ii) }a\par{\listtext B)}b\par{\listtext 1.2.}c\par{\listtext X1Y}d\par})",
+       "[roman2 (#)]a|[LETTER2 #)]b|[decimal2 1.#.]c|X1Yd"},
+      {R"({\rtf1{\listtext 1.}a\cell b\cell\row c})", "a>b>|c"},
+  });
+}
+
+TEST(RtfFormats, CountsInEveryWay) {
+  const struct {
+    ListKind kind;
+    std::int32_t number;
+    const char16_t* label;
+  } examples[] = {
+      {ListKind::Decimal, 0, u"(0)"},        {ListKind::LowerLetter, 26, u"(z)"},
+      {ListKind::UpperLetter, 27, u"(AA)"},  {ListKind::LowerRoman, 1994, u"(mcmxciv)"},
+      {ListKind::UpperRoman, 49, u"(XLIX)"}, {ListKind::UpperRoman, 5000, u"(5000)"},
+      {ListKind::LowerLetter, 0, u"(0)"},
+  };
+  for (const auto& example : examples) {
+    const ListFormat list{example.kind, 1, 0, u"(", u")"};
+    EXPECT_EQ(LabelText(list, example.number), example.label);
+  }
+}
+
+TEST(RtfFormats, ReadsTextOfShapesAndObjects) {
+  ExpectEach({
+      {R"({\rtf1 a{\shp{\*\shpinst\shpleft1{\sp{\sn n}{\sv v}}{\shptxt\qc b\par}}{\shprslt{\*\do{\dptxbxtext b}}}}c})",
+       "a|[center]b|c"},
+      {R"({\rtf1{\*\do\dobxpage{\dptxbxtext b\par}}c})", "b|c"},
+      {R"({\rtf1{\object{\*\objclass X}{\*\objdata 00}{\result\i b}}c})", "(i)b()c"},
+  });
+}
+
+TEST(PlainText, HoldsWhatIsRead) {
+  EXPECT_EQ(PlainText(ReadRtf(
+                R"({\rtf1 a\line\b b\v c\v0\tab{\pict\pngblip 00}\par{\v\par}{\listtext 1.}\u233?\par})")),
+            "a\nb\t\n\n\xC3\xA9");
+  EXPECT_EQ(PlainText(EmptyDocument()), "");
+}
+
+}  // namespace
