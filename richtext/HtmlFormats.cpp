@@ -68,7 +68,7 @@ void SetList(ParagraphFormat& made, const QTextListFormat& format) {
   if (made.list.kind == ListKind::Bullet)
     made.list.before = Bullet(format.style());
   else
-    made.list.after = u".";
+    made.list.after.assign(1, u'.');
   made.leftIndent = FittingIndent(made.leftIndent + (made.list.level + 1) * ListStep);
   made.firstLineIndent = -LabelWidth;
   made.list = FittingList(made.list);
