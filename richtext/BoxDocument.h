@@ -15,6 +15,10 @@ void FillDocument(const Document& source, QTextDocument& target);
 // empty one has. The cursor stands behind what came in.
 void InsertDocument(const Document& source, QTextCursor& cursor);
 
+// A document of more than PageHeight.h's measure is kept whole, and its first paragraphs are shown. Filling
+// and inserting see to it; who makes letters larger calls this before the document is laid out.
+void HideWhatIsTooFar(const QTextDocument& document);
+
 // The whole content.
 Document TakeDocument(const QTextDocument& source);
 // The selected content; one empty paragraph where nothing is selected.

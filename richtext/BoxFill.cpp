@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <climits>
 #include <iterator>
 #include <string_view>
 
@@ -11,6 +12,7 @@
 #include "richtext/BoxParagraphs.h"
 #include "richtext/BoxPictures.h"
 #include "richtext/HiddenText.h"
+#include "richtext/PageHeight.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
@@ -107,13 +109,23 @@ class Filler {
   std::size_t picture_ = 0;
 };
 
+// What has been hidden comes to light when the page is filled in again.
+void HideFrom(const QTextDocument& document, std::size_t count) {
+  const auto first = static_cast<int>(std::min<std::size_t>(count, INT_MAX));
+  for (QTextBlock block = document.findBlockByNumber(first); block.isValid(); block = block.next())
+    block.setVisible(false);
+}
+
 }  // namespace
 
 void FillDocument(const Document& source, QTextDocument& target) {
   target.setUndoRedoEnabled(false);
   target.clear();
   QTextCursor cursor(&target);
-  InsertDocument(source, cursor);
+  cursor.beginEditBlock();
+  Filler(source, cursor).Fill();
+  HideFrom(target, ParagraphsToShow(source));
+  cursor.endEditBlock();
   target.setUndoRedoEnabled(true);
 }
 
@@ -121,7 +133,12 @@ void InsertDocument(const Document& source, QTextCursor& cursor) {
   cursor.beginEditBlock();
   cursor.removeSelectedText();
   Filler(source, cursor).Fill();
+  HideWhatIsTooFar(*cursor.document());
   cursor.endEditBlock();
+}
+
+void HideWhatIsTooFar(const QTextDocument& document) {
+  HideFrom(document, ParagraphsToShow(TakeDocument(document)));
 }
 
 }  // namespace richtext

@@ -168,7 +168,11 @@ void RichTextBox::SetSelFontSize(double points) {
   if (!(points > 0)) return;
   QTextCharFormat attribute;
   SetFontSize(attribute, points);
+  QTextCursor step = textCursor();
+  step.beginEditBlock();
   SetAttribute(attribute);
+  if (step.hasSelection()) HideWhatIsTooFar(*document());
+  step.endEditBlock();
 }
 
 void RichTextBox::SetSelBold(bool on) {

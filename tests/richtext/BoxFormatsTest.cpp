@@ -2,6 +2,7 @@
 #include "BoxFixture.h"
 #include "richtext/BoxLabels.h"
 #include "richtext/BoxPictures.h"
+#include "richtext/Limits.h"
 
 namespace richtext {
 namespace {
@@ -222,6 +223,21 @@ TEST_F(ListsTest, LabelsAreDrawn) {
   box.SetSelStart(0);
   Press(Qt::Key_Backspace);
   EXPECT_EQ(ink(), 0);
+}
+
+// The toolkit's layout would not come back from it.
+TEST_F(BoxFormatsTest, TooHighAPageIsKeptWhole) {
+  Document page = Page({{u"first", Plain}});
+  page.formats.push_back(Font("Arial", MaxHalfPoints));
+  const std::u16string letters(9000, u'm');
+  page.text += letters;
+  page.runs.push_back({9000, 1});
+  page.paragraphs.push_back({9000, 0, 1});
+  Set(page);
+  box.grab();
+  EXPECT_TRUE(box.Text().endsWith(QString::fromStdU16String(letters)));
+  EXPECT_TRUE(box.document()->firstBlock().isVisible());
+  EXPECT_LT(box.document()->size().height(), 8e6);
 }
 
 // One red pixel, as a bitmap without a file around it.
