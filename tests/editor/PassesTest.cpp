@@ -73,6 +73,19 @@ TEST_F(Passes, NothingIsLostWhenTheFileCannotBeWritten) {
   EXPECT_EQ(TextsIn(row), (Texts{"My cover", "one"}));
 }
 
+// A write that is refused tells of itself, so the boxes count the writes.
+TEST_F(Passes, ClosingWritesAChangedPageTwiceAndAnUnchangedOneOnce) {
+  Open(AddJournal({"cover", "one"}));
+  platform::SetProgramFolder(folder.PathOf("gone"));
+  window().CloseBox();
+  EXPECT_EQ(answers.messages.size(), 1u);
+  Type("My ");
+  window().CloseBox();
+  ASSERT_EQ(answers.messages.size(), 3u);
+  EXPECT_EQ(answers.messages[1].text.find("Page Encryption Error:"), 0u);
+  platform::SetProgramFolder(folder.path());
+}
+
 TEST_F(Passes, TextGoesBackOnlyToTheRowItCameFrom) {
   const auto row = AddJournal({"cover", "one"}), other = AddJournal({"other cover", "other one"});
   Open(row);
