@@ -14,6 +14,9 @@ std::int32_t PageShift = 0;
 
 bool BookcaseLoaded = false;
 
+std::vector<PagePicture> Pictures;
+std::int32_t PictureCount = 0;
+
 std::int32_t PagesJournal = 0;
 std::int32_t TextPage = -1;
 
@@ -36,6 +39,8 @@ void ResetState() {
   Journals.assign(1, {});
   JournalCount = 0;
   CurrentJournal = 0;
+  Pictures.clear();
+  PictureCount = 0;
   MasterPassword.clear();
   PageShift = 0;
   BookcaseLoaded = false;

@@ -44,6 +44,25 @@ struct JournalPage {
   double PageDate = 0;  // days since 30 December 1899
 };
 
+// One picture that lies on a page: the user's own file, where and how large it shows, and its frame.
+struct PagePicture {
+  std::string PictureFile;         // full path in the system's bytes, as the file dialog gave it
+  std::int32_t PictureWidth = 0;   // pixels on the page
+  std::int32_t PictureHeight = 0;  // pixels on the page
+  std::int32_t Spare1 = 0;         // part of the format; carried through
+  std::string Spare2;              // part of the format; carried through
+  std::int32_t FrameIndex = 0;     // 0: no frame; n: the n-th of the frames at the time of adding
+  std::string FrameFile;           // full path of the frame, empty without one
+  std::int32_t PageNumber = 0;     // row of Pages that it lies on; never renumbered
+  std::string JournalName;         // the journal's name at the time of adding; never compared
+  std::string JournalFile;         // the journal's FileName, which ties the row to it
+  std::int32_t Top = 0;            // pixels of the journal window's client area; any value
+  std::int32_t Left = 0;
+  Flag Deleted = False;  // True, and only True: removed, left out of the file at the next save
+
+  bool operator==(const PagePicture&) const = default;
+};
+
 // The bookcase. Rows 1 to JournalCount are in use, removed ones included; row 0 stays blank and is never
 // saved. Filled by LoadJournalIndex, grown by the dialogs that create journals; lives to the end of the run.
 extern std::vector<JournalEntry> Journals;
@@ -56,6 +75,12 @@ extern std::int32_t CurrentPage;     // the row of Pages on show
 extern std::int32_t PageCount;       // highest row of Pages, at least 1 while a journal is open
 extern Flag PageDirty;               // True when the text box changed since its page was shown or stored
 extern std::int32_t CurrentJournal;  // the row of Journals last opened; 0 before the first
+
+// The pictures of all pages of all journals, rows 0 to PictureCount. Row 0 is blank and never shown, but goes
+// into the file. Empty until a store was loaded or a picture was added; rows are never sorted, reused or
+// taken out.
+extern std::vector<PagePicture> Pictures;
+extern std::int32_t PictureCount;
 
 // Always scrambled, as the index file holds it. Set at the first run and by a change of the password.
 extern std::string MasterPassword;
