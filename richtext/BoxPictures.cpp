@@ -14,6 +14,7 @@
 #include "richtext/BoxFormats.h"
 #include "richtext/Limits.h"
 #include "richtext/SmallPng.h"
+#include "richtext/Twips.h"
 
 namespace richtext {
 namespace {

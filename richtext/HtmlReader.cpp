@@ -16,6 +16,7 @@
 #include "richtext/HtmlFormats.h"
 #include "richtext/Limits.h"
 #include "richtext/SmallPng.h"
+#include "richtext/Twips.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {

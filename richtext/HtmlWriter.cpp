@@ -4,6 +4,7 @@
 #include "richtext/BoxPictures.h"
 #include "richtext/ListLabel.h"
 #include "richtext/SmallPng.h"
+#include "richtext/Twips.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {

@@ -9,12 +9,11 @@
 #include "richtext/HexDigits.h"
 #include "richtext/Limits.h"
 #include "richtext/RtfEscape.h"
+#include "richtext/Twips.h"
 
 namespace richtext {
 namespace {
 
-constexpr std::int64_t TwipsPerPixel = 15;  // 1440 twips and 96 pixels to the inch
-constexpr std::int64_t TwipsPerInch = 1440;
 constexpr std::int64_t HiMetricPerInch = 2540;
 
 struct KindWord {
@@ -67,7 +66,7 @@ std::int64_t NaturalSize(const PictureExtent& extent, PictureKind kind, bool sca
   const std::int64_t own = std::max(extent.own, 0);
   if (kind == PictureKind::Metafile || kind == PictureKind::EnhancedMetafile)
     return own * TwipsPerInch / HiMetricPerInch;
-  return IsFile(kind) && !scaled ? 0 : own * TwipsPerPixel;
+  return IsFile(kind) && !scaled ? 0 : own * TwipsPerInch / PixelsPerInch;
 }
 
 // Twips; 0 when the picture is shown in its own size. A scale or a crop that leaves nothing was not meant.

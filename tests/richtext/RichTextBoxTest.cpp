@@ -110,6 +110,39 @@ TEST_F(RichTextBoxTest, CaretTakesTheFormatWhereItGoes) {
   EXPECT_EQ(FormatAt(10), Loud);
 }
 
+TEST_F(RichTextBoxTest, TypingBesideALinkIsNoPartOfIt) {
+  CharacterFormat link = Font("Arial", 20, 0xff0000);
+  link.link = "http://example.invalid/";
+  const auto linked = [&] {
+    QString letters;
+    const Document page = Taken();
+    std::size_t at = 0;
+    for (const auto& run : page.runs) {
+      if (page.formats[run.format].link == link.link)
+        letters += QString::fromStdU16String(page.text.substr(at, run.length));
+      at += run.length;
+    }
+    return letters;
+  };
+  for (const Document& page :
+       {Page({{u"link", link}}), Page({{u"a", Loud}, {u"link", link}, {u"b", Loud}})}) {
+    Set(page);
+    const int start = box.Text().indexOf(u'l');
+    for (const auto& [place, letters] : {std::pair{0, "link"}, {5, "link"}, {3, "lixnk"}}) {
+      box.SetSelStart(start + place);
+      Type("x");
+      EXPECT_EQ(linked(), QLatin1String(letters)) << place;
+    }
+    if (start > 0) {
+      EXPECT_EQ(FormatAt(start + 1), Loud) << "as the text around it";
+    }
+    box.SetSelStart(box.Text().indexOf(u'k') + 1);
+    Press(Qt::Key_Return);
+    Type("y");
+    EXPECT_EQ(linked(), QLatin1String("lixnk"));
+  }
+}
+
 TEST_F(RichTextBoxTest, SelectionReadsAsMixed) {
   Set(Page({{u"plain", Plain}, {u"loud", Loud}}));
   Select(4, 2);
