@@ -3,6 +3,7 @@
 #include <QtWidgets/QScrollBar>
 
 #include "BoxFixture.h"
+#include "richtext/BoxPictures.h"
 #include "richtext/SmallPng.h"
 
 namespace richtext {
@@ -201,7 +202,7 @@ Document FullPage() {
   page.pictures = {{PictureKind::Png, png, {}, 301, 77},
                    {PictureKind::Png, png, {}, 0, 0},
                    {PictureKind::Png, "no picture", {}, 600, 300},
-                   {PictureKind::Png, png, {}, 0, 90}};
+                   {PictureKind::Png, png, {}, 0, 90, {0, 0, -10, 30}}};
   page.paragraphFormats = {Indented(Alignment::Left, 0, 0, 0), Indented(Alignment::Right, 1, 719, -360),
                            Indented(Alignment::Center, -15, 0, 7),
                            Indented(Alignment::Justify, 1440, 20, 360)};
@@ -220,6 +221,14 @@ TEST_F(RichTextBoxTest, HoldsWhatThePageHolds) {
   EXPECT_EQ(TakeDocument(*box.document()), taken) << "drawing it changed it";
   box.SetTextRTF(WriteRtf(taken));
   EXPECT_EQ(TakeDocument(*box.document()), taken);
+}
+
+TEST_F(RichTextBoxTest, ShowsThePartThatACropLeaves) {
+  Picture picture{PictureKind::Png, SmallestPng(Checkers({8, 6})), {}, 60, 75, {30, 30, 30, -15}};
+  const QImage shown = DecodedPicture(picture);
+  EXPECT_EQ(shown.size(), QSize(4, 5));
+  EXPECT_EQ(shown.copy(0, 0, 4, 4), Checkers({8, 6}).copy(2, 2, 4, 4));
+  EXPECT_EQ(shown.pixelColor(0, 4).alpha(), 0) << "a margin";
 }
 
 TEST_F(RichTextBoxTest, ForeignSignsStayWithinTheirParagraph) {
