@@ -11,6 +11,7 @@
 #include "richtext/BoxFormats.h"
 #include "richtext/BoxParagraphs.h"
 #include "richtext/ListLabel.h"
+#include "richtext/Twips.h"
 
 namespace richtext {
 namespace {

@@ -94,6 +94,7 @@ class RichTextBox : public QTextEdit {
   void DeleteNext(QKeyEvent& event);
   void InsertParagraph();
   void CarryOn(const QTextCharFormat& format);
+  void LeaveLink();
 
   std::uint32_t backColor_ = 0xffffff;
   bool quiet_ = false;     // what happens to the document now is no edit
