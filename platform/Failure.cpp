@@ -25,6 +25,8 @@ const char* TextOf(FailureKind kind) {
       return "The file or folder cannot be opened";
     case FailureKind::PathNotFound:
       return "Path not found";
+    case FailureKind::InvalidPicture:
+      return "This file cannot be shown as a picture";
   }
   return "Unknown failure";
 }

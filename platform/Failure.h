@@ -18,6 +18,7 @@ enum class FailureKind {
   PermissionDenied = 70,
   PathAccess = 75,
   PathNotFound = 76,
+  InvalidPicture = 481,
 };
 
 // what() is a sentence for a person, in UTF-8, that names the thing: "Path not found:
