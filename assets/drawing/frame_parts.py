@@ -1,7 +1,7 @@
 """The common parts of the frames: the plane they are drawn on, sides with mitred corners, and what runs around them.
 
-A frame is stretched over a photograph of any shape, and the photograph fills all of the rectangle beneath it. So a frame
-is opaque up to the border wherever the photograph must not show, and only its window is left open.
+A frame is stretched over a photograph of any shape, and the photograph fills all of the rectangle beneath it. So a
+frame is opaque up to the border wherever the photograph must not show, and only its window is left open.
 """
 
 import math
@@ -44,6 +44,11 @@ def path(d, **attributes):
     return element("path", d=d, **{"fill": "none", **attributes})
 
 
+def gradient_stops(*stops):
+    """The stops of a gradient, as (share of the way, colour)."""
+    return "".join(element("stop", offset=share, stop_color=colour) for share, colour in stops)
+
+
 def line_through(points):
     return "M" + "L".join(f"{x:.1f} {y:.1f}" for x, y in points)
 
@@ -66,7 +71,8 @@ def ring(outer, inner, fill, radius=0):
 
 def hairline(inset, colour, width=1.5, **attributes):
     """A line whose outer edge lies at the inset."""
-    return path(rectangle_line(inset + width / 2), stroke=colour, stroke_width=width, stroke_linejoin="miter", **attributes)
+    line = rectangle_line(inset + width / 2)
+    return path(line, stroke=colour, stroke_width=width, stroke_linejoin="miter", **attributes)
 
 
 def edges(inset, upper_left, lower_right, width=2):
@@ -107,8 +113,7 @@ def moulding(border, profile, ramp, grain=None):
     """
     def side(length, lit, name):
         sign = 0.5 if lit else -0.5
-        stops = "".join(
-            element("stop", offset=share, stop_color=on_ramp(ramp, 0.5 + sign * slope)) for share, slope in profile)
+        stops = gradient_stops(*((share, on_ramp(ramp, 0.5 + sign * slope)) for share, slope in profile))
         slopes = element("linearGradient", stops, id=f"{name}-slopes", gradientUnits="userSpaceOnUse",
                          x1=0, y1=0, x2=0, y2=border)
         body = element("rect", x=-1, y=-1, width=length + 2, height=border + 1, fill=f"url(#{name}-slopes)")
@@ -176,10 +181,14 @@ def placed(part, x, y, degrees=0, size=1):
     return group(part, transform=f"translate({x:.1f} {y:.1f}) rotate({degrees:.1f}) scale({size:.2f})")
 
 
+def dots(places, radius, **look):
+    return "".join(
+        element("circle", cx=place[0], cy=place[1], r=radius, **{"fill": "none", **look}) for place in places)
+
+
 def ball(name, light, fill, shade):
     """A gradient that rounds a small shape towards the light."""
-    stops = (element("stop", offset=0, stop_color=light) + element("stop", offset=0.55, stop_color=fill)
-             + element("stop", offset=1, stop_color=shade))
+    stops = gradient_stops((0, light), (0.55, fill), (1, shade))
     return element("radialGradient", stops, id=name, cx=0.35, cy=0.3, r=0.75)
 
 

@@ -2,8 +2,8 @@
 
 import random
 
-from frame_parts import (BORDER, HEIGHT, WIDTH, around, ball, edges, element, four_corners, hairline, in_corners, moulding,
-                         paper_shade, path, placed)
+from frame_parts import (BORDER, HEIGHT, WIDTH, around, ball, dots, edges, element, four_corners, hairline, in_corners,
+                         moulding, paper_shade, path, placed)
 from palette import GILT, HUES, LIGHT, LINE, PAPER, SHADE, hue, svg
 
 WALNUT = HUES["walnut"][::-1]
@@ -28,7 +28,8 @@ def grain(border):
 
 
 def wood():
-    profile = ((0, .9), (.1, .55), (.22, .1), (.62, -.12), (.7, -.5), (.74, -.95), (.76, .8), (.82, .3), (.88, -.3), (1, -.9))
+    profile = ((0, .9), (.1, .55), (.22, .1), (.62, -.12), (.7, -.5), (.74, -.95), (.76, .8), (.82, .3), (.88, -.3),
+               (1, -.9))
     ramp = (WALNUT[0], WALNUT[1], WALNUT[2], WALNUT[2], WALNUT[3])
     slip = moulding_slip(BORDER - 6)
     return svg(WIDTH, HEIGHT, moulding(BORDER, profile, ramp, grain(BORDER)), slip,
@@ -38,12 +39,6 @@ def wood():
 def moulding_slip(inset):
     """The thin gilt slip between a wooden frame and its picture."""
     return hairline(inset - 1, hue("walnut", LINE), 1.5) + edges(inset, GILT, hue("straw"), 4)
-
-
-def beads(inset, spacing, radius, name, outline):
-    return "\n".join(
-        element("circle", cx=x, cy=y, r=radius, fill=f"url(#{name})", stroke=outline, stroke_width=1)
-        for x, y, _ in around(inset, spacing))
 
 
 def acanthus(outline):
@@ -58,23 +53,39 @@ def acanthus(outline):
 
 def gilt():
     border = 50
-    profile = ((0, .9), (.08, .7), (.14, -.4), (.18, -.9), (.2, .1), (.32, -.15), (.5, -.35), (.6, -.1), (.68, .5), (.7, -.8),
-               (.72, .2), (.9, .2), (.92, .9), (.96, .2), (1, -.9))
+    profile = ((0, .9), (.08, .7), (.14, -.4), (.18, -.9), (.2, .1), (.32, -.15), (.5, -.35), (.6, -.1), (.68, .5),
+               (.7, -.8), (.72, .2), (.9, .2), (.92, .9), (.96, .2), (1, -.9))
     outline = hue("amber", LINE)
     return svg(WIDTH, HEIGHT,
                ball("bead", PAPER, hue("straw"), hue("straw", LINE)),
                ball("tongue", hue("straw", LIGHT), GILT, hue("straw", LINE)),
-               moulding(border, profile, BRIGHT), beads(40.5, 12, 4.4, "bead", outline),
+               moulding(border, profile, BRIGHT),
+               dots(around(40.5, 12), 4.4, fill="url(#bead)", stroke=outline, stroke_width=1),
                acanthus(outline), hairline(0, outline), hairline(border - 1.5, outline))
 
 
 def ribbon(outline):
     """Two crossing bands that tie the reeds together; drawn across the upper side."""
-    bands = ""
-    for slant in (12, -12):
-        bands += path(f"M{-slant - 4} 2L{slant - 4} 38H{slant + 4}L{-slant + 4} 2Z", fill="url(#band)", stroke=outline,
-                      stroke_width=1.2)
-    return bands
+    return "".join(
+        path(f"M{-slant - 4} 2L{slant - 4} 38H{slant + 4}L{-slant + 4} 2Z", fill="url(#band)", stroke=outline,
+             stroke_width=1.2) for slant in (12, -12))
+
+
+def ties(ribbon):
+    """Ribbons at even distances: three on a long side, two on a short one."""
+    across = (placed(ribbon, WIDTH * i / 4, y, turn) for i in (1, 2, 3) for y, turn in ((0, 0), (HEIGHT, 180)))
+    down = (placed(ribbon, x, HEIGHT * i / 3, turn) for i in (1, 2) for x, turn in ((0, -90), (WIDTH, 90)))
+    return "".join((*across, *down))
+
+
+def boss(outline):
+    """The square block in a corner, around its middle."""
+    return (element("rect", x=-21, y=-21, width=42, height=42, rx=2, fill="url(#plate)", stroke=outline,
+                    stroke_width=1.3)
+            + path("M-19 19V-19H19", stroke=PAPER, stroke_width=1.5)
+            + path("M-19 19H19V-19", stroke=STEEL[2], stroke_width=1.5)
+            + element("circle", r=13, fill=STEEL[3], stroke=outline, stroke_width=1.2)
+            + element("circle", r=9, fill="url(#band)", stroke=STEEL[1], stroke_width=1))
 
 
 def silver():
@@ -82,12 +93,6 @@ def silver():
     reed = ((.02, .9), (.1, .5), (.16, .1), (.22, -.4), (.29, -.95))
     profile = [(0, -.6)] + [(start + share, slope) for start in (0.03, .34, .65) for share, slope in reed] + [(1, -.8)]
     outline = STEEL[0]
-    band = ball("band", PAPER, STEEL[3], STEEL[2])
-    ties = [placed(ribbon(outline), WIDTH * i / 4, 0) + placed(ribbon(outline), WIDTH * i / 4, HEIGHT, 180) for i in (1, 2, 3)]
-    ties += [placed(ribbon(outline), 0, HEIGHT * i / 3, -90) + placed(ribbon(outline), WIDTH, HEIGHT * i / 3, 90) for i in (1, 2)]
-    boss = (element("rect", x=-21, y=-21, width=42, height=42, rx=2, fill="url(#plate)", stroke=outline, stroke_width=1.3)
-            + path("M-19 19V-19H19", stroke=PAPER, stroke_width=1.5) + path("M-19 19H19V-19", stroke=STEEL[2], stroke_width=1.5)
-            + element("circle", r=13, fill=STEEL[3], stroke=outline, stroke_width=1.2)
-            + element("circle", r=9, fill="url(#band)", stroke=STEEL[1], stroke_width=1))
-    return svg(WIDTH, HEIGHT, band, ball("plate", STEEL[5], STEEL[4], STEEL[2]), moulding(border, profile, STEEL), *ties,
-               hairline(0, outline, 1.3), hairline(border - 1.5, outline), in_corners(21.5, boss))
+    return svg(WIDTH, HEIGHT, ball("band", PAPER, STEEL[3], STEEL[2]), ball("plate", STEEL[5], STEEL[4], STEEL[2]),
+               moulding(border, profile, STEEL), ties(ribbon(outline)), hairline(0, outline, 1.3),
+               hairline(border - 1.5, outline), in_corners(21.5, boss(outline)))

@@ -2,8 +2,9 @@
 
 import random
 
-from frame_parts import (HEIGHT, WIDTH, along_rounded, around, clipped, edges, element, fibres, four_corners, hairline,
-                         line_through, mixed, moved_in, paper_shade, path, rectangle_line, ring)
+from frame_parts import (HEIGHT, WIDTH, along_rounded, around, clipped, dots, edges, element, fibres, four_corners,
+                         gradient_stops, hairline, line_through, mixed, moved_in, paper_shade, path, rectangle_line,
+                         ring)
 from palette import GILT, INK, LIGHT, LINE, PAPER, SHADE, hue, svg
 
 EDGE = mixed(PAPER, hue("walnut"), .6)  # the outline of what is white
@@ -20,7 +21,8 @@ def instant_photo():
                        path(f"M0 {HEIGHT - 3}H{WIDTH - 3}V0", stroke=paper_shade(.14, hue("walnut")), stroke_width=5,
                             stroke_linejoin="miter")),
                hairline(0, EDGE),
-               path(f"M33 {HEIGHT - 87}V33H{WIDTH - 33}", stroke=hue("walnut"), stroke_width=2, stroke_linejoin="miter"),
+               path(f"M33 {HEIGHT - 87}V33H{WIDTH - 33}", stroke=hue("walnut"), stroke_width=2,
+                    stroke_linejoin="miter"),
                path(f"M33 {HEIGHT - 87}H{WIDTH - 33}V33", stroke=paper_shade(.2, hue("walnut")), stroke_width=2,
                     stroke_linejoin="miter"))
 
@@ -38,33 +40,29 @@ def photo_corners():
 
 
 def film_strip():
+    """A frame of film; its holes are filled with the white of the light box."""
     film, line = mixed(INK, hue("walnut", LINE), .45), INK
     height, band = 30, 54
     holes = "".join(
         element("rect", x=x, y=y, width=20, height=height, rx=4, fill=PAPER, stroke=line, stroke_width=1.5)
-        for i in range(15) for x in (10 + 40 * i,) for y in (12, HEIGHT - 12 - height))
-    marks = "".join(path(f"M{x} 3.5V8.5l6 -2.5Z", fill=hue("amber")) + path(f"M{x + 12} 6h{run}", stroke=hue("amber"),
-                    stroke_width=2.5) for x, run in ((60, 14), (260, 8), (460, 14)))
+        for x in range(10, WIDTH, 40) for y in (12, HEIGHT - 12 - height))
+    amber, marked = hue("amber"), ((60, 14), (260, 8), (460, 14))
+    marks = "".join(path(f"M{x} 3.5V8.5l6 -2.5Z", fill=amber)
+                    + path(f"M{x + 12} 6h{run}", stroke=amber, stroke_width=2.5)
+                    for x, run in marked)
     window = f"M24 {band}H{WIDTH - 24}V{HEIGHT - band}H24Z"
     return svg(WIDTH, HEIGHT, path(rectangle_line(0) + window, fill=film, fill_rule="evenodd"),
                path(f"M0 2H{WIDTH}", stroke=hue("walnut"), stroke_width=1.5), holes, marks,
                path(window, stroke=line, stroke_width=2, stroke_linejoin="miter"))
 
 
-def bitten(inset, spacing, radius):
-    """The holes of a perforation along the sheet's edge, which bite half out of it."""
-    arc = f"a{radius} {radius} 0 1 0"
-    return "".join(f"M{x - radius:.1f} {y:.1f}{arc} {2 * radius} 0{arc} {-2 * radius} 0Z" for x, y, _ in around(inset, spacing))
-
-
 def postage_stamp():
     """A stamp on the dark card of a stock book; the card covers what lies outside the perforation."""
     card, inset = mixed(INK, hue("ink_blue", LINE), .5), 13
     ink = hue("teal", SHADE)
-    holes = bitten(inset, 23, 6)
     return svg(WIDTH, HEIGHT, ring(0, inset + 1, card), hairline(0, INK, 1.5),
                ring(inset, 46, PAPER), hairline(inset, paper_shade(.25, hue("walnut")), 1.2),
-               path(holes, fill=card), hairline(34, ink, 2), hairline(38, ink, 6), hairline(44, ink, 1),
+               dots(around(inset, 23), 6, fill=card), hairline(34, ink, 2), hairline(38, ink, 6), hairline(44, ink, 1),
                hairline(46, hue("teal", LINE), 1.5))
 
 
@@ -80,10 +78,12 @@ def torn_lines():
     """Two ragged outlines around the window: where the skin of the paper ends, and where its core does."""
     chance = random.Random("tear")
     skin, core = [], []
-    for place, drift, breadth in zip(along_rounded(33, 26, 5), drifting(chance, .3), drifting(chance, .4)):
-        depth = drift * 6 + chance.uniform(-1.2, 1.2)
+    places = list(along_rounded(32, 26, 5))
+    for i, (place, drift, breadth) in enumerate(zip(places, drifting(chance, .3), drifting(chance, .4))):
+        near_join = min(1, (len(places) - i) / 20)  # the end of the line comes back to its beginning
+        depth = drift * 6 * near_join + chance.uniform(-1.2, 1.2)
         skin.append(moved_in(place, depth))
-        core.append(moved_in(place, depth + 9 + breadth * 5 + chance.uniform(-1, 1)))
+        core.append(moved_in(place, depth + 11 + breadth * 6.5 * near_join + chance.uniform(-1, 1)))
     return line_through(skin) + "Z", line_through(core) + "Z"
 
 
@@ -111,13 +111,13 @@ def oval_mount():
     """A mount of coloured card with a bevelled oval window and two gilt lines."""
     card, line = mixed(hue("moss"), hue("moss", SHADE), .4), hue("moss", LINE)
     sheet = rectangle_line(0) + oval(28)
-    bevel = (element("stop", offset=0, stop_color=mixed(PAPER, hue("walnut"), .55))
-             + element("stop", offset=.5, stop_color=paper_shade(.14, hue("walnut"))) + element("stop", offset=1, stop_color=PAPER))
+    bevel = gradient_stops((0, paper_shade(.55, hue("walnut"))), (.5, paper_shade(.14, hue("walnut"))), (1, PAPER))
+    hairs = fibres("mount", 1100, (mixed(card, line, .3), mixed(card, hue("moss", LIGHT), .35)))
     flourish = (path("M14 88V14H88M14 58C26 56 34 50 38 38C50 34 56 26 58 14M38 38L24 24", stroke=GILT, stroke_width=2)
                 + element("circle", cx=23, cy=23, r=4.5, fill=GILT))
     return svg(WIDTH, HEIGHT, element("linearGradient", bevel, id="bevel", x1=0, y1=0, x2=1, y2=1),
                path(sheet, fill=card, fill_rule="evenodd"),
-               clipped("sheet", sheet, fibres("mount", 1100, (mixed(card, line, .3), mixed(card, hue("moss", LIGHT), .35)))),
+               clipped("sheet", sheet, hairs),
                path(oval(14), stroke=GILT, stroke_width=2.5), path(oval(19.5), stroke=GILT, stroke_width=1),
                four_corners(flourish),
                path(oval(28), stroke="url(#bevel)", stroke_width=7),
