@@ -9,6 +9,8 @@ const char* TextOf(FailureKind kind) {
   switch (kind) {
     case FailureKind::InvalidArgument:
       return "Invalid procedure call or argument";
+    case FailureKind::Overflow:
+      return "Overflow";
     case FailureKind::OutOfMemory:
       return "Out of memory";
     case FailureKind::SubscriptOutOfRange:

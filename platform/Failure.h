@@ -10,6 +10,7 @@ namespace platform {
 
 enum class FailureKind {
   InvalidArgument = 5,
+  Overflow = 6,
   OutOfMemory = 7,
   SubscriptOutOfRange = 9,
   FileNotFound = 53,
