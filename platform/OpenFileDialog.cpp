@@ -43,6 +43,7 @@ QFileDialog* MakeDialog(const OpenFileQuestion& question) {
   dialog->setObjectName(QStringLiteral("OpenFileDialog"));
   dialog->setOption(QFileDialog::DontUseNativeDialog);
   dialog->setOption(QFileDialog::HideNameFilterDetails);
+  dialog->setOption(QFileDialog::ReadOnly);  // a file is chosen here, not renamed or deleted
   dialog->setFileMode(QFileDialog::ExistingFile);
   dialog->setDirectory(FolderToStartIn());
   QStringList names;
