@@ -5,7 +5,6 @@
 #include "pictures/AddPicture.h"
 #include "pictures/PictureSlots.h"
 #include "pictures/frmAddPicture.h"
-#include "platform/OpenFileDialog.h"
 #include "tests/support/Windows.h"
 
 namespace {
@@ -25,12 +24,7 @@ class AddPicture : public fixture::Windows {
     QDir(QString::fromStdString(folder.path())).mkdir(u"frames"_qs);
     photo = Picture("photo.png", {640, 480}, Qt::blue);
     lace = Picture("frames/Lace.gif", {20, 20}, Qt::red);
-    platform::SetOpenFileChooser([this](const platform::OpenFileQuestion& question) {
-      asked.push_back(question.filters.at(0).patterns + " to " + question.filters.at(4).description);
-      return file;
-    });
   }
-  ~AddPicture() override { platform::SetOpenFileChooser({}); }
 
   std::string Picture(const char* name, QSize size, QColor color) {
     QImage image(size, QImage::Format_RGB32);
@@ -41,7 +35,7 @@ class AddPicture : public fixture::Windows {
   // Chooses the file, does that in frmAddPicture and closes it. Whether it opened.
   bool Add(const std::string& path, const std::function<void()>& inTheDialog) {
     bool opened = false;
-    file = path;
+    chooser.file = path;
     QTimer::singleShot(0, &page, [&] {
       opened = dialog().isVisible();
       if (opened) inTheDialog();
@@ -67,8 +61,6 @@ class AddPicture : public fixture::Windows {
   PictureSlots* slots_ = new PictureSlots(&page);
   std::string photo;
   std::string lace;
-  std::optional<std::string> file;
-  Texts asked;
 };
 
 TEST_F(AddPicture, MeasuresTwiceRoundedFromTheSettledFigure) {
@@ -86,7 +78,8 @@ TEST_F(AddPicture, MeasuresTwiceRoundedFromTheSettledFigure) {
   });
   EXPECT_EQ(seen, (Texts{"25% 282x212", "10% 113x85", "25% 282x212", "50% 564x424", "75% 847x635",
                          "100% 1129x847", "200% 2258x1694", "201% 2269x1702"}));
-  EXPECT_EQ(asked, Texts{"*.GIF;*.JPG;*.BMP to All Files (*.*)"});
+  EXPECT_EQ(chooser.asked.at(0).filters.at(0).patterns, "*.GIF;*.JPG;*.BMP");
+  EXPECT_EQ(chooser.asked.at(0).filters.at(4).description, "All Files (*.*)");
   EXPECT_TRUE(Pictures.empty());
 }
 
@@ -157,10 +150,10 @@ TEST_F(AddPicture, LaysPicturesInAColumnUntilThePageIsFull) {
   EXPECT_EQ(tops, (std::vector<std::int32_t>{228, 456, 40, 268, 496, 40}));
 
   Pictures[3].PictureFile = "/gone.jpg";  // counts all the same
-  asked.clear();
+  chooser.asked.clear();
   EXPECT_FALSE(Insert(photo));
   EXPECT_EQ(answers.texts(), Texts{"Maximum pictures for this page."});
-  EXPECT_TRUE(asked.empty());
+  EXPECT_TRUE(chooser.asked.empty());
   Pictures[3].Deleted = True;
   EXPECT_TRUE(Insert(photo));
 }
