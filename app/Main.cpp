@@ -11,6 +11,7 @@
 #include "lock/frmPass.h"
 #include "look/Form.h"
 #include "look/Pass.h"
+#include "pictures/modPictures.h"
 #include "platform/Application.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
@@ -48,7 +49,10 @@ void ComeToTheFront(const platform::ActivationToken& token) {
 void StartLocked() {
   LoadJournalIndex();
   auto& lock = look::The<frmPass>();
-  QObject::connect(&lock, &frmPass::Unlocked, [] { look::The<frmBookcase>().ShowModeless(); });
+  QObject::connect(&lock, &frmPass::Unlocked, [] {
+    look::The<frmBookcase>().ShowModeless();
+    LoadPictureStore();
+  });
   lock.ShowModeless();
   QTimer::singleShot(JournalWindowDelayMs, [] { look::The<frmJournal>(); });
 }

@@ -8,6 +8,7 @@
 #include "editor/frmJournal.h"
 #include "look/Emblem.h"
 #include "look/Theme.h"
+#include "pictures/modPictures.h"
 #include "platform/CodePage.h"
 #include "platform/Failure.h"
 #include "platform/Keystroke.h"
@@ -177,12 +178,15 @@ void frmBookcase::cmdAdd_Click() {
   look::The<frmNewJournal>().ShowModal();
 }
 
+// Only the file's own deletion is guarded: in a run without a picture store the save fails, which ends the
+// program with the file gone and the index unsaved.
 void frmBookcase::cmdDelete_Click() {
   if (ListView1->count() == 0) return;
   const int row = SelectedRow();
-  const QString fileName = platform::FromCodePage(EntryOf(row).FileName);
-  const platform::Message question{"Are you sure you want to delete " + fileName.toStdString(),
-                                   platform::Buttons::YesNo, platform::BoxIcon::Stop};
+  const std::string fileName = EntryOf(row).FileName;
+  const platform::Message question{
+      "Are you sure you want to delete " + platform::FromCodePage(fileName).toStdString(),
+      platform::Buttons::YesNo, platform::BoxIcon::Stop};
   if (platform::ShowMessage(question) != platform::Answer::Yes) return;
   try {
     RemoveJournal(row);
@@ -190,6 +194,8 @@ void frmBookcase::cmdDelete_Click() {
     platform::ShowMessage(failure.what(), platform::BoxIcon::Stop);  // it names the file
     return;
   }
+  RemovePicturesOf(fileName);
+  SavePictureStore();
   RefreshBookcaseList();
 }
 

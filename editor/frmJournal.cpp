@@ -2,6 +2,7 @@
 
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
+#include "pictures/AddPicture.h"
 #include "platform/Keystroke.h"
 #include "state/State.h"
 
@@ -23,6 +24,9 @@ void frmJournal::PageBack() {
 }
 void frmJournal::PageFirst() {
   GoFirstPage();
+}
+void frmJournal::InsertPicture() {
+  StartAddPicture();
 }
 void frmJournal::OpenJournalProperties() {
   Q_EMIT JournalPropertiesRequested();
@@ -77,6 +81,7 @@ void frmJournal::Toolbar1_ButtonClick(const QString& key) {
       {u"btnLastPage", true, [](frmJournal&) { GoLastPage(); }},
       {u"btnIndex", true, [](frmJournal&) {}},
       {u"btnCal", true, [](frmJournal&) {}},
+      {u"btnInsertPicture", false, [](frmJournal&) { StartAddPicture(); }},
       {u"btnOptions", false, [](frmJournal& window) { window.OpenOptions(); }},
       {u"btnJournalProperties", false, [](frmJournal& window) { window.OpenJournalProperties(); }},
       {u"btnHelp", false, [](frmJournal&) { platform::SendKey(Qt::Key_F1); }},

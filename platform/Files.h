@@ -45,6 +45,8 @@ class InputFile {
   std::size_t Read(char* buffer, std::size_t size);
   // The file's length in bytes when it was opened.
   std::uint64_t size() const { return size_; }
+  // For a reader of its own; it stays open as long as this object lives.
+  int descriptor() const { return descriptor_; }
 
  private:
   int descriptor_;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -17,6 +18,7 @@
 #include "platform/Failure.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
+#include "platform/OpenFileDialog.h"
 #include "platform/Process.h"
 #include "state/State.h"
 
@@ -90,6 +92,23 @@ class Answers {
   platform::MessageAnswerer before_;
 };
 
+// Chooses that file in every open dialog, or cancels it without one, and keeps what was asked.
+class Chooser {
+ public:
+  Chooser() = default;
+  ~Chooser() { platform::SetOpenFileChooser(std::move(before_)); }
+  Q_DISABLE_COPY_MOVE(Chooser)
+
+  std::optional<std::string> file;
+  std::vector<platform::OpenFileQuestion> asked;
+
+ private:
+  platform::OpenFileChooser before_ = platform::SetOpenFileChooser([this](const auto& question) {
+    asked.push_back(question);
+    return file;
+  });
+};
+
 // Counts the ends of the process, which then goes on: what a routine does after its EndProcess() is seen too.
 class End {
  public:
@@ -140,6 +159,7 @@ class Desk : public testing::Test {
 
   Folder folder;
   Answers answers;
+  Chooser chooser;
   End end;
 };
 
