@@ -15,6 +15,7 @@
 #include "richtext/BoxLabels.h"
 #include "richtext/BoxParagraphs.h"
 #include "richtext/BoxPictures.h"
+#include "richtext/BoxPrinting.h"
 #include "richtext/HiddenText.h"
 #include "richtext/Pasting.h"
 #include "richtext/RtfReader.h"
@@ -97,6 +98,18 @@ void RichTextBox::TellEdits() {
 
 QString RichTextBox::Text() const {
   return ShownText(*document());
+}
+
+void RichTextBox::SetText(const QString& text) {
+  {
+    const QScopedValueRollback quiet(quiet_, true);
+    QTextCharFormat format;
+    SetFontName(format, font().family());
+    SetFontSize(format, font().pointSizeF());
+    FillPlain(text, format, *document());
+    setTextCursor(QTextCursor(document()));
+  }
+  Q_EMIT Change();
 }
 
 int RichTextBox::SelStart() const {
@@ -223,6 +236,10 @@ void RichTextBox::SetBackColor(std::uint32_t color) {
 
 std::uint32_t RichTextBox::BackColor() const {
   return backColor_;
+}
+
+bool RichTextBox::PrintSelection(Paper& paper) const {
+  return richtext::PrintSelection(textCursor(), paper);
 }
 
 void RichTextBox::InsertBitmap(const QImage& image) {
