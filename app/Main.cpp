@@ -11,6 +11,7 @@
 #include "lock/frmPass.h"
 #include "look/Form.h"
 #include "look/Pass.h"
+#include "output/modPrint.h"
 #include "platform/Application.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
@@ -45,18 +46,23 @@ void ComeToTheFront(const platform::ActivationToken& token) {
   if (QWidget* window = VisibleWindow()) platform::BringToFront(*window, token);
 }
 
+// Its commands whose windows lie upstairs are connected here.
+void LoadJournalWindow() {
+  QObject::connect(&look::The<frmJournal>(), &frmJournal::PrintRequested, &PrintJournal);
+}
+
 void StartLocked() {
   LoadJournalIndex();
   auto& lock = look::The<frmPass>();
   QObject::connect(&lock, &frmPass::Unlocked, [] { look::The<frmBookcase>().ShowModeless(); });
   lock.ShowModeless();
-  QTimer::singleShot(JournalWindowDelayMs, [] { look::The<frmJournal>(); });
+  QTimer::singleShot(JournalWindowDelayMs, &LoadJournalWindow);
 }
 
 void StartForTheFirstTime() {
   look::The<frmInitJournal>().ShowModal();
   if (JournalCount == 0) return;  // left by the exit
-  look::The<frmJournal>();
+  LoadJournalWindow();
   NewJournalPages();
 }
 

@@ -1,0 +1,70 @@
+#include "output/PrintDialog.h"
+
+#include <utility>
+
+#include <QtCore/QPointer>
+#include <QtPrintSupport/QPrintDialog>
+#include <QtPrintSupport/QPrinter>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QVBoxLayout>
+
+#include "output/PrintRange.h"
+
+namespace {
+
+PrintAnswerer& Answerer() {
+  static PrintAnswerer answerer;
+  return answerer;
+}
+
+class PrinterPaper : public richtext::Paper {
+ public:
+  explicit PrinterPaper(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer)) {}
+  QPaintDevice& Device() override { return *printer_; }
+  bool NextSheet() override { return printer_->newPage() && printer_->printerState() != QPrinter::Error; }
+
+ private:
+  std::unique_ptr<QPrinter> printer_;
+};
+
+// The toolkit's own choice of pages knows no page 0: its boxes begin at 1, and a range of 0 to 0 means all to
+// the printer. So that choice stays hidden, ours stands in its place, and the printer is told of no range.
+QPrintDialog* MakeDialog(QPrinter& printer, PrintRange*& range, const PrintRequest& request) {
+  auto* dialog = new QPrintDialog(&printer, QApplication::activeWindow());
+  dialog->setObjectName(QStringLiteral("PrintDialog"));
+  dialog->setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
+                     QAbstractPrintDialog::PrintCollateCopies);
+  range = new PrintRange(request, dialog);
+  if (auto* rows = qobject_cast<QVBoxLayout*>(dialog->layout()))
+    rows->insertWidget(1, range);
+  else
+    dialog->setOptionTabs({range});
+  return dialog;
+}
+
+std::optional<PrintOrder> AskOnTheDesktop(const PrintRequest& request) {
+  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  printer->setDocName(QStringLiteral("Thornquill"));
+  printer->setCreator(QStringLiteral("Thornquill"));
+  PrintRange* range = nullptr;
+  // The window under the dialog may be destroyed while it is up, and takes the dialog with it.
+  const QPointer<QPrintDialog> dialog = MakeDialog(*printer, range, request);
+  const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
+  PrintOrder order;
+  if (accepted) order = range->Order();
+  delete dialog;
+  if (!accepted) return std::nullopt;
+  order.paper = std::make_unique<PrinterPaper>(std::move(printer));
+  return order;
+}
+
+}  // namespace
+
+std::optional<PrintOrder> ShowPrintDialog(const PrintRequest& request) {
+  const PrintAnswerer answerer = Answerer();  // a copy: an answer may put another one in its place
+  return answerer ? answerer(request) : AskOnTheDesktop(request);
+}
+
+PrintAnswerer SetPrintAnswerer(PrintAnswerer answerer) {
+  return std::exchange(Answerer(), std::move(answerer));
+}
