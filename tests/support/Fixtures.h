@@ -71,6 +71,8 @@ class Answers {
       : before_(platform::SetMessageAnswerer([this](const platform::Message& message) {
           messages.push_back(message);
           if (message.buttons == platform::Buttons::Ok) return platform::Answer::Ok;
+          if (message.buttons == platform::Buttons::OkCancel)
+            return ok-- > 0 ? platform::Answer::Ok : platform::Answer::Cancel;
           return yes-- > 0 ? platform::Answer::Yes : platform::Answer::No;
         })) {}
   ~Answers() { platform::SetMessageAnswerer(std::move(before_)); }
@@ -83,6 +85,7 @@ class Answers {
   }
   std::string last() const { return messages.empty() ? std::string() : messages.back().text; }
 
+  int ok = 0;                               // so many coming Ok/Cancel boxes are answered Ok
   int yes = 0;                              // so many coming Yes/No boxes are answered Yes
   std::vector<platform::Message> messages;  // in the order of their showing
 
