@@ -12,6 +12,7 @@ enum class FailureKind {
   InvalidArgument = 5,
   OutOfMemory = 7,
   SubscriptOutOfRange = 9,
+  BadFileName = 52,
   FileNotFound = 53,
   DeviceError = 57,
   DiskFull = 61,
