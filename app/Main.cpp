@@ -11,6 +11,7 @@
 #include "lock/frmPass.h"
 #include "look/Form.h"
 #include "look/Pass.h"
+#include "output/frmExport.h"
 #include "output/modPrint.h"
 #include "platform/Application.h"
 #include "platform/Files.h"
@@ -36,6 +37,7 @@ void TellWhenTheFolderIsReadOnly() {
 
 QWidget* VisibleWindow() {
   if (look::IsLoaded<frmJournal>() && look::The<frmJournal>().isVisible()) return &look::The<frmJournal>();
+  if (look::IsLoaded<frmExport>()) return &look::The<frmExport>();
   if (look::IsLoaded<frmBookcase>() && look::The<frmBookcase>().isVisible()) return &look::The<frmBookcase>();
   if (look::IsLoaded<frmPass>()) return &look::The<frmPass>();
   if (look::IsLoaded<frmInitJournal>()) return &look::The<frmInitJournal>();
