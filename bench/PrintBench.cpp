@@ -53,6 +53,7 @@ class PdfPaper : public richtext::Paper {
  public:
   PdfPaper(const QString& path, int resolution) : pdf_(path) { pdf_.setResolution(resolution); }
   QPaintDevice& Device() override { return pdf_; }
+  QSizeF Area() const override { return pdf_.pageLayout().paintRect(QPageLayout::Point).size(); }
   bool NextSheet() override { return ++sheets, pdf_.newPage(); }
 
   static inline int sheets = 0;

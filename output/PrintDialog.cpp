@@ -21,6 +21,7 @@ class PrinterPaper : public richtext::Paper {
  public:
   explicit PrinterPaper(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer)) {}
   QPaintDevice& Device() override { return *printer_; }
+  QSizeF Area() const override { return printer_->pageLayout().paintRect(QPageLayout::Point).size(); }
   bool NextSheet() override { return printer_->newPage() && printer_->printerState() != QPrinter::Error; }
 
  private:
@@ -28,17 +29,24 @@ class PrinterPaper : public richtext::Paper {
 };
 
 // The toolkit's own choice of pages knows no page 0: its boxes begin at 1, and a range of 0 to 0 means all to
-// the printer. So that choice stays hidden, ours stands in its place, and the printer is told of no range.
+// the printer. Ours stands in its place, and the printer is told of no range.
+void PutInPlace(PrintRange& range, QPrintDialog& dialog) {
+  auto* attic = new QWidget(&dialog);
+  attic->hide();
+  if (auto* own = dialog.findChild<QGroupBox*>(QStringLiteral("gbPrintRange"))) own->setParent(attic);
+  if (auto* rows = qobject_cast<QVBoxLayout*>(dialog.layout()))
+    rows->insertWidget(1, &range);
+  else
+    dialog.setOptionTabs({&range});
+}
+
 QPrintDialog* MakeDialog(QPrinter& printer, PrintRange*& range, const PrintRequest& request) {
   auto* dialog = new QPrintDialog(&printer, QApplication::activeWindow());
   dialog->setObjectName(QStringLiteral("PrintDialog"));
   dialog->setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
                      QAbstractPrintDialog::PrintCollateCopies);
   range = new PrintRange(request, dialog);
-  if (auto* rows = qobject_cast<QVBoxLayout*>(dialog->layout()))
-    rows->insertWidget(1, range);
-  else
-    dialog->setOptionTabs({range});
+  PutInPlace(*range, *dialog);
   return dialog;
 }
 

@@ -28,6 +28,7 @@ class LivelyPaper : public richtext::Paper {
  public:
   explicit LivelyPaper(richtext::Paper& paper) : paper_(paper) {}
   QPaintDevice& Device() override { return paper_.Device(); }
+  QSizeF Area() const override { return paper_.Area(); }
   bool NextSheet() override {
     pass_.Yield();
     return paper_.NextSheet();

@@ -28,11 +28,11 @@ QFont PlainFont(QFont font) {
   return font;
 }
 
-double LeftOf(const QTextBlock& block, const QPointF& place, double width, double gap, double scale) {
+double LeftOf(const QTextBlock& block, const QPointF& place, double width, double gap) {
   const QRectF text = block.layout()->lineAt(0).naturalTextRect().translated(place);
   if (block.textDirection() == Qt::RightToLeft) return text.right() + gap;
-  const double hanging = -block.blockFormat().intProperty(FirstIndentOfDocument) / TwipsPerPixel * scale;
-  return std::max(text.left() - std::max(hanging, width + gap), PaperEdge * scale);
+  const double hanging = -block.blockFormat().intProperty(FirstIndentOfDocument) / TwipsPerPixel;
+  return std::max(text.left() - std::max(hanging, width + gap), PaperEdge);
 }
 
 }  // namespace
@@ -58,18 +58,19 @@ QString LabelOf(const QTextBlock& block) {
   return LabelCounter(block).Count(block);
 }
 
-void DrawLabel(QPainter& painter, const QTextBlock& block, const QPointF& place, const QString& label,
-               double scale) {
+// By a layout and not by the painter, which takes points for those of its device.
+void DrawLabel(QPainter& painter, const QTextBlock& block, const QPointF& place, const QString& label) {
   const QTextCharFormat format = LetterFormat(block);
-  const QFont font = PlainFont(QFont(format.font(), painter.device()));
-  const QFontMetricsF metrics(font, painter.device());
-  const double gap = metrics.horizontalAdvance(u' ');
-  const QTextLine line = block.layout()->lineAt(0);
-  const QPointF start(LeftOf(block, place, metrics.horizontalAdvance(label), gap, scale),
-                      place.y() + line.y() + line.ascent());
-  painter.setFont(font);
+  const QFont font = PlainFont(format.font());
+  QTextLayout drawn(label, font);
+  drawn.beginLayout();
+  const QTextLine line = drawn.createLine();
+  drawn.endLayout();
+  const QTextLine beside = block.layout()->lineAt(0);
+  const double gap = QFontMetricsF(font).horizontalAdvance(u' ');
   painter.setPen(ToColor(ColorOf(format)));
-  painter.drawText(start, label);
+  drawn.draw(&painter, QPointF(LeftOf(block, place, line.naturalTextWidth(), gap),
+                               place.y() + beside.y() + beside.ascent() - line.ascent()));
 }
 
 bool DrawLabels(QPainter& painter, const QTextDocument& document, const QRectF& shown) {

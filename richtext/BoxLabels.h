@@ -37,10 +37,9 @@ class LabelCounter {
 // The label of an item; empty where the block is none.
 QString LabelOf(const QTextBlock& block);
 
-// Draws the label of a block that is laid out for the painter's device. `place` is that of the block's
-// layout; `scale` counts the device's dots to a pixel of the document.
-void DrawLabel(QPainter& painter, const QTextBlock& block, const QPointF& place, const QString& label,
-               double scale = 1);
+// Draws the label of a block that is laid out. Painter and `place`, that of the block's layout, count in the
+// document's own pixels, whatever device these fall on.
+void DrawLabel(QPainter& painter, const QTextBlock& block, const QPointF& place, const QString& label);
 
 // Draws the labels that can be seen of a document that is laid out. Painter and `shown` count in the
 // document's own pixels. Returns whether there was one.

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
@@ -32,16 +33,30 @@ struct Line {
   double bottom;
 };
 
-// Where the lines of a piece come to stand on the sheets.
+constexpr double PointsPerInch = 72;
+
+// The toolkit's measure of a pixel, which is also an image's that names none.
+double PixelsPerInch() {
+  return QImage(1, 1, QImage::Format_Mono).logicalDpiY();
+}
+
+// The sheets of the paper, on which the painter counts in the box's pixels.
 class Sheets {
  public:
-  Sheets(Paper& paper, QPainter& painter)
-      : paper_(paper), painter_(painter), height_(paper.Device().height()) {}
+  Sheets(Paper& paper, QPainter& painter) : paper_(paper), painter_(painter) {
+    size_ = paper.Area() / PointsPerInch * PixelsPerInch();
+    painter.scale(paper.Device().logicalDpiX() / PixelsPerInch(),
+                  paper.Device().logicalDpiY() / PixelsPerInch());
+  }
 
-  // Makes room for a line, `gap` dots below the one before it, and gives its top. The gap is lost at the top
-  // of a sheet.
+  const QSizeF& Size() const { return size_; }
+  QPainter& Painter() { return painter_; }
+  bool Failed() const { return failed_; }
+
+  // Makes room for a line, `gap` below the one before it, and gives its top. The gap is lost at the top of a
+  // sheet.
   double Place(double gap, double height) {
-    if (!blank_ && used_ + gap + height > height_) {
+    if (!blank_ && used_ + gap + height > size_.height()) {
       failed_ = !paper_.NextSheet();
       blank_ = true;
     }
@@ -51,13 +66,10 @@ class Sheets {
     return top;
   }
 
-  QPainter& Painter() { return painter_; }
-  bool Failed() const { return failed_; }
-
  private:
   Paper& paper_;
   QPainter& painter_;
-  double height_;
+  QSizeF size_;
   double used_ = 0;
   bool blank_ = true;
   bool failed_ = false;
@@ -67,7 +79,6 @@ class Printing {
  public:
   Printing(const QTextCursor& selection, Paper& paper, QPainter& painter)
       : source_(*selection.document()),
-        device_(paper.Device()),
         sheets_(paper, painter),
         labels_(source_.findBlock(selection.selectionStart())),
         context_(selection.selectionStart()),
@@ -82,17 +93,27 @@ class Printing {
  private:
   void PrintPiece() {
     int length = PieceLength;
-    int to = PieceEnd(length);
-    auto piece = std::make_unique<PrintedPiece>(source_, context_, to, device_);
+    auto piece = MakePiece(length);
     while (!piece->CanBeLaidOut() && length > 1) {
       length /= 2;
-      to = PieceEnd(length);
-      piece = std::make_unique<PrintedPiece>(source_, context_, to, device_);
+      LessContext(length);
+      piece = MakePiece(length);
     }
     piece->LayOut();
     std::vector<Line> lines = LinesOf(*piece);
-    GoOnBehind(lines, to);
-    Draw(lines, piece->Scale());
+    GoOnBehind(lines, PieceEnd(length));
+    Draw(lines);
+  }
+
+  std::unique_ptr<PrintedPiece> MakePiece(int length) const {
+    return std::make_unique<PrintedPiece>(source_, context_, PieceEnd(length), sheets_.Size());
+  }
+
+  // The end of the paragraph before will do. A line before in the same paragraph counts as a whole or not at
+  // all.
+  void LessContext(int length) {
+    const bool isCut = source_.findBlock(at_).position() < at_;
+    context_ = isCut ? at_ : std::max(context_, at_ - length);
   }
 
   // As many whole paragraphs as fit in `length` positions, one at least, or the part of a long one.
@@ -139,17 +160,15 @@ class Printing {
     context_ = isCut ? to : std::max(last.position(), to - PieceLength);
   }
 
-  void Draw(const std::vector<Line>& lines, double scale) {
+  void Draw(const std::vector<Line>& lines) {
     double bottom = 0;
     for (const Line& line : lines) {
-      if (sheets_.Failed()) return;
-      if (line.position >= from_)
-        DrawLine(line, sheets_.Place(line.top - bottom, line.bottom - line.top), scale);
+      if (line.position >= from_) DrawLine(line, sheets_.Place(line.top - bottom, line.bottom - line.top));
       bottom = line.bottom;
     }
   }
 
-  void DrawLine(const Line& line, double top, double scale) {
+  void DrawLine(const Line& line, double top) {
     if (sheets_.Failed()) return;
     QPainter& painter = sheets_.Painter();
     const QPointF place(line.block.layout()->position().x(), top - line.line.y());
@@ -159,12 +178,10 @@ class Printing {
     if (block.blockNumber() == counted_) return;
     counted_ = block.blockNumber();
     const QString label = labels_.Count(block);
-    if (!label.isEmpty() && line.position == block.position())
-      DrawLabel(painter, line.block, place, label, scale);
+    if (!label.isEmpty() && line.position == block.position()) DrawLabel(painter, line.block, place, label);
   }
 
   const QTextDocument& source_;
-  QPaintDevice& device_;
   Sheets sheets_;
   LabelCounter labels_;
   int counted_ = -1;  // number of the block that was counted last

@@ -1,6 +1,8 @@
 // What a text is printed on.
 #pragma once
 
+#include <QtCore/QSizeF>
+
 class QPaintDevice;
 
 namespace richtext {
@@ -8,9 +10,10 @@ namespace richtext {
 class Paper {
  public:
   virtual ~Paper() = default;
-  // The device that is painted on. Its width and height are the printable area of a sheet in dots, its
-  // logical resolution tells how many dots are an inch.
+  // The device that is painted on, from the corner of the printable area on.
   virtual QPaintDevice& Device() = 0;
+  // The printable area of a sheet in points, 72 to the inch: the device counts it in whole dots.
+  virtual QSizeF Area() const = 0;
   // Goes on to the next sheet, while a painter is at work. False when the device has failed.
   virtual bool NextSheet() = 0;
 };

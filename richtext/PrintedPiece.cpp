@@ -4,7 +4,6 @@
 
 #include <QtCore/QUrl>
 #include <QtGui/QAbstractTextDocumentLayout>
-#include <QtGui/QImage>
 #include <QtGui/QTextCursor>
 
 #include "richtext/BoxDocument.h"
@@ -14,55 +13,46 @@
 namespace richtext {
 namespace {
 
-constexpr double TallestPiece = 5'000'000;  // dots; well below what the toolkit can lay out
-constexpr double TallestPicture = 0.95;     // of the paper: letters may hang below it in its line
-
-// The toolkit's measure of a pixel, which is also an image's that names none.
-double PixelsPerInch() {
-  return QImage(1, 1, QImage::Format_Mono).logicalDpiY();
-}
+constexpr double TallestPiece = 5'000'000;  // well below what the toolkit can lay out
+constexpr double TallestPicture = 0.95;     // of the sheet: letters may hang below it in its line
 
 }  // namespace
 
-PrintedPiece::PrintedPiece(const QTextDocument& source, int from, int to, QPaintDevice& device)
-    : source_(source),
-      scale_(device.logicalDpiY() / PixelsPerInch()),
-      widthInDots_(device.width()),
-      area_(QSizeF(device.width(), device.height()) / scale_) {
+PrintedPiece::PrintedPiece(const QTextDocument& source, int from, int to, const QSizeF& sheet)
+    : source_(source), sheet_(sheet) {
   setUndoRedoEnabled(false);
   setDocumentMargin(0);
-  setUseDesignMetrics(true);  // lines break at the same place whatever the resolution
+  setUseDesignMetrics(true);  // letters stand where they stand on the paper, and not on the screen's grid
   QTextOption option = source.defaultTextOption();
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   setDefaultTextOption(option);
   Copy(from, to);
-  documentLayout()->setPaintDevice(&device);
 }
 
 void PrintedPiece::Copy(int from, int to) {
   QTextCursor cursor(this);
   cursor.beginEditBlock();
   const QTextBlock first = source_.findBlock(from);
-  cursor.setBlockFormat(FormatOf(first, from));
+  QTextBlockFormat format = first.blockFormat();
+  if (from > first.position()) format.setTextIndent(0);
+  cursor.setBlockFormat(format);
   cursor.setBlockCharFormat(first.charFormat());
   for (QTextBlock block = first; block.isValid() && block.position() < to; block = block.next()) {
     if (block != first) cursor.insertBlock(block.blockFormat(), block.charFormat());
-    for (auto part = block.begin(); !part.atEnd(); ++part) {
-      const QTextFragment fragment = part.fragment();
-      const int begin = std::max(from, fragment.position());
-      const int end = std::min(to, fragment.position() + fragment.length());
-      if (begin >= end) continue;
-      cursor.insertText(fragment.text().mid(begin - fragment.position(), end - begin),
-                        Fitting(fragment.charFormat(), block.blockFormat()));
-    }
+    CopyText(block, from, to, cursor);
   }
   cursor.endEditBlock();
 }
 
-QTextBlockFormat PrintedPiece::FormatOf(const QTextBlock& block, int from) const {
-  QTextBlockFormat format = block.blockFormat();
-  if (from > block.position()) format.setTextIndent(0);
-  return format;
+void PrintedPiece::CopyText(const QTextBlock& block, int from, int to, QTextCursor& cursor) const {
+  for (auto part = block.begin(); !part.atEnd(); ++part) {
+    const QTextFragment fragment = part.fragment();
+    const int begin = std::max(from, fragment.position());
+    const int end = std::min(to, fragment.position() + fragment.length());
+    if (begin < end)
+      cursor.insertText(fragment.text().mid(begin - fragment.position(), end - begin),
+                        Fitting(fragment.charFormat(), block.blockFormat()));
+  }
 }
 
 // On the screen one scrolls to see the rest of a large picture. On paper it is made as small as need be.
@@ -70,20 +60,20 @@ QTextCharFormat PrintedPiece::Fitting(const QTextCharFormat& format,
                                       const QTextBlockFormat& paragraph) const {
   if (!format.isImageFormat()) return format;
   QTextImageFormat image = format.toImageFormat();
-  const double room = area_.width() - paragraph.leftMargin() - paragraph.rightMargin();
+  const double room = std::max(1.0, sheet_.width() - paragraph.leftMargin() - paragraph.rightMargin());
   const double share =
-      std::min({1.0, std::max(1.0, room) / image.width(), TallestPicture * area_.height() / image.height()});
+      std::min({1.0, room / image.width(), TallestPicture * sheet_.height() / image.height()});
   image.setWidth(image.width() * share);
   image.setHeight(image.height() * share);
   return image;
 }
 
 bool PrintedPiece::CanBeLaidOut() const {
-  return EstimatedHeight(TakeDocument(*this)) * scale_ < TallestPiece;
+  return EstimatedHeight(TakeDocument(*this)) < TallestPiece;
 }
 
 void PrintedPiece::LayOut() {
-  setTextWidth(widthInDots_);
+  setTextWidth(sheet_.width());
   documentLayout()->documentSize();  // which is known when all of it is laid out
 }
 

@@ -14,10 +14,9 @@ namespace fixture {
 
 struct Drawn {
   std::size_t sheet;
-  QString text;    // empty: a picture
-  QPointF at;      // dots: where it begins on its line
-  double top = 0;  // of its letters
-  double bottom = 0;
+  QString text;  // empty: a picture
+  QPointF at;    // dots: where it begins on its line
+  QRectF place;
   QFont font;
   QColor color;
 };
@@ -30,13 +29,14 @@ class RecordingEngine : public QPaintEngine {
   bool end() override { return true; }
   void updateState(const QPaintEngineState& changed) override {
     if (changed.state() & DirtyPen) pen_ = changed.pen();
+    if (changed.state() & DirtyTransform) dots_ = changed.transform();
   }
   void drawTextItem(const QPointF& at, const QTextItem& item) override {
-    drawn.push_back(
-        {sheet, item.text(), at, at.y() - item.ascent(), at.y() + item.descent(), item.font(), pen_.color()});
+    const QRectF place(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent());
+    drawn.push_back({sheet, item.text(), dots_.map(at), dots_.mapRect(place), item.font(), pen_.color()});
   }
   void drawPixmap(const QRectF& place, const QPixmap&, const QRectF&) override {
-    drawn.push_back({sheet, {}, place.bottomLeft(), place.top(), place.bottom(), {}, {}});
+    drawn.push_back({sheet, {}, dots_.map(place.bottomLeft()), dots_.mapRect(place), {}, {}});
   }
   void drawPath(const QPainterPath&) override {}
   void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
@@ -47,12 +47,15 @@ class RecordingEngine : public QPaintEngine {
 
  private:
   QPen pen_;
+  QTransform dots_;
 };
 
 class RecordingDevice : public QPaintDevice {
  public:
-  RecordingDevice(QSize size, int dotsPerInch) : size_(size), dotsPerInch_(dotsPerInch) {}
+  RecordingDevice(QSizeF size, int dotsPerInch) : size_(size), dotsPerInch_(dotsPerInch) {}
   QPaintEngine* paintEngine() const override { return &engine; }
+
+  QSizeF Points() const { return size_ * 72.0 / dotsPerInch_; }
 
   mutable RecordingEngine engine;
 
@@ -60,9 +63,9 @@ class RecordingDevice : public QPaintDevice {
   int metric(PaintDeviceMetric metric) const override {
     switch (metric) {
       case PdmWidth:
-        return size_.width();
+        return static_cast<int>(size_.width());
       case PdmHeight:
-        return size_.height();
+        return static_cast<int>(size_.height());
       case PdmDpiX:
       case PdmDpiY:
       case PdmPhysicalDpiX:
@@ -78,14 +81,14 @@ class RecordingDevice : public QPaintDevice {
   }
 
  private:
-  QSize size_;
+  QSizeF size_;
   int dotsPerInch_;
 };
 
 // A printer, and the lines on its sheets as a person reads them, from left to right.
 class Printed {
  public:
-  Printed(QSizeF inches, int dotsPerInch) : device((inches * dotsPerInch).toSize(), dotsPerInch) {}
+  Printed(QSizeF inches, int dotsPerInch) : device(inches * dotsPerInch, dotsPerInch) {}
 
   std::unique_ptr<richtext::Paper> Paper() { return std::make_unique<OnDevice>(device); }
 
@@ -111,6 +114,7 @@ class Printed {
    public:
     explicit OnDevice(RecordingDevice& device) : device_(device) {}
     QPaintDevice& Device() override { return device_; }
+    QSizeF Area() const override { return device_.Points(); }
     bool NextSheet() override { return ++device_.engine.sheet, true; }
 
    private:

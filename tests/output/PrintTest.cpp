@@ -126,7 +126,7 @@ TEST_F(Print, PicturesOfTheTextFitThePaper) {
   text().selectAll();
   Printed printer({5, 5}, 300);
   EXPECT_EQ(PrintOn(printer, PrintChoice::Selection), (Sheets{{"[picture]", "one"}}));
-  EXPECT_NEAR(printer.All()[0].bottom - printer.All()[0].top, 150, 1);
+  EXPECT_NEAR(printer.All()[0].place.height(), 150, 1);
 }
 
 TEST_F(Print, WhatCannotBePrintedIsTold) {
@@ -147,7 +147,7 @@ TEST_F(Print, LinesGoOnFromSheetToSheet) {
   Load(AddJournal({Numbered("line ", 200)}));
   Sheets sheets[2];
   for (int i = 0; i < 2; ++i) {
-    Printed printer({4, 5.03}, 300 + 300 * i);
+    Printed printer({4.001, 5.031}, 300 + 300 * i);
     sheets[i] = PrintOn(printer, PrintChoice::Pages, 0, 0);
     Texts all;
     for (const Texts& sheet : sheets[i]) all.insert(all.end(), sheet.begin(), sheet.end());
@@ -155,8 +155,8 @@ TEST_F(Print, LinesGoOnFromSheetToSheet) {
     for (std::size_t line = 0; line < all.size(); ++line)
       EXPECT_EQ(all[line], "line " + std::to_string(line + 1));
     for (const fixture::Drawn& drawn : printer.All()) {
-      EXPECT_GE(drawn.top, 0);
-      EXPECT_LE(drawn.bottom, printer.device.height());
+      EXPECT_GE(drawn.place.top(), 0);
+      EXPECT_LE(drawn.place.bottom(), printer.device.height() + 1);
     }
   }
   EXPECT_EQ(sheets[0], sheets[1]);
@@ -194,6 +194,7 @@ TEST_F(Print, TheDialogOffersThreeChoicesFromPageNullOn) {
     EXPECT_TRUE(range.optAll->isChecked());
     EXPECT_EQ(range.spnFrom->value(), 3);
     EXPECT_EQ(range.spnTo->maximum(), 7);
+    EXPECT_FALSE(dialog->findChild<QWidget*>(QStringLiteral("gbPrintRange"))->isVisibleTo(dialog));
     range.spnTo->setValue(0);
     if (auto* file = dialog->findChild<QLineEdit*>(QStringLiteral("filename")))
       file->setText(QString::fromStdString(folder.PathOf("printed.pdf")));
