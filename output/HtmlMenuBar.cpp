@@ -28,10 +28,15 @@ std::string Link(std::int32_t page, const std::string& text) {
   return "<a href=page" + std::to_string(page) + ".html>" + text + "</a>";
 }
 
+void WriteItem(const char* before, const std::string& link, const char* behind, const std::string& path) {
+  WriteHtmlLine(std::string(before).append(link).append(behind), path);
+}
+
 // In a journal of one dated page the two pages have one link each, to one another.
 void WriteOnlyLink(const std::string& link, const std::string& path) {
-  for (const std::string& line : {std::string("<CENTER>"), "[" + link + "]", std::string("</CENTER>")})
-    WriteHtmlLine(line, path);
+  WriteHtmlLine("<CENTER>", path);
+  WriteItem("[", link, "]", path);
+  WriteHtmlLine("</CENTER>", path);
 }
 
 void WriteNumbers(std::int32_t page, std::int32_t pageCount, const std::string& path) {
@@ -47,11 +52,11 @@ void WriteNumbers(std::int32_t page, std::int32_t pageCount, const std::string& 
 void WriteFullBar(std::int32_t page, std::int32_t pageCount, const std::string& path) {
   WriteHtmlLine("<CENTER>", path);
   WriteHtmlLine(page == 0 ? "[Home] " : "[<a href=index.html>Home</a>] ", path);
-  if (page > 1) WriteHtmlLine("[" + Link(page - 1, "Previous") + "] ", path);
+  if (page > 1) WriteItem("[", Link(page - 1, "Previous"), "] ", path);
   WriteNumbers(page, pageCount, path);
   if (page < pageCount) {
-    WriteHtmlLine(" [" + Link(page + 1, "Next") + "]", path);
-    WriteHtmlLine(" [" + Link(pageCount, "Last") + "]", path);
+    WriteItem(" [", Link(page + 1, "Next"), "]", path);
+    WriteItem(" [", Link(pageCount, "Last"), "]", path);
   }
   WriteHtmlLine("</CENTER><BR>", path);
 }
