@@ -1,7 +1,9 @@
 #include "output/PrintDialog.h"
 
+#include <algorithm>
 #include <utility>
 
+#include <QtCore/QFile>
 #include <QtCore/QPointer>
 #include <QtPrintSupport/QPrintDialog>
 #include <QtPrintSupport/QPrinter>
@@ -17,11 +19,22 @@ PrintAnswerer& Answerer() {
   return answerer;
 }
 
+// The toolkit does not tell when the disk was full.
+bool EndsAsPdf(const QString& path) {
+  constexpr qint64 tail = 16;
+  QFile file(path);
+  return file.open(QFile::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - tail)) &&
+         file.read(tail).contains("%%EOF");
+}
+
 class PrinterPaper : public richtext::Paper {
  public:
   explicit PrinterPaper(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer)) {}
   QPaintDevice& Device() override { return *printer_; }
   QSizeF Area() const override { return printer_->pageLayout().paintRect(QPageLayout::Point).size(); }
+  bool IsWhole() const override {
+    return printer_->outputFormat() != QPrinter::PdfFormat || EndsAsPdf(printer_->outputFileName());
+  }
   bool NextSheet() override { return printer_->newPage() && printer_->printerState() != QPrinter::Error; }
 
  private:
@@ -50,6 +63,10 @@ QPrintDialog* MakeDialog(QPrinter& printer, PrintRange*& range, const PrintReque
   return dialog;
 }
 
+QString NameOf(const QPrinter& printer) {
+  return printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName();
+}
+
 std::optional<PrintOrder> AskOnTheDesktop(const PrintRequest& request) {
   auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
   printer->setDocName(QStringLiteral("Thornquill"));
@@ -62,6 +79,7 @@ std::optional<PrintOrder> AskOnTheDesktop(const PrintRequest& request) {
   if (accepted) order = range->Order();
   delete dialog;
   if (!accepted) return std::nullopt;
+  order.printer = NameOf(*printer).toStdString();
   order.paper = std::make_unique<PrinterPaper>(std::move(printer));
   return order;
 }

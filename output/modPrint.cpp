@@ -2,6 +2,8 @@
 
 #include <optional>
 
+#include <QtGui/QGuiApplication>
+
 #include "editor/PageFace.h"
 #include "look/Pass.h"
 #include "output/JoinedPages.h"
@@ -26,9 +28,13 @@ const JournalEntry& OpenEntry() {
 // The windows are alive while a long text goes to the printer, but take no commands.
 class LivelyPaper : public richtext::Paper {
  public:
-  explicit LivelyPaper(richtext::Paper& paper) : paper_(paper) {}
+  explicit LivelyPaper(richtext::Paper& paper) : paper_(paper) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  }
+  ~LivelyPaper() override { QGuiApplication::restoreOverrideCursor(); }
   QPaintDevice& Device() override { return paper_.Device(); }
   QSizeF Area() const override { return paper_.Area(); }
+  bool IsWhole() const override { return paper_.IsWhole(); }
   bool NextSheet() override {
     pass_.Yield();
     return paper_.NextSheet();
@@ -39,9 +45,9 @@ class LivelyPaper : public richtext::Paper {
   look::Pass pass_;
 };
 
-void PrintSelectionOf(const richtext::RichTextBox& box, richtext::Paper& paper) {
-  LivelyPaper lively(paper);
-  if (!box.PrintSelection(lively)) throw platform::Failure(platform::FailureKind::DeviceError, "the printer");
+void PrintSelectionOf(const richtext::RichTextBox& box, const PrintOrder& order) {
+  LivelyPaper lively(*order.paper);
+  if (!box.PrintSelection(lively)) throw platform::Failure(platform::FailureKind::DeviceError, order.printer);
 }
 
 // The dialog's bounds and the range of all pages come from the bookcase's row, which knows the pages that the
@@ -60,7 +66,7 @@ void SetJournalFont() {
   look::The<frmPrintRTF>().txtM->setFont(font);
 }
 
-void PrintPages(std::int32_t first, std::int32_t last, richtext::Paper& paper) {
+void PrintPages(std::int32_t first, std::int32_t last, const PrintOrder& order) {
   richtext::RichTextBox& box = *look::The<frmPrintRTF>().txtM;
   Guarded([&] { box.SetTextRTF({}); });
   const QString joined = JoinedPages(first, last);
@@ -68,10 +74,10 @@ void PrintPages(std::int32_t first, std::int32_t last, richtext::Paper& paper) {
   Guarded([&] { box.SetText(joined); });
   Guarded([&] { box.SetSelStart(0); });
   Guarded([&] { box.SetSelLength(static_cast<int>(box.Text().size())); });
-  Guarded([&] { PrintSelectionOf(box, paper); });
+  Guarded([&] { PrintSelectionOf(box, order); });
 }
 
-void PrintSelection(richtext::Paper& paper) {
+void PrintSelection(const PrintOrder& order) {
   const richtext::RichTextBox& box = *Face().txtM;
   if (box.SelLength() == 0) {
     platform::ShowMessage(
@@ -79,7 +85,7 @@ void PrintSelection(richtext::Paper& paper) {
         "print.");
     return;
   }
-  Guarded([&] { PrintSelectionOf(box, paper); });
+  Guarded([&] { PrintSelectionOf(box, order); });
 }
 
 }  // namespace
@@ -92,10 +98,10 @@ void PrintJournal() {
   Guarded(SetJournalFont);
   switch (order->choice) {
     case PrintChoice::Pages:
-      return PrintPages(order->from, order->to, *order->paper);
+      return PrintPages(order->from, order->to, *order);
     case PrintChoice::Selection:
-      return PrintSelection(*order->paper);
+      return PrintSelection(*order);
     case PrintChoice::All:
-      return PrintPages(0, OpenEntry().PageCount, *order->paper);
+      return PrintPages(0, OpenEntry().PageCount, *order);
   }
 }

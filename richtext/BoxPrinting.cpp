@@ -197,7 +197,7 @@ bool PrintSelection(const QTextCursor& selection, Paper& paper) {
   QPainter painter;
   if (!painter.begin(&paper.Device())) return false;
   const bool printed = Printing(selection, paper, painter).Print();
-  return painter.end() && printed;
+  return painter.end() && printed && paper.IsWhole();
 }
 
 }  // namespace richtext

@@ -16,6 +16,8 @@ class Paper {
   virtual QSizeF Area() const = 0;
   // Goes on to the next sheet, while a painter is at work. False when the device has failed.
   virtual bool NextSheet() = 0;
+  // When the painter has ended: whether everything has arrived, as far as can be known.
+  virtual bool IsWhole() const { return true; }
 };
 
 }  // namespace richtext

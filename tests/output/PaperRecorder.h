@@ -85,12 +85,23 @@ class RecordingDevice : public QPaintDevice {
   int dotsPerInch_;
 };
 
+class RecordedPaper : public richtext::Paper {
+ public:
+  explicit RecordedPaper(RecordingDevice& device) : device_(device) {}
+  QPaintDevice& Device() override { return device_; }
+  QSizeF Area() const override { return device_.Points(); }
+  bool NextSheet() override { return ++device_.engine.sheet, true; }
+
+ private:
+  RecordingDevice& device_;
+};
+
 // A printer, and the lines on its sheets as a person reads them, from left to right.
 class Printed {
  public:
   Printed(QSizeF inches, int dotsPerInch) : device(inches * dotsPerInch, dotsPerInch) {}
 
-  std::unique_ptr<richtext::Paper> Paper() { return std::make_unique<OnDevice>(device); }
+  std::unique_ptr<richtext::Paper> Paper() { return std::make_unique<RecordedPaper>(device); }
 
   // The lines of each sheet.
   std::vector<Texts> Sheets() const {
@@ -108,18 +119,6 @@ class Printed {
   const std::vector<Drawn>& All() const { return device.engine.drawn; }
 
   RecordingDevice device;
-
- private:
-  class OnDevice : public richtext::Paper {
-   public:
-    explicit OnDevice(RecordingDevice& device) : device_(device) {}
-    QPaintDevice& Device() override { return device_; }
-    QSizeF Area() const override { return device_.Points(); }
-    bool NextSheet() override { return ++device_.engine.sheet, true; }
-
-   private:
-    RecordingDevice& device_;
-  };
 };
 
 }  // namespace fixture

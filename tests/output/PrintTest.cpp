@@ -21,6 +21,13 @@ std::string Numbered(const std::string& word, int count) {
   return text;
 }
 
+// Takes every sheet and tells at the end that something is missing.
+class Jammed : public fixture::RecordedPaper {
+ public:
+  using RecordedPaper::RecordedPaper;
+  bool IsWhole() const override { return false; }
+};
+
 class Print : public fixture::OpenBook {
  protected:
   Print() {
@@ -32,7 +39,7 @@ class Print : public fixture::OpenBook {
   ~Print() override { SetPrintAnswerer({}); }
 
   Sheets PrintOn(Printed& printer, PrintChoice choice, int from = 0, int to = 0) {
-    answer.emplace(PrintOrder{choice, from, to, printer.Paper()});
+    answer.emplace(PrintOrder{choice, from, to, printer.Paper(), "here"});
     PrintJournal();
     return printer.Sheets();
   }
@@ -91,7 +98,7 @@ TEST_F(Print, ASelectionIsLiveAndPagesAreAsStored) {
   Type("un");
   text().selectAll();
   Printed selection({8, 10.5}, 300);
-  answer.emplace(PrintOrder{PrintChoice::Selection, 0, 0, selection.Paper()});
+  answer.emplace(PrintOrder{PrintChoice::Selection, 0, 0, selection.Paper(), "here"});
   Press("btnPrint");
   EXPECT_EQ(selection.Sheets(), (Sheets{{"unstored"}}));
   EXPECT_TRUE(asked.selection);
@@ -140,6 +147,13 @@ TEST_F(Print, WhatCannotBePrintedIsTold) {
   });
   PrintJournal();
   EXPECT_EQ(answers.last(), "Error:The device reported an error: no printers");
+  Printed jammed({8, 10.5}, 300);
+  SetPrintAnswerer([&](const PrintRequest&) {
+    return PrintOrder{PrintChoice::All, 0, 0, std::make_unique<Jammed>(jammed.device), "the attic's"};
+  });
+  PrintJournal();
+  EXPECT_EQ(answers.last(), "Error:The device reported an error: the attic's");
+  EXPECT_EQ(PageDirty, False);
 }
 
 // 300 or 600 dots to the inch: the same lines stand on the same sheets, each whole, and nothing beside them.
