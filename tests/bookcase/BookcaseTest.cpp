@@ -185,9 +185,11 @@ TEST_F(BookcaseTest, ExportsAJournalThatNobodySees) {
   EXPECT_TRUE(look::The<frmExport>().isVisible());
   EXPECT_FALSE(Window().isVisible() || Book().isVisible());
   EXPECT_EQ(PagesJournal, 2);
-  look::The<frmExport>().close();
+  Book().face->txtM->SetTextRTF("of a page");
+  QTest::keyClick(&look::The<frmExport>(), Qt::Key_Escape);
   EXPECT_TRUE(Window().isVisible());
   EXPECT_TRUE(Pages.empty());
+  EXPECT_EQ(Book().face->txtM->Text(), QString());
   List().setCurrentRow(0);
   Click(Window().cmdExport);
   EXPECT_EQ(answers.last(), "Journal load -- file unknown or corrupt!");

@@ -1,7 +1,3 @@
-#include <csignal>
-#include <sys/resource.h>
-
-#include <QtCore/QDir>
 #include <QtCore/QRegularExpression>
 
 #include "output/frmExport.h"
@@ -14,21 +10,19 @@ std::string Lines(const std::string& text) {
   return QString::fromLatin1(text).replace(u'\n', u"\r\n"_qs).toLatin1().toStdString();
 }
 
-const std::string Font = R"(<font face="Verdana", "MS Sans Serif", "Arial">)"
-                         "\n";
+const std::string Font = "<font face=\"Verdana\", \"MS Sans Serif\", \"Arial\">\n";
 
 std::string Head(const std::string& title, const std::string& headline) {
-  return "<HTML>\n<HEAD>\n<TITLE>" + title +
-         "</TITLE>\n"
-         R"(<meta name="Content-Type" content="text/html; charset=iso-8859-1">)"
-         "\n"
-         R"~(<meta name="GENERATOR" content="Thorn Quill (http://www.zandolk.example/)">)~"
-         "\n"
-         "</HEAD>\n<BODY BGCOLOR=#FFFFFF>\n" +
-         Font + "<BR>\n<CENTER>\n<h3>" + headline +
-         "</h3>\n\n"
-         "<TABLE BORDER=0 width=640>\n<TR>\n<TD>\n" +
-         Font;
+  return "<HTML>\n<HEAD>\n<TITLE>" + title + R"~(</TITLE>
+<meta name="Content-Type" content="text/html; charset=iso-8859-1">
+<meta name="GENERATOR" content="Thorn Quill (http://www.zandolk.example/)">
+</HEAD>
+<BODY BGCOLOR=#FFFFFF>
+<font face="Verdana", "MS Sans Serif", "Arial">
+<BR>
+<CENTER>
+<h3>)~" + headline +
+         "</h3>\n\n<TABLE BORDER=0 width=640>\n<TR>\n<TD>\n" + Font;
 }
 
 const std::string Cell = "<TABLE BORDER=0 width=100% height=300>\n<TR>\n<TD>\n" + Font;
@@ -50,13 +44,6 @@ class Export : public fixture::OpenBook {
   static frmExport& dialog() { return look::The<frmExport>(); }
   void Run() { Click(dialog().cmdExport); }
   std::string Read(const std::string& name) const { return folder.Read("export/" + name); }
-  fixture::Texts FilesIn(const char* name) const {
-    fixture::Texts files;
-    for (const QString& file :
-         QDir(QString::fromStdString(folder.PathOf(name))).entryList(QDir::Files | QDir::Hidden))
-      files.push_back(file.toStdString());
-    return files;
-  }
   // A run that fails tells why and can be repeated; the journal is as it was.
   void ExpectFailure(const std::string& words) {
     answers.messages.clear();
@@ -79,7 +66,7 @@ TEST_F(Export, OneDatedPageMakesTwoFiles) {
   dialog().txtH3headline->setText(u"\u0416"_qs);
   dialog().txtFooter->setPlainText(u"<i>foot\nnote</i>"_qs);
   Run();
-  EXPECT_EQ(FilesIn("export/j1"), (fixture::Texts{"index.html", "page1.html"}));
+  EXPECT_EQ(folder.Names("export/j1"), (fixture::Texts{"index.html", "page1.html"}));
   const std::string head = Head("Home & <b>", "&#1046;");
   EXPECT_EQ(Read("j1/index.html"),
             Lines(head + Cell + "A title<BR>1 < 2 & 3\n\n<BR>\n" + TableEnd + "<BR>\n\n" +
@@ -115,7 +102,7 @@ TEST_F(Export, ThirtyPagesCarryTheirBarAtTheTopAndEveryLinkLeadsSomewhere) {
                   "<font size=-1>Journal Entries by Date</font><BR><BR>\n" + index + TableEnd + TableEnd +
                   "<BR>\n\n" + TableEnd + "\n" + FileEnd));
   const QRegularExpression link(u"href=([^>]+)>"_qs);
-  for (const std::string& file : FilesIn("export/j1")) {
+  for (const std::string& file : folder.Names("export/j1")) {
     const std::string html = Read("j1/" + file);
     for (auto found = link.globalMatch(QString::fromLatin1(html)); found.hasNext();) {
       const std::string target = found.next().captured(1).toStdString();
@@ -136,8 +123,6 @@ TEST_F(Export, OneFileHoldsAllPages) {
   PictureCount = 1;
   PagePicture& picture = Pictures[1];
   picture.PictureFile = folder.PathOf("a.gif");
-  picture.PictureWidth = 30;
-  picture.PictureHeight = 20;
   picture.PageNumber = 1;
   picture.JournalFile = "j1.tqf";
   Click(dialog().chkShowDates);
@@ -148,8 +133,7 @@ TEST_F(Export, OneFileHoldsAllPages) {
     return "<TABLE BORDER=0  width=100%>\n<TR>\n<TD>\n" + Font + "<CENTER>Page #" + number + ", day 4000" +
            number + " </CENTER><BR>\n" + content + "\n\n" + TableEnd + "<HR>\n\n";
   };
-  const std::string tag =
-      "<a href=\"a.gif\"><img src=\"a.gif\"  align=left width=30 height=20 border=0></a>\n";
+  const std::string tag = "<a href=\"a.gif\"><img src=\"a.gif\"  align=left width=0 height=0 border=0></a>\n";
   EXPECT_EQ(Read("Caf\xC3\xA9.html"),
             Lines(Head("Caf\xE9", "Caf\xE9") + Cell + "\n\n" + TableEnd + "<HR>\n\n" + page(1, tag) +
                   page(2, "end<BR>") + TableEnd + "\n" + FileEnd));
@@ -199,24 +183,20 @@ TEST_F(Export, WhatCannotBeWrittenIsToldAndLeavesTheJournal) {
        {std::string("../../a"), std::string("a\0b", 3), std::string(251, 'a'), std::string("/")}) {
     Journals[1].Name = name;
     ExpectFailure("No file can have this name: ");
-    EXPECT_EQ(FilesIn("export"), fixture::Texts()) << name;
+    EXPECT_EQ(folder.Names("export"), fixture::Texts()) << name;
     EXPECT_EQ(folder.Names(), (fixture::Texts{"export", "j1.tqf"}));
   }
   Journals[1].Name = "..";
   Run();
-  EXPECT_EQ(FilesIn("export"), fixture::Texts{"...html"});
+  EXPECT_EQ(folder.Names("export"), fixture::Texts{"...html"});
   Journals[1].Name = "Home";
   folder.Block("export/Home.html");
   ExpectFailure(folder.PathOf("export/Home.html"));
   folder.Unblock("export/Home.html");
-  rlimit disk{};
-  getrlimit(RLIMIT_FSIZE, &disk);
-  const auto signalBefore = std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit small{2000, disk.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &small);
-  ExpectFailure("The disk is full: " + folder.PathOf("export/Home.html"));
-  setrlimit(RLIMIT_FSIZE, &disk);
-  std::signal(SIGXFSZ, signalBefore);
+  {
+    const fixture::SmallDisk disk(2000);
+    ExpectFailure("The disk is full: " + folder.PathOf("export/Home.html"));
+  }
   Click(dialog().chkMulti);
   folder.Write("export/j1", "a file in the place of the folder");
   ExpectFailure("Path not found: " + folder.PathOf("export/j1/index.html"));
@@ -227,20 +207,6 @@ TEST_F(Export, WhatCannotBeWrittenIsToldAndLeavesTheJournal) {
   EXPECT_EQ(EnsureExportFolder(), 1);
   EXPECT_NE(answers.last().find("Error creating Export folder, check if Thorn Quill folders are read-only."),
             std::string::npos);
-}
-
-TEST_F(Export, ClosingEmptiesTheJournalWindow) {
-  Begin({"a", "b"});
-  Pages[1].Body.clear();
-  Run();
-  int closed = 0;
-  QObject::connect(&dialog(), &frmExport::Closed, [&] { ++closed; });
-  QTest::keyClick(&dialog(), Qt::Key_Escape);
-  EXPECT_EQ(closed, 1);
-  EXPECT_FALSE(look::IsLoaded<frmExport>());
-  EXPECT_TRUE(Pages.empty());
-  EXPECT_EQ(PagesJournal, 0);
-  EXPECT_EQ(Text(), "");
 }
 
 }  // namespace

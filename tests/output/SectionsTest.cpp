@@ -1,6 +1,4 @@
-#include <csignal>
 #include <random>
-#include <sys/resource.h>
 
 #include <QtCore/QRegularExpression>
 
@@ -119,51 +117,44 @@ TEST_F(Sections, PicturesOfThisPageAloneAreCopiedAndShown) {
   EXPECT_TRUE(answers.messages.empty());
 }
 
+// Of which no block is like another.
+std::string Bytes(std::size_t size) {
+  std::string bytes(size, '\0');
+  for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<char>(i * 7 / 4096 + i);
+  return bytes;
+}
+
 TEST_F(Sections, CopyFileWritesOverTheStartOfItsTarget) {
   for (const std::size_t size : {0, 1, 4095, 4096, 4097, 12288}) {
-    std::string bytes(size, '\0');
-    for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<char>(i * 7 / 4096 + i);
-    folder.Write("source", bytes);
+    folder.Write("source", Bytes(size));
     folder.Write("target", std::string(5000, '-'));
     EXPECT_TRUE(CopyFile(folder.PathOf("source"), folder.PathOf("target")));
-    EXPECT_EQ(folder.Read("target"), bytes + std::string(size < 5000 ? 5000 - size : 0, '-')) << size;
+    EXPECT_EQ(folder.Read("target"), Bytes(size) + std::string(size < 5000 ? 5000 - size : 0, '-')) << size;
     EXPECT_TRUE(CopyFile(folder.PathOf("source"), folder.PathOf("source")));
-    EXPECT_EQ(folder.Read("source"), bytes) << "a picture may lie in the export folder already";
+    EXPECT_EQ(folder.Read("source"), Bytes(size)) << "a picture may lie in the export folder already";
   }
 }
 
 // Answers twice, and mends the cause while the third box is up.
 TEST_F(Sections, CopyFileAsksUntilTheCauseIsGone) {
-  const std::string source = folder.PathOf("source"), target = folder.PathOf("target"), bytes(10000, 'x');
-  std::function<void()> mend;
-  int left = 0;
-  platform::SetMessageAnswerer([&](const platform::Message& message) {
-    answers.messages.push_back(message);
-    if (--left == 0) mend();
-    return platform::Answer::Ok;
-  });
-  const auto expectThreeBoxes = [&](const std::string& text, const std::function<void()>& mending) {
-    answers.messages.clear();
-    mend = mending;
-    left = 3;
+  const std::string source = folder.PathOf("source"), target = folder.PathOf("target");
+  const auto expectThreeBoxes = [&](const std::string& text, const std::function<void()>& mend) {
+    fixture::Texts asked;
+    platform::SetMessageAnswerer([&](const platform::Message& message) {
+      asked.push_back(message.title + ": " + message.text);
+      if (asked.size() == 3) mend();
+      return platform::Answer::Ok;
+    });
     EXPECT_TRUE(CopyFile(source, target));
-    EXPECT_EQ(answers.texts(), fixture::Texts(3, text));
-    EXPECT_EQ(answers.messages.at(0).title, "CopyFile");
-    EXPECT_EQ(folder.Read("target"), bytes);
+    EXPECT_EQ(asked, fixture::Texts(3, "CopyFile: Error: " + text));
+    EXPECT_EQ(folder.Read("target"), Bytes(10000));
+    platform::DeleteFile(target);
   };
-  expectThreeBoxes("Error: 53. File not found: " + source, [&] { folder.Write("source", bytes); });
-  platform::DeleteFile(target);
+  expectThreeBoxes("53. File not found: " + source, [&] { folder.Write("source", Bytes(10000)); });
   folder.Block("target");
-  expectThreeBoxes("Error: 75. The file or folder cannot be opened: " + target,
-                   [&] { folder.Unblock("target"); });
-  platform::DeleteFile(target);
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const auto signalBefore = std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit small{5000, before.rlim_max};  // the second block gets in by a part
-  setrlimit(RLIMIT_FSIZE, &small);
-  expectThreeBoxes("Error: 61. The disk is full: " + target, [&] { setrlimit(RLIMIT_FSIZE, &before); });
-  std::signal(SIGXFSZ, signalBefore);
+  expectThreeBoxes("75. The file or folder cannot be opened: " + target, [&] { folder.Unblock("target"); });
+  std::optional<fixture::SmallDisk> disk(5000);  // the second block gets in by a part
+  expectThreeBoxes("61. The disk is full: " + target, [&] { disk.reset(); });
 }
 
 // As told, and slow.
