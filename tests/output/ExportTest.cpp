@@ -117,7 +117,7 @@ TEST_F(Export, ThirtyPagesCarryTheirBarAtTheTopAndEveryLinkLeadsSomewhere) {
 }
 
 TEST_F(Export, OneFileHoldsAllPages) {
-  Begin({"", "\\par\\par", "end\\par\\par"}, "Caf\xE9");
+  Begin({"", "\\par\\par", "end\\par\\par"}, "Caf\xE9 #1%");
   folder.Write("a.gif", "GIF");
   Pictures.resize(2);
   PictureCount = 1;
@@ -134,15 +134,15 @@ TEST_F(Export, OneFileHoldsAllPages) {
            number + " </CENTER><BR>\n" + content + "\n\n" + TableEnd + "<HR>\n\n";
   };
   const std::string tag = "<a href=\"a.gif\"><img src=\"a.gif\"  align=left width=0 height=0 border=0></a>\n";
-  EXPECT_EQ(Read("Caf\xC3\xA9.html"),
-            Lines(Head("Caf\xE9", "Caf\xE9") + Cell + "\n\n" + TableEnd + "<HR>\n\n" + page(1, tag) +
+  EXPECT_EQ(Read("Caf\xC3\xA9 #1%.html"),
+            Lines(Head("Caf\xE9 #1%", "Caf\xE9 #1%") + Cell + "\n\n" + TableEnd + "<HR>\n\n" + page(1, tag) +
                   page(2, "end<BR>") + TableEnd + "\n" + FileEnd));
   EXPECT_EQ(Read("a.gif"), "GIF");
   std::string opened;
   platform::SetUrlRunner([&](const std::string& url) { opened = url; });
   Click(dialog().cmdViewWebPage);
   platform::SetUrlRunner({});
-  EXPECT_EQ(opened, "file://" + folder.PathOf("export/Caf%C3%A9.html"));
+  EXPECT_EQ(opened, "file://" + folder.PathOf("export/Caf%C3%A9%20%231%25.html"));
 }
 
 TEST_F(Export, AsksOnceBeforeItWritesOverAFile) {
