@@ -58,7 +58,7 @@ void StartLocked() {
   auto& lock = look::The<frmPass>();
   QObject::connect(&lock, &frmPass::Unlocked, [] { look::The<frmBookcase>().ShowModeless(); });
   lock.ShowModeless();
-  QTimer::singleShot(JournalWindowDelayMs, &LoadJournalWindow);
+  QTimer::singleShot(JournalWindowDelayMs, &look::The<frmBookcase>(), &LoadJournalWindow);
 }
 
 void StartForTheFirstTime() {
