@@ -11,6 +11,8 @@
 #include "lock/frmPass.h"
 #include "look/Form.h"
 #include "look/Pass.h"
+#include "output/frmExport.h"
+#include "output/modPrint.h"
 #include "pictures/modPictures.h"
 #include "platform/Application.h"
 #include "platform/Files.h"
@@ -36,6 +38,7 @@ void TellWhenTheFolderIsReadOnly() {
 
 QWidget* VisibleWindow() {
   if (look::IsLoaded<frmJournal>() && look::The<frmJournal>().isVisible()) return &look::The<frmJournal>();
+  if (look::IsLoaded<frmExport>()) return &look::The<frmExport>();
   if (look::IsLoaded<frmBookcase>() && look::The<frmBookcase>().isVisible()) return &look::The<frmBookcase>();
   if (look::IsLoaded<frmPass>()) return &look::The<frmPass>();
   if (look::IsLoaded<frmInitJournal>()) return &look::The<frmInitJournal>();
@@ -46,6 +49,11 @@ void ComeToTheFront(const platform::ActivationToken& token) {
   if (QWidget* window = VisibleWindow()) platform::BringToFront(*window, token);
 }
 
+// Its commands whose windows lie upstairs are connected here.
+void LoadJournalWindow() {
+  QObject::connect(&look::The<frmJournal>(), &frmJournal::PrintRequested, &PrintJournal);
+}
+
 void StartLocked() {
   LoadJournalIndex();
   auto& lock = look::The<frmPass>();
@@ -54,13 +62,13 @@ void StartLocked() {
     LoadPictureStore();
   });
   lock.ShowModeless();
-  QTimer::singleShot(JournalWindowDelayMs, [] { look::The<frmJournal>(); });
+  QTimer::singleShot(JournalWindowDelayMs, &LoadJournalWindow);
 }
 
 void StartForTheFirstTime() {
   look::The<frmInitJournal>().ShowModal();
   if (JournalCount == 0) return;  // left by the exit
-  look::The<frmJournal>();
+  LoadJournalWindow();
   NewJournalPages();
 }
 

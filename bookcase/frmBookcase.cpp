@@ -3,11 +3,13 @@
 #include <QtGui/QMouseEvent>
 
 #include "bookcase/JournalIcons.h"
+#include "bookcase/frmAbout.h"
 #include "bookcase/frmNewJournal.h"
 #include "editor/OpenJournal.h"
 #include "editor/frmJournal.h"
 #include "look/Emblem.h"
 #include "look/Theme.h"
+#include "output/frmExport.h"
 #include "pictures/modPictures.h"
 #include "platform/CodePage.h"
 #include "platform/Failure.h"
@@ -102,7 +104,10 @@ void frmBookcase::ConnectCommands() {
   connect(cmdOpen, &QPushButton::clicked, this, &frmBookcase::cmdOpen_Click);
   connect(cmdAdd, &QPushButton::clicked, this, &frmBookcase::cmdAdd_Click);
   connect(cmdDelete, &QPushButton::clicked, this, &frmBookcase::cmdDelete_Click);
+  connect(cmdExport, &QPushButton::clicked, this, &frmBookcase::cmdExport_Click);
   connect(cmdHelp, &QPushButton::clicked, this, &frmBookcase::cmdHelp_Click);
+  connect(cmdAbout, &QPushButton::clicked, this, &frmBookcase::cmdAbout_Click);
+  connect(Image2, &QPushButton::clicked, this, &frmBookcase::cmdAbout_Click);
   connect(cmdClose, &QPushButton::clicked, this, &frmBookcase::cmdClose_Click);
 }
 
@@ -197,6 +202,21 @@ void frmBookcase::cmdDelete_Click() {
   RemovePicturesOf(fileName);
   SavePictureStore();
   RefreshBookcaseList();
+}
+
+// The journal window stays invisible: the export turns its pages.
+void frmBookcase::cmdExport_Click() {
+  if (ListView1->count() == 0) return;
+  if (EnsureExportFolder() != 0) return;
+  if (!DressJournalWindow()) return;
+  hide();
+  auto& dialog = look::The<frmExport>();
+  connect(&dialog, &frmExport::Closed, this, &frmBookcase::ShowAgain);
+  dialog.ShowModeless();
+}
+
+void frmBookcase::cmdAbout_Click() {
+  look::The<frmAbout>().ShowModal();
 }
 
 void frmBookcase::cmdHelp_Click() {

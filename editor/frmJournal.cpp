@@ -79,6 +79,7 @@ void frmJournal::Toolbar1_ButtonClick(const QString& key) {
       {u"btnBack", true, [](frmJournal&) { GoBackPage(); }},
       {u"btnNext", true, [](frmJournal&) { GoNextPage(); }},
       {u"btnLastPage", true, [](frmJournal&) { GoLastPage(); }},
+      {u"btnPrint", false, [](frmJournal& window) { Q_EMIT window.PrintRequested(); }},
       {u"btnIndex", true, [](frmJournal&) {}},
       {u"btnCal", true, [](frmJournal&) {}},
       {u"btnInsertPicture", false, [](frmJournal&) { StartAddPicture(); }},

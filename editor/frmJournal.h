@@ -34,6 +34,7 @@ class frmJournal : public look::Form {
   // Commands whose windows live upstairs.
   void JournalPropertiesRequested();
   void OptionsRequested();
+  void PrintRequested();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

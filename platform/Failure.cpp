@@ -15,6 +15,8 @@ const char* TextOf(FailureKind kind) {
       return "Out of memory";
     case FailureKind::SubscriptOutOfRange:
       return "Subscript out of range";
+    case FailureKind::BadFileName:
+      return "No file can have this name";
     case FailureKind::FileNotFound:
       return "File not found";
     case FailureKind::DeviceError:

@@ -13,6 +13,7 @@ enum class FailureKind {
   Overflow = 6,
   OutOfMemory = 7,
   SubscriptOutOfRange = 9,
+  BadFileName = 52,
   FileNotFound = 53,
   DeviceError = 57,
   DiskFull = 61,

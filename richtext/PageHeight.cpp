@@ -33,6 +33,12 @@ class Estimate {
     return fit;
   }
 
+  double Height() {
+    double height = 0;
+    for (const Paragraph& paragraph : page_.paragraphs) height += HeightOf(paragraph);
+    return height;
+  }
+
  private:
   double HeightOf(const Paragraph& paragraph) {
     width_ = pictures_ = breaks_ = 0;
@@ -88,6 +94,10 @@ class Estimate {
 
 std::size_t ParagraphsToShow(const Document& page) {
   return Estimate(page).Paragraphs();
+}
+
+double EstimatedHeight(const Document& page) {
+  return Estimate(page).Height();
 }
 
 }  // namespace richtext

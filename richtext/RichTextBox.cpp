@@ -16,6 +16,7 @@
 #include "richtext/BoxLinks.h"
 #include "richtext/BoxParagraphs.h"
 #include "richtext/BoxPictures.h"
+#include "richtext/BoxPrinting.h"
 #include "richtext/HiddenText.h"
 #include "richtext/Pasting.h"
 #include "richtext/RtfReader.h"
@@ -80,6 +81,18 @@ void RichTextBox::TellEdits() {
   Q_EMIT Change();
 }
 
+void RichTextBox::SetText(const QString& text) {
+  {
+    const QScopedValueRollback quiet(quiet_, true);
+    QTextCharFormat format;
+    SetFontName(format, font().family());
+    SetFontSize(format, font().pointSizeF());
+    FillPlain(text, format, *document());
+    setTextCursor(QTextCursor(document()));
+  }
+  Q_EMIT Change();
+}
+
 // Paper and ink are the journal's and not the desktop's: on a dark desktop the page stays what it is.
 void RichTextBox::SetBackColor(std::uint32_t color) {
   backColor_ = color & White;
@@ -94,6 +107,10 @@ void RichTextBox::SetBackColor(std::uint32_t color) {
 
 std::uint32_t RichTextBox::BackColor() const {
   return backColor_;
+}
+
+bool RichTextBox::PrintSelection(Paper& paper) const {
+  return richtext::PrintSelection(textCursor(), paper);
 }
 
 void RichTextBox::InsertBitmap(const QImage& image) {
