@@ -1,11 +1,18 @@
 """Draws the emoticons: assets/emoticons/NNN-name.gif, each beside its source. Their numbers keep them in the order in
 which they are offered, sixty to a screen."""
 
+from emoticons.animals import ANIMALS
 from emoticons.faces import FACES
+from emoticons.feasts import FEASTS
+from emoticons.food import FOOD
+from emoticons.love import LOVE
+from emoticons.travel import TRAVEL
+from emoticons.weather import WEATHER
+from emoticons.work import WORK
 from render import ASSETS, draw_gif
 from shapes import picture
 
-CHAPTERS = (FACES,)
+CHAPTERS = (FACES, WEATHER, FOOD, ANIMALS, LOVE, TRAVEL, FEASTS, WORK)
 FOLDER = "emoticons"
 
 
