@@ -47,7 +47,8 @@ def body(path, stuff):
 
 def disc(x, y, rx, stuff, ry=None):
     size = f'rx="{number(rx)}" ry="{number(ry or rx)}"'
-    return f'<ellipse cx="{number(x)}" cy="{number(y)}" {size} fill="url(#{stuff}-round)" stroke="{tone(stuff + "--")}"/>'
+    place = f'cx="{number(x)}" cy="{number(y)}"'
+    return f'<ellipse {place} {size} fill="url(#{stuff}-round)" stroke="{tone(stuff + "--")}"/>'
 
 
 def box(x, y, width, height, stuff, r=1):
@@ -62,21 +63,22 @@ def flat(path, colour):
 
 
 def spot(x, y, rx, colour, ry=None):
-    return f'<ellipse cx="{number(x)}" cy="{number(y)}" rx="{number(rx)}" ry="{number(ry or rx)}" fill="{tone(colour)}"/>'
+    size = f'rx="{number(rx)}" ry="{number(ry or rx)}"'
+    return f'<ellipse cx="{number(x)}" cy="{number(y)}" {size} fill="{tone(colour)}"/>'
+
+
+def spots(places, r, colour):
+    return "".join(spot(x, y, r, colour) for x, y in places)
 
 
 def slab(x, y, width, height, colour):
-    return f'<path d="M{number(x)} {number(y)}h{number(width)}v{number(height)}h{number(-width)}z" fill="{tone(colour)}"/>'
+    path = f"M{number(x)} {number(y)}h{number(width)}v{number(height)}h{number(-width)}z"
+    return flat(path, colour)
 
 
 def stroke(path, colour, width=None):
     thick = f' stroke-width="{number(width)}"' if width else ""
     return f'<path d="{path}" fill="none" stroke="{tone(colour)}"{thick}/>'
-
-
-def rope(path, stuff, width, edge=1.25):
-    """A thick line with an outline of its own."""
-    return stroke(path, stuff + "--", width + 2 * edge) + stroke(path, stuff, width)
 
 
 # Placing.
@@ -103,6 +105,12 @@ def scaled(part, size, x=0, y=0, line=1.25):
     return f'<g transform="{place}" stroke-width="{number(line / size)}">{part}</g>'
 
 
+def resized(part, size, dx=0, dy=0, line=1.25, middle=12):
+    """The part at another size about the middle of the drawing, then moved."""
+    rest = middle * (1 - size)
+    return scaled(part, size, rest + dx, rest + dy, line)
+
+
 def around(part, count, x=12, y=12, first=0):
     return "".join(turned(part, first + turn * 360 / count, x, y) for turn in range(count))
 
@@ -110,9 +118,8 @@ def around(part, count, x=12, y=12, first=0):
 def light(name):
     """The gradient of a body: along the diagonal, or round for a name that ends so."""
     stuff = name.removesuffix("-round")
-    stops = "".join(
-        f'<stop offset="{offset}" stop-color="{tone(stuff + step)}"/>' for offset, step in ((0, "+"), (0.45, ""), (1, "-"))
-    )
+    steps = ((0, "+"), (0.45, ""), (1, "-"))
+    stops = "".join(f'<stop offset="{offset}" stop-color="{tone(stuff + step)}"/>' for offset, step in steps)
     if name == stuff:
         return f'<linearGradient id="{name}" x1="0.1" y1="0" x2="0.9" y2="1">{stops}</linearGradient>'
     return f'<radialGradient id="{name}" cx="0.35" cy="0.28" r="0.8">{stops}</radialGradient>'
@@ -156,13 +163,3 @@ def leaf(x, y, length, angle=0, stuff="leaf"):
 
 def drop(x, y, height, stuff="sky"):
     return body(at(DROP, x, y, height / 10), stuff)
-
-
-def bloom(x, y, radius, stuff, heart_of="straw", petals=5, first=0):
-    """A flower from above: round petals about an eye."""
-    reach, size = radius * 0.58, radius * 0.44
-    ring = "".join(
-        disc(x + reach * math.sin(turn), y - reach * math.cos(turn), size, stuff)
-        for turn in (math.radians(first) + 2 * math.pi * petal / petals for petal in range(petals))
-    )
-    return ring + disc(x, y, radius * 0.36, heart_of)
