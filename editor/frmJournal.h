@@ -17,6 +17,9 @@ class frmJournal : public look::Form {
   // The window's public surface, beside the toolbar: none of these stores the page first.
   void PageBack();
   void PageFirst();
+  void SelectFont();
+  void OpenIndex();
+  void OpenCalendar();
   void OpenJournalProperties();
   void PageLast();
   void PageNew();
