@@ -3,6 +3,7 @@
 #include <QtGui/QMouseEvent>
 
 #include "bookcase/JournalIcons.h"
+#include "bookcase/frmJournalProp.h"
 #include "bookcase/frmNewJournal.h"
 #include "editor/OpenJournal.h"
 #include "editor/frmJournal.h"
@@ -101,6 +102,7 @@ void frmBookcase::ConnectCommands() {
   connect(cmdOpen, &QPushButton::clicked, this, &frmBookcase::cmdOpen_Click);
   connect(cmdAdd, &QPushButton::clicked, this, &frmBookcase::cmdAdd_Click);
   connect(cmdDelete, &QPushButton::clicked, this, &frmBookcase::cmdDelete_Click);
+  connect(cmdProp, &QPushButton::clicked, this, &frmBookcase::cmdProp_Click);
   connect(cmdHelp, &QPushButton::clicked, this, &frmBookcase::cmdHelp_Click);
   connect(cmdClose, &QPushButton::clicked, this, &frmBookcase::cmdClose_Click);
 }
@@ -110,7 +112,8 @@ void frmBookcase::AddItem(int row) {
   const QString name = platform::FromCodePage(entry.Name);
   auto* item = new QListWidgetItem(JournalIcon(entry.Icon), name, ListView1);
   item->setData(RowTag, row);
-  if (name.isEmpty()) item->setData(Qt::AccessibleTextRole, QStringLiteral("a journal without a name"));
+  const QString spoken = name.isEmpty() ? QStringLiteral("a journal without a name") : name;
+  item->setData(Qt::AccessibleTextRole, QStringLiteral("%1, %2").arg(spoken, JournalIconName(entry.Icon)));
   item->setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped()));  // where the list has cut it short
   KeepASelection();
 }
@@ -152,6 +155,8 @@ void frmBookcase::resizeEvent(QResizeEvent* /*event*/) {
 bool frmBookcase::DressJournalWindow() {
   auto& book = look::The<frmJournal>();
   connect(book.face, &PageFace::JournalClosed, this, &frmBookcase::ShowAgain, Qt::UniqueConnection);
+  connect(&book, &frmJournal::JournalPropertiesRequested, this, &frmBookcase::ShowProperties,
+          Qt::UniqueConnection);
   CurrentJournal = SelectedRow();
   JournalEntry& entry = EntryOf(CurrentJournal);
   book.face->txtM->SetBackColor(entry.PaperColor);
@@ -191,6 +196,16 @@ void frmBookcase::cmdDelete_Click() {
     return;
   }
   RefreshBookcaseList();
+}
+
+void frmBookcase::ShowProperties() {
+  look::The<frmJournalProp>().ShowModal();
+}
+
+void frmBookcase::cmdProp_Click() {
+  if (ListView1->count() == 0) return;
+  CurrentJournal = SelectedRow();
+  ShowProperties();
 }
 
 void frmBookcase::cmdHelp_Click() {

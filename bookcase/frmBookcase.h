@@ -49,11 +49,13 @@ class frmBookcase : public look::Form {
   void WearTheme();
   void ConnectCommands();
   void KeepASelection();
-  void ShowAgain();  // the journal has been closed
+  void ShowAgain();       // the journal has been closed
+  void ShowProperties();  // of the journal in CurrentJournal
 
   void cmdOpen_Click();
   void cmdAdd_Click();
   void cmdDelete_Click();
+  void cmdProp_Click();
   void cmdHelp_Click();
   void cmdClose_Click();
 };
