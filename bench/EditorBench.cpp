@@ -9,6 +9,7 @@
 #include "editor/OpenJournal.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
+#include "editor/frmIndex.h"
 #include "editor/frmJournal.h"
 #include "platform/Application.h"
 #include "platform/Files.h"
@@ -156,6 +157,32 @@ void TypeALetter(benchmark::State& state) {
   PageDirty = False;
 }
 BENCHMARK(TypeALetter)->Arg(3000)->Arg(100000)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// The pages of 27 years, up to the window that shows the years.
+void OpenTheIndex(benchmark::State& state) {
+  look::The<frmJournal>();
+  Diary diary(1);
+  diary.Open();
+  const auto pages = static_cast<double>(state.range(0));
+  for (double day = 36526; Pages.size() <= static_cast<std::size_t>(pages); day += 27 * 365.25 / pages)
+    Pages.push_back({{}, day});
+  for (auto _ : state) {
+    ShowJournalIndex();
+    look::The<frmIndex>().repaint();
+    state.PauseTiming();
+    look::Unload<frmIndex>();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    state.ResumeTiming();
+  }
+  state.SetComplexityN(state.range(0));
+}
+BENCHMARK(OpenTheIndex)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Complexity(benchmark::oN)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 }  // namespace
 

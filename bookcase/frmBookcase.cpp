@@ -4,6 +4,7 @@
 
 #include "bookcase/JournalIcons.h"
 #include "bookcase/frmAbout.h"
+#include "bookcase/frmJournalProp.h"
 #include "bookcase/frmNewJournal.h"
 #include "editor/OpenJournal.h"
 #include "editor/frmJournal.h"
@@ -105,6 +106,7 @@ void frmBookcase::ConnectCommands() {
   connect(cmdAdd, &QPushButton::clicked, this, &frmBookcase::cmdAdd_Click);
   connect(cmdDelete, &QPushButton::clicked, this, &frmBookcase::cmdDelete_Click);
   connect(cmdExport, &QPushButton::clicked, this, &frmBookcase::cmdExport_Click);
+  connect(cmdProp, &QPushButton::clicked, this, &frmBookcase::cmdProp_Click);
   connect(cmdHelp, &QPushButton::clicked, this, &frmBookcase::cmdHelp_Click);
   connect(cmdAbout, &QPushButton::clicked, this, &frmBookcase::cmdAbout_Click);
   connect(Image2, &QPushButton::clicked, this, &frmBookcase::cmdAbout_Click);
@@ -116,7 +118,8 @@ void frmBookcase::AddItem(int row) {
   const QString name = platform::FromCodePage(entry.Name);
   auto* item = new QListWidgetItem(JournalIcon(entry.Icon), name, ListView1);
   item->setData(RowTag, row);
-  if (name.isEmpty()) item->setData(Qt::AccessibleTextRole, QStringLiteral("a journal without a name"));
+  const QString spoken = name.isEmpty() ? QStringLiteral("a journal without a name") : name;
+  item->setData(Qt::AccessibleTextRole, QStringLiteral("%1, %2").arg(spoken, JournalIconName(entry.Icon)));
   item->setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped()));  // where the list has cut it short
   KeepASelection();
 }
@@ -158,6 +161,8 @@ void frmBookcase::resizeEvent(QResizeEvent* /*event*/) {
 bool frmBookcase::DressJournalWindow() {
   auto& book = look::The<frmJournal>();
   connect(book.face, &PageFace::JournalClosed, this, &frmBookcase::ShowAgain, Qt::UniqueConnection);
+  connect(&book, &frmJournal::JournalPropertiesRequested, this, &frmBookcase::ShowProperties,
+          Qt::UniqueConnection);
   CurrentJournal = SelectedRow();
   JournalEntry& entry = EntryOf(CurrentJournal);
   book.face->txtM->SetBackColor(entry.PaperColor);
@@ -217,6 +222,16 @@ void frmBookcase::cmdExport_Click() {
 
 void frmBookcase::cmdAbout_Click() {
   look::The<frmAbout>().ShowModal();
+}
+
+void frmBookcase::ShowProperties() {
+  look::The<frmJournalProp>().ShowModal();
+}
+
+void frmBookcase::cmdProp_Click() {
+  if (ListView1->count() == 0) return;
+  CurrentJournal = SelectedRow();
+  ShowProperties();
 }
 
 void frmBookcase::cmdHelp_Click() {

@@ -2,6 +2,10 @@
 
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
+#include "editor/SelectFont.h"
+#include "editor/frmCal.h"
+#include "editor/frmEmoticons.h"
+#include "editor/frmIndex.h"
 #include "pictures/AddPicture.h"
 #include "platform/Keystroke.h"
 #include "state/State.h"
@@ -24,6 +28,16 @@ void frmJournal::PageBack() {
 }
 void frmJournal::PageFirst() {
   GoFirstPage();
+}
+void frmJournal::SelectFont() {
+  ChangeSelectionFont();
+}
+void frmJournal::OpenIndex() {
+  ShowJournalIndex();
+}
+void frmJournal::OpenCalendar() {
+  look::The<frmCal>().Cal1->SetValue(Pages.at(static_cast<std::size_t>(CurrentPage)).PageDate);
+  look::The<frmCal>().ShowModal();
 }
 void frmJournal::InsertPicture() {
   StartAddPicture();
@@ -80,9 +94,11 @@ void frmJournal::Toolbar1_ButtonClick(const QString& key) {
       {u"btnNext", true, [](frmJournal&) { GoNextPage(); }},
       {u"btnLastPage", true, [](frmJournal&) { GoLastPage(); }},
       {u"btnPrint", false, [](frmJournal& window) { Q_EMIT window.PrintRequested(); }},
-      {u"btnIndex", true, [](frmJournal&) {}},
-      {u"btnCal", true, [](frmJournal&) {}},
+      {u"btnIndex", true, [](frmJournal&) { ShowJournalIndex(); }},
+      {u"btnCal", true, [](frmJournal& window) { window.OpenCalendar(); }},
+      {u"btnInsertEmoticon", false, [](frmJournal&) { ShowEmoticonPicker(); }},
       {u"btnInsertPicture", false, [](frmJournal&) { StartAddPicture(); }},
+      {u"btnFont", false, [](frmJournal&) { ChangeSelectionFont(); }},
       {u"btnOptions", false, [](frmJournal& window) { window.OpenOptions(); }},
       {u"btnJournalProperties", false, [](frmJournal& window) { window.OpenJournalProperties(); }},
       {u"btnHelp", false, [](frmJournal&) { platform::SendKey(Qt::Key_F1); }},

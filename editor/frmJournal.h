@@ -18,6 +18,9 @@ class frmJournal : public look::Form {
   void PageBack();
   void PageFirst();
   void InsertPicture();
+  void SelectFont();
+  void OpenIndex();
+  void OpenCalendar();
   void OpenJournalProperties();
   void PageLast();
   void PageNew();
