@@ -47,13 +47,14 @@ def even(number):
     return 2 * round(number / 2)
 
 
-# Materials: a size in pixels and a source of chance give a tone from -1 to 1 and a turn of the hue from -1 to 1.
+# Materials: a source of chance and a shape in samples give two fields, a tone of about -1 to 1 and a turn of the hue
+# from -1 to 1.
 
 PITCH = 4.0  # pixels from thread to thread
 
 
 def threads(place, length, wobble):
-    """Along one direction: whether the thread's number is odd, and its round section."""
+    """Across them: the place in threads, 1 or -1 by turns from thread to thread, the height of the round section."""
     position = place * (even(length / PITCH) / length) + wobble
     section = 2 * (position % 1) - 1
     return position, np.where(np.floor(position) % 2 == 0, 1.0, -1.0), np.sqrt(np.clip(1 - section**2, 0, 1))
@@ -116,9 +117,9 @@ def marble(rng, shape):
     gaps = round(shape[1] / OVER / 50)
     tooth = (x / (shape[1] / OVER) * gaps + 0.13 * noise(rng, shape, 30, 60)) % 1
     pull = 46 * np.exp(-7 * np.minimum(tooth, 1 - tooth)) + 9 * noise(rng, shape, 40) + 1.2 * noise(rng, shape, 6)
-    at = ((y + pull) * OVER).astype(int) % shape[0]
+    at = np.floor((y + pull) * OVER).astype(int) % shape[0]
     tone, turn = (blurred(band[at], 1.2, 1.2) for band in bands(rng, shape[0]))
-    return 1.0 * (tone - tone.mean()) + 0.05 * noise(rng, shape, 1), turn
+    return tone - tone.mean() + 0.05 * noise(rng, shape, 1), turn
 
 
 # Colour.
