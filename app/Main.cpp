@@ -3,6 +3,9 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 
+#include "app/Help.h"
+#include "app/Settings.h"
+#include "app/frmOptions.h"
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmInitJournal.h"
 #include "editor/PagePasses.h"
@@ -17,6 +20,7 @@
 #include "platform/Process.h"
 #include "state/State.h"
 #include "store/JournalIndex.h"
+#include "store/LostJournals.h"
 
 namespace {
 
@@ -45,18 +49,31 @@ void ComeToTheFront(const platform::ActivationToken& token) {
   if (QWidget* window = VisibleWindow()) platform::BringToFront(*window, token);
 }
 
+void ShowOptions() {
+  look::The<frmOptions>().ShowModal();
+}
+
+void LoadTheJournalWindow() {
+  if (look::IsLoaded<frmJournal>()) return;
+  QObject::connect(&look::The<frmJournal>(), &frmJournal::OptionsRequested, &ShowOptions);
+}
+
 void StartLocked() {
   LoadJournalIndex();
+  RecoverLostJournals();
   auto& lock = look::The<frmPass>();
-  QObject::connect(&lock, &frmPass::Unlocked, [] { look::The<frmBookcase>().ShowModeless(); });
+  QObject::connect(&lock, &frmPass::Unlocked, [] {
+    LoadTheJournalWindow();
+    look::The<frmBookcase>().ShowModeless();
+  });
   lock.ShowModeless();
-  QTimer::singleShot(JournalWindowDelayMs, [] { look::The<frmJournal>(); });
+  QTimer::singleShot(JournalWindowDelayMs, &LoadTheJournalWindow);
 }
 
 void StartForTheFirstTime() {
   look::The<frmInitJournal>().ShowModal();
   if (JournalCount == 0) return;  // left by the exit
-  look::The<frmJournal>();
+  LoadTheJournalWindow();
   NewJournalPages();
 }
 
@@ -81,7 +98,10 @@ void Main(platform::RunningInstance& instance, const platform::ActivationToken& 
   QObject::connect(&instance, &platform::RunningInstance::ActivationRequested, &ComeToTheFront);
   platform::RemoveStaleTemporaries(platform::ProgramFolder());
   TellWhenTheFolderIsReadOnly();
-  look::The<frmBookcase>();  // lists what the index loads
+  AnswerF1();
+  LoadSettings();
+  auto& bookcase = look::The<frmBookcase>();  // it lists what the index loads
+  QObject::connect(&bookcase, &frmBookcase::OptionsRequested, &ShowOptions);
   if (platform::IsMissing(platform::PathOf("journal.tqt"))) {
     StartForTheFirstTime();
   } else {

@@ -102,6 +102,7 @@ void frmBookcase::ConnectCommands() {
   connect(cmdAdd, &QPushButton::clicked, this, &frmBookcase::cmdAdd_Click);
   connect(cmdDelete, &QPushButton::clicked, this, &frmBookcase::cmdDelete_Click);
   connect(cmdHelp, &QPushButton::clicked, this, &frmBookcase::cmdHelp_Click);
+  connect(cmdOptions, &QPushButton::clicked, this, &frmBookcase::OptionsRequested);
   connect(cmdClose, &QPushButton::clicked, this, &frmBookcase::cmdClose_Click);
 }
 

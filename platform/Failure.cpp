@@ -9,6 +9,8 @@ const char* TextOf(FailureKind kind) {
   switch (kind) {
     case FailureKind::InvalidArgument:
       return "Invalid procedure call or argument";
+    case FailureKind::Overflow:
+      return "Overflow";
     case FailureKind::OutOfMemory:
       return "Out of memory";
     case FailureKind::SubscriptOutOfRange:
@@ -25,6 +27,8 @@ const char* TextOf(FailureKind kind) {
       return "The file or folder cannot be opened";
     case FailureKind::PathNotFound:
       return "Path not found";
+    case FailureKind::InvalidPropertyValue:
+      return "Invalid property value";
   }
   return "Unknown failure";
 }

@@ -10,6 +10,7 @@ namespace platform {
 
 enum class FailureKind {
   InvalidArgument = 5,
+  Overflow = 6,
   OutOfMemory = 7,
   SubscriptOutOfRange = 9,
   FileNotFound = 53,
@@ -18,6 +19,7 @@ enum class FailureKind {
   PermissionDenied = 70,
   PathAccess = 75,
   PathNotFound = 76,
+  InvalidPropertyValue = 380,
 };
 
 // what() is a sentence for a person, in UTF-8, that names the thing: "Path not found:
