@@ -2,6 +2,7 @@
 
 #include <QtCore/QRegularExpression>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QSplitter>
@@ -54,6 +55,7 @@ void HelpWindow::LayOut() {
   cmdBack->setEnabled(false);
   txtFind->setPlaceholderText(QStringLiteral("Find in this page"));
   txtFind->setAccessibleName(QStringLiteral("the words to find"));
+  lstContents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstContents->setAccessibleName(QStringLiteral("the chapters"));
   Browser->setAccessibleName(QStringLiteral("the help text"));
   Browser->document()->setDocumentMargin(16);
@@ -97,6 +99,7 @@ void HelpWindow::ShowTopic(const QString& anchor, QWidget* owner) {
   // A dialog blocks every window but its own children.
   QWidget* parent = owner && owner->isModal() ? owner : nullptr;
   if (parentWidget() != parent) setParent(parent, Qt::Window);
+  if (!isVisible()) move(owner->screen()->availableGeometry().center() - rect().center());
   show();  // a chapter can be scrolled to only when the text has been laid out
   raise();
   activateWindow();
