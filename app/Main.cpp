@@ -3,6 +3,9 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 
+#include "app/Help.h"
+#include "app/Settings.h"
+#include "app/frmOptions.h"
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmInitJournal.h"
 #include "editor/PagePasses.h"
@@ -20,6 +23,7 @@
 #include "platform/Process.h"
 #include "state/State.h"
 #include "store/JournalIndex.h"
+#include "store/LostJournals.h"
 
 namespace {
 
@@ -49,15 +53,24 @@ void ComeToTheFront(const platform::ActivationToken& token) {
   if (QWidget* window = VisibleWindow()) platform::BringToFront(*window, token);
 }
 
+void ShowOptions() {
+  look::The<frmOptions>().ShowModal();
+}
+
 // Its commands whose windows lie upstairs are connected here.
 void LoadJournalWindow() {
-  QObject::connect(&look::The<frmJournal>(), &frmJournal::PrintRequested, &PrintJournal);
+  if (look::IsLoaded<frmJournal>()) return;
+  auto& book = look::The<frmJournal>();
+  QObject::connect(&book, &frmJournal::PrintRequested, &PrintJournal);
+  QObject::connect(&book, &frmJournal::OptionsRequested, &ShowOptions);
 }
 
 void StartLocked() {
   LoadJournalIndex();
+  RecoverLostJournals();
   auto& lock = look::The<frmPass>();
   QObject::connect(&lock, &frmPass::Unlocked, [] {
+    LoadJournalWindow();
     look::The<frmBookcase>().ShowModeless();
     LoadPictureStore();
   });
@@ -93,7 +106,10 @@ void Main(platform::RunningInstance& instance, const platform::ActivationToken& 
   QObject::connect(&instance, &platform::RunningInstance::ActivationRequested, &ComeToTheFront);
   platform::RemoveStaleTemporaries(platform::ProgramFolder());
   TellWhenTheFolderIsReadOnly();
-  look::The<frmBookcase>();  // lists what the index loads
+  AnswerF1();
+  LoadSettings();
+  auto& bookcase = look::The<frmBookcase>();  // it lists what the index loads
+  QObject::connect(&bookcase, &frmBookcase::OptionsRequested, &ShowOptions);
   if (platform::IsMissing(platform::PathOf("journal.tqt"))) {
     StartForTheFirstTime();
   } else {

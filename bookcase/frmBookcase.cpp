@@ -110,6 +110,7 @@ void frmBookcase::ConnectCommands() {
   connect(cmdHelp, &QPushButton::clicked, this, &frmBookcase::cmdHelp_Click);
   connect(cmdAbout, &QPushButton::clicked, this, &frmBookcase::cmdAbout_Click);
   connect(Image2, &QPushButton::clicked, this, &frmBookcase::cmdAbout_Click);
+  connect(cmdOptions, &QPushButton::clicked, this, &frmBookcase::OptionsRequested);
   connect(cmdClose, &QPushButton::clicked, this, &frmBookcase::cmdClose_Click);
 }
 

@@ -74,10 +74,8 @@ void PageFace::MakePage() {
 
 // Made after the page, and so above it, where a tall strip covers its first lines.
 void PageFace::MakeHead() {
-  const look::Theme& theme = look::CurrentTheme();
   picTop = Placed(new look::PictureBox(this), QStringLiteral("picTop"), 0, 0, DesignWidth, headHeight_);
-  picTop->SetBackColor(PackedColor(theme.surface));
-  picTop->SetPicture(theme.large);
+  WearTheme();
   lblPageNum1 = Placed(new QLabel(picTop), QStringLiteral("lblPageNum1"), 7590, NumberTop, 825, 195);
   lblPageNum1->setAlignment(Qt::AlignRight | Qt::AlignTop);
   DressLabel(lblPageNum1, 11);  // 8.25 points
@@ -100,6 +98,14 @@ void PageFace::SetHeader(const QString& date, const QString& pageNumber) {
   lblPageNum1->setText(pageNumber);
   lblPageNum1->adjustSize();
   lblPageNum1->move(Pixels(NumberRight) - lblPageNum1->width(), lblPageNum1->y());
+}
+
+// Without a theme the strip is pale all the same: the letters on it are black.
+void PageFace::WearTheme() {
+  constexpr QRgb plain = 0xF0F0F0;
+  const look::Theme& theme = look::CurrentTheme();
+  picTop->SetBackColor(PackedColor(theme.surface.isValid() ? theme.surface : QColor(plain)));
+  picTop->SetPicture(theme.large);
 }
 
 void PageFace::SetHeadHeight(int twips) {

@@ -34,6 +34,8 @@ class PageFace : public QWidget {
 
   // The head strip's height in twips, 870 by design. The binding follows its bottom edge; the text does not.
   void SetHeadHeight(int twips);
+  // Puts the theme in force on the head strip; paper and binding belong to the journal.
+  void WearTheme();
   int HeadHeight() const { return headHeight_; }
 
  Q_SIGNALS:

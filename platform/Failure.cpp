@@ -31,6 +31,8 @@ const char* TextOf(FailureKind kind) {
       return "Path not found";
     case FailureKind::InvalidPicture:
       return "This file cannot be shown as a picture";
+    case FailureKind::InvalidPropertyValue:
+      return "Invalid property value";
   }
   return "Unknown failure";
 }

@@ -20,6 +20,7 @@ enum class FailureKind {
   PermissionDenied = 70,
   PathAccess = 75,
   PathNotFound = 76,
+  InvalidPropertyValue = 380,
   InvalidPicture = 481,
 };
 
