@@ -8,6 +8,7 @@
 #include "editor/frmJournal.h"
 #include "platform/Files.h"
 #include "state/State.h"
+#include "tools/tour/PrintSitting.h"
 
 namespace {
 
@@ -224,6 +225,12 @@ const std::vector<Sitting>& Sittings() {
          ExportTheDiary(person);
        },
        leaveByCloseBox},
+      {"A page on paper", nullptr,
+       [](Person& person) {
+         Unlock(person, Rosebud);
+         PrintAPage(person);
+       },
+       PressExit},
       {"More journals, and one removed; ended by the system", nullptr,
        [](Person& person) {
          Unlock(person, Rosebud);
