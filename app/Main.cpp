@@ -3,6 +3,9 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 
+#include "app/Help.h"
+#include "app/Settings.h"
+#include "app/frmOptions.h"
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmInitJournal.h"
 #include "editor/PagePasses.h"
@@ -11,12 +14,16 @@
 #include "lock/frmPass.h"
 #include "look/Form.h"
 #include "look/Pass.h"
+#include "output/frmExport.h"
+#include "output/modPrint.h"
+#include "pictures/modPictures.h"
 #include "platform/Application.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Process.h"
 #include "state/State.h"
 #include "store/JournalIndex.h"
+#include "store/LostJournals.h"
 
 namespace {
 
@@ -35,6 +42,7 @@ void TellWhenTheFolderIsReadOnly() {
 
 QWidget* VisibleWindow() {
   if (look::IsLoaded<frmJournal>() && look::The<frmJournal>().isVisible()) return &look::The<frmJournal>();
+  if (look::IsLoaded<frmExport>()) return &look::The<frmExport>();
   if (look::IsLoaded<frmBookcase>() && look::The<frmBookcase>().isVisible()) return &look::The<frmBookcase>();
   if (look::IsLoaded<frmPass>()) return &look::The<frmPass>();
   if (look::IsLoaded<frmInitJournal>()) return &look::The<frmInitJournal>();
@@ -45,18 +53,35 @@ void ComeToTheFront(const platform::ActivationToken& token) {
   if (QWidget* window = VisibleWindow()) platform::BringToFront(*window, token);
 }
 
+void ShowOptions() {
+  look::The<frmOptions>().ShowModal();
+}
+
+// Its commands whose windows lie upstairs are connected here.
+void LoadJournalWindow() {
+  if (look::IsLoaded<frmJournal>()) return;
+  auto& book = look::The<frmJournal>();
+  QObject::connect(&book, &frmJournal::PrintRequested, &PrintJournal);
+  QObject::connect(&book, &frmJournal::OptionsRequested, &ShowOptions);
+}
+
 void StartLocked() {
   LoadJournalIndex();
+  RecoverLostJournals();
   auto& lock = look::The<frmPass>();
-  QObject::connect(&lock, &frmPass::Unlocked, [] { look::The<frmBookcase>().ShowModeless(); });
+  QObject::connect(&lock, &frmPass::Unlocked, [] {
+    LoadJournalWindow();
+    look::The<frmBookcase>().ShowModeless();
+    LoadPictureStore();
+  });
   lock.ShowModeless();
-  QTimer::singleShot(JournalWindowDelayMs, [] { look::The<frmJournal>(); });
+  QTimer::singleShot(JournalWindowDelayMs, &LoadJournalWindow);
 }
 
 void StartForTheFirstTime() {
   look::The<frmInitJournal>().ShowModal();
   if (JournalCount == 0) return;  // left by the exit
-  look::The<frmJournal>();
+  LoadJournalWindow();
   NewJournalPages();
 }
 
@@ -81,7 +106,10 @@ void Main(platform::RunningInstance& instance, const platform::ActivationToken& 
   QObject::connect(&instance, &platform::RunningInstance::ActivationRequested, &ComeToTheFront);
   platform::RemoveStaleTemporaries(platform::ProgramFolder());
   TellWhenTheFolderIsReadOnly();
-  look::The<frmBookcase>();  // lists what the index loads
+  AnswerF1();
+  LoadSettings();
+  auto& bookcase = look::The<frmBookcase>();  // it lists what the index loads
+  QObject::connect(&bookcase, &frmBookcase::OptionsRequested, &ShowOptions);
   if (platform::IsMissing(platform::PathOf("journal.tqt"))) {
     StartForTheFirstTime();
   } else {

@@ -21,6 +21,7 @@ class Backed : public QWidget {
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   const QLocalServer sameLibraries;
+  look::PutOnTheme(0);
   QMainWindow window;
   QToolBar* bar = window.addToolBar(QStringLiteral("bar"));
   bar->addAction(QStringLiteral("New"));

@@ -117,6 +117,35 @@ void TurnToAnUnchangedPage(benchmark::State& state) {
 }
 BENCHMARK(TurnToAnUnchangedPage)->Arg(10)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+// Rows of a store that lie on other pages, and on the same pages of other journals.
+void LayPicturesElsewhere(std::int32_t rows) {
+  Pictures.assign(static_cast<std::size_t>(rows) + 1, {});
+  PictureCount = rows;
+  for (std::int32_t row = 1; row <= rows; ++row) {
+    PagePicture& picture = Pictures[static_cast<std::size_t>(row)];
+    picture.PictureFile = "/home/someone/Pictures/2010/" + std::to_string(row) + ".jpg";
+    picture.JournalFile = "j00001.tqf";
+    picture.PageNumber = row % 12;
+  }
+}
+
+// A turn without its drawing, which walks over a store of so many rows.
+void TurnBesideAStore(benchmark::State& state) {
+  look::The<frmJournal>();
+  Diary diary(10);
+  LayPicturesElsewhere(static_cast<std::int32_t>(state.range(0)));
+  diary.Open();
+  bool forward = false;
+  for (auto _ : state) {
+    if (forward)
+      GoNextPage();
+    else
+      GoBackPage();
+    forward = !forward;
+  }
+}
+BENCHMARK(TurnBesideAStore)->Arg(0)->Arg(100000)->Unit(benchmark::kMillisecond)->UseRealTime();
+
 void TypeALetter(benchmark::State& state) {
   look::The<frmJournal>();
   Diary diary(1, static_cast<std::size_t>(state.range(0)));

@@ -3,12 +3,15 @@
 #include <QtGui/QMouseEvent>
 
 #include "bookcase/JournalIcons.h"
+#include "bookcase/frmAbout.h"
 #include "bookcase/frmJournalProp.h"
 #include "bookcase/frmNewJournal.h"
 #include "editor/OpenJournal.h"
 #include "editor/frmJournal.h"
 #include "look/Emblem.h"
 #include "look/Theme.h"
+#include "output/frmExport.h"
+#include "pictures/modPictures.h"
 #include "platform/CodePage.h"
 #include "platform/Failure.h"
 #include "platform/Keystroke.h"
@@ -102,8 +105,12 @@ void frmBookcase::ConnectCommands() {
   connect(cmdOpen, &QPushButton::clicked, this, &frmBookcase::cmdOpen_Click);
   connect(cmdAdd, &QPushButton::clicked, this, &frmBookcase::cmdAdd_Click);
   connect(cmdDelete, &QPushButton::clicked, this, &frmBookcase::cmdDelete_Click);
+  connect(cmdExport, &QPushButton::clicked, this, &frmBookcase::cmdExport_Click);
   connect(cmdProp, &QPushButton::clicked, this, &frmBookcase::cmdProp_Click);
   connect(cmdHelp, &QPushButton::clicked, this, &frmBookcase::cmdHelp_Click);
+  connect(cmdAbout, &QPushButton::clicked, this, &frmBookcase::cmdAbout_Click);
+  connect(Image2, &QPushButton::clicked, this, &frmBookcase::cmdAbout_Click);
+  connect(cmdOptions, &QPushButton::clicked, this, &frmBookcase::OptionsRequested);
   connect(cmdClose, &QPushButton::clicked, this, &frmBookcase::cmdClose_Click);
 }
 
@@ -182,12 +189,15 @@ void frmBookcase::cmdAdd_Click() {
   look::The<frmNewJournal>().ShowModal();
 }
 
+// Only the file's own deletion is guarded: in a run without a picture store the save fails, which ends the
+// program with the file gone and the index unsaved.
 void frmBookcase::cmdDelete_Click() {
   if (ListView1->count() == 0) return;
   const int row = SelectedRow();
-  const QString fileName = platform::FromCodePage(EntryOf(row).FileName);
-  const platform::Message question{"Are you sure you want to delete " + fileName.toStdString(),
-                                   platform::Buttons::YesNo, platform::BoxIcon::Stop};
+  const std::string fileName = EntryOf(row).FileName;
+  const platform::Message question{
+      "Are you sure you want to delete " + platform::FromCodePage(fileName).toStdString(),
+      platform::Buttons::YesNo, platform::BoxIcon::Stop};
   if (platform::ShowMessage(question) != platform::Answer::Yes) return;
   try {
     RemoveJournal(row);
@@ -195,7 +205,24 @@ void frmBookcase::cmdDelete_Click() {
     platform::ShowMessage(failure.what(), platform::BoxIcon::Stop);  // it names the file
     return;
   }
+  RemovePicturesOf(fileName);
+  SavePictureStore();
   RefreshBookcaseList();
+}
+
+// The journal window stays invisible: the export turns its pages.
+void frmBookcase::cmdExport_Click() {
+  if (ListView1->count() == 0) return;
+  if (EnsureExportFolder() != 0) return;
+  if (!DressJournalWindow()) return;
+  hide();
+  auto& dialog = look::The<frmExport>();
+  connect(&dialog, &frmExport::Closed, this, &frmBookcase::ShowAgain);
+  dialog.ShowModeless();
+}
+
+void frmBookcase::cmdAbout_Click() {
+  look::The<frmAbout>().ShowModal();
 }
 
 void frmBookcase::ShowProperties() {

@@ -37,7 +37,14 @@ class frmBookcase : public look::Form {
   // Lists the live rows of Journals anew, in row order.
   void ListJournals();
 
+  // Takes over the theme in force.
+  void WearTheme();
+
   void CloseBox() override;  // does what cmdClose does
+
+ Q_SIGNALS:
+  // The options live upstairs.
+  void OptionsRequested();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,15 +53,16 @@ class frmBookcase : public look::Form {
  private:
   void LayOutButtons();
   void LayOutList();
-  void WearTheme();
   void ConnectCommands();
   void KeepASelection();
-  void ShowAgain();       // the journal has been closed
+  void ShowAgain();       // the journal, or its export, has been closed
   void ShowProperties();  // of the journal in CurrentJournal
 
   void cmdOpen_Click();
   void cmdAdd_Click();
   void cmdDelete_Click();
+  void cmdExport_Click();
+  void cmdAbout_Click();
   void cmdProp_Click();
   void cmdHelp_Click();
   void cmdClose_Click();

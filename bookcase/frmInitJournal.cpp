@@ -61,21 +61,10 @@ void frmInitJournal::CreateFirstJournal() {
     txtNewPass->setFocus();
     return;
   }
-  if (IsPasswordTooLong()) return;
+  if (IsPasswordTooLong(txtNewPass->Bytes())) return txtNewPass->setFocus();
   MakeFirstJournal(txtPass->Bytes(), txtNewPass->Bytes());
   look::Discard(this);
   look::The<frmBookcase>().ShowModeless();
-}
-
-// A journal's file has no room for a longer one, so that no page could ever be saved.
-bool frmInitJournal::IsPasswordTooLong() {
-  const std::size_t length = txtNewPass->Bytes().size();
-  if (length <= MaxPasswordLength) return false;
-  platform::ShowMessage("The password has " + std::to_string(length) + " characters. It can have at most " +
-                            std::to_string(MaxPasswordLength) + ".",
-                        platform::BoxIcon::Stop);
-  txtNewPass->setFocus();
-  return true;
 }
 
 void frmInitJournal::cmdCancel_Click() {

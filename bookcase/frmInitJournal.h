@@ -29,6 +29,5 @@ class frmInitJournal : public look::Form {
 
  private:
   void CreateFirstJournal();  // the click on cmdOK
-  bool IsPasswordTooLong();   // and tells it
   void cmdCancel_Click();
 };

@@ -6,6 +6,7 @@
 #include "editor/frmCal.h"
 #include "editor/frmEmoticons.h"
 #include "editor/frmIndex.h"
+#include "pictures/AddPicture.h"
 #include "platform/Keystroke.h"
 #include "state/State.h"
 
@@ -37,6 +38,9 @@ void frmJournal::OpenIndex() {
 void frmJournal::OpenCalendar() {
   look::The<frmCal>().Cal1->SetValue(Pages.at(static_cast<std::size_t>(CurrentPage)).PageDate);
   look::The<frmCal>().ShowModal();
+}
+void frmJournal::InsertPicture() {
+  StartAddPicture();
 }
 void frmJournal::OpenJournalProperties() {
   Q_EMIT JournalPropertiesRequested();
@@ -89,9 +93,11 @@ void frmJournal::Toolbar1_ButtonClick(const QString& key) {
       {u"btnBack", true, [](frmJournal&) { GoBackPage(); }},
       {u"btnNext", true, [](frmJournal&) { GoNextPage(); }},
       {u"btnLastPage", true, [](frmJournal&) { GoLastPage(); }},
+      {u"btnPrint", false, [](frmJournal& window) { Q_EMIT window.PrintRequested(); }},
       {u"btnIndex", true, [](frmJournal&) { ShowJournalIndex(); }},
       {u"btnCal", true, [](frmJournal& window) { window.OpenCalendar(); }},
       {u"btnInsertEmoticon", false, [](frmJournal&) { ShowEmoticonPicker(); }},
+      {u"btnInsertPicture", false, [](frmJournal&) { StartAddPicture(); }},
       {u"btnFont", false, [](frmJournal&) { ChangeSelectionFont(); }},
       {u"btnOptions", false, [](frmJournal& window) { window.OpenOptions(); }},
       {u"btnJournalProperties", false, [](frmJournal& window) { window.OpenJournalProperties(); }},

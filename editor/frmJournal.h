@@ -17,6 +17,7 @@ class frmJournal : public look::Form {
   // The window's public surface, beside the toolbar: none of these stores the page first.
   void PageBack();
   void PageFirst();
+  void InsertPicture();
   void SelectFont();
   void OpenIndex();
   void OpenCalendar();
@@ -36,6 +37,7 @@ class frmJournal : public look::Form {
   // Commands whose windows live upstairs.
   void JournalPropertiesRequested();
   void OptionsRequested();
+  void PrintRequested();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

@@ -1,12 +1,24 @@
 #include "look/PictureButton.h"
 
+#include <QtGui/QHelpEvent>
+#include <QtGui/QLinearGradient>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
+#include <QtWidgets/QToolTip>
 
 namespace look {
 namespace {
 
+// In pixels from the button's edge to the middle of the line.
+constexpr double HairlineInset = 0.5;
+constexpr double SecondHairlineInset = 2.5;
+constexpr double StitchInset = 4.5;
+constexpr double StitchInsetInDoubleEdge = 5.5;
+
 constexpr double Corner = 2;
+constexpr int CaptionMargin = 7;
+constexpr int LeastHeightForStitches = 22;
+constexpr QPoint Sunk(1, 1);
 
 QPainterPath Outline(const QRectF& rect, double inset) {
   QPainterPath path;
@@ -20,6 +32,21 @@ QColor Veil(const QColor& color, int alpha) {
   return veil;
 }
 
+QPen Thread(const QColor& color, const QList<qreal>& pattern) {
+  QPen pen(color, 1);
+  pen.setCapStyle(Qt::FlatCap);
+  pen.setDashPattern(pattern);
+  pen.setDashOffset(0.5);  // the seam begins in the middle of a pixel, the stitches at its edges
+  return pen;
+}
+
+// A line along the upper and the left edge, within the outline of that inset.
+void PaintInnerEdge(QPainter& painter, const QSizeF& size, double inset, const QColor& color) {
+  painter.setPen(color);
+  painter.drawLine(QPointF(inset + 2, inset + 1), QPointF(size.width() - inset - 2, inset + 1));
+  painter.drawLine(QPointF(inset + 1, inset + 2), QPointF(inset + 1, size.height() - inset - 2));
+}
+
 }  // namespace
 
 PictureButton::PictureButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
@@ -31,62 +58,89 @@ void PictureButton::SetPicture(const QPixmap& picture) {
   update();
 }
 
+// A caption that had to be shortened is there as a whole as its tool tip.
+bool PictureButton::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || picture_.isNull() ||
+      ShownCaption() == text()) {
+    return QPushButton::event(event);
+  }
+  const QString plain = text().remove(QLatin1Char('&')).toHtmlEscaped();
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), QStringLiteral("<p>%1</p>").arg(plain),
+                     this);
+  return true;
+}
+
 void PictureButton::paintEvent(QPaintEvent* event) {
   if (picture_.isNull()) return QPushButton::paintEvent(event);
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  PaintFace(painter);
+  painter.setClipPath(Outline(rect(), 0));
+  PaintMaterial(painter);
+  PaintRelief(painter);
   PaintEdges(painter);
+  PaintStitching(painter);
   PaintCaption(painter);
 }
 
-// The face lies under the caption at its natural size, its middle in the button's middle.
-void PictureButton::PaintFace(QPainter& painter) const {
-  const QPainterPath outline = Outline(rect(), 0.5);
-  painter.setClipPath(outline);
-  const QSizeF offset = (QSizeF(size()) - picture_.deviceIndependentSize()) / 2;
-  if (offset.width() > 0 || offset.height() > 0) {
-    painter.drawPixmap(rect(), picture_);  // a button larger than its face stretches it
-  } else {
-    painter.drawPixmap(qRound(offset.width()), qRound(offset.height()), picture_);
-  }
-  if (!isEnabled()) {
-    painter.fillPath(outline, Veil(Qt::white, 110));
-  } else if (isDown()) {
-    painter.fillPath(outline, Veil(Edge(), 50));
-  } else if (underMouse()) {
-    painter.fillPath(outline, Veil(Qt::white, 90));
-  }
-  painter.setClipping(false);
+// At its natural size, whatever the button's own size is: a stretched weave would be another material.
+void PictureButton::PaintMaterial(QPainter& painter) const {
+  const QPointF middle =
+      QRectF(QPointF(), picture_.deviceIndependentSize()).center() - QRectF(rect()).center();
+  painter.drawTiledPixmap(rect(), picture_, isDown() ? middle.toPoint() - Sunk : middle.toPoint());
 }
 
-// Light from the top left: a highlight along the upper and left edge, which goes when the button is pressed.
-void PictureButton::PaintEdges(QPainter& painter) const {
-  if (!isDown()) {
-    painter.setPen(Veil(Qt::white, 170));
-    painter.drawLine(QPointF(2.5, 1.5), QPointF(width() - 2.5, 1.5));
-    painter.drawLine(QPointF(1.5, 2.5), QPointF(1.5, height() - 2.5));
+// The label swells a little towards the light; pressed, it is a hollow.
+void PictureButton::PaintRelief(QPainter& painter) const {
+  QLinearGradient light(0, 0, 0, height());
+  light.setColorAt(isDown() ? 1 : 0, Veil(Qt::white, isDown() ? 30 : 90));
+  light.setColorAt(0.5, Veil(Qt::white, isDown() ? 0 : 45));
+  light.setColorAt(isDown() ? 0 : 1, Veil(Edge(), isDown() ? 75 : 22));
+  painter.fillRect(rect(), light);
+  if (!isEnabled()) {
+    painter.fillRect(rect(), Veil(Qt::white, 60));
+  } else if (underMouse() && !isDown()) {
+    painter.fillRect(rect(), Veil(Qt::white, 80));
   }
+}
+
+void PictureButton::PaintEdges(QPainter& painter) const {
+  const double inner = HasDoubleEdge() ? SecondHairlineInset : HairlineInset;
+  PaintInnerEdge(painter, size(), inner, isDown() ? Veil(Edge(), 90) : Veil(Qt::white, 190));
   painter.setBrush(Qt::NoBrush);
   painter.setPen(Veil(Edge(), isEnabled() ? 255 : 120));
-  painter.drawPath(Outline(rect(), 0.5));
-  if (isDefault() && isEnabled()) painter.drawPath(Outline(rect(), 1.5));
-  if (!hasFocus()) return;
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.setPen(QPen(palette().color(QPalette::ButtonText), 1, Qt::DotLine));
-  painter.drawRect(rect().adjusted(4, 4, -5, -5));
+  painter.drawPath(Outline(rect(), HairlineInset));
+  if (HasDoubleEdge()) painter.drawPath(Outline(rect(), SecondHairlineInset));
+}
+
+// The focus is a dotted line in ink, in the place of the stitches.
+void PictureButton::PaintStitching(QPainter& painter) const {
+  if (height() < LeastHeightForStitches && !hasFocus()) return;
+  const QPointF sunk = isDown() ? QPointF(Sunk) : QPointF();
+  const double inset = HasDoubleEdge() ? StitchInsetInDoubleEdge : StitchInset;
+  const QRectF seam = QRectF(rect()).adjusted(inset, inset, -inset, -inset).translated(sunk);
+  painter.setPen(hasFocus() ? Thread(palette().color(QPalette::ButtonText), {1, 1})
+                            : Thread(Veil(Edge(), isEnabled() ? 95 : 50), {3, 3}));
+  painter.drawRect(seam);
 }
 
 void PictureButton::PaintCaption(QPainter& painter) const {
-  const QPoint sunk = isDown() ? QPoint(1, 1) : QPoint();
+  const QPoint sunk = isDown() ? Sunk : QPoint();
   painter.setPen(Veil(palette().color(QPalette::Active, QPalette::ButtonText), isEnabled() ? 255 : 110));
   painter.drawText(rect().translated(sunk), Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine,
-                   text());
+                   ShownCaption());
+}
+
+bool PictureButton::HasDoubleEdge() const {
+  return isDefault() && isEnabled();
 }
 
 // The hairline has the face's own hue, some steps darker.
 QColor PictureButton::Edge() const {
-  return palette().color(QPalette::Button).darker(190);
+  return QColor::fromHslF(palette().color(QPalette::Button).hslHueF(), 0.28f, 0.43f);
+}
+
+QString PictureButton::ShownCaption() const {
+  return fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * CaptionMargin, Qt::TextShowMnemonic);
 }
 
 }  // namespace look

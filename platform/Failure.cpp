@@ -9,10 +9,14 @@ const char* TextOf(FailureKind kind) {
   switch (kind) {
     case FailureKind::InvalidArgument:
       return "Invalid procedure call or argument";
+    case FailureKind::Overflow:
+      return "Overflow";
     case FailureKind::OutOfMemory:
       return "Out of memory";
     case FailureKind::SubscriptOutOfRange:
       return "Subscript out of range";
+    case FailureKind::BadFileName:
+      return "No file can have this name";
     case FailureKind::FileNotFound:
       return "File not found";
     case FailureKind::DeviceError:
@@ -25,6 +29,10 @@ const char* TextOf(FailureKind kind) {
       return "The file or folder cannot be opened";
     case FailureKind::PathNotFound:
       return "Path not found";
+    case FailureKind::InvalidPicture:
+      return "This file cannot be shown as a picture";
+    case FailureKind::InvalidPropertyValue:
+      return "Invalid property value";
   }
   return "Unknown failure";
 }

@@ -10,14 +10,18 @@ namespace platform {
 
 enum class FailureKind {
   InvalidArgument = 5,
+  Overflow = 6,
   OutOfMemory = 7,
   SubscriptOutOfRange = 9,
+  BadFileName = 52,
   FileNotFound = 53,
   DeviceError = 57,
   DiskFull = 61,
   PermissionDenied = 70,
   PathAccess = 75,
   PathNotFound = 76,
+  InvalidPropertyValue = 380,
+  InvalidPicture = 481,
 };
 
 // what() is a sentence for a person, in UTF-8, that names the thing: "Path not found:

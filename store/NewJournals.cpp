@@ -69,6 +69,14 @@ void AddJournalEntry(const std::string& name) {
   if (JournalAdded) JournalAdded(JournalCount);
 }
 
+bool IsPasswordTooLong(const std::string& password) {
+  if (password.size() <= MaxPasswordLength) return false;
+  platform::ShowMessage("The password has " + std::to_string(password.size()) +
+                            " characters. It can have at most " + std::to_string(MaxPasswordLength) + ".",
+                        platform::BoxIcon::Stop);
+  return true;
+}
+
 void MakeFirstJournal(const std::string& name, const std::string& password) {
   RefuseUnusable(password);
   JournalCount = 1;

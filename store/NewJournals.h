@@ -20,6 +20,8 @@ void MakeJournal(const std::string& name);
 
 // The longest password whose journal files have room for it.
 inline constexpr std::size_t MaxPasswordLength = 128;
+// Whether it is longer than that, which a message then tells.
+bool IsPasswordTooLong(const std::string& password);
 
 // Deletes the journal's file, if it has one, and marks its row. Throws platform::Failure, with nothing
 // changed, when the file cannot be deleted.

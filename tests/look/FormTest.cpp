@@ -71,6 +71,7 @@ TEST_F(FormTest, UnloadBringsTheDesignValuesBackAndHidingDoesNot) {
 TEST_F(FormTest, WritesDarkOnThePictureOfADarkDesktop) {
   QApplication::setPalette(QPalette(QColor(30, 30, 30)));
   Dialog dialog;
+  look::PutOnTheme(0);
   dialog.SetPicture(look::CurrentTheme().large);
   EXPECT_LT(dialog.label->palette().color(QPalette::WindowText).lightness(), 64);
   EXPECT_GT(dialog.box->palette().color(QPalette::Base).lightness(), 192);

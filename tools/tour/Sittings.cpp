@@ -141,6 +141,28 @@ void ReadItAgain(Person& person) {
   person.SeeWindow("frmBookcase");
 }
 
+void ExportTheDiary(Person& person) {
+  person.Click("cmdAbout");
+  person.SeeWindow("frmAbout");
+  person.Shot("about");
+  person.PressEscape();
+  person.SeeWindow("frmBookcase");
+  person.Click("cmdExport");
+  person.SeeWindow("frmExport");
+  person.Click("chkShowPageNumbers");
+  person.Shot("export");
+  person.Click("cmdExport");
+  person.Expect(QStringLiteral("the page's own text in the web page"), [] {
+    const std::string path = platform::PathOf("export") + "/My Diary.html";
+    const std::string html = platform::FileExists(path) ? platform::ReadFile(path) : std::string();
+    return html.find("<CENTER>Page #1  </CENTER><BR>") != std::string::npos &&
+           html.find("We stayed in & read,<BR>caf\xE9, 5 \x80, &#1044;&#1072;.\r\n") != std::string::npos;
+  });
+  person.Shot("exported");
+  person.PressEscape();
+  person.SeeWindow("frmBookcase");
+}
+
 void AddAndDelete(Person& person) {
   for (const char* name : {"Garden & house", "<b>Dreams</b>"}) {
     person.Click("cmdAdd");
@@ -196,7 +218,12 @@ const std::vector<Sitting>& Sittings() {
   static const auto leaveByCloseBox = [](Person& person) { person.CloseWindow(); };
   static const std::vector<Sitting> all = {
       {"The first run, the first pages", nullptr, BeginADiary, PressExit},
-      {"The lock, and everything as it was left", nullptr, ReadItAgain, leaveByCloseBox},
+      {"The lock, everything as it was left, and its export", nullptr,
+       [](Person& person) {
+         ReadItAgain(person);
+         ExportTheDiary(person);
+       },
+       leaveByCloseBox},
       {"More journals, and one removed; ended by the system", nullptr,
        [](Person& person) {
          Unlock(person, Rosebud);

@@ -1,0 +1,61 @@
+#include "app/Help.h"
+
+#include <QtCore/QPointer>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
+
+#include "app/HelpWindow.h"
+#include "platform/Failure.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+
+namespace {
+
+constexpr char FileName[] = "THORNQUILL.HLP";
+
+QPointer<HelpWindow> theHelp;
+
+class F1Filter : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1)
+      return false;
+    auto* control = qobject_cast<QWidget*>(receiver);
+    if (!control) return false;  // the window's own part of the way; its control comes next
+    ShowHelp(control->window());
+    return true;
+  }
+};
+
+QString Text() {
+  return QString::fromStdString(platform::ReadFile(platform::PathOf(FileName)));
+}
+
+QString TopicOf(const QWidget* window) {
+  for (; window; window = window->parentWidget())
+    if (theHelp->HasTopic(window->objectName())) return window->objectName();
+  return {};
+}
+
+}  // namespace
+
+void AnswerF1() {
+  qApp->installEventFilter(new F1Filter(qApp));
+}
+
+void ShowHelp(QWidget* window) {
+  if (window == theHelp) return;
+  try {
+    if (!theHelp) theHelp = new HelpWindow(Text());
+  } catch (const platform::Failure& failure) {
+    platform::ShowMessage(
+        "The help cannot be shown. It lies beside the program in the file THORNQUILL.HLP; put it "
+        "there again.\n\n" +
+        std::string(failure.what()));
+    return;
+  }
+  theHelp->ShowTopic(TopicOf(window), window);
+}

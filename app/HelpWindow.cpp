@@ -1,0 +1,128 @@
+#include "app/HelpWindow.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
+#include <QtGui/QShortcut>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QVBoxLayout>
+
+namespace {
+
+constexpr int AnchorRole = Qt::UserRole;
+constexpr QSize DesignSize(840, 600);
+
+// Dark on paper, like the diary's pages, on every desktop.
+void DressAsPaper(QWidget& control) {
+  QPalette palette = control.palette();
+  palette.setColor(QPalette::Base, QColor(0xff, 0xfd, 0xf6));
+  palette.setColor(QPalette::Text, QColor(0x2b, 0x24, 0x30));
+  control.setPalette(palette);
+}
+
+}  // namespace
+
+HelpWindow::HelpWindow(const QString& html) : QWidget(nullptr, Qt::Window) {
+  setObjectName(QStringLiteral("HelpWindow"));
+  setWindowTitle(QStringLiteral("Thornquill Help"));
+  setAttribute(Qt::WA_DeleteOnClose);
+  resize(DesignSize);
+  LayOut();
+  Browser->setHtml(html);
+  ListContents(html);
+
+  connect(cmdBack, &QPushButton::clicked, Browser, &QTextBrowser::backward);
+  connect(Browser, &QTextBrowser::backwardAvailable, cmdBack, &QWidget::setEnabled);
+  connect(lstContents, &QListWidget::itemActivated, this, [this] { Browser->setFocus(); });
+  connect(lstContents, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
+    if (item) GoTo(item->data(AnchorRole).toString());
+  });
+  connect(txtFind, &QLineEdit::returnPressed, this, &HelpWindow::FindNext);
+  connect(txtFind, &QLineEdit::textEdited, this, [this] { TellWhetherFound(true); });
+  connect(cmdFindNext, &QPushButton::clicked, this, &HelpWindow::FindNext);
+  new QShortcut(QKeySequence::Find, txtFind, [this] { txtFind->setFocus(), txtFind->selectAll(); });
+  new QShortcut(QKeySequence(Qt::Key_F3), this, [this] { FindNext(); });
+  new QShortcut(QKeySequence::Back, this, [this] { Browser->backward(); });
+}
+
+void HelpWindow::LayOut() {
+  cmdBack = new QPushButton(QStringLiteral("&Back"));
+  txtFind = new QLineEdit;
+  cmdFindNext = new QPushButton(QStringLiteral("Find &next"));
+  lstContents = new QListWidget;
+  Browser = new QTextBrowser;
+  cmdBack->setEnabled(false);
+  txtFind->setPlaceholderText(QStringLiteral("Find in this page"));
+  txtFind->setAccessibleName(QStringLiteral("the words to find"));
+  lstContents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  lstContents->setAccessibleName(QStringLiteral("the chapters"));
+  Browser->setAccessibleName(QStringLiteral("the help text"));
+  Browser->document()->setDocumentMargin(16);
+  for (QWidget* paper : {static_cast<QWidget*>(lstContents), static_cast<QWidget*>(Browser)})
+    DressAsPaper(*paper);
+
+  auto* bar = new QHBoxLayout;
+  bar->addWidget(cmdBack);
+  bar->addStretch();
+  bar->addWidget(txtFind);
+  bar->addWidget(cmdFindNext);
+  auto* halves = new QSplitter;
+  halves->addWidget(lstContents);
+  halves->addWidget(Browser);
+  halves->setSizes({220, 620});
+  auto* rows = new QVBoxLayout(this);
+  rows->addLayout(bar);
+  rows->addWidget(halves);
+}
+
+// A chapter is a heading of the second level whose anchor stands in it: <h2><a name="...">Title</a></h2>.
+void HelpWindow::ListContents(const QString& html) {
+  static const QRegularExpression heading(QStringLiteral("<h2><a name=\"([^\"]+)\">([^<]+)</a></h2>"));
+  for (const QRegularExpressionMatch& match : heading.globalMatch(html)) {
+    auto* item = new QListWidgetItem(match.captured(2), lstContents);
+    item->setData(AnchorRole, match.captured(1));
+  }
+}
+
+bool HelpWindow::HasTopic(const QString& anchor) const {
+  for (int row = 0; row < lstContents->count(); ++row)
+    if (lstContents->item(row)->data(AnchorRole) == anchor) return true;
+  return false;
+}
+
+void HelpWindow::GoTo(const QString& anchor) {
+  Browser->setSource(QUrl(QStringLiteral("#") + anchor));
+}
+
+void HelpWindow::ShowTopic(const QString& anchor, QWidget* owner) {
+  // A dialog blocks every window but its own children.
+  QWidget* parent = owner && owner->isModal() ? owner : nullptr;
+  if (parentWidget() != parent) setParent(parent, Qt::Window);
+  if (!isVisible()) move(owner->screen()->availableGeometry().center() - rect().center());
+  show();  // a chapter can be scrolled to only when the text has been laid out
+  raise();
+  activateWindow();
+  for (int row = 0; row < lstContents->count(); ++row)
+    if (lstContents->item(row)->data(AnchorRole) == anchor) lstContents->setCurrentRow(row);
+  Browser->setFocus();
+}
+
+void HelpWindow::FindNext() {
+  const QString words = txtFind->text();
+  if (words.isEmpty()) return txtFind->setFocus();
+  if (Browser->find(words)) return TellWhetherFound(true);
+  Browser->moveCursor(QTextCursor::Start);  // once more from the beginning
+  TellWhetherFound(Browser->find(words));
+}
+
+void HelpWindow::TellWhetherFound(bool found) {
+  QPalette palette;
+  if (!found) palette.setColor(QPalette::Text, QColor(0xb0, 0x30, 0x30));
+  txtFind->setPalette(palette);
+  txtFind->setToolTip(found ? QString() : QStringLiteral("These words do not stand in the help."));
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) close();
+}

@@ -1,0 +1,29 @@
+// A box that shows its picture from the top left corner over its background colour.
+#pragma once
+
+#include <cstdint>
+
+#include <QtGui/QPixmap>
+#include <QtWidgets/QWidget>
+
+namespace look {
+
+class PictureBox : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PictureBox(QWidget* parent = nullptr);
+  void SetPicture(const QPixmap& picture);
+  const QPixmap& Picture() const { return picture_; }
+  void SetBackColor(std::uint32_t color);  // 0x00BBGGRR
+  std::uint32_t BackColor() const { return backColor_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QPixmap picture_;
+  std::uint32_t backColor_ = 0xFFFFFF;
+};
+
+}  // namespace look

@@ -1,0 +1,206 @@
+// The settings from their file to the windows and back, the password's change, and the help.
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+
+#include "app/Help.h"
+#include "app/HelpWindow.h"
+#include "app/Settings.h"
+#include "app/frmOptions.h"
+#include "bookcase/frmBookcase.h"
+#include "bookcase/frmNewJournal.h"
+#include "editor/frmJournal.h"
+#include "lock/frmPassChange.h"
+#include "look/Theme.h"
+#include "store/Scrambler.h"
+#include "tests/support/Windows.h"
+
+namespace {
+
+class OptionsTest : public fixture::Windows {
+ protected:
+  static frmOptions& Dialog() { return look::The<frmOptions>(); }
+  // The mean colour of the theme's picture tells the themes apart: -1 for none.
+  static int ThemeOf(const QPixmap& picture) {
+    if (picture.isNull()) return -1;
+    const QColor color = picture.toImage().scaled(1, 1, {}, Qt::SmoothTransformation).pixelColor(0, 0);
+    if (color.blue() > color.red() + 20) return 0;
+    return color.blue() > color.green() + 20 ? 2 : 1;
+  }
+  std::string Settings() const { return std::to_string(chkGotoLastPage) + std::to_string(optColor); }
+};
+
+TEST_F(OptionsTest, ABadValueCostsOneMessageAndNoMore) {
+  const std::string name = folder.PathOf("journal.ini");
+  const struct {
+    const char *goTo, *color;
+    const char* settings;
+    int theme;
+    fixture::Texts messages;
+  } cases[] = {
+      {"", "7", "10", 1, {"GetIniError: Invalid property value: optColor=7 in " + name}},
+      {"", "", "10", 0, {}},
+      {"0", "2", "02", 2, {}},
+      {"abc", "abc", "00", 0, {}},
+      {" 1 and more", "1.9", "11", 1, {}},
+      {"5", "-1", "10", 0, {"GetIniError: Invalid property value: chkGotoLastPage=5 in " + name}},
+      {"", "99999999999", "10", 0, {"GetIniError: Overflow: 99999999999"}},
+  };
+  look::PutOnTheme(1);
+  for (const auto& each : cases) {
+    answers.messages.clear();
+    ResetState();
+    folder.Write("journal.ini",
+                 "[options]\nchkgotolastpage=" + std::string(each.goTo) + "\noptcolor=" + each.color + "\n");
+    LoadSettings();
+    EXPECT_EQ(Settings(), each.settings) << each.color;
+    EXPECT_EQ(answers.texts(), each.messages);
+    EXPECT_EQ(ThemeOf(look::CurrentTheme().large), each.theme) << each.color;
+  }
+}
+
+TEST_F(OptionsTest, AThemeDressesTheOpenWindowsAtOnceAndIsFoundAgain) {
+  LoadSettings();
+  auto& bookcase = look::The<frmBookcase>();
+  auto& book = look::The<frmJournal>();
+  Dialog().show();
+  Dialog().optColor[2]->click();
+  Dialog().chkGotoLastPage->click();
+  for (const QPixmap& picture : {bookcase.Picture(), Dialog().Picture(), book.face->picTop->Picture()})
+    EXPECT_EQ(ThemeOf(picture), 2);
+  for (auto* button : {bookcase.cmdOpen, bookcase.cmdExport, bookcase.cmdProp, Dialog().cmdResetPass})
+    EXPECT_EQ(ThemeOf(button->Picture()), 2);
+  EXPECT_EQ(Dialog().Frame1->palette().window().color(), QColor(0xFF, 0xC0, 0xFF));
+  EXPECT_FALSE(folder.Exists("journal.ini"));
+  Click(Dialog().cmdClose);
+  EXPECT_EQ(folder.Read("journal.ini"), "[Options]\r\nchkGotoLastPage=0\r\noptColor=2\r\n");
+  EXPECT_TRUE(look::IsLoaded<frmOptions>());
+
+  look::UnloadAllForms();
+  ResetState();
+  LoadSettings();
+  EXPECT_EQ(Settings(), "02");
+  EXPECT_TRUE(Dialog().optColor[2]->isChecked());
+  EXPECT_FALSE(Dialog().chkGotoLastPage->isChecked());
+}
+
+// The file is right, but the next touch of a control finds the design's values, and the next close writes
+// them.
+TEST_F(OptionsTest, TheCloseBoxBringsTheDesignValuesBack) {
+  folder.Write("journal.ini", "[Options]\nchkGotoLastPage=0\noptColor=1\n");
+  LoadSettings();
+  Dialog().show();
+  Dialog().close();
+  EXPECT_EQ(folder.Read("journal.ini"), "[Options]\r\nchkGotoLastPage=0\r\noptColor=1\r\n");
+  EXPECT_FALSE(look::IsLoaded<frmOptions>());
+  EXPECT_EQ(chkGotoLastPage, 1);
+  EXPECT_TRUE(Dialog().optColor[0]->isChecked());
+  EXPECT_EQ(ThemeOf(look::CurrentTheme().large), 1) << "what the windows wear stays";
+  Dialog().show();
+  QTest::keyClick(&Dialog(), Qt::Key_Escape);
+  EXPECT_TRUE(look::IsLoaded<frmOptions>()) << "Escape is the button and not the close box";
+  EXPECT_EQ(folder.Read("journal.ini"), "[Options]\r\nchkGotoLastPage=1\r\noptColor=0\r\n");
+}
+
+TEST_F(OptionsTest, TellsOfAFileThatCannotBeWritten) {
+  LoadSettings();
+  folder.Block("journal.ini");
+  Dialog().show();
+  Click(Dialog().cmdClose);
+  EXPECT_NE(answers.last().find("journal.ini"), std::string::npos);
+  EXPECT_FALSE(Dialog().isVisible());
+  LoadSettings();
+  EXPECT_EQ(answers.last().substr(0, 13), "GetIniError: ");
+}
+
+TEST_F(OptionsTest, ThePasswordChangesOnlyWhenEverythingIsRight) {
+  const std::string tooLong(129, 'a');
+  const struct {
+    std::string old, fresh, again, message;
+    bool clears = false;
+  } cases[] = {{"Old ", "", "", "Old password incorrect!"},
+               {"old", "a", "b", "Old password incorrect!"},
+               {"Old", "", "b", "You have not entered a new password!"},
+               {"Old", "b", "", "You have not re-entered your new password!"},
+               {"Old", "b", "B", "New password entries do not match!", true},
+               {"Old", tooLong, tooLong, "The password has 129 characters. It can have at most 128."}};
+  MasterPassword = ScrambleText("Old");
+  PageShift = 'd';
+  auto& dialog = look::The<frmPassChange>();
+  dialog.show();
+  const auto enter = [&](const std::string& old, const std::string& fresh, const std::string& again) {
+    dialog.txtPass->setText(QString::fromStdString(old));
+    dialog.txtNewPass->setText(QString::fromStdString(fresh));
+    dialog.txtNewPass2->setText(QString::fromStdString(again));
+    Click(dialog.cmdOK);
+  };
+  for (const auto& [old, fresh, again, message, clears] : cases) {
+    enter(old, fresh, again);
+    EXPECT_EQ(answers.last(), message);
+    EXPECT_EQ(answers.messages.back().icon, platform::BoxIcon::Stop);
+    EXPECT_EQ(dialog.txtNewPass->text().isEmpty(), clears || fresh.empty()) << message;
+    EXPECT_EQ(UnscrambleText(MasterPassword), "Old");
+    EXPECT_TRUE(dialog.isVisible());
+  }
+  enter("Old", "b\xC3\xA9", "b\xC3\xA9");
+  EXPECT_EQ(answers.messages.size(), std::size(cases));
+  EXPECT_EQ(UnscrambleText(MasterPassword), "b\xE9");
+  EXPECT_EQ(PageShift, 'd');
+  EXPECT_FALSE(look::IsLoaded<frmPassChange>());
+}
+
+class HelpTest : public OptionsTest {
+ protected:
+  HelpTest() { AnswerF1(); }
+  static HelpWindow* Window() {
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (auto* help = qobject_cast<HelpWindow*>(window); help && help->isVisible()) return help;
+    return nullptr;
+  }
+  static QString Chapter() {
+    const QListWidgetItem* item = Window() ? Window()->lstContents->currentItem() : nullptr;
+    return item ? item->text() : QString();
+  }
+};
+
+TEST_F(HelpTest, F1LeadsToTheChapterOfTheWindowAlsoWhileItBlocksTheOthers) {
+  auto& bookcase = look::The<frmBookcase>();
+  bookcase.ShowModeless();
+  QTest::keyClick(bookcase.ListView1, Qt::Key_F1);
+  EXPECT_NE(answers.last().find("THORNQUILL.HLP"), std::string::npos) << "the file is missing";
+
+  folder.Write("THORNQUILL.HLP",
+               "<h2><a name=\"frmBookcase\">The bookcase</a></h2>text<h2><a name=\"frmNewJournal\">A new "
+               "one</a></h2>needle<p>needle");
+  QTest::keyClick(bookcase.ListView1, Qt::Key_F1);
+  EXPECT_EQ(Chapter(), u"The bookcase");
+  QTimer::singleShot(0, [] {
+    auto& dialog = look::The<frmNewJournal>();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    Click(dialog.cmdHelp);
+    EXPECT_TRUE(QTest::qWaitFor([] { return Chapter() == u"A new one"; }));
+    if (!Window()) return dialog.close(), void();
+    HelpWindow& help = *Window();
+    EXPECT_EQ(help.parentWidget(), &dialog);
+    help.txtFind->setText(QStringLiteral("NEEDLE"));
+    for (int i = 0; i < 3; ++i) Click(help.cmdFindNext);
+    EXPECT_EQ(help.Browser->textCursor().selectedText(), u"needle");
+    QTest::keyClick(help.Browser, Qt::Key_Escape);
+    EXPECT_FALSE(Window());
+    dialog.close();
+  });
+  Click(bookcase.cmdAdd);
+  EXPECT_EQ(answers.messages.size(), 1u);
+}
+
+// Every window that has the key has a chapter in the help that the program brings along.
+TEST_F(HelpTest, TheHelpHasAChapterForEachWindow) {
+  QFile file(QStringLiteral(TEST_SAMPLES "/../../help/THORNQUILL.HLP"));
+  ASSERT_TRUE(file.open(QFile::ReadOnly));
+  const HelpWindow help(QString::fromUtf8(file.readAll()));
+  for (const char* name : {"frmPass", "frmInitJournal", "frmBookcase", "frmNewJournal", "frmJournal",
+                           "frmIndex", "frmCal", "frmEmoticons", "frmAddPicture", "frmJournalProp",
+                           "frmExport", "frmOptions", "frmPassChange", "frmAbout", "FontDialog"})
+    EXPECT_TRUE(help.HasTopic(QString::fromLatin1(name))) << name;
+}
+
+}  // namespace
