@@ -115,3 +115,16 @@ TEST(PictureStoreTest, EveryTruncationOfTheOlderStoreGivesTheWholeRows) {
     EXPECT_EQ(outline, expected) << size;
   }
 }
+
+TEST(PictureStoreTest, TheSamplesHoldWhatTheirContentsTell) {
+  const std::string logo = "/usr/share/pixmaps/debian-logo.png", bytes = Sample("3-pictures/tqpics.bin");
+  const auto sample = store::DecodePictureStore(bytes);
+  EXPECT_EQ(Outline(sample), "sound ," + logo + ",C:\\Photos\\caf\xE9.jpg,,");
+  EXPECT_EQ(sample.rows[1],
+            (PagePicture{logo, 120, 140, 0, "", 0, "", 1, "My Diary", "j00000.tqf", 158, 400}));
+  EXPECT_EQ(store::EncodePictureStore(sample.rows), Raw(4, 4) + bytes.substr(4) + blankRecord);
+  const auto older = store::DecodeOldPictureStore(Sample("4-older-pictures/jpics.bin"));
+  EXPECT_EQ(Outline(older), "sound ," + logo + ",");
+  EXPECT_EQ(older.rows[1],
+            (PagePicture{logo, 110, 100, 5, "old", 0, "", 1, "My Diary", "j00000.tqf", 64, 20}));
+}
