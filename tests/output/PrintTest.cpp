@@ -73,6 +73,9 @@ TEST_F(Print, RangesCountFromTheTitlePageToTheLastThatTheBookcaseKnows) {
   EXPECT_EQ(PrintOnLetter(PrintChoice::Pages, 1, 2), (Sheets{{"day 40001", "one", "day 40002", "two"}}));
   EXPECT_EQ(PrintOnLetter(PrintChoice::All)[0].size(), 5U);
   EXPECT_EQ(std::tuple(asked.selection, asked.highest, asked.from, asked.to), std::tuple(false, 2, 1, 1));
+  Journals.back().PageCount = 9;  // of a file that has gone since
+  EXPECT_EQ(PrintOnLetter(PrintChoice::All)[0].size(), 7U);
+  EXPECT_EQ(answers.texts(), Texts());
 }
 
 TEST_F(Print, ASelectionIsLiveAndPagesAreAsStored) {
