@@ -53,6 +53,17 @@ void PutInPlace(PrintRange& range, QPrintDialog& dialog) {
     dialog.setOptionTabs({&range});
 }
 
+// Tab goes as the eye does: from the printer over our choice to the buttons.
+void PutInTabOrder(PrintRange& range, QPrintDialog& dialog) {
+  auto* before = dialog.findChild<QWidget*>(QStringLiteral("fileBrowser"));
+  const std::initializer_list<QWidget*> controls = {range.optAll, range.optPages, range.spnFrom, range.spnTo,
+                                                    range.optSelection};
+  for (QWidget* control : controls) {
+    if (before) QWidget::setTabOrder(before, control);
+    before = control;
+  }
+}
+
 QPrintDialog* MakeDialog(QPrinter& printer, PrintRange*& range, const PrintRequest& request) {
   auto* dialog = new QPrintDialog(&printer, QApplication::activeWindow());
   dialog->setObjectName(QStringLiteral("PrintDialog"));
@@ -60,6 +71,7 @@ QPrintDialog* MakeDialog(QPrinter& printer, PrintRange*& range, const PrintReque
                      QAbstractPrintDialog::PrintCollateCopies);
   range = new PrintRange(request, dialog);
   PutInPlace(*range, *dialog);
+  PutInTabOrder(*range, *dialog);
   return dialog;
 }
 

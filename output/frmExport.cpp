@@ -4,6 +4,7 @@
 
 #include "editor/PageFace.h"
 #include "output/PageLines.h"
+#include "pictures/PictureSlots.h"
 #include "platform/CodePage.h"
 #include "platform/Keystroke.h"
 #include "platform/MessageBox.h"
@@ -33,6 +34,12 @@ QCheckBox* Choice(const char* text) {
 
 QPushButton* Button(const char* text) {
   return new QPushButton(QString::fromLatin1(text));
+}
+
+// As it was typed: the toolkit's plain text has blanks for no-break spaces.
+QString TextIn(const QPlainTextEdit& box) {
+  QString text = box.document()->toRawText();
+  return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
 }
 
 }  // namespace
@@ -124,7 +131,7 @@ ExportSettings frmExport::Settings() const {
   ExportSettings settings;
   settings.title = WebLines(txtHTMLTitle->text());
   settings.headline = WebLines(txtH3headline->text());
-  settings.footer = WebLines(txtFooter->toPlainText());
+  settings.footer = WebLines(TextIn(*txtFooter));
   settings.dateIndex = chkDateIndex->isChecked();
   settings.topMenu = chkTopMenu->isChecked();
   settings.showDates = chkShowDates->isChecked();
@@ -178,8 +185,10 @@ void frmExport::ShowResult(const std::string& path) {
   cmdViewWebPage->setFocus();  // the disabled button has lost it
 }
 
-// The journal was loaded for the export alone: it goes as at a closing, so that no plain page stays behind.
+// The journal was loaded for the export alone: it goes as at a closing, so that no plain page and no
+// photograph stays behind.
 void frmExport::CloseBox() {
+  HidePagePictures();
   ForgetPages();
   Face().txtM->SetTextRTF({});
   Form::CloseBox();

@@ -1,5 +1,6 @@
 #include "output/modPrint.h"
 
+#include <algorithm>
 #include <optional>
 
 #include <QtGui/QGuiApplication>
@@ -52,10 +53,14 @@ void PrintSelectionOf(const richtext::RichTextBox& box, const PrintOrder& order)
 
 // The dialog's bounds and the range of all pages come from the bookcase's row, which knows the pages that the
 // journal had when it was opened.
+std::int32_t LastPage() {
+  return std::min(OpenEntry().PageCount, PageCount);  // fewer are there if the journal's file has gone
+}
+
 PrintRequest RequestOf() {
   PrintRequest request;
   request.selection = Face().txtM->SelLength() != 0;
-  request.highest = OpenEntry().PageCount;
+  request.highest = LastPage();
   request.from = request.to = CurrentPage;
   return request;
 }
@@ -102,6 +107,6 @@ void PrintJournal() {
     case PrintChoice::Selection:
       return PrintSelection(*order);
     case PrintChoice::All:
-      return PrintPages(0, OpenEntry().PageCount, *order);
+      return PrintPages(0, LastPage(), *order);
   }
 }

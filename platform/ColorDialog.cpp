@@ -24,7 +24,10 @@ DialogResult<std::uint32_t> AskOnTheDesktop(const ColorQuestion& question) {
   dialog->setWindowTitle(QStringLiteral("Color"));
   dialog->setOption(QColorDialog::DontUseNativeDialog);
   DialogResult<std::uint32_t> result{{DialogEnd::Cancelled, {}}};
-  if (dialog->exec() == QDialog::Accepted && dialog) result = {{}, FromColor(dialog->selectedColor())};
+  if (dialog->exec() == QDialog::Accepted && dialog) {
+    result.end.number = 0;
+    result.choice = FromColor(dialog->selectedColor());
+  }
   delete dialog;
   return result;
 }

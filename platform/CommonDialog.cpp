@@ -7,8 +7,9 @@ namespace platform {
 bool WasChosen(const DialogEnd& end, std::string_view what) {
   if (end.number == 0) return true;
   if (end.number == DialogEnd::Cancelled) return false;
-  const std::string number = (end.number > 0 ? " " : "") + std::to_string(end.number);
-  ShowMessage("Error" + number + " selecting " + std::string(what) + ".\r\n" + end.description);
+  std::string text = end.number > 0 ? "Error " : "Error";
+  text.append(std::to_string(end.number)).append(" selecting ").append(what).append(".\r\n");
+  ShowMessage(text.append(end.description));
   return false;
 }
 

@@ -19,7 +19,10 @@ DialogResult<FontValues> AskOnTheDesktop(const FontQuestion& question) {
   // The window under the dialog may be destroyed while it is up, and takes the dialog with it.
   QPointer<FontPicker> dialog = new FontPicker(question, QApplication::activeWindow());
   DialogResult<FontValues> result{{DialogEnd::Cancelled, {}}, {}};
-  if (dialog->exec() == QDialog::Accepted && dialog) result = {{}, dialog->Values()};
+  if (dialog->exec() == QDialog::Accepted && dialog) {
+    result.end.number = 0;
+    result.choice = dialog->Values();
+  }
   delete dialog;
   return result;
 }

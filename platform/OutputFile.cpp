@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 #include "platform/Errno.h"
 #include "platform/Files.h"
@@ -38,12 +39,16 @@ void WriteAll(const std::string& path, std::string_view bytes, Write&& write) {
 void AppendToFile(const std::string& path, std::string_view bytes) {
   struct Opened {
     int descriptor;
-    ~Opened() { close(descriptor); }
+    ~Opened() {
+      if (descriptor >= 0) close(descriptor);
+    }
   };
-  const Opened file{OpenForWriting(path, O_APPEND)};
+  Opened file{OpenForWriting(path, O_APPEND)};
   WriteAll(path, bytes, [&](std::string_view rest, std::size_t) {
     return write(file.descriptor, rest.data(), rest.size());
   });
+  // A disk behind a network tells only now that it is full.
+  if (close(std::exchange(file.descriptor, -1)) != 0 && errno != EINTR) Fail(path);
 }
 
 OutputFile::OutputFile(const std::string& path) : descriptor_(OpenForWriting(path, 0)), path_(path) {}

@@ -1,4 +1,4 @@
-// A paper that keeps what is drawn on it and where, sheet by sheet.
+// A printer that keeps what is drawn on it and where, sheet by sheet.
 #pragma once
 
 #include <cmath>
@@ -50,75 +50,53 @@ class RecordingEngine : public QPaintEngine {
   QTransform dots_;
 };
 
-class RecordingDevice : public QPaintDevice {
+class Printed : public QPaintDevice {
  public:
-  RecordingDevice(QSizeF size, int dotsPerInch) : size_(size), dotsPerInch_(dotsPerInch) {}
-  QPaintEngine* paintEngine() const override { return &engine; }
+  Printed(QSizeF inches, int dotsPerInch) : inches_(inches), dotsPerInch_(dotsPerInch) {}
 
-  QSizeF Points() const { return size_ * 72.0 / dotsPerInch_; }
+  QPaintEngine* paintEngine() const override { return &engine_; }
+  // `whole`: what it says at the end of whether all has arrived.
+  std::unique_ptr<richtext::Paper> Paper(bool whole = true) { return std::make_unique<Sheet>(*this, whole); }
 
-  mutable RecordingEngine engine;
-
- protected:
-  int metric(PaintDeviceMetric metric) const override {
-    switch (metric) {
-      case PdmWidth:
-        return static_cast<int>(size_.width());
-      case PdmHeight:
-        return static_cast<int>(size_.height());
-      case PdmDpiX:
-      case PdmDpiY:
-      case PdmPhysicalDpiX:
-      case PdmPhysicalDpiY:
-        return dotsPerInch_;
-      case PdmDevicePixelRatioScaled:
-        return static_cast<int>(devicePixelRatioFScale());
-      case PdmDevicePixelRatio:
-        return 1;
-      default:
-        return 24;
-    }
-  }
-
- private:
-  QSizeF size_;
-  int dotsPerInch_;
-};
-
-class RecordedPaper : public richtext::Paper {
- public:
-  explicit RecordedPaper(RecordingDevice& device) : device_(device) {}
-  QPaintDevice& Device() override { return device_; }
-  QSizeF Area() const override { return device_.Points(); }
-  bool NextSheet() override { return ++device_.engine.sheet, true; }
-
- private:
-  RecordingDevice& device_;
-};
-
-// A printer, and the lines on its sheets as a person reads them, from left to right.
-class Printed {
- public:
-  Printed(QSizeF inches, int dotsPerInch) : device(inches * dotsPerInch, dotsPerInch) {}
-
-  std::unique_ptr<richtext::Paper> Paper() { return std::make_unique<RecordedPaper>(device); }
-
-  // The lines of each sheet.
+  const std::vector<Drawn>& All() const { return engine_.drawn; }
+  // The lines of each sheet as a person reads them, from left to right.
   std::vector<Texts> Sheets() const {
     std::map<std::pair<std::size_t, long>, std::multimap<double, std::string>> lines;
     for (const Drawn& drawn : All())
       lines[{drawn.sheet, std::lround(drawn.at.y())}].emplace(
           drawn.at.x(), drawn.text.isEmpty() ? "[picture]" : drawn.text.toStdString());
-    std::vector<Texts> sheets(device.engine.sheet + 1);
+    std::vector<Texts> sheets(engine_.sheet + 1);
     for (const auto& [place, parts] : lines) {
       std::string& line = sheets[place.first].emplace_back();
       for (const auto& part : parts) line += part.second;
     }
     return sheets;
   }
-  const std::vector<Drawn>& All() const { return device.engine.drawn; }
 
-  RecordingDevice device;
+ protected:
+  int metric(PaintDeviceMetric metric) const override {
+    if (metric == PdmWidth) return static_cast<int>(inches_.width() * dotsPerInch_);
+    if (metric == PdmHeight) return static_cast<int>(inches_.height() * dotsPerInch_);
+    if (metric == PdmDevicePixelRatio) return 1;
+    if (metric == PdmDevicePixelRatioScaled) return static_cast<int>(devicePixelRatioFScale());
+    return dotsPerInch_;
+  }
+
+ private:
+  struct Sheet : richtext::Paper {
+    Sheet(Printed& printer, bool isWhole) : device(printer), whole(isWhole) {}
+    QPaintDevice& Device() override { return device; }
+    QSizeF Area() const override { return device.inches_ * 72.0; }
+    bool NextSheet() override { return ++device.engine_.sheet, true; }
+    bool IsWhole() const override { return whole; }
+
+    Printed& device;
+    bool whole;
+  };
+
+  QSizeF inches_;
+  int dotsPerInch_;
+  mutable RecordingEngine engine_;
 };
 
 }  // namespace fixture

@@ -222,11 +222,12 @@ void Person::Settle() {
 
 void Person::Shot(const char* name) {
   Settle();
-  Do([&] {
-    const QString file = QStringLiteral("%1/%2-%3.png")
-                             .arg(album_)
-                             .arg(number_++, 2, 10, QLatin1Char('0'))
-                             .arg(QLatin1String(name));
-    QApplication::primaryScreen()->grabWindow(0).save(file);
-  });
+  Do([&] { QApplication::primaryScreen()->grabWindow(0).save(NextPicture(name)); });
+}
+
+QString Person::NextPicture(const char* name) {
+  return QStringLiteral("%1/%2-%3.png")
+      .arg(album_)
+      .arg(number_++, 2, 10, QLatin1Char('0'))
+      .arg(QLatin1String(name));
 }

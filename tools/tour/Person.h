@@ -39,6 +39,8 @@ class Person {
   void CloseWindow();
   void PressEscape();
   void Shot(const char* name);
+  // The path of the album's next picture, for one that is made otherwise.
+  QString NextPicture(const char* name);
 
   // Waits until the question is answered with yes, or fails with the words of what was expected.
   void Expect(const QString& expected, const std::function<bool()>& question);

@@ -9,6 +9,7 @@
 #include "platform/Files.h"
 #include "state/State.h"
 #include "tools/tour/PictureSittings.h"
+#include "tools/tour/PrintSitting.h"
 
 namespace {
 
@@ -208,6 +209,7 @@ void OpenTheGardenNotes(Person& person) {
   person.Shot("twelve-years-bookcase");
   person.Click("cmdOpen");
   person.SeeWindow("frmJournal");
+  person.Click("btnLastPage");  // their settings open a journal on its title page
   person.Expect(QStringLiteral("the last page"),
                 [] { return Book().face->lblPageNum1->text() == QStringLiteral("Page 120"); });
   person.Shot("twelve-years");
@@ -246,6 +248,12 @@ const std::vector<Sitting>& Sittings() {
          FindPicturesAgain(person);
        },
        leaveTheJournal},
+      {"A page on paper", nullptr,
+       [](Person& person) {
+         Unlock(person, Rosebud);
+         PrintAPage(person);
+       },
+       PressExit},
       {"More journals, and one removed; ended by the system", nullptr,
        [](Person& person) {
          Unlock(person, Rosebud);
