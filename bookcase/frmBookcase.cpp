@@ -166,8 +166,7 @@ bool frmBookcase::DressJournalWindow() {
           Qt::UniqueConnection);
   CurrentJournal = SelectedRow();
   JournalEntry& entry = EntryOf(CurrentJournal);
-  book.face->txtM->SetBackColor(entry.PaperColor);
-  book.face->picBinding->SetBackColor(entry.PaperColor);
+  book.face->SetPaper(entry.PaperColor);
   book.setWindowIcon(JournalIcon(entry.Icon));
   book.SetCaption(QStringLiteral("Thornquill [%1]").arg(platform::FromCodePage(entry.Name)));
   LoadJournalFile(entry.FileName);

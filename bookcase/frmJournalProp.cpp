@@ -226,8 +226,7 @@ void frmJournalProp::DressJournalWindow() {
   book.setWindowIcon(JournalIcon(row.Icon));
   book.SetCaption(QStringLiteral("Thornquill [%1]").arg(platform::FromCodePage(row.Name)));
   ApplyJournalFont();
-  book.face->txtM->SetBackColor(lblSamplePage->BackColor());
-  book.face->picBinding->SetBackColor(lblSamplePage->BackColor());
+  book.face->SetPaper(lblSamplePage->BackColor());
 }
 
 std::int32_t GetFileLength(const std::string& path) {

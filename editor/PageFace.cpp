@@ -100,6 +100,12 @@ void PageFace::SetHeader(const QString& date, const QString& pageNumber) {
   lblPageNum1->move(Pixels(NumberRight) - lblPageNum1->width(), lblPageNum1->y());
 }
 
+void PageFace::SetPaper(std::uint32_t color) {
+  txtM->SetBackColor(color);
+  picBinding->SetBackColor(color);
+  pictures->SetPaper(color);
+}
+
 // Without a theme the strip is pale all the same: the letters on it are black.
 void PageFace::WearTheme() {
   constexpr QRgb plain = 0xF0F0F0;

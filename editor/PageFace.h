@@ -32,6 +32,9 @@ class PageFace : public QWidget {
   // number from its right one.
   void SetHeader(const QString& date, const QString& pageNumber);
 
+  // Gives the text, the binding and the pictures the journal's paper, 0x00BBGGRR.
+  void SetPaper(std::uint32_t color);
+
   // The head strip's height in twips, 870 by design. The binding follows its bottom edge; the text does not.
   void SetHeadHeight(int twips);
   // Puts the theme in force on the head strip; paper and binding belong to the journal.

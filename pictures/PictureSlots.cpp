@@ -117,7 +117,6 @@ void PictureSlots::Show(std::size_t slot, std::int32_t row) {
   picDisplayPics[slot]->resize(size);
   imgController[slot]->resize(size.width(), HandleHeight);
   picDisplayPics[slot]->move(PlaceOf(picture));
-  picDisplayPics[slot]->SetBackColor(Journals.at(static_cast<std::size_t>(CurrentJournal)).PaperColor);
   imgFrame[slot]->hide();
   picDisplayPics[slot]->show();
   ShowFrame(slot, picture);
@@ -142,6 +141,10 @@ void PictureSlots::ForgetImagesFrom(std::size_t slot) {
 
 void PictureSlots::Hide() {
   for (look::PictureBox* box : picDisplayPics) box->hide();
+}
+
+void PictureSlots::SetPaper(std::uint32_t color) {
+  for (look::PictureBox* box : picDisplayPics) box->SetBackColor(color);
 }
 
 void PictureSlots::HideControllers() {

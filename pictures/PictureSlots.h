@@ -47,6 +47,8 @@ class PictureSlots : public QObject {
   std::optional<platform::Failure> DealOut();
   void Hide();
   void HideControllers();
+  // The paper's colour, 0x00BBGGRR, which shows where a photograph is transparent.
+  void SetPaper(std::uint32_t color);
   int PageHeight() const { return page_->height(); }
 
  Q_SIGNALS:

@@ -1,12 +1,10 @@
 #include "pictures/frmAddPicture.h"
 
-#include <algorithm>
-
-#include <QtCore/QDir>
 #include <QtCore/QFile>
 
 #include "pictures/AddPicture.h"
 #include "platform/Failure.h"
+#include "platform/FileList.h"
 #include "platform/Files.h"
 #include "platform/Keystroke.h"
 #include "platform/MessageBox.h"
@@ -124,20 +122,14 @@ void frmAddPicture::Form_Activate() {
 // In the order of the names' bytes, the same on every machine.
 void frmAddPicture::ReadFrames() {
   File1->clear();
-  const std::string path = FramesFolder();
-  const QDir folder(QFile::decodeName(path.c_str()));
-  if (!folder.isReadable()) {
-    const platform::Failure failure(platform::FailureKind::PathNotFound, path);
-    platform::ShowMessage(failure.what() +
-                          std::string("\n\nThe frames for pictures lie in this folder. Put it "
-                                      "back beside the program; until then, pictures have no "
-                                      "frame."));
-    return;
+  try {
+    for (const std::string& name : platform::ListFiles(FramesFolder(), {".gif"}))
+      File1->addItem(QFile::decodeName(name.c_str()));
+  } catch (const platform::Failure& failure) {
+    platform::ShowMessage(
+        failure.what() + std::string("\n\nThe frames for pictures lie in this folder. Put it back beside the "
+                                     "program; until then, pictures have no frame."));
   }
-  QStringList names = folder.entryList({QStringLiteral("*.gif")}, QDir::Files, QDir::Unsorted);
-  std::sort(names.begin(), names.end(),
-            [](const QString& a, const QString& b) { return QFile::encodeName(a) < QFile::encodeName(b); });
-  File1->addItems(names);
 }
 
 std::string frmAddPicture::FrameFile(std::int32_t index) const {

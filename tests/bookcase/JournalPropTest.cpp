@@ -105,6 +105,7 @@ TEST_F(JournalPropTest, OkAloneBringsRowWindowAndListUpToDate) {
   const PageFace& face = *Book().face;
   EXPECT_EQ(face.txtM->BackColor(), 0x123456u);
   EXPECT_EQ(face.picBinding->BackColor(), 0x123456u);
+  EXPECT_EQ(face.pictures->picDisplayPics[6]->BackColor(), 0x123456u) << "behind what is transparent";
   EXPECT_EQ(face.txtM->SelFontName(), u"Gone Sans");
   EXPECT_EQ(face.txtM->SelFontSize(), 12);
   EXPECT_EQ(Book().font().family(), u"Gone Sans");

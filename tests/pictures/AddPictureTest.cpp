@@ -1,5 +1,4 @@
 // Adding a picture, from the file dialog to the row, as a person clicks it.
-#include <QtCore/QTimer>
 #include <QtGui/QImage>
 
 #include "pictures/AddPicture.h"
@@ -22,10 +21,7 @@ class AddPicture : public fixture::Windows {
     Journals[1].PaperColor = 0x80FFFF;
     CurrentPage = 2;
     QDir(QString::fromStdString(folder.path())).mkdir(u"frames"_qs);
-    photo = Picture("photo.png", {640, 480}, Qt::blue);
-    lace = Picture("frames/Lace.gif", {20, 20}, Qt::red);
   }
-
   std::string Picture(const char* name, QSize size, QColor color) {
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);
@@ -33,108 +29,97 @@ class AddPicture : public fixture::Windows {
     return folder.PathOf(name);
   }
   // Chooses the file, does that in frmAddPicture and closes it. Whether it opened.
-  bool Add(const std::string& path, const std::function<void()>& inTheDialog) {
+  bool Add(const std::string& path, const std::function<void(frmAddPicture&)>& act) {
     bool opened = false;
     chooser.file = path;
     QTimer::singleShot(0, &page, [&] {
-      opened = dialog().isVisible();
-      if (opened) inTheDialog();
-      dialog().CloseBox();
+      auto& dialog = look::The<frmAddPicture>();
+      opened = dialog.isVisible();
+      if (opened) act(dialog);
+      dialog.CloseBox();
     });
     StartAddPicture();
     QCoreApplication::processEvents();
     return opened;
   }
   bool Insert(const std::string& path) {
-    return Add(path, [] { Click(dialog().cmdOK); });
+    return Add(path, [](frmAddPicture& dialog) { Click(dialog.cmdOK); });
   }
-  static frmAddPicture& dialog() { return look::The<frmAddPicture>(); }
-  static std::string Scale() { return dialog().lblScale->text().toStdString(); }
-  static QColor At(int x, int y) { return dialog().picResize2->grab().toImage().pixelColor(x, y); }
-  static std::string Entries() {
-    QStringList texts;
-    for (int i = 0; i < dialog().List1->count(); ++i) texts += dialog().List1->item(i)->text();
-    return texts.join(u'|').toStdString();
+  static QColor At(const frmAddPicture& dialog, int x, int y) {
+    return dialog.picResize2->grab().toImage().pixelColor(x, y);
+  }
+  static std::string Entries(const frmAddPicture& dialog) {
+    std::string texts;
+    for (int i = 0; i < dialog.List1->count(); ++i)
+      texts += dialog.List1->item(i)->text().toStdString() + "|";
+    return texts;
   }
 
   QWidget page;
   PictureSlots* slots_ = new PictureSlots(&page);
-  std::string photo;
-  std::string lace;
+  const std::string photo = Picture("photo.png", {640, 480}, Qt::blue);
 };
 
 TEST_F(AddPicture, MeasuresTwiceRoundedFromTheSettledFigure) {
-  Texts seen;
-  const auto note = [&seen] {
-    seen.push_back(Scale().substr(7) + " " + std::to_string(AddWidth) + "x" + std::to_string(AddHeight));
-    EXPECT_EQ(dialog().picResize2->size(), QSize(AddWidth, AddHeight));
-  };
-  Add(photo, [&] {
-    note();
-    const frmAddPicture& d = dialog();
-    for (auto* button : {d.cmdResizeFactor10, d.cmdResizeFactor25, d.cmdResizeFactor50, d.cmdResizeFactor75,
-                         d.cmdResizeFactor100, d.cmdResizeFactor200, d.cmdResizeFactorUP})
-      Click(button), note();
-  });
-  EXPECT_EQ(seen, (Texts{"25% 282x212", "10% 113x85", "25% 282x212", "50% 564x424", "75% 847x635",
-                         "100% 1129x847", "200% 2258x1694", "201% 2269x1702"}));
-  EXPECT_EQ(chooser.asked.at(0).filters.at(0).patterns, "*.GIF;*.JPG;*.BMP");
-  EXPECT_EQ(chooser.asked.at(0).filters.at(4).description, "All Files (*.*)");
-  EXPECT_TRUE(Pictures.empty());
-}
-
-TEST_F(AddPicture, GetsSmallerTwentyFourTimes) {
-  Add(photo, [] {
+  std::string seen;
+  Add(photo, [&](frmAddPicture& d) {
+    for (auto* button : {d.cmdResizeFactor25, d.cmdResizeFactor10, d.cmdResizeFactor50, d.cmdResizeFactor75,
+                         d.cmdResizeFactor100, d.cmdResizeFactor200, d.cmdResizeFactorUP}) {
+      if (!seen.empty()) Click(button);  // it opens at 25%
+      seen += d.lblScale->text().toStdString() + "=" + std::to_string(AddWidth) + "x" +
+              std::to_string(AddHeight) + " ";
+      EXPECT_EQ(d.picResize2->size(), QSize(AddWidth, AddHeight));
+    }
+    Click(d.cmdResizeFactor25);
     for (int press = 1; press <= 26; ++press) {
       const double scale = AddScale;
-      Click(dialog().cmdResizeFactorDN);
+      Click(d.cmdResizeFactorDN);
       EXPECT_EQ(AddScale < scale, press <= 24) << press;
     }
-    EXPECT_LT(AddScale, 0.01);
-    EXPECT_EQ(Scale(), "Scale: 1%");
+    EXPECT_EQ(d.lblScale->text(), u"Scale: 1%");
   });
+  EXPECT_EQ(seen,
+            "Scale: 25%=282x212 Scale: 10%=113x85 Scale: 50%=564x424 Scale: 75%=847x635 "
+            "Scale: 100%=1129x847 Scale: 200%=2258x1694 Scale: 201%=2269x1702 ");
+  EXPECT_EQ(chooser.asked.at(0).filters.at(0).patterns, "*.GIF;*.JPG;*.BMP");
+  EXPECT_TRUE(Pictures.empty());
 }
 
 // One pixel of paper above and beside the picture, and nothing but paper beyond the surface's edge.
 TEST_F(AddPicture, ShowsThePreviewOnThePapersColour) {
-  Add(photo, [] {
+  Add(photo, [](frmAddPicture& dialog) {
     const QColor paper(0xFF, 0xFF, 0x80);
-    for (const QPoint place : {QPoint(0, 100), QPoint(100, 0)}) EXPECT_EQ(At(place.x(), place.y()), paper);
-    for (const int place : {1, 208}) EXPECT_EQ(At(place, place), QColor(Qt::blue));
-    Click(dialog().cmdResizeFactor100);
-    EXPECT_EQ(At(999, 500), QColor(Qt::blue));
-    EXPECT_EQ(At(1001, 500), paper);
+    Click(dialog.cmdResizeFactor100);
+    for (const auto& [x, color] : {std::pair{0, paper}, {1, QColor(Qt::blue)}, {1001, paper}})
+      EXPECT_EQ(At(dialog, x, 500), color) << x;
   });
 }
 
 TEST_F(AddPicture, ListsTheFramesAfreshAtEachOpening) {
-  Picture("frames/wood.GIF", {20, 20}, Qt::red);
+  Picture("frames/my.wood.GIF", {20, 20}, Qt::red);
   folder.Write("frames/Lace.svg", "");
-  EXPECT_TRUE(Add(photo, [] {
-    EXPECT_EQ(Entries(), "No Frame|Lace|wood");
-    dialog().List1->setCurrentRow(2);
-    EXPECT_EQ(AddFrameIndex, 2);
-    EXPECT_EQ(At(9, 9), QColor(Qt::red));
-  }));
-  folder.Write("frames/note.gif", "no picture");
-  EXPECT_TRUE(Add(photo, [this] {
+  Add(photo, [](frmAddPicture& dialog) {
+    EXPECT_EQ(Entries(dialog), "No Frame|my.wood|");
+    dialog.List1->setCurrentRow(1);
+    EXPECT_EQ(At(dialog, 9, 9), QColor(Qt::red));
+  });
+  folder.Write("frames/Note.gif", "no picture");
+  Add(photo, [this](frmAddPicture& dialog) {
     EXPECT_EQ(AddFrameIndex, 0);
-    EXPECT_EQ(At(9, 9), QColor(Qt::blue));
-    dialog().List1->setCurrentRow(2);
-    EXPECT_NE(answers.last().find("frames/note.gif"), std::string::npos);
-    EXPECT_EQ(dialog().List1->currentRow(), 0);
-  }));
+    dialog.List1->setCurrentRow(1);
+    EXPECT_NE(answers.last().find("frames/Note.gif"), std::string::npos);
+    EXPECT_EQ(dialog.List1->currentRow(), 0);
+  });
   QDir(QString::fromStdString(folder.PathOf("frames"))).removeRecursively();
-  EXPECT_TRUE(Add(photo, [this] {
-    EXPECT_EQ(Entries(), "No Frame");
-    EXPECT_EQ(answers.last().find("Path not found: " + folder.PathOf("frames")), 0U);
-  }));
+  EXPECT_TRUE(Add(photo, [](frmAddPicture& dialog) { EXPECT_EQ(Entries(dialog), "No Frame|"); }));
+  EXPECT_EQ(answers.last().find("Path not found: " + folder.PathOf("frames")), 0U);
 }
 
 TEST_F(AddPicture, LaysPicturesInAColumnUntilThePageIsFull) {
-  Add(photo, [] {
-    dialog().List1->setCurrentRow(1);
-    Click(dialog().cmdOK);
+  const std::string lace = Picture("frames/Lace.gif", {20, 20}, Qt::red);
+  Add(photo, [](frmAddPicture& dialog) {
+    dialog.List1->setCurrentRow(1);
+    Click(dialog.cmdOK);
   });
   const PagePicture first{photo, 282, 212, 0, {}, 1, lace, 2, "Summer", "j00001.tqf", 42, 400, False};
   ASSERT_EQ(Pictures, (std::vector<PagePicture>{{}, first}));
@@ -142,13 +127,10 @@ TEST_F(AddPicture, LaysPicturesInAColumnUntilThePageIsFull) {
   EXPECT_TRUE(folder.Exists("tqpics.bin"));
 
   Pictures[1].Top = 5000;  // dragged: only the heights are looked at
-  std::vector<std::int32_t> tops;
-  for (int i = 2; i <= 7; ++i) {
-    EXPECT_TRUE(Insert(photo)) << i;
-    tops.push_back(Pictures.back().Top);
+  for (const int top : {228, 456, 40, 268, 496, 40}) {
+    EXPECT_TRUE(Insert(photo));
+    EXPECT_EQ(Pictures.back().Top, top);
   }
-  EXPECT_EQ(tops, (std::vector<std::int32_t>{228, 456, 40, 268, 496, 40}));
-
   Pictures[3].PictureFile = "/gone.jpg";  // counts all the same
   chooser.asked.clear();
   EXPECT_FALSE(Insert(photo));
@@ -159,15 +141,13 @@ TEST_F(AddPicture, LaysPicturesInAColumnUntilThePageIsFull) {
 }
 
 TEST_F(AddPicture, StoresNothingThatCannotBeShown) {
-  StartAddPicture();  // cancelled
-  EXPECT_TRUE(answers.messages.empty());
   folder.Write("letter.jpg", "Dear diary");
   EXPECT_FALSE(Insert(folder.PathOf("letter.jpg")));
   EXPECT_NE(answers.last().find("letter.jpg"), std::string::npos);
-  EXPECT_TRUE(Add(photo, [this] {
+  Add(photo, [this](frmAddPicture& dialog) {
     QFile::remove(QString::fromStdString(photo));
-    Click(dialog().cmdOK);
-  }));
+    Click(dialog.cmdOK);
+  });
   EXPECT_EQ(answers.last(), "File not found: " + photo);
   EXPECT_EQ(PictureCount, 0);
   EXPECT_FALSE(folder.Exists("tqpics.bin"));

@@ -32,29 +32,17 @@ class PictureStores : public fixture::Desk {
   }
 };
 
-TEST_F(PictureStores, WithoutAStoreThereIsNoRowAndASaveFailsWithNothingOnDisk) {
+TEST_F(PictureStores, NoRowIsThereWithoutAStoreAndOneMoreWithIt) {
   LoadPictureStore();
   EXPECT_EQ(PictureCount, 0);
   EXPECT_TRUE(Pictures.empty());
-  fixture::ExpectFailure(platform::FailureKind::SubscriptOutOfRange, "", SavePictureStore);
   WriteStore({"", "/old"});
   const std::string before = folder.Read(store);
   fixture::ExpectFailure(platform::FailureKind::SubscriptOutOfRange, "", SavePictureStore);
   EXPECT_EQ(folder.Read(store), before);
-}
-
-TEST_F(PictureStores, LoadingAndSavingAddsOneBlankRecord) {
-  WriteStore({"", "/a", "/b"});
-  std::string bytes = folder.Read(store);
-  for (int round = 4; round < 6; ++round) {
-    LoadPictureStore();
-    SavePictureStore();
-    bytes[0] = static_cast<char>(round);
-    bytes += std::string(40, '\0');
-    EXPECT_EQ(folder.Read(store), bytes);
-  }
-  EXPECT_EQ(Loaded(), "4 /a,/b,,,");
-  EXPECT_TRUE(answers.messages.empty());
+  LoadPictureStore();
+  SavePictureStore();
+  EXPECT_EQ(folder.Read(store).substr(4), before.substr(4) + std::string(40, '\0'));
 }
 
 TEST_F(PictureStores, TheOlderStoreWinsGoesAtOnceAndIsWrittenOnlyByASave) {
@@ -74,32 +62,26 @@ TEST_F(PictureStores, ADamagedStoreIsToldAndKeptBeside) {
   const std::string cut = folder.Read(store).substr(0, 100);
   folder.Write(store, cut);
   LoadPictureStore();
-  EXPECT_EQ(Loaded(), "2 /a,,");
-  ASSERT_EQ(answers.messages.size(), 1u);
   EXPECT_NE(answers.last().find(store), std::string::npos);
   EXPECT_EQ(folder.Names(), Texts{store});
   for (int round = 0; round < 2; ++round) SavePictureStore();
+  EXPECT_EQ(folder.Names(), (Texts{store, "tqpics.bin.damaged"}));
   EXPECT_EQ(folder.Read("tqpics.bin.damaged"), cut);
-  EXPECT_EQ(folder.Names().size(), 2u);
   EXPECT_EQ(Saved(), "3 /a,,,");
   WriteOldStore(3);
   LoadPictureStore();
   EXPECT_NE(answers.last().find(oldStore), std::string::npos);
-  EXPECT_FALSE(folder.Exists(oldStore));
-  EXPECT_EQ(folder.Read("jpics.bin.damaged").size(), 13u * 128) << "kept before it goes";
+  EXPECT_EQ(folder.Names(), (Texts{"jpics.bin.damaged", store, "tqpics.bin.damaged"}));
 }
 
 TEST_F(PictureStores, WhatCanBeNeitherReadNorWrittenIsToldAndTheProgramGoesOn) {
   folder.Block(store);
   LoadPictureStore();
   EXPECT_NE(answers.last().find(store), std::string::npos);
-  Pictures.resize(2);
-  Pictures[1].PictureFile = "/a";
+  Pictures.emplace_back().PictureFile = "/a";
   PictureCount = 1;
   SavePictureStore();
-  EXPECT_EQ(answers.messages.size(), 2u);
   EXPECT_NE(answers.last().find("could not be saved in tqpics.bin"), std::string::npos);
-  EXPECT_EQ(Loaded(), "1 /a,");
   folder.Unblock(store);
   SavePictureStore();
   EXPECT_EQ(Saved(), "2 /a,,");

