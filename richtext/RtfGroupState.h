@@ -34,8 +34,9 @@ constexpr std::int32_t AutomaticColor = -1;
 struct CharacterState {
   std::int32_t font = DefaultFontIndex;  // index in the font table
   std::int32_t halfPoints = DefaultHalfPoints;
-  std::int32_t color = AutomaticColor;      // or 0x00BBGGRR
-  std::int32_t highlight = AutomaticColor;  // likewise; automatic is none
+  std::int32_t color = AutomaticColor;       // or 0x00BBGGRR
+  std::int32_t highlight = AutomaticColor;   // likewise; automatic is none
+  std::int32_t background = AutomaticColor;  // likewise, where there is no highlight
   std::uint32_t link = 0;
   bool bold = false;
   bool italic = false;

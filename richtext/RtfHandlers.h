@@ -83,6 +83,13 @@ inline void Highlight(Context& context, Number, Number index) {
   context.ChangeCharacter().highlight = index == 0 ? AutomaticColor : context.Colors().Find(index);
 }
 
+// White is what some programs write for none; on coloured paper it would stand out.
+inline void Background(Context& context, Number, Number index) {
+  constexpr std::int32_t White = 0xFFFFFF;
+  const std::int32_t color = index == 0 ? AutomaticColor : context.Colors().Find(index);
+  context.ChangeCharacter().background = color == White ? AutomaticColor : color;
+}
+
 // Characters' looks.
 
 inline void Plain(Context& context, Number, Number) {

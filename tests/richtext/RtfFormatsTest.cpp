@@ -18,7 +18,10 @@ TEST(RtfFormats, ReadsEveryLookOfLetters) {
        "(super)a(sub)b()c(super)d()e(sub)fg(super)h()i"},
       {R"({\rtf1\caps a\scaps b\caps0 c\scaps0 d\v e\v0 f})", "(caps)a(scaps)bc()d(v)e()f"},
       {R"({\rtf1{\colortbl\red1;\red2;;}\highlight1 a\cb0 b\chcbpat1 c\highlight2 d\cb0\cf0 e\highlight9 f})",
-       "(on #020000)a()b(on #020000)c()d(#010000)ef"},
+       "(on #020000)abcd(#010000)ef"},
+      // White behind letters is none, unless they are marked with it.
+      {R"({\rtf1{\colortbl;\red255\green255\blue255;\red9;}\cb1 a\chcbpat2 b\highlight1 c\highlight0 d\chcbpat1 e})",
+       "a(on #090000)b(on #ffffff)c(on #090000)d()e"},
   });
 }
 
