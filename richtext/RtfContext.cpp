@@ -217,9 +217,15 @@ void RtfContext::SettleLabel() {
   ClaimText();
 }
 
+// What was read of a picture that the end of the input cuts off is one too.
+void RtfContext::FinishPicture() {
+  while (Depth() > 0 && (Skipping() || State().destination == Destination::Picture)) EndGroup();
+}
+
 // The \par that ends the last paragraph is no more than its end; without it the paragraph is as it was
 // written.
 Document RtfContext::Take() {
+  FinishPicture();
   SettleLabel();
   EndText();
   if (builder_.HasOpenText()) {

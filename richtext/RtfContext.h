@@ -84,6 +84,7 @@ class RtfContext {
   void EndText();
   void ClaimText();
   void CountLink();
+  void FinishPicture();
   void PutPicture();
 
   GroupStack groups_;

@@ -36,7 +36,7 @@ TEST(RtfReader, ReadsTextAndParagraphs) {
       {R"({\rtf1\intbl a\nestcell b\nestcell{\*\nesttableprops\trowd\nestrow}{\nonesttables\par}c\cell\row})",
        "a>b>|c>"},
       {R"({\rtf1 a} after)", "a"},
-      {R"({\rtf1 a\sect b\page c})", "a|b|c"},
+      {R"({\rtf1 a\sect b\page c\column d\softline e\lbr0 f})", "a|b|c|d/e/f"},
   });
 }
 
@@ -170,7 +170,8 @@ TEST(RtfReader, KeepsWhatItReadOfBadInput) {
       {R"({\rtf1{\b bold never closed)", "(b)bold never closed"},
       {R"({\rtf1 x}}}} y)", "x"},
       {R"({\rtf1{\fonttbl{\f0 A;}{\f1 Ti)", "(A)"},
-      {R"({\rtf1 before {\pict\pngblip 0100)", "before "},
+      {R"({\rtf1 before {\pict\pngblip 0100)", "before <png 2 0x0>"},
+      {R"({\rtf1{\b{\pict\wmetafile8\picwgoal9\pichgoal9 01{\*\blipuid 01)", "(b)<png 1 9x9>"},
       {R"({\rtf1 a{\pict\pngblip\bin2147483647 xx}b})", "ab"},
       {R"({\rtf1 a{\pict\pngblip\bin-5 xx}b})", "ab"},
       {R"({\rtf1 a{\pict\pngblip\bin99999999999999999999 x}b})", "ab"},
