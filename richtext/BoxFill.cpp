@@ -44,7 +44,19 @@ class Filler {
                    std::back_inserter(blockFormats_), ToBlockFormat);
   }
 
+  // The rest of a paragraph that is parted stays as it was.
   void Fill() {
+    const QTextBlockFormat format = cursor_.blockFormat();
+    const QTextCharFormat mark = cursor_.blockCharFormat();
+    const bool parts = source_.paragraphs.size() > 1 && !cursor_.atBlockEnd();
+    FillIn();
+    if (!parts) return;
+    cursor_.setBlockFormat(format);
+    cursor_.setBlockCharFormat(mark);
+  }
+
+ private:
+  void FillIn() {
     for (const Paragraph& paragraph : source_.paragraphs) {
       Begin(paragraph);
       for (std::uint32_t left = paragraph.length; left > 0; ++run_) {
@@ -54,12 +66,12 @@ class Filler {
     }
   }
 
- private:
   void Begin(const Paragraph& paragraph) {
     const QTextBlockFormat& format = blockFormats_[paragraph.format];
     const QTextCharFormat& mark = marks_[paragraph.markFormat];
     if (&paragraph != source_.paragraphs.data()) return cursor_.insertBlock(format, mark);
-    if (cursor_.block().length() > 1 || KeepsFormat(cursor_.block())) return;
+    const bool joins = !cursor_.atBlockStart() || (!cursor_.atBlockEnd() && source_.paragraphs.size() == 1);
+    if (joins || KeepsFormat(cursor_.block())) return;
     cursor_.setBlockFormat(format);
     cursor_.setBlockCharFormat(mark);
   }

@@ -36,6 +36,9 @@ TEST_F(PastingTest, TakesTheRichestOffer) {
   EXPECT_EQ(box.Text(), QStringLiteral("rtf"));
   EXPECT_TRUE(FormatAt(3).bold);
   box.selectAll();
+  Paste([](QMimeData& data) { data.setData(QStringLiteral("text/rtf"), "\r\n {\\urtf1 old\\u233?}"); });
+  EXPECT_EQ(box.Text(), QStringLiteral("old\u00e9"));
+  box.selectAll();
   Paste([](QMimeData& data) {
     data.setData(QStringLiteral("text/rtf"), "no rtf at all");
     data.setHtml(QStringLiteral("<i>html</i>"));
@@ -58,6 +61,20 @@ TEST_F(PastingTest, PlainPasteTakesTheCaretsFormat) {
   EXPECT_EQ(box.Text(), QStringLiteral("texttext"));
   EXPECT_EQ(Taken().runs.size(), 1u);
   EXPECT_EQ(FormatAt(8), Journal);
+}
+
+TEST_F(PastingTest, AParagraphThatIsPartedKeepsItsFormat) {
+  for (const auto& [place, paragraphs] : {std::pair{2, "[right]abone|[right]twocd"},
+                                          {0, "[center]one|[right]twoabcd"},
+                                          {4, "[right]abcdone|two"}}) {
+    SCOPED_TRACE(paragraphs);
+    box.SetTextRTF("{\\rtf1\\qr abcd\\par}");
+    box.SetSelStart(place);
+    Paste([](QMimeData& data) {
+      data.setData(QStringLiteral("text/rtf"), "{\\rtf1\\qc one\\par\\pard two\\par}");
+    });
+    EXPECT_EQ(Dump(Taken()), paragraphs);
+  }
 }
 
 TEST_F(PastingTest, CutFromTheMenuKeepsTheCaretsFormat) {
