@@ -5,6 +5,7 @@
 
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
 #include <QtWidgets/QMenu>
