@@ -6,6 +6,7 @@
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
+#include <QtGui/QTextOption>
 
 #include "richtext/BoxDocument.h"
 #include "richtext/BoxFormats.h"
@@ -13,6 +14,7 @@
 #include "richtext/BoxPictures.h"
 #include "richtext/HiddenText.h"
 #include "richtext/PageHeight.h"
+#include "richtext/Twips.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
@@ -128,11 +130,19 @@ void HideFrom(const QTextDocument& document, std::size_t count) {
     block.setVisible(false);
 }
 
+void SetTabDistance(std::int32_t twips, QTextDocument& target) {
+  QTextOption option = target.defaultTextOption();
+  option.setTabStopDistance(twips / TwipsPerPixel);
+  target.setDefaultTextOption(option);
+  target.setProperty(TabDistanceProperty, twips);
+}
+
 }  // namespace
 
 void FillDocument(const Document& source, QTextDocument& target) {
   target.setUndoRedoEnabled(false);
   target.clear();
+  SetTabDistance(source.tabDistance, target);
   QTextCursor cursor(&target);
   cursor.beginEditBlock();
   Filler(source, cursor).Fill();

@@ -83,6 +83,7 @@ constexpr ControlWord KnownWords[] = {
     WordOf("pca", CharacterSet, 850),
     Word("ansicpg", AnsiCodePage),
 
+    Word("deftab", TabDistance, DefaultTabDistance),
     Word("deff", DefaultFont),
     Word("f", Font),
     Word("fcharset", FontCharset),
@@ -195,7 +196,12 @@ constexpr ControlWord KnownWords[] = {
     {"nonshppict", OlderPicture, 0, 0, WordKind::Destination},
     Shown("object"),
     Shown("result"),
+    {"shp", Shape, 0, 0, WordKind::Destination},
     Shown("shpinst"),
+    {"sp", handlers::ShapeProperty, 0, 0, WordKind::Destination},
+    Aside("sn", Destination::ShapeName),
+    {"sv", ShapeValue, 0, 0, WordKind::Destination},
+    {"shprslt", ShapeResult, 0, 0, WordKind::Destination},
     Shown("do"),
     {"shptxt", ShapeText, 0, 0, WordKind::Destination},
     {"dptxbxtext", ShapeText, 0, 0, WordKind::Destination},
@@ -203,32 +209,17 @@ constexpr ControlWord KnownWords[] = {
 };
 
 // Groups that are passed over, which many write without "\*".
-constexpr std::string_view SkippedNames[] = {"annotation",  "background",
-                                             "bkmkend",     "bkmkstart",
-                                             "blipuid",     "colorschememapping",
-                                             "datafield",   "datastore",
-                                             "docvar",      "falt",
-                                             "filetbl",     "fname",
-                                             "footer",      "footerf",
-                                             "footerl",     "footerr",
-                                             "footnote",    "generator",
-                                             "header",      "headerf",
-                                             "headerl",     "headerr",
-                                             "info",        "latentstyles",
+constexpr std::string_view SkippedNames[] = {
+    "annotation", "background",   "bkmkend",  "bkmkstart",     "blipuid",     "colorschememapping",
+    "datafield",  "datastore",    "docvar",   "falt",          "filetbl",     "fname",
+    "footer",     "footerf",      "footerl",  "footerr",       "footnote",    "generator",
+    "header",     "headerf",      "headerl",  "headerr",       "info",        "latentstyles",
 
-                                             "mmath",       "levelnumbers",
-                                             "listname",    "liststylename",
-                                             "listpicture", "nonesttables",
-                                             "objclass",    "objdata",
-                                             "objname",     "panose",
-                                             "pgptbl",      "picprop",
+    "mmath",      "levelnumbers", "listname", "liststylename", "listpicture", "nonesttables",
+    "objclass",   "objdata",      "objname",  "panose",        "pgptbl",      "picprop",
 
-                                             "private",     "revtbl",
-                                             "rsidtbl",     "shprslt",
-                                             "sp",          "stylesheet",
-                                             "tc",          "template",
-                                             "themedata",   "xe",
-                                             "xmlnstbl"};
+    "private",    "revtbl",       "rsidtbl",  "stylesheet",    "tc",          "template",
+    "themedata",  "xe",           "xmlnstbl"};
 
 constexpr std::size_t WordCount = std::size(KnownWords) + std::size(SkippedNames);
 

@@ -23,6 +23,9 @@ enum class Destination : std::uint8_t {
   Label,
   FieldInstruction,
   Picture,
+  ShapeProperty,
+  ShapeName,
+  ShapePicture,
   Discard
 };
 

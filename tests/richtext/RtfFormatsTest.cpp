@@ -160,6 +160,25 @@ TEST(RtfFormats, ReadsTextOfShapesAndObjects) {
   });
 }
 
+TEST(RtfFormats, ReadsFieldsThatAreSigns) {
+  ExpectEach({
+      {R"({\rtf1 a{\field{\*\fldinst SYMBOL 74 \\f "Wingdings" \\s 12}{\fldrslt}}b})", "a☺b"},
+      {R"({\rtf1{\field{\*\fldinst{symbol 0xF0B7 \\f Symbol}}}{\field{\*\fldinst SYMBOL 128}{\fldrslt{\b}}}})",
+       "•€"},
+      {R"({\rtf1{\field{\*\fldinst SYMBOL 74 \\f Wingdings}{\fldrslt x}}{\field{\*\fldinst SYMBOL}}})", "x"},
+  });
+}
+
+TEST(RtfFormats, ReadsThePictureThatAShapeIs) {
+  const std::string property = R"({\shp{\*\shpinst{\sp{\sn %}{\sv {\pict\pngblip 00}x}}})";
+  const std::string older = R"({\shprslt{\*\do y}{\pict\pngblip 0001}\par}}b})";
+  const auto shape = [&](const char* name) {
+    return "{\\rtf1 a" + std::string(property).replace(property.find('%'), 1, name) + older;
+  };
+  ExpectReads(shape("pib"), "a<png 1 0x0>b");
+  ExpectReads(shape("fillBlip"), "a<png 2 0x0>b");
+}
+
 TEST(PlainText, HoldsWhatIsRead) {
   EXPECT_EQ(PlainText(ReadRtf(
                 R"({\rtf1 a\line\b b\v c\v0\tab{\pict\pngblip 00}\par{\v\par}{\listtext 1.}\u233?\par})")),

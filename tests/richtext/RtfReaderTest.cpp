@@ -53,7 +53,10 @@ TEST(RtfReader, ReadsBytesByTheirCodePage) {
        "(A)α(B)ą(A)β"},
       {R"({\rtf1\ansicpg1251{\fonttbl{\f0\fcharset1 A;}{\f1\fcharset1\cpg1253 B;}}\f0\'e1\f1\'e1})",
        "(A)б(B)α"},
-      {R"({\rtf1{\fonttbl{\f1\fcharset2 Symbol;}}a{\f1\'b7 x}})", "a(Symbol)\uF0B7 \uF078()"},
+      // Signs that other fonts have too are these; the rest stays what it is in its font.
+      {R"({\rtf1{\fonttbl{\f1\fcharset2 Symbol;}}a{\f1\'b7 x}})", "a(Symbol)• ξ()"},
+      {R"({\rtf1{\fonttbl{\f1\fcharset2 Wingdings;}{\f2\fcharset2 Webdings;}}\f1 J\u-3844 ?\u61514?\'4b\f2 J})",
+       "(Wingdings)☺✔☺\uF04B(Webdings)\uF04A"},
       {R"({\rtf1\ansicpg4711\'e9})", "é"},
       // One character of two bytes, whichever way its halves are written.
       {R"({\rtf1\ansicpg932\'8cR\'8c\'52x})", "軍軍x"},
