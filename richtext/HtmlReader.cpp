@@ -78,7 +78,7 @@ Picture FromFile(QByteArray file) {
     picture.kind = kind == "png" ? PictureKind::Png : PictureKind::Jpeg;
     picture.bytes = file.toStdString();
   } else if (kind == "gif" || kind == "bmp" || kind == "webp") {
-    picture.bytes = SmallestPng(QImage::fromData(file, kind));
+    picture.bytes = SmallestPng(DecodedFile(file));
   }
   return picture;
 }
