@@ -15,8 +15,9 @@ void FillDocument(const Document& source, QTextDocument& target);
 // Replaces it by plain text in one format; a line end makes a paragraph.
 void FillPlain(const QString& text, const QTextCharFormat& format, QTextDocument& target);
 // Puts the content in the place of the cursor's selection, as one step of undo. Its first paragraph joins the
-// one at the cursor; an empty one there takes on its format, but a single paragraph leaves a format that the
-// empty one has. The cursor stands behind what came in.
+// one at the cursor, whose text keeps its own format before and behind what comes in; an empty one takes on
+// the format, but a single paragraph leaves a format that the empty one has. The cursor stands behind what
+// came in.
 void InsertDocument(const Document& source, QTextCursor& cursor);
 
 // A document of more than PageHeight.h's measure is kept whole, and its first paragraphs are shown. Filling

@@ -6,6 +6,7 @@
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
+#include <QtGui/QTextOption>
 
 #include "richtext/BoxDocument.h"
 #include "richtext/BoxFormats.h"
@@ -13,6 +14,7 @@
 #include "richtext/BoxPictures.h"
 #include "richtext/HiddenText.h"
 #include "richtext/PageHeight.h"
+#include "richtext/Twips.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
@@ -44,7 +46,19 @@ class Filler {
                    std::back_inserter(blockFormats_), ToBlockFormat);
   }
 
+  // The rest of a paragraph that is parted stays as it was.
   void Fill() {
+    const QTextBlockFormat format = cursor_.blockFormat();
+    const QTextCharFormat mark = cursor_.blockCharFormat();
+    const bool parts = source_.paragraphs.size() > 1 && !cursor_.atBlockEnd();
+    FillIn();
+    if (!parts) return;
+    cursor_.setBlockFormat(format);
+    cursor_.setBlockCharFormat(mark);
+  }
+
+ private:
+  void FillIn() {
     for (const Paragraph& paragraph : source_.paragraphs) {
       Begin(paragraph);
       for (std::uint32_t left = paragraph.length; left > 0; ++run_) {
@@ -54,12 +68,12 @@ class Filler {
     }
   }
 
- private:
   void Begin(const Paragraph& paragraph) {
     const QTextBlockFormat& format = blockFormats_[paragraph.format];
     const QTextCharFormat& mark = marks_[paragraph.markFormat];
     if (&paragraph != source_.paragraphs.data()) return cursor_.insertBlock(format, mark);
-    if (cursor_.block().length() > 1 || KeepsFormat(cursor_.block())) return;
+    const bool joins = !cursor_.atBlockStart() || (!cursor_.atBlockEnd() && source_.paragraphs.size() == 1);
+    if (joins || KeepsFormat(cursor_.block())) return;
     cursor_.setBlockFormat(format);
     cursor_.setBlockCharFormat(mark);
   }
@@ -116,11 +130,19 @@ void HideFrom(const QTextDocument& document, std::size_t count) {
     block.setVisible(false);
 }
 
+void SetTabDistance(std::int32_t twips, QTextDocument& target) {
+  QTextOption option = target.defaultTextOption();
+  option.setTabStopDistance(twips / TwipsPerPixel);
+  target.setDefaultTextOption(option);
+  target.setProperty(TabDistanceProperty, twips);
+}
+
 }  // namespace
 
 void FillDocument(const Document& source, QTextDocument& target) {
   target.setUndoRedoEnabled(false);
   target.clear();
+  SetTabDistance(source.tabDistance, target);
   QTextCursor cursor(&target);
   cursor.beginEditBlock();
   Filler(source, cursor).Fill();

@@ -27,6 +27,9 @@ enum BoxProperty : int {
   TextAfterNumber,
 };
 
+// int, twips, of a document that was filled.
+constexpr char TabDistanceProperty[] = "tabDistance";
+
 // Hidden text has the format of shown text here: that it is hidden is told beside it.
 QTextCharFormat ToTextFormat(const CharacterFormat& format);
 CharacterFormat FromTextFormat(const QTextCharFormat& format);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QtCore/QLocale>
+
 #include "richtext/BoxFormats.h"
 #include "richtext/Limits.h"
 #include "richtext/Twips.h"

@@ -21,6 +21,7 @@ namespace {
 
 constexpr double LargestSide = 20000;                // pixels
 constexpr double MostPixels = 64'000'000;            // with a margin of its crop
+constexpr int MostMegabytes = 512;                   // of a file's pixels, with eight bytes for each
 constexpr QSize SizeOfUnknown{16, 16};               // of a picture that tells no size of its own
 const QLatin1String DrawingResource("picture:");     // name of the resource that is drawn
 const QLatin1String SourceResource("picturefile:");  // name of the resource that is the picture as it came
@@ -164,8 +165,18 @@ Picture KeptPicture(const QTextImageFormat& format, const QTextDocument& documen
   return kept;
 }
 
+// The toolkit's own bound is a photo of 33 million pixels. What a file says of its size is known beforehand.
+QImage DecodedFile(QByteArray file) {
+  QBuffer buffer(&file);
+  QImageReader reader(&buffer);
+  const QSizeF size = reader.size();
+  if (size.width() * size.height() > MostPixels) return {};
+  QImageReader::setAllocationLimit(MostMegabytes);
+  return reader.read();
+}
+
 QImage DecodedPicture(const Picture& picture) {
-  if (IsFile(picture)) return Cropped(QImage::fromData(QByteArray::fromStdString(picture.bytes)), picture);
+  if (IsFile(picture)) return Cropped(DecodedFile(QByteArray::fromStdString(picture.bytes)), picture);
   const std::optional<Bitmap> bitmap = BitmapFromPicture(picture);
   if (!bitmap) return {};
   const auto* pixels = reinterpret_cast<const uchar*>(bitmap->argb.data());

@@ -11,6 +11,7 @@
 #include "richtext/BoxPictures.h"
 #include "richtext/FormatNumbers.h"
 #include "richtext/HiddenText.h"
+#include "richtext/Limits.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
@@ -120,7 +121,9 @@ class Taker {
 }  // namespace
 
 Document TakeDocument(const QTextDocument& source) {
-  return Taker(source, 0, source.characterCount() - 1).Take();
+  Document taken = Taker(source, 0, source.characterCount() - 1).Take();
+  taken.tabDistance = FittingTabDistance(source.property(TabDistanceProperty).toInt());
+  return taken;
 }
 
 Document TakeSelection(const QTextCursor& selection) {

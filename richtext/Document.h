@@ -139,6 +139,7 @@ struct Document {
   std::vector<CharacterFormat> formats;
   std::vector<ParagraphFormat> paragraphFormats;
   std::vector<Picture> pictures;
+  std::int32_t tabDistance = 720;  // twips between the tab stops of paragraphs that set none, 60 to 32767
 
   bool operator==(const Document&) const = default;
 };

@@ -40,6 +40,7 @@ class DocumentBuilder {
   std::u16string& Text() { return document_.text; }
   bool HasUnclaimedText() const { return claimed_ != document_.text.size(); }
   void ClaimText(std::uint32_t format);
+  void SetTabDistance(std::int32_t twips) { document_.tabDistance = twips; }
   void AddPicture(Picture picture);  // its mark waits to be claimed, too
   void EndParagraph(std::uint32_t paragraphFormat, std::uint32_t markFormat);
 

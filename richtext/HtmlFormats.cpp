@@ -89,7 +89,7 @@ CharacterFormat FromHtmlFormat(const QTextCharFormat& format, const CharacterFor
   CharacterFormat made = FromTextFormat(format);
   made.fontName = FontName(format, caret);
   made.halfPoints = HalfPoints(format, caret);
-  if (!made.color) made.color = caret.color;
+  if (!made.color || !format.foreground().color().isValid()) made.color = caret.color;
   made.highlight.reset();
   return made;
 }
@@ -110,6 +110,11 @@ ParagraphFormat FromHtmlBlock(const QTextBlock& block) {
 
 bool IsLightInk(const QColor& color) {
   return qGray(color.rgb()) > 180 && color.hsvSaturation() < 64;
+}
+
+bool IsLikePaper(const QColor& color) {
+  const auto [least, most] = std::minmax({color.red(), color.green(), color.blue()});
+  return least >= 240 || (least >= 224 && most - least <= 16);
 }
 
 bool IsMarkersColor(const QColor& color) {

@@ -13,6 +13,8 @@ ParagraphFormat FromHtmlBlock(const QTextBlock& block);
 
 // Whether letters of this colour can be read on a dark ground alone.
 bool IsLightInk(const QColor& color);
+// Whether a background is hardly seen on white paper, as those are that web pages lay behind code.
+bool IsLikePaper(const QColor& color);
 // Whether a background is one that people mark words with.
 bool IsMarkersColor(const QColor& color);
 

@@ -15,6 +15,7 @@
 #include "richtext/FormatNumbers.h"
 #include "richtext/HtmlFormats.h"
 #include "richtext/HtmlLists.h"
+#include "richtext/HtmlMarkup.h"
 #include "richtext/Limits.h"
 #include "richtext/SmallPng.h"
 #include "richtext/Twips.h"
@@ -24,7 +25,9 @@ namespace richtext {
 namespace {
 
 // What the toolkit's own knowledge of HTML lacks or would take from the desktop's colours.
-const QLatin1String HouseStyle("mark { background-color: #ffff00; } a { color: #0000ee; }");
+const QLatin1String HouseStyle(
+    "mark { background-color: #ffff00; } a[href] { color: #0000ee; } ins { text-decoration: underline; }"
+    "del, strike { text-decoration: line-through; }");
 
 // Fetches nothing, whatever the markup names.
 class InertDocument : public QTextDocument {
@@ -34,7 +37,8 @@ class InertDocument : public QTextDocument {
 
 std::optional<QColor> Background(const QTextFormat& format) {
   const QBrush brush = format.background();
-  if (brush.style() == Qt::NoBrush || brush.color().alpha() == 0) return std::nullopt;
+  if (brush.style() == Qt::NoBrush || !brush.color().isValid() || brush.color().alpha() == 0)
+    return std::nullopt;
   return brush.color();
 }
 
@@ -74,7 +78,7 @@ Picture FromFile(QByteArray file) {
     picture.kind = kind == "png" ? PictureKind::Png : PictureKind::Jpeg;
     picture.bytes = file.toStdString();
   } else if (kind == "gif" || kind == "bmp" || kind == "webp") {
-    picture.bytes = SmallestPng(QImage::fromData(file, kind));
+    picture.bytes = SmallestPng(DecodedFile(file));
   }
   return picture;
 }
@@ -100,7 +104,7 @@ class Backgrounds {
     const QTextTableCell cell = CellOf(block);
     if (cell.isValid() && color == Background(cell.format())) return std::nullopt;
     if (color->rgb() == page_) return std::nullopt;
-    return color->rgb() == 0xffffffff ? std::nullopt : std::optional(FromColor(*color));
+    return IsLikePaper(*color) ? std::nullopt : std::optional(FromColor(*color));
   }
 
  private:
@@ -218,7 +222,8 @@ Document ReadHtml(const QString& html, const CharacterFormat& caret, const QImag
   InertDocument document;
   document.setUndoRedoEnabled(false);
   document.setDefaultStyleSheet(HouseStyle);
-  document.setHtml(WithListStarts(html.left(html.indexOf(QLatin1String("<!--EndFragment-->")))));
+  document.setHtml(
+      WithListStarts(WithPlainWords(html.left(html.indexOf(QLatin1String("<!--EndFragment-->"))))));
   CharacterFormat plain;
   plain.fontName = caret.fontName;
   plain.halfPoints = caret.halfPoints;

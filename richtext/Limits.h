@@ -10,9 +10,10 @@
 namespace richtext {
 
 constexpr std::int32_t DefaultHalfPoints = 24;
-constexpr std::int32_t MaxHalfPoints = 3276;  // the largest size of the classic edit controls
-constexpr std::int32_t MaxIndent = 32767;     // twips; the format's own range of parameters
-constexpr std::size_t MaxTabStops = 32;       // of a paragraph; as many as the classic edit controls keep
+constexpr std::int32_t MaxHalfPoints = 3276;      // the largest size of the classic edit controls
+constexpr std::int32_t MaxIndent = 32767;         // twips; the format's own range of parameters
+constexpr std::int32_t DefaultTabDistance = 720;  // twips
+constexpr std::size_t MaxTabStops = 32;           // of a paragraph; as many as the classic edit controls keep
 constexpr std::int32_t MaxListLevel = 8;
 constexpr std::int32_t MaxListNumber = 32767;
 constexpr std::int32_t MaxPictureTwips = 1'000'000;
@@ -35,6 +36,10 @@ constexpr std::int32_t FittingIndent(std::int32_t twips) {
 }
 constexpr std::int32_t FittingSpace(std::int32_t twips) {
   return std::clamp(twips, 0, MaxIndent);
+}
+// What is too near for a tab to be seen was not meant.
+constexpr std::int32_t FittingTabDistance(std::int32_t twips) {
+  return twips < 60 ? DefaultTabDistance : std::min(twips, MaxIndent);
 }
 constexpr std::int32_t FittingPictureSize(std::int64_t twips) {
   return static_cast<std::int32_t>(std::clamp<std::int64_t>(twips, 0, MaxPictureTwips));

@@ -4,20 +4,11 @@
 #include <cstddef>
 
 #include "richtext/Limits.h"
+#include "richtext/SymbolFonts.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
 namespace {
-
-struct Sign {
-  char16_t symbol;
-  char16_t character;
-};
-
-// What stands at these places of Symbol and Wingdings.
-constexpr Sign Signs[] = {{0xF0B7, Bullet}, {0xF0A7, 0x25AA}, {0xF0A8, 0x25FB}, {0xF0D8, 0x27A2},
-                          {0xF0FC, 0x2714}, {0xF076, 0x2756}, {0xF06E, 0x25A0}, {0xF06C, 0x25CF},
-                          {0xF071, 0x2751}, {0xF0E0, 0x2192}, {0xF06F, 0x25A1}, {0xF02D, u'-'}};
 
 constexpr char16_t MiddleDot = 0xB7;  // a bullet whose font was lost
 
@@ -144,8 +135,7 @@ std::optional<ListFormat> ListOfNumber(std::u16string_view counted) {
 }  // namespace
 
 char16_t ShownBullet(char16_t unit) {
-  for (const Sign& sign : Signs)
-    if (sign.symbol == unit) return sign.character;
+  if (const char16_t sign = SignAnywhere(unit); sign != CodePage::Nothing) return sign;
   return IsPrivate(unit) ? Bullet : unit;
 }
 

@@ -5,6 +5,7 @@
 
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
 #include <QtWidgets/QMenu>
@@ -21,13 +22,11 @@
 #include "richtext/Pasting.h"
 #include "richtext/RtfReader.h"
 #include "richtext/RtfWriter.h"
-#include "richtext/Twips.h"
 
 namespace richtext {
 namespace {
 
-constexpr double DocumentMargin = 4;                     // pixels
-constexpr double TabStopDistance = 720 / TwipsPerPixel;  // pixels; half an inch
+constexpr double DocumentMargin = 4;  // pixels
 constexpr std::uint32_t White = 0xffffff;
 constexpr QKeyCombination PlainPasteKey = Qt::CTRL | Qt::SHIFT | Qt::Key_V;
 constexpr std::size_t LongPage = 10000;  // UTF-16 units; more than any window shows at once
@@ -37,7 +36,6 @@ constexpr std::size_t LongPage = 10000;  // UTF-16 units; more than any window s
 RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
   setAcceptRichText(true);
   setTabChangesFocus(false);
-  setTabStopDistance(TabStopDistance);
   document()->setDocumentMargin(DocumentMargin);
   connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::NoteEdit);
   connect(document(), &QTextDocument::contentsChanged, this, &RichTextBox::TellEdits);

@@ -10,6 +10,10 @@ std::optional<std::uint32_t> ColorOf(std::int32_t color) {
   return static_cast<std::uint32_t>(color);
 }
 
+std::int32_t ShownBehind(const CharacterState& state) {
+  return state.highlight != AutomaticColor ? state.highlight : state.background;
+}
+
 }  // namespace
 
 FormatKey KeyOf(const CharacterState& state, const RtfFontTable& fonts) {
@@ -18,7 +22,7 @@ FormatKey KeyOf(const CharacterState& state, const RtfFontTable& fonts) {
                               (state.hidden ? 8U : 0U) | static_cast<std::uint32_t>(state.underline) << 8 |
                               static_cast<std::uint32_t>(state.capitals) << 16 |
                               static_cast<std::uint32_t>(state.place) << 24;
-  return {fonts.At(state.font).name, state.halfPoints, state.color, state.highlight, state.link, flags};
+  return {fonts.At(state.font).name, state.halfPoints, state.color, ShownBehind(state), state.link, flags};
 }
 
 CharacterFormat FormatOf(const CharacterState& state, const RtfFontTable& fonts, const RtfLinks& links) {
@@ -33,7 +37,7 @@ CharacterFormat FormatOf(const CharacterState& state, const RtfFontTable& fonts,
   format.capitals = state.capitals;
   format.place = state.place;
   format.color = ColorOf(state.color);
-  format.highlight = ColorOf(state.highlight);
+  format.highlight = ColorOf(ShownBehind(state));
   format.link = links.At(state.link);
   return format;
 }

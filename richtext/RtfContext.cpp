@@ -5,6 +5,7 @@
 
 #include "richtext/Hyperlink.h"
 #include "richtext/ListLabel.h"
+#include "richtext/SymbolField.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
@@ -20,10 +21,17 @@ bool IsAside(Destination destination) {
     case Destination::ListLevelText:
     case Destination::NumberingBefore:
     case Destination::NumberingAfter:
+    case Destination::ShapeName:
       return true;
     default:
       return false;
   }
+}
+
+// Symbol fonts have their signs at U+F000 and a byte; \u tells these below zero, as a rule.
+bool IsSign(std::int32_t number) {
+  const std::int32_t unit = number < 0 ? number + 0x10000 : number;
+  return unit > 0xF020 && unit <= 0xF0FF;
 }
 
 }  // namespace
@@ -37,6 +45,7 @@ void RtfContext::EndGroup() {
   decoder_.DropLeadByte();
   const bool skipped = Skipping();
   const Destination ended = State().destination;
+  if (sign_.number != 0 && sign_.depth == Depth()) FinishSign();
   if (!skipped && ended == Destination::FontTable) fonts_.EndGroup(Depth());
   if (!skipped && IsAside(ended)) decoder_.EndText(aside_);
   groups_.Pop();
@@ -61,7 +70,9 @@ void RtfContext::Finish(Destination ended) {
     case Destination::Numbering:
       return FinishNumbering();
     case Destination::FieldInstruction:
-      State().fieldLink = links_.NumberOf(LinkOfInstruction(ToUtf8(aside_)));
+      return FinishInstruction();
+    case Destination::ShapeName:
+      propertyName_ = aside_;
       return;
     case Destination::Label:
       label_ = aside_;
@@ -70,6 +81,17 @@ void RtfContext::Finish(Destination ended) {
     default:
       return;
   }
+}
+
+void RtfContext::FinishInstruction() {
+  const std::string instruction = ToUtf8(aside_);
+  State().fieldLink = links_.NumberOf(LinkOfInstruction(instruction));
+  sign_ = {SignOfInstruction(instruction), Depth(), builder_.Text().size()};
+}
+
+void RtfContext::FinishSign() {
+  const Sign sign = std::exchange(sign_, {});
+  if (builder_.Text().size() == sign.place) PutUnicode(sign.number);
 }
 
 void RtfContext::FinishNumbering() {
@@ -96,8 +118,9 @@ void RtfContext::SendTextTo(Destination destination) {
 
 void RtfContext::SetAside(Destination destination) {
   const Destination within = State().destination;
-  const bool known =
-      within == Destination::Body || within == Destination::Numbering || within == Destination::ListTable;
+  const bool known = within == Destination::Body || within == Destination::Numbering ||
+                     within == Destination::ListTable ||
+                     (within == Destination::ShapeProperty && destination == Destination::ShapeName);
   if (!known) return SkipGroup();
   if (within == Destination::Body) EndText();
   aside_.clear();
@@ -164,6 +187,7 @@ void RtfContext::PutBinary(std::string_view bytes) {
 void RtfContext::PutUnicode(std::int32_t number) {
   if (State().destination == Destination::FontTable) return fonts_.AppendUnicode(number);
   if (IsUnicodeParagraphEnd(number)) return EndParagraph();
+  if (IsSign(number) && TextPage().number == SymbolPage) return PutLiteral(static_cast<char>(number & 0xFF));
   if (std::u16string* text = TextInHand()) {
     decoder_.AppendUnicode(number, *text);
     ClaimText();
@@ -196,7 +220,29 @@ void RtfContext::EndCell() {
 }
 
 void RtfContext::BeginShapeText() {
+  shapeShown_ = true;
   if (builder_.HasOpenText()) EndParagraph();
+}
+
+void RtfContext::BeginShape() {
+  shapeShown_ = false;
+}
+
+void RtfContext::BeginShapeProperty() {
+  propertyName_.clear();
+  if (State().destination != Destination::Body) return SkipGroup();
+  SendTextTo(Destination::ShapeProperty);
+}
+
+void RtfContext::BeginShapeValue() {
+  const bool isPicture = State().destination == Destination::ShapeProperty && propertyName_ == u"pib";
+  if (!isPicture) return SkipGroup();
+  SendTextTo(Destination::ShapePicture);
+}
+
+void RtfContext::BeginShapeResult() {
+  if (shapeShown_ || State().destination != Destination::Body) return SkipGroup();
+  SendTextTo(Destination::ShapePicture);
 }
 
 void RtfContext::BeginLabel(bool isListText) {
@@ -217,9 +263,15 @@ void RtfContext::SettleLabel() {
   ClaimText();
 }
 
+// What was read of a picture that the end of the input cuts off is one too.
+void RtfContext::FinishPicture() {
+  while (Depth() > 0 && (Skipping() || State().destination == Destination::Picture)) EndGroup();
+}
+
 // The \par that ends the last paragraph is no more than its end; without it the paragraph is as it was
 // written.
 Document RtfContext::Take() {
+  FinishPicture();
   SettleLabel();
   EndText();
   if (builder_.HasOpenText()) {
@@ -233,10 +285,11 @@ Document RtfContext::Take() {
 // The picture stands in the group around it.
 void RtfContext::PutPicture() {
   std::optional<Picture> picture = picture_.Take();
-  if (!picture || State().destination != Destination::Body) return;
+  const Destination around = State().destination;
+  if (!picture || (around != Destination::Body && around != Destination::ShapePicture)) return;
   SettleLabel();
   EndText();
-  modernPicture_ = true;
+  modernPicture_ = shapeShown_ = true;
   builder_.AddPicture(std::move(*picture));
   ClaimText();
 }

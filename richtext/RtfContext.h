@@ -2,7 +2,9 @@
 // text goes where the group in force sends it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "richtext/DocumentBuilder.h"
@@ -59,8 +61,15 @@ class RtfContext {
   void PutCharacter(char16_t character);
   void EndParagraph();
   void EndCell();
+  void SetTabDistance(std::int32_t twips) { builder_.SetTabDistance(FittingTabDistance(twips)); }
   // A group begins whose text stands for itself, not within the paragraph around it.
   void BeginShapeText();
+  // A shape tells of itself by properties, one of which can be its picture, and then again as older readers
+  // know it, which counts where nothing of it was shown before.
+  void BeginShape();
+  void BeginShapeProperty();
+  void BeginShapeValue();
+  void BeginShapeResult();
   // The label that a writer put before a list's paragraph, for readers who know nothing of lists. One who
   // wrote \listtext meant a list in any case.
   void BeginLabel(bool isListText);
@@ -84,6 +93,9 @@ class RtfContext {
   void EndText();
   void ClaimText();
   void CountLink();
+  void FinishInstruction();
+  void FinishSign();
+  void FinishPicture();
   void PutPicture();
 
   GroupStack groups_;
@@ -91,9 +103,18 @@ class RtfContext {
   RtfColorTable colors_;
   RtfPictureReader picture_;
   bool modernPicture_ = false;
+  bool shapeShown_ = false;      // whether something was shown since a shape began
+  std::u16string propertyName_;  // of the shape's property in hand
   RtfTextDecoder decoder_;
   RtfParagraphs paragraphs_;
   RtfLinks links_;
+  // A field that is a sign shows it where its result shows nothing.
+  struct Sign {
+    std::int32_t number = 0;  // 0: none is in hand
+    std::size_t depth = 0;    // of the field's group
+    std::size_t place = 0;    // in the text
+  };
+  Sign sign_;
   std::uint32_t openLink_ = 0;  // of the text met last, in the open paragraph
   std::size_t linkText_ = 0;    // bytes, as of MaxLinkText
   RtfNumbering numbering_;

@@ -50,6 +50,8 @@ constexpr ControlWord KnownWords[] = {
     Word("cell", CellEnd),
     Word("nestcell", CellEnd),
     WordOf("line", Character, LineBreak),
+    WordOf("softline", Character, LineBreak),
+    WordOf("lbr", Character, LineBreak),
     WordOf("emdash", Character, 0x2014),
     WordOf("endash", Character, 0x2013),
     WordOf("bullet", Character, 0x2022),
@@ -69,6 +71,7 @@ constexpr ControlWord KnownWords[] = {
     End("par"),
     End("sect"),
     End("page"),
+    End("column"),
     End("row"),
     End("nestrow"),
     {"u", Unicode, 0, 0, WordKind::Structure},
@@ -80,6 +83,7 @@ constexpr ControlWord KnownWords[] = {
     WordOf("pca", CharacterSet, 850),
     Word("ansicpg", AnsiCodePage),
 
+    Word("deftab", TabDistance, DefaultTabDistance),
     Word("deff", DefaultFont),
     Word("f", Font),
     Word("fcharset", FontCharset),
@@ -89,8 +93,8 @@ constexpr ControlWord KnownWords[] = {
     Word("blue", Component<&RtfColorTable::SetBlue>),
     Word("cf", Color),
     Word("highlight", Highlight),
-    Word("cb", Highlight),
-    Word("chcbpat", Highlight),
+    Word("cb", Background),
+    Word("chcbpat", Background),
 
     Word("plain", Plain),
     Word("fs", FontSize, DefaultHalfPoints),
@@ -192,7 +196,12 @@ constexpr ControlWord KnownWords[] = {
     {"nonshppict", OlderPicture, 0, 0, WordKind::Destination},
     Shown("object"),
     Shown("result"),
+    {"shp", Shape, 0, 0, WordKind::Destination},
     Shown("shpinst"),
+    {"sp", handlers::ShapeProperty, 0, 0, WordKind::Destination},
+    Aside("sn", Destination::ShapeName),
+    {"sv", ShapeValue, 0, 0, WordKind::Destination},
+    {"shprslt", ShapeResult, 0, 0, WordKind::Destination},
     Shown("do"),
     {"shptxt", ShapeText, 0, 0, WordKind::Destination},
     {"dptxbxtext", ShapeText, 0, 0, WordKind::Destination},
@@ -200,32 +209,17 @@ constexpr ControlWord KnownWords[] = {
 };
 
 // Groups that are passed over, which many write without "\*".
-constexpr std::string_view SkippedNames[] = {"annotation",  "background",
-                                             "bkmkend",     "bkmkstart",
-                                             "blipuid",     "colorschememapping",
-                                             "datafield",   "datastore",
-                                             "docvar",      "falt",
-                                             "filetbl",     "fname",
-                                             "footer",      "footerf",
-                                             "footerl",     "footerr",
-                                             "footnote",    "generator",
-                                             "header",      "headerf",
-                                             "headerl",     "headerr",
-                                             "info",        "latentstyles",
+constexpr std::string_view SkippedNames[] = {
+    "annotation", "background",   "bkmkend",  "bkmkstart",     "blipuid",     "colorschememapping",
+    "datafield",  "datastore",    "docvar",   "falt",          "filetbl",     "fname",
+    "footer",     "footerf",      "footerl",  "footerr",       "footnote",    "generator",
+    "header",     "headerf",      "headerl",  "headerr",       "info",        "latentstyles",
 
-                                             "mmath",       "levelnumbers",
-                                             "listname",    "liststylename",
-                                             "listpicture", "nonesttables",
-                                             "objclass",    "objdata",
-                                             "objname",     "panose",
-                                             "pgptbl",      "picprop",
+    "mmath",      "levelnumbers", "listname", "liststylename", "listpicture", "nonesttables",
+    "objclass",   "objdata",      "objname",  "panose",        "pgptbl",      "picprop",
 
-                                             "private",     "revtbl",
-                                             "rsidtbl",     "shprslt",
-                                             "sp",          "stylesheet",
-                                             "tc",          "template",
-                                             "themedata",   "xe",
-                                             "xmlnstbl"};
+    "private",    "revtbl",       "rsidtbl",  "stylesheet",    "tc",          "template",
+    "themedata",  "xe",           "xmlnstbl"};
 
 constexpr std::size_t WordCount = std::size(KnownWords) + std::size(SkippedNames);
 

@@ -4,6 +4,7 @@
 
 #include "richtext/Limits.h"
 #include "richtext/RtfGroupState.h"
+#include "richtext/SymbolFonts.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
@@ -65,7 +66,9 @@ void RtfFontTable::EndEntry() {
   if (!open_) return;
   decoder_.EndText(name_);
   if (fonts_.size() < MaxTableEntries) {
-    fonts_.push_back({NameNumber(ToUtf8(FittingFontName(name_))), page_});
+    std::string name = ToUtf8(FittingFontName(name_));
+    if (page_ != nullptr && page_->number == SymbolPage) page_ = &SignsOfFont(name);
+    fonts_.push_back({NameNumber(std::move(name)), page_});
     indices_[number_] = static_cast<std::int32_t>(fonts_.size() - 1);
   }
   open_ = false;

@@ -23,6 +23,9 @@ enum class Destination : std::uint8_t {
   Label,
   FieldInstruction,
   Picture,
+  ShapeProperty,
+  ShapeName,
+  ShapePicture,
   Discard
 };
 
@@ -34,8 +37,9 @@ constexpr std::int32_t AutomaticColor = -1;
 struct CharacterState {
   std::int32_t font = DefaultFontIndex;  // index in the font table
   std::int32_t halfPoints = DefaultHalfPoints;
-  std::int32_t color = AutomaticColor;      // or 0x00BBGGRR
-  std::int32_t highlight = AutomaticColor;  // likewise; automatic is none
+  std::int32_t color = AutomaticColor;       // or 0x00BBGGRR
+  std::int32_t highlight = AutomaticColor;   // likewise; automatic is none
+  std::int32_t background = AutomaticColor;  // likewise, where there is no highlight
   std::uint32_t link = 0;
   bool bold = false;
   bool italic = false;

@@ -31,6 +31,10 @@ inline void Unicode(Context& context, Number, Number number) {
   context.PutUnicode(number);
 }
 
+inline void TabDistance(Context& context, Number, Number twips) {
+  context.SetTabDistance(twips);
+}
+
 inline void FallbackLength(Context& context, Number, Number length) {
   context.State().fallbackLength = std::max(length, 0);
 }
@@ -81,6 +85,13 @@ inline void Color(Context& context, Number, Number index) {
 // Number 0 is no colour here, whatever the table begins with.
 inline void Highlight(Context& context, Number, Number index) {
   context.ChangeCharacter().highlight = index == 0 ? AutomaticColor : context.Colors().Find(index);
+}
+
+// White is what some programs write for none; on coloured paper it would stand out.
+inline void Background(Context& context, Number, Number index) {
+  constexpr std::int32_t White = 0xFFFFFF;
+  const std::int32_t color = index == 0 ? AutomaticColor : context.Colors().Find(index);
+  context.ChangeCharacter().background = color == White ? AutomaticColor : color;
 }
 
 // Characters' looks.
@@ -242,6 +253,25 @@ inline void SendTo(Context& context, Number destination, Number) {
 
 inline void SetAside(Context& context, Number destination, Number) {
   context.SetAside(static_cast<Destination>(destination));
+}
+
+// Shapes: their text, and the picture that one is.
+
+inline void Shape(Context& context, Number, Number) {
+  context.BeginShape();
+}
+
+inline void ShapeProperty(Context& context, Number, Number) {
+  context.BeginShapeProperty();
+}
+
+inline void ShapeValue(Context& context, Number, Number) {
+  context.BeginShapeValue();
+}
+
+// The same shape again, for older readers.
+inline void ShapeResult(Context& context, Number, Number) {
+  context.BeginShapeResult();
 }
 
 inline void ShapeText(Context& context, Number, Number) {

@@ -8,6 +8,7 @@
 
 #include "richtext/HexDigits.h"
 #include "richtext/Limits.h"
+#include "richtext/PictureSize.h"
 #include "richtext/RtfEscape.h"
 #include "richtext/Twips.h"
 
@@ -100,6 +101,19 @@ Shown ShownSide(const PictureExtent& extent, PictureKind kind) {
   return isKept ? Shown{shown.size, extent.cropBefore, extent.cropAfter} : shown;
 }
 
+// A side that nobody tells follows the other one, as readers differ in what they make of it. `size` is the
+// picture's, in any unit.
+void FillIn(Shown& width, Shown& height, const PixelSize& size) {
+  if (size.width <= 0 || size.height <= 0 || (width.size > 0) == (height.size > 0)) return;
+  const bool isWide = width.size > 0;
+  const Shown& told = isWide ? width : height;
+  const std::int64_t whole = std::int64_t{told.size} + told.cropBefore + told.cropAfter;
+  const std::int64_t from = isWide ? size.width : size.height;
+  const std::int64_t to = isWide ? size.height : size.width;
+  Shown& missing = isWide ? height : width;
+  missing.size = FittingPictureSize(std::max<std::int64_t>((whole * to + from / 2) / from, 1));
+}
+
 }  // namespace
 
 void RtfPictureReader::Begin() {
@@ -163,8 +177,9 @@ std::string RtfPictureReader::Header() const {
 std::optional<Picture> RtfPictureReader::Take() {
   if (bytes_.empty()) return std::nullopt;
   const PictureKind kind = Kind();
-  const Shown width = ShownSide(width_, kind);
-  const Shown height = ShownSide(height_, kind);
+  Shown width = ShownSide(width_, kind);
+  Shown height = ShownSide(height_, kind);
+  if (IsFile(kind)) FillIn(width, height, SizeOfFile(bytes_));
   Picture picture{kind, {}, IsFile(kind) ? std::string() : Header(), width.size, height.size};
   picture.crop = {width.cropBefore, width.cropAfter, height.cropBefore, height.cropAfter};
   picture.bytes = std::move(bytes_);

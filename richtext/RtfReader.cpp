@@ -137,10 +137,14 @@ Document ReadPlainText(std::string_view text) {
 
 }  // namespace
 
+bool IsRtf(std::string_view text) {
+  return text.starts_with("{\\rtf") || text.starts_with("{\\urtf");
+}
+
 Document ReadRtf(std::string_view rtf) {
-  if (rtf.substr(0, 8) == "\xEF\xBB\xBF{\\rtf") rtf.remove_prefix(3);  // an editor's mark of UTF-8
-  const bool isRtf = rtf.substr(0, 5) == "{\\rtf" || rtf.substr(0, 6) == "{\\urtf";
-  return isRtf ? Reader(rtf).Read() : ReadPlainText(rtf);
+  constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";  // which editors put in
+  if (rtf.starts_with(Utf8Mark) && IsRtf(rtf.substr(Utf8Mark.size()))) rtf.remove_prefix(Utf8Mark.size());
+  return IsRtf(rtf) ? Reader(rtf).Read() : ReadPlainText(rtf);
 }
 
 }  // namespace richtext

@@ -8,7 +8,11 @@
 
 namespace richtext {
 
-// Text that does not begin with "{\rtf" (or "{\urtf") is taken as plain text in Windows-1252. The very last
+// Whether the text begins with "{\rtf" or "{\urtf". The classic edit controls ask for no more, and pass over
+// nothing before it.
+bool IsRtf(std::string_view text);
+
+// Text that is no RTF is taken as plain text in Windows-1252. The very last
 // \par of the document is swallowed. Table cells end in a tab and rows are paragraphs; headers, footnotes and
 // comments are left out.
 Document ReadRtf(std::string_view rtf);

@@ -37,6 +37,10 @@ std::size_t PlaceOf(const Value& value, std::unordered_map<Value, std::size_t>& 
   return found->second;
 }
 
+std::u16string FontNameOf(const CharacterFormat& format) {
+  return FittingFontName(ToUtf16(format.fontName));
+}
+
 bool HasBullets(const Document& document) {
   return std::any_of(document.paragraphs.begin(), document.paragraphs.end(), [&](const Paragraph& paragraph) {
     return document.paragraphFormats[paragraph.format].list.kind == ListKind::Bullet;
@@ -59,9 +63,12 @@ RtfTables::RtfTables(const Document& document)
       hasBullets_(HasBullets(document)) {
   std::unordered_map<std::u16string, std::size_t> fontPlaces;
   std::unordered_map<std::uint32_t, std::size_t> colorPlaces;
-  for (const std::uint32_t number : FormatsInUse(document)) {
+  const std::vector<std::uint32_t> used = FormatsInUse(document);
+  const auto isNameless = [&](std::uint32_t number) { return FontNameOf(document.formats[number]).empty(); };
+  if (std::any_of(used.begin(), used.end(), isNameless)) PlaceOf(std::u16string(), fontPlaces, fonts_);
+  for (const std::uint32_t number : used) {
     const CharacterFormat& format = document.formats[number];
-    fontOfFormat_[number] = PlaceOf(FittingFontName(ToUtf16(format.fontName)), fontPlaces, fonts_);
+    fontOfFormat_[number] = PlaceOf(FontNameOf(format), fontPlaces, fonts_);
     const auto place = [&](const std::optional<std::uint32_t>& color) {
       return color ? PlaceOf(*color & 0xFFFFFF, colorPlaces, colors_) + 1 : 0;
     };
@@ -79,9 +86,11 @@ void RtfTables::AppendTo(std::string& rtf) const {
   rtf += "}\r\n";
 }
 
+// Number 0 is that of no font where some text names none: the table has none of this number.
 void RtfTables::AppendFonts(std::string& rtf) const {
   rtf += "\\deff0{\\fonttbl";
   for (std::size_t i = 0; i < fonts_.size(); ++i) {
+    if (fonts_[i].empty()) continue;
     rtf += '{';
     AppendWord("f", static_cast<std::int32_t>(i), rtf);
     rtf += "\\fnil\\fcharset0 ";

@@ -16,9 +16,9 @@ class RtfTables {
   explicit RtfTables(const Document& document);
 
   // Whether there is a table of fonts. A document that names none leaves them to its reader.
-  bool HasFonts() const {
-    return hasBullets_ || fonts_.size() > 1 || (!fonts_.empty() && !fonts_[0].empty());
-  }
+  bool HasFonts() const { return hasBullets_ || fonts_.size() > 1 || !HasNameless(); }
+  // Whether text without a named font has the number 0, which is in force where none is told.
+  bool HasNameless() const { return !fonts_.empty() && fonts_[0].empty(); }
   // The \f and \cf numbers of one of the document's formats, which the document must use. \cf0 is automatic.
   std::size_t Font(std::uint32_t format) const { return fontOfFormat_[format]; }
   std::size_t Color(std::uint32_t format) const { return colorOfFormat_[format]; }

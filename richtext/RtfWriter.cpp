@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "richtext/Limits.h"
 #include "richtext/RtfLookWriter.h"
 #include "richtext/RtfOutput.h"
 #include "richtext/RtfParagraphWriter.h"
@@ -43,6 +44,8 @@ class Writer {
 std::string Writer::Write() {
   out_.Reserve(ExpectedSize());
   out_.Raw("{\\rtf1\\ansi\\ansicpg1252");
+  if (const std::int32_t distance = FittingTabDistance(document_.tabDistance); distance != DefaultTabDistance)
+    out_.Word("deftab", distance);
   tables_.AppendTo(out_.Bytes());
   out_.Raw("\\viewkind4\\uc1");
   for (const Paragraph& paragraph : document_.paragraphs) WriteParagraph(paragraph);

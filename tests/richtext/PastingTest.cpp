@@ -36,6 +36,9 @@ TEST_F(PastingTest, TakesTheRichestOffer) {
   EXPECT_EQ(box.Text(), QStringLiteral("rtf"));
   EXPECT_TRUE(FormatAt(3).bold);
   box.selectAll();
+  Paste([](QMimeData& data) { data.setData(QStringLiteral("text/rtf"), "\r\n {\\urtf1 old\\u233?}"); });
+  EXPECT_EQ(box.Text(), QStringLiteral("old\u00e9"));
+  box.selectAll();
   Paste([](QMimeData& data) {
     data.setData(QStringLiteral("text/rtf"), "no rtf at all");
     data.setHtml(QStringLiteral("<i>html</i>"));
@@ -60,6 +63,20 @@ TEST_F(PastingTest, PlainPasteTakesTheCaretsFormat) {
   EXPECT_EQ(FormatAt(8), Journal);
 }
 
+TEST_F(PastingTest, AParagraphThatIsPartedKeepsItsFormat) {
+  for (const auto& [place, paragraphs] : {std::pair{2, "[right]abone|[right]twocd"},
+                                          {0, "[center]one|[right]twoabcd"},
+                                          {4, "[right]abcdone|two"}}) {
+    SCOPED_TRACE(paragraphs);
+    box.SetTextRTF("{\\rtf1\\qr abcd\\par}");
+    box.SetSelStart(place);
+    Paste([](QMimeData& data) {
+      data.setData(QStringLiteral("text/rtf"), "{\\rtf1\\qc one\\par\\pard two\\par}");
+    });
+    EXPECT_EQ(Dump(Taken()), paragraphs);
+  }
+}
+
 TEST_F(PastingTest, CutFromTheMenuKeepsTheCaretsFormat) {
   Set(Page({{u"loud", Loud}}));
   box.selectAll();
@@ -76,6 +93,9 @@ TEST_F(PastingTest, HtmlBecomesWhatAPageKeeps) {
   } cases[] = {
       {"a<b>b</b><i>c</i><u>d</u><s>e</s>",
        "(20 Arial)a(b 20 Arial)b(i 20 Arial)c(u 20 Arial)d(s 20 Arial)e"},
+      {"<del>a</del><ins>b</ins><strike>c</strike> <b style='text-decoration-line:underline'>d</b>",
+       "(s 20 Arial)a(u 20 Arial)b(s 20 Arial)c(20 Arial) (b u 20 Arial)d"},
+      {"<a name=x>a</a><a href=y>b</a>", "(20 Arial)a(u 20 Arial #0000ee -> y)b"},
       {"<h1>big</h1>", "(b 40 Arial)big"},
       {"<p style='font-size:16px'>px</p>", "(Arial)px"},
       {"<p style='font-family:\"No Such Font\",sans-serif;font-size:9pt'>x</p>", "(18 Arial)x"},
@@ -140,6 +160,15 @@ TEST_F(PastingTest, PagesBackgroundsStayHighlightsCome) {
       {"<span style='background-color:#112233'>dark page </span><mark>b</mark>", {{}, 0x00ffff}},
       {"<table><tr><td bgcolor=red>a</table>", {{}}},
       {"<span style='background:rgba(0,0,0,0)'>a</span>", {{}}},
+      // What is hardly seen, and what stands for another's background, is none.
+      {"a <code style='background-color: rgba(27,31,35,0.05)'>b</code>", {{}, {}}},
+      {"a <code style='background-color:hsl(210deg 8% 90%)'>b</code>", {{}, {}}},
+      {"a <b style='background:inherit'>b</b><i style='background-color:var(--x, red)'>c</i>", {{}, {}, {}}},
+      {"a <b style='Background-Color:#fff2a8'>b</b>", {{}, 0xa8f2ff}},
+      {"a <b style='background-color:#ffff0080'>b</b>", {{}, 0x7fffff}},
+      {"a <b style=\"background-color:rgb(255 255 0 / 50%)\">b</b>", {{}, 0x7fffff}},
+      {"a <b style='background:none repeat scroll rgb(255 255 0)'>b</b>", {{}, 0x00ffff}},
+      {"<style>b { color: inherit; background: url(a;b) #ff08 } </style>a <b>b</b>", {{}, 0x77ffff}},
   };
   for (const auto& [html, highlights] : cases) {
     const Document page = ReadHtml(QString::fromUtf8(html), Plain, {});
@@ -155,6 +184,10 @@ TEST_F(PastingTest, LettersOfADarkPageCanBeRead) {
   };
   EXPECT_EQ(ink("<span style='color:#e6edf3;background:#0d1117'>a</span>"), std::nullopt);
   EXPECT_EQ(ink("<span style='color:#ffcc00'>a</span>"), 0x00ccffu);
+  EXPECT_EQ(ink("<span style='color:rgba(0,0,0,.8)'>a</span>"), 0x333333u);
+  for (const char* unknown : {"inherit", "var(--ink)", "oklch(0.5 0.2 20)", "windowtext", "#12345"})
+    EXPECT_EQ(ink(qPrintable(QStringLiteral("<p style='color:%1'>a").arg(QLatin1String(unknown)))),
+              std::nullopt);
 }
 
 TEST_F(PastingTest, WhatWasPastedIsKept) {
@@ -188,6 +221,19 @@ TEST_F(PastingTest, PicturesComeFromTheClipboardAlone) {
   EXPECT_EQ(page.pictures[0].widthTwips, 60) << "the clipboard's own bitmap";
   EXPECT_EQ(page.pictures[1].bytes, png);
   EXPECT_EQ(page.pictures[1].widthTwips, 450);
+  const QString styled = QString(held).replace(QLatin1String("width=30"),
+                                               QLatin1String("height=9 style='width:80.5px; height:auto'"));
+  EXPECT_EQ(ReadHtml(styled, Plain, {}).pictures.at(0).widthTwips, 1200);
+  EXPECT_EQ(ReadHtml(styled, Plain, {}).pictures.at(0).heightTwips, 0) << "as wide";
+}
+
+// Each element costs the toolkit a look at all that is open.
+TEST_F(PastingTest, DeepMarkupIsReadQuickly) {
+  const QString deep =
+      QStringLiteral("<div><p>x</p>").repeated(20000) + QStringLiteral("</div>").repeated(20000);
+  const Document page = ReadHtml(deep + QStringLiteral("<b>y</b>"), Plain, {});
+  EXPECT_EQ(page.text.size(), 20001u);
+  EXPECT_EQ(page.formats.size(), 2u) << "what follows is read as ever";
 }
 
 TEST_F(PastingTest, CopyOffersTheSelectionThreefold) {

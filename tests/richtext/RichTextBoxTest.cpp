@@ -201,14 +201,15 @@ Document FullPage() {
   const std::string png = SignedPng();
   page.pictures = {{PictureKind::Png, png, {}, 301, 77},
                    {PictureKind::Png, png, {}, 0, 0},
-                   {PictureKind::Png, "no picture", {}, 600, 300},
-                   {PictureKind::Png, png, {}, 0, 90, {0, 0, -10, 30}}};
+                   {PictureKind::Png, "no picture", {}, 0, 300},
+                   {PictureKind::Png, png, {}, 147, 90, {0, 0, -10, 30}}};
   page.paragraphFormats = {Indented(Alignment::Left, 0, 0, 0), Indented(Alignment::Right, 1, 719, -360),
                            Indented(Alignment::Center, -15, 0, 7),
                            Indented(Alignment::Justify, 1440, 20, 360)};
   page.paragraphs = {{3, 0, 0}, {5, 1, 1}, {0, 2, 4}, {7, 3, 3}};
   page.runs = {{3, 0}, {4, 0}, {1, 1}, {3, 2}, {4, 3}};
   page.formats[2] = Font("Arial", 21);
+  page.tabDistance = 300;
   return page;
 }
 
@@ -217,6 +218,8 @@ TEST_F(RichTextBoxTest, HoldsWhatThePageHolds) {
   FillDocument(page, *box.document());
   const Document taken = Taken();
   ExpectSame(taken, page);
+  EXPECT_EQ(taken.tabDistance, page.tabDistance);
+  EXPECT_EQ(box.tabStopDistance(), 20);
   QApplication::processEvents();
   EXPECT_EQ(TakeDocument(*box.document()), taken) << "drawing it changed it";
   box.SetTextRTF(WriteRtf(taken));
@@ -229,6 +232,15 @@ TEST_F(RichTextBoxTest, ShowsThePartThatACropLeaves) {
   EXPECT_EQ(shown.size(), QSize(4, 5));
   EXPECT_EQ(shown.copy(0, 0, 4, 4), Checkers({8, 6}).copy(2, 2, 4, 4));
   EXPECT_EQ(shown.pixelColor(0, 4).alpha(), 0) << "a margin";
+}
+
+TEST_F(RichTextBoxTest, ShowsLargePhotos) {
+  QImage photo(7000, 5200, QImage::Format_RGB32);
+  photo.fill(Qt::red);
+  QByteArray file;
+  QBuffer buffer(&file);
+  photo.save(&buffer, "JPEG", 10);
+  EXPECT_EQ(DecodedPicture({PictureKind::Jpeg, file.toStdString(), {}, 1500, 0}).size(), photo.size());
 }
 
 TEST_F(RichTextBoxTest, ForeignSignsStayWithinTheirParagraph) {

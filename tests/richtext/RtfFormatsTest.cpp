@@ -18,7 +18,10 @@ TEST(RtfFormats, ReadsEveryLookOfLetters) {
        "(super)a(sub)b()c(super)d()e(sub)fg(super)h()i"},
       {R"({\rtf1\caps a\scaps b\caps0 c\scaps0 d\v e\v0 f})", "(caps)a(scaps)bc()d(v)e()f"},
       {R"({\rtf1{\colortbl\red1;\red2;;}\highlight1 a\cb0 b\chcbpat1 c\highlight2 d\cb0\cf0 e\highlight9 f})",
-       "(on #020000)a()b(on #020000)c()d(#010000)ef"},
+       "(on #020000)abcd(#010000)ef"},
+      // White behind letters is none, unless they are marked with it.
+      {R"({\rtf1{\colortbl;\red255\green255\blue255;\red9;}\cb1 a\chcbpat2 b\highlight1 c\highlight0 d\chcbpat1 e})",
+       "a(on #090000)b(on #ffffff)c(on #090000)d()e"},
   });
 }
 
@@ -155,6 +158,25 @@ TEST(RtfFormats, ReadsTextOfShapesAndObjects) {
       {R"({\rtf1{\*\do\dobxpage{\dptxbxtext b\par}}c})", "b|c"},
       {R"({\rtf1{\object{\*\objclass X}{\*\objdata 00}{\result\i b}}c})", "(i)b()c"},
   });
+}
+
+TEST(RtfFormats, ReadsFieldsThatAreSigns) {
+  ExpectEach({
+      {R"({\rtf1 a{\field{\*\fldinst SYMBOL 74 \\f "Wingdings" \\s 12}{\fldrslt}}b})", "a☺b"},
+      {R"({\rtf1{\field{\*\fldinst{symbol 0xF0B7 \\f Symbol}}}{\field{\*\fldinst SYMBOL 128}{\fldrslt{\b}}}})",
+       "•€"},
+      {R"({\rtf1{\field{\*\fldinst SYMBOL 74 \\f Wingdings}{\fldrslt x}}{\field{\*\fldinst SYMBOL}}})", "x"},
+  });
+}
+
+TEST(RtfFormats, ReadsThePictureThatAShapeIs) {
+  const std::string property = R"({\shp{\*\shpinst{\sp{\sn %}{\sv {\pict\pngblip 00}x}}})";
+  const std::string older = R"({\shprslt{\*\do y}{\pict\pngblip 0001}\par}}b})";
+  const auto shape = [&](const char* name) {
+    return "{\\rtf1 a" + std::string(property).replace(property.find('%'), 1, name) + older;
+  };
+  ExpectReads(shape("pib"), "a<png 1 0x0>b");
+  ExpectReads(shape("fillBlip"), "a<png 2 0x0>b");
 }
 
 TEST(PlainText, HoldsWhatIsRead) {

@@ -73,6 +73,10 @@ TEST(RtfPicture, TakesTheSizeFromGoalScaleAndCrop) {
       {R"(\pngblip\picwgoal720\piccropl100\piccropr20\picscalex50\pichgoal9\piccropt-6 00)",
        "png 1 240x15 of 100 20 -6 0"},
       {R"(\wmetafile8\picw99\picwgoal720\pichgoal-5 00)", R"(wmf 1 \wmetafile8\picw99 720x0)"},
+      // A side that nobody tells follows the file's own shape.
+      {R"(\pngblip\picwgoal720\piccropr-80 89504e470d0a1a0a0000000d494844520000000400000002)",
+       "png 24 800x360 of 0 -80 0 0"},
+      {R"(\jpegblip\pichgoal100 ffd8ffe000040000ffc0001108000200040)", "jpeg 17 200x100"},
       // What would leave nothing, or more than there is room for.
       {R"(\dibitmap\picw1\picscalex1 00)", R"(dib 1 \dibitmap\picw1 1x0)"},
       {R"(\pngblip\picwgoal720\piccropl900\pichgoal720\picscaley-3 00)", "png 1 720x720"},

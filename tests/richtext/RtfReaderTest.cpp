@@ -36,7 +36,7 @@ TEST(RtfReader, ReadsTextAndParagraphs) {
       {R"({\rtf1\intbl a\nestcell b\nestcell{\*\nesttableprops\trowd\nestrow}{\nonesttables\par}c\cell\row})",
        "a>b>|c>"},
       {R"({\rtf1 a} after)", "a"},
-      {R"({\rtf1 a\sect b\page c})", "a|b|c"},
+      {R"({\rtf1 a\sect b\page c\column d\softline e\lbr0 f})", "a|b|c|d/e/f"},
   });
 }
 
@@ -53,7 +53,10 @@ TEST(RtfReader, ReadsBytesByTheirCodePage) {
        "(A)α(B)ą(A)β"},
       {R"({\rtf1\ansicpg1251{\fonttbl{\f0\fcharset1 A;}{\f1\fcharset1\cpg1253 B;}}\f0\'e1\f1\'e1})",
        "(A)б(B)α"},
-      {R"({\rtf1{\fonttbl{\f1\fcharset2 Symbol;}}a{\f1\'b7 x}})", "a(Symbol)\uF0B7 \uF078()"},
+      // Signs that other fonts have too are these; the rest stays what it is in its font.
+      {R"({\rtf1{\fonttbl{\f1\fcharset2 Symbol;}}a{\f1\'b7 x}})", "a(Symbol)• ξ()"},
+      {R"({\rtf1{\fonttbl{\f1\fcharset2 Wingdings;}{\f2\fcharset2 Webdings;}}\f1 J\u-3844 ?\u61514?\'4b\f2 J})",
+       "(Wingdings)☺✔☺\uF04B(Webdings)\uF04A"},
       {R"({\rtf1\ansicpg4711\'e9})", "é"},
       // One character of two bytes, whichever way its halves are written.
       {R"({\rtf1\ansicpg932\'8cR\'8c\'52x})", "軍軍x"},
@@ -170,7 +173,8 @@ TEST(RtfReader, KeepsWhatItReadOfBadInput) {
       {R"({\rtf1{\b bold never closed)", "(b)bold never closed"},
       {R"({\rtf1 x}}}} y)", "x"},
       {R"({\rtf1{\fonttbl{\f0 A;}{\f1 Ti)", "(A)"},
-      {R"({\rtf1 before {\pict\pngblip 0100)", "before "},
+      {R"({\rtf1 before {\pict\pngblip 0100)", "before <png 2 0x0>"},
+      {R"({\rtf1{\b{\pict\wmetafile8\picwgoal9\pichgoal9 01{\*\blipuid 01)", "(b)<png 1 9x9>"},
       {R"({\rtf1 a{\pict\pngblip\bin2147483647 xx}b})", "ab"},
       {R"({\rtf1 a{\pict\pngblip\bin-5 xx}b})", "ab"},
       {R"({\rtf1 a{\pict\pngblip\bin99999999999999999999 x}b})", "ab"},

@@ -63,11 +63,11 @@ TEST(RtfWriter, WritesTheClassicShape) {
 }
 
 TEST(RtfWriter, WritesListsAndLinksForOldReaders) {
-  const std::string header = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 ;}";
+  const std::string header = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl";
   const std::string rtf =
       "{\\f1\\fnil\\fcharset2 Symbol;}}\r\n\\viewkind4\\uc1"
       "\\pard{\\pntext\\f1\\'b7\\tab}{\\*\\pn\\pnlvlblt\\pnf1\\pnindent0{\\pntxtb\\'b7}}\\fi-360\\li720"
-      "\\f0\\fs24 a\\par\r\n{\\pntext\\f1\\'b7\\tab}b\\par\r\n"
+      "\\fs24 a\\par\r\n{\\pntext\\f1\\'b7\\tab}b\\par\r\n"
       "\\pard{\\pntext iv)\\tab}{\\*\\pn\\pnlvlbody\\pnindent0\\pnstart4\\pnlcrm{\\pntxta )}} c\\par\r\n"
       "{\\pntext v)\\tab}{\\field{\\*\\fldinst{HYPERLINK \"x\\\\\\\\\\u233?\"}}{\\fldrslt\\b d}} e\\par\r\n"
       "\\pard f\\par\r\n}\r\n";

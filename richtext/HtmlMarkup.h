@@ -1,0 +1,13 @@
+// Markup from elsewhere in the words that the toolkit understands.
+#pragma once
+
+#include <QtCore/QString>
+
+namespace richtext {
+
+// Colours become opaque ones, as they look on white, or none; pictures that tell their size by a style tell
+// it by attributes; and what is nested deeper than a person would is flat from there on, since the toolkit
+// looks through all that is open for each element.
+QString WithPlainWords(const QString& html);
+
+}  // namespace richtext
