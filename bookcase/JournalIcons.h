@@ -7,3 +7,6 @@
 // the first one. The order is part of the data: an index stands in the index file.
 inline constexpr int JournalIconCount = 63;
 QIcon JournalIcon(int index);
+
+// What the icon shows, in a word or a few: "blue book". For those who do not see it.
+QString JournalIconName(int index);
