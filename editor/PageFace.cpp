@@ -66,6 +66,11 @@ void PictureBox::SetPicture(const QPixmap& picture) {
   update();
 }
 
+void PictureBox::RepeatDownwards() {
+  repeats_ = true;
+  update();
+}
+
 void PictureBox::SetBackColor(std::uint32_t color) {
   backColor_ = color;
   update();
@@ -74,7 +79,10 @@ void PictureBox::SetBackColor(std::uint32_t color) {
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), ColorOf(backColor_));
-  painter.drawPixmap(0, 0, picture_);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
+  const QSize size = picture_.deviceIndependentSize().toSize();
+  const int bottom = repeats_ ? height() : std::min(height(), size.height());
+  painter.drawTiledPixmap(0, 0, std::min(width(), size.width()), bottom, picture_);
 }
 
 PageFace::PageFace(QWidget* parent) : QWidget(parent) {
@@ -92,6 +100,7 @@ PageFace::~PageFace() = default;
 void PageFace::MakePage() {
   picBinding = Placed(new PictureBox(this), QStringLiteral("picBinding"), 0, PageTop, PageLeft, 8850);
   picBinding->SetPicture(BindingPicture());
+  picBinding->RepeatDownwards();
   txtM = Placed(new richtext::RichTextBox(this), QStringLiteral("txtM"), PageLeft, PageTop, 7484, 8849);
   txtM->setAccessibleName(QStringLiteral("the page"));
   txtM->setFrameShape(QFrame::NoFrame);

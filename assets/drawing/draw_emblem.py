@@ -1,5 +1,6 @@
 """Draws the emblem, as the desktop's icon in every size it asks for, and the pictures that share its parts: the quill
-and inkwell of the bookcase window, the clasped book of the lock screen, the hourglass and inkwell of the wait window."""
+and inkwell of the bookcase window, the clasped book of the lock screen, and of the wait window the hourglass beside the
+inkwell."""
 
 from emblem.books import clasped_book, emblem_book
 from emblem.desk import hourglass_and_inkwell, quill_and_inkwell
