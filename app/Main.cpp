@@ -14,6 +14,9 @@
 #include "lock/frmPass.h"
 #include "look/Form.h"
 #include "look/Pass.h"
+#include "output/frmExport.h"
+#include "output/modPrint.h"
+#include "pictures/modPictures.h"
 #include "platform/Application.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
@@ -39,6 +42,7 @@ void TellWhenTheFolderIsReadOnly() {
 
 QWidget* VisibleWindow() {
   if (look::IsLoaded<frmJournal>() && look::The<frmJournal>().isVisible()) return &look::The<frmJournal>();
+  if (look::IsLoaded<frmExport>()) return &look::The<frmExport>();
   if (look::IsLoaded<frmBookcase>() && look::The<frmBookcase>().isVisible()) return &look::The<frmBookcase>();
   if (look::IsLoaded<frmPass>()) return &look::The<frmPass>();
   if (look::IsLoaded<frmInitJournal>()) return &look::The<frmInitJournal>();
@@ -53,9 +57,12 @@ void ShowOptions() {
   look::The<frmOptions>().ShowModal();
 }
 
-void LoadTheJournalWindow() {
+// Its commands whose windows lie upstairs are connected here.
+void LoadJournalWindow() {
   if (look::IsLoaded<frmJournal>()) return;
-  QObject::connect(&look::The<frmJournal>(), &frmJournal::OptionsRequested, &ShowOptions);
+  auto& book = look::The<frmJournal>();
+  QObject::connect(&book, &frmJournal::PrintRequested, &PrintJournal);
+  QObject::connect(&book, &frmJournal::OptionsRequested, &ShowOptions);
 }
 
 void StartLocked() {
@@ -63,17 +70,18 @@ void StartLocked() {
   RecoverLostJournals();
   auto& lock = look::The<frmPass>();
   QObject::connect(&lock, &frmPass::Unlocked, [] {
-    LoadTheJournalWindow();
+    LoadJournalWindow();
     look::The<frmBookcase>().ShowModeless();
+    LoadPictureStore();
   });
   lock.ShowModeless();
-  QTimer::singleShot(JournalWindowDelayMs, &LoadTheJournalWindow);
+  QTimer::singleShot(JournalWindowDelayMs, &LoadJournalWindow);
 }
 
 void StartForTheFirstTime() {
   look::The<frmInitJournal>().ShowModal();
   if (JournalCount == 0) return;  // left by the exit
-  LoadTheJournalWindow();
+  LoadJournalWindow();
   NewJournalPages();
 }
 

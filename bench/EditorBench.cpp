@@ -9,6 +9,7 @@
 #include "editor/OpenJournal.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
+#include "editor/frmIndex.h"
 #include "editor/frmJournal.h"
 #include "platform/Application.h"
 #include "platform/Files.h"
@@ -116,6 +117,35 @@ void TurnToAnUnchangedPage(benchmark::State& state) {
 }
 BENCHMARK(TurnToAnUnchangedPage)->Arg(10)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+// Rows of a store that lie on other pages, and on the same pages of other journals.
+void LayPicturesElsewhere(std::int32_t rows) {
+  Pictures.assign(static_cast<std::size_t>(rows) + 1, {});
+  PictureCount = rows;
+  for (std::int32_t row = 1; row <= rows; ++row) {
+    PagePicture& picture = Pictures[static_cast<std::size_t>(row)];
+    picture.PictureFile = "/home/someone/Pictures/2010/" + std::to_string(row) + ".jpg";
+    picture.JournalFile = "j00001.tqf";
+    picture.PageNumber = row % 12;
+  }
+}
+
+// A turn without its drawing, which walks over a store of so many rows.
+void TurnBesideAStore(benchmark::State& state) {
+  look::The<frmJournal>();
+  Diary diary(10);
+  LayPicturesElsewhere(static_cast<std::int32_t>(state.range(0)));
+  diary.Open();
+  bool forward = false;
+  for (auto _ : state) {
+    if (forward)
+      GoNextPage();
+    else
+      GoBackPage();
+    forward = !forward;
+  }
+}
+BENCHMARK(TurnBesideAStore)->Arg(0)->Arg(100000)->Unit(benchmark::kMillisecond)->UseRealTime();
+
 void TypeALetter(benchmark::State& state) {
   look::The<frmJournal>();
   Diary diary(1, static_cast<std::size_t>(state.range(0)));
@@ -127,6 +157,32 @@ void TypeALetter(benchmark::State& state) {
   PageDirty = False;
 }
 BENCHMARK(TypeALetter)->Arg(3000)->Arg(100000)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// The pages of 27 years, up to the window that shows the years.
+void OpenTheIndex(benchmark::State& state) {
+  look::The<frmJournal>();
+  Diary diary(1);
+  diary.Open();
+  const auto pages = static_cast<double>(state.range(0));
+  for (double day = 36526; Pages.size() <= static_cast<std::size_t>(pages); day += 27 * 365.25 / pages)
+    Pages.push_back({{}, day});
+  for (auto _ : state) {
+    ShowJournalIndex();
+    look::The<frmIndex>().repaint();
+    state.PauseTiming();
+    look::Unload<frmIndex>();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    state.ResumeTiming();
+  }
+  state.SetComplexityN(state.range(0));
+}
+BENCHMARK(OpenTheIndex)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Complexity(benchmark::oN)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 
 }  // namespace
 

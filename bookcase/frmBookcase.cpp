@@ -3,11 +3,15 @@
 #include <QtGui/QMouseEvent>
 
 #include "bookcase/JournalIcons.h"
+#include "bookcase/frmAbout.h"
+#include "bookcase/frmJournalProp.h"
 #include "bookcase/frmNewJournal.h"
 #include "editor/OpenJournal.h"
 #include "editor/frmJournal.h"
 #include "look/Emblem.h"
 #include "look/Theme.h"
+#include "output/frmExport.h"
+#include "pictures/modPictures.h"
 #include "platform/CodePage.h"
 #include "platform/Failure.h"
 #include "platform/Keystroke.h"
@@ -101,7 +105,11 @@ void frmBookcase::ConnectCommands() {
   connect(cmdOpen, &QPushButton::clicked, this, &frmBookcase::cmdOpen_Click);
   connect(cmdAdd, &QPushButton::clicked, this, &frmBookcase::cmdAdd_Click);
   connect(cmdDelete, &QPushButton::clicked, this, &frmBookcase::cmdDelete_Click);
+  connect(cmdExport, &QPushButton::clicked, this, &frmBookcase::cmdExport_Click);
+  connect(cmdProp, &QPushButton::clicked, this, &frmBookcase::cmdProp_Click);
   connect(cmdHelp, &QPushButton::clicked, this, &frmBookcase::cmdHelp_Click);
+  connect(cmdAbout, &QPushButton::clicked, this, &frmBookcase::cmdAbout_Click);
+  connect(Image2, &QPushButton::clicked, this, &frmBookcase::cmdAbout_Click);
   connect(cmdOptions, &QPushButton::clicked, this, &frmBookcase::OptionsRequested);
   connect(cmdClose, &QPushButton::clicked, this, &frmBookcase::cmdClose_Click);
 }
@@ -111,7 +119,8 @@ void frmBookcase::AddItem(int row) {
   const QString name = platform::FromCodePage(entry.Name);
   auto* item = new QListWidgetItem(JournalIcon(entry.Icon), name, ListView1);
   item->setData(RowTag, row);
-  if (name.isEmpty()) item->setData(Qt::AccessibleTextRole, QStringLiteral("a journal without a name"));
+  const QString spoken = name.isEmpty() ? QStringLiteral("a journal without a name") : name;
+  item->setData(Qt::AccessibleTextRole, QStringLiteral("%1, %2").arg(spoken, JournalIconName(entry.Icon)));
   item->setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped()));  // where the list has cut it short
   KeepASelection();
 }
@@ -153,6 +162,8 @@ void frmBookcase::resizeEvent(QResizeEvent* /*event*/) {
 bool frmBookcase::DressJournalWindow() {
   auto& book = look::The<frmJournal>();
   connect(book.face, &PageFace::JournalClosed, this, &frmBookcase::ShowAgain, Qt::UniqueConnection);
+  connect(&book, &frmJournal::JournalPropertiesRequested, this, &frmBookcase::ShowProperties,
+          Qt::UniqueConnection);
   CurrentJournal = SelectedRow();
   JournalEntry& entry = EntryOf(CurrentJournal);
   book.face->txtM->SetBackColor(entry.PaperColor);
@@ -178,12 +189,15 @@ void frmBookcase::cmdAdd_Click() {
   look::The<frmNewJournal>().ShowModal();
 }
 
+// Only the file's own deletion is guarded: in a run without a picture store the save fails, which ends the
+// program with the file gone and the index unsaved.
 void frmBookcase::cmdDelete_Click() {
   if (ListView1->count() == 0) return;
   const int row = SelectedRow();
-  const QString fileName = platform::FromCodePage(EntryOf(row).FileName);
-  const platform::Message question{"Are you sure you want to delete " + fileName.toStdString(),
-                                   platform::Buttons::YesNo, platform::BoxIcon::Stop};
+  const std::string fileName = EntryOf(row).FileName;
+  const platform::Message question{
+      "Are you sure you want to delete " + platform::FromCodePage(fileName).toStdString(),
+      platform::Buttons::YesNo, platform::BoxIcon::Stop};
   if (platform::ShowMessage(question) != platform::Answer::Yes) return;
   try {
     RemoveJournal(row);
@@ -191,7 +205,34 @@ void frmBookcase::cmdDelete_Click() {
     platform::ShowMessage(failure.what(), platform::BoxIcon::Stop);  // it names the file
     return;
   }
+  RemovePicturesOf(fileName);
+  SavePictureStore();
   RefreshBookcaseList();
+}
+
+// The journal window stays invisible: the export turns its pages.
+void frmBookcase::cmdExport_Click() {
+  if (ListView1->count() == 0) return;
+  if (EnsureExportFolder() != 0) return;
+  if (!DressJournalWindow()) return;
+  hide();
+  auto& dialog = look::The<frmExport>();
+  connect(&dialog, &frmExport::Closed, this, &frmBookcase::ShowAgain);
+  dialog.ShowModeless();
+}
+
+void frmBookcase::cmdAbout_Click() {
+  look::The<frmAbout>().ShowModal();
+}
+
+void frmBookcase::ShowProperties() {
+  look::The<frmJournalProp>().ShowModal();
+}
+
+void frmBookcase::cmdProp_Click() {
+  if (ListView1->count() == 0) return;
+  CurrentJournal = SelectedRow();
+  ShowProperties();
 }
 
 void frmBookcase::cmdHelp_Click() {

@@ -55,11 +55,15 @@ class frmBookcase : public look::Form {
   void LayOutList();
   void ConnectCommands();
   void KeepASelection();
-  void ShowAgain();  // the journal has been closed
+  void ShowAgain();       // the journal, or its export, has been closed
+  void ShowProperties();  // of the journal in CurrentJournal
 
   void cmdOpen_Click();
   void cmdAdd_Click();
   void cmdDelete_Click();
+  void cmdExport_Click();
+  void cmdAbout_Click();
+  void cmdProp_Click();
   void cmdHelp_Click();
   void cmdClose_Click();
 };

@@ -6,6 +6,7 @@
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
+#include "pictures/PictureSlots.h"
 #include "platform/CodePage.h"
 #include "platform/Failure.h"
 #include "platform/Files.h"
@@ -15,9 +16,10 @@
 
 namespace {
 
-// A journal may still be here that was opened without being shown. Its text must not meet the next one's
-// pages.
+// A journal may still be here that was opened without being shown. Its text and its pictures must not meet
+// the next one's pages.
 void DropFormerJournal() {
+  HidePagePictures();
   Face().txtM->SetTextRTF({});  // an empty box too may remember, for its undo, what stood in it
   ForgetPages();
 }

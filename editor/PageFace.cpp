@@ -2,6 +2,7 @@
 
 #include <QtCore/QPointer>
 #include <QtGui/QPainter>
+#include <QtGui/QWheelEvent>
 
 #include "editor/BindingPicture.h"
 #include "look/Form.h"
@@ -48,49 +49,14 @@ void DressLabel(QLabel* label, int pixelSize) {
   label->setTextFormat(Qt::PlainText);
 }
 
-QLabel* HiddenImage(const QString& name, QWidget* slot) {
-  auto* image = new QLabel(slot);
-  image->setObjectName(name);
-  image->hide();
-  return image;
-}
-
 }  // namespace
-
-PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
-  setAttribute(Qt::WA_OpaquePaintEvent);
-}
-
-void PictureBox::SetPicture(const QPixmap& picture) {
-  picture_ = picture;
-  update();
-}
-
-void PictureBox::RepeatDownwards() {
-  repeats_ = true;
-  update();
-}
-
-void PictureBox::SetBackColor(std::uint32_t color) {
-  backColor_ = color;
-  update();
-}
-
-void PictureBox::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.fillRect(rect(), ColorOf(backColor_));
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
-  const QSize size = picture_.deviceIndependentSize().toSize();
-  const int bottom = repeats_ ? height() : std::min(height(), size.height());
-  painter.drawTiledPixmap(0, 0, std::min(width(), size.width()), bottom, picture_);
-}
 
 PageFace::PageFace(QWidget* parent) : QWidget(parent) {
   theFace = this;
   resize(Pixels(DesignWidth), Pixels(DesignHeight));
   MakePage();
   MakeHead();
-  MakeSlots();
+  MakePictures();
   DockStrips();
   FitText();
 }
@@ -98,19 +64,18 @@ PageFace::PageFace(QWidget* parent) : QWidget(parent) {
 PageFace::~PageFace() = default;
 
 void PageFace::MakePage() {
-  picBinding = Placed(new PictureBox(this), QStringLiteral("picBinding"), 0, PageTop, PageLeft, 8850);
+  picBinding = Placed(new look::PictureBox(this), QStringLiteral("picBinding"), 0, PageTop, PageLeft, 8850);
   picBinding->SetPicture(BindingPicture());
   picBinding->RepeatDownwards();
   txtM = Placed(new richtext::RichTextBox(this), QStringLiteral("txtM"), PageLeft, PageTop, 7484, 8849);
   txtM->setAccessibleName(QStringLiteral("the page"));
   txtM->setFrameShape(QFrame::NoFrame);
   connect(txtM, &richtext::RichTextBox::Change, this, [] { PageDirty = True; });
-  connect(txtM, &richtext::RichTextBox::MousePressed, this, &PageFace::HideControllers);
 }
 
 // Made after the page, and so above it, where a tall strip covers its first lines.
 void PageFace::MakeHead() {
-  picTop = Placed(new PictureBox(this), QStringLiteral("picTop"), 0, 0, DesignWidth, headHeight_);
+  picTop = Placed(new look::PictureBox(this), QStringLiteral("picTop"), 0, 0, DesignWidth, headHeight_);
   WearTheme();
   lblPageNum1 = Placed(new QLabel(picTop), QStringLiteral("lblPageNum1"), 7590, NumberTop, 825, 195);
   lblPageNum1->setAlignment(Qt::AlignRight | Qt::AlignTop);
@@ -120,21 +85,12 @@ void PageFace::MakeHead() {
   SetHeader(QStringLiteral("Date"), QStringLiteral("Page X"));
 }
 
-void PageFace::MakeSlots() {
-  Placed(new PictureBox(this), QStringLiteral("picTemp"), 1320, 4545, 1020, 885)->hide();
-  constexpr int left[] = {1500, 4800, 2400, 5100, 1200, 3600, 4500};
-  constexpr int top[] = {1200, 1500, 3300, 4200, 5700, 6300, 6900};
-  for (std::size_t i = 0; i < picDisplayPics.size(); ++i) {
-    const auto named = [i](QStringView name) { return QStringLiteral("%1(%2)").arg(name).arg(i); };
-    auto* slot = Placed(new PictureBox(this), named(u"picDisplayPics"), left[i], top[i], 3030, 2445);
-    slot->hide();
-    slot->setAccessibleName(QStringLiteral("Picture %1").arg(i + 1));
-    picDisplayPics[i] = slot;
-    imgPhoto[i] = HiddenImage(named(u"imgPhoto"), slot);
-    imgFrame[i] = HiddenImage(named(u"imgFrame"), slot);
-    imgController[i] = HiddenImage(named(u"imgController"), slot);
-    imgController[i]->setAccessibleName(slot->accessibleName());
-  }
+void PageFace::MakePictures() {
+  Placed(new look::PictureBox(this), QStringLiteral("picTemp"), 1320, 4545, 1020, 885)->hide();
+  pictures = new PictureSlots(this);
+  connect(txtM, &richtext::RichTextBox::MousePressed, pictures, &PictureSlots::HideControllers);
+  connect(pictures, &PictureSlots::WheelTurned, this,
+          [this](QWheelEvent* event) { QCoreApplication::sendEvent(txtM->viewport(), event); });
 }
 
 void PageFace::SetHeader(const QString& date, const QString& pageNumber) {
@@ -182,11 +138,6 @@ void PageFace::FitText() {
   const float pageHeight = scaleHeight - (PageTop + 1);
   txtM->resize(pageWidth < 0 ? txtM->width() : Pixels(pageWidth),
                pageHeight < 0 ? txtM->height() : Pixels(pageHeight));
-}
-
-void PageFace::HideControllers() {
-  for (QLabel* controller : imgController)
-    if (!controller->isHidden()) controller->hide();
 }
 
 PageFace& Face() {

@@ -3,35 +3,12 @@
 // It is the client area of the journal window and knows nothing of the window itself.
 #pragma once
 
-#include <array>
-#include <cstdint>
-
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QWidget>
 
+#include "look/PictureBox.h"
+#include "pictures/PictureSlots.h"
 #include "richtext/RichTextBox.h"
-
-// A box that shows its picture from the top left corner over its background colour.
-class PictureBox : public QWidget {
-  Q_OBJECT
-
- public:
-  explicit PictureBox(QWidget* parent = nullptr);
-  void SetPicture(const QPixmap& picture);
-  // From now on the picture begins again below its end.
-  void RepeatDownwards();
-  const QPixmap& Picture() const { return picture_; }
-  void SetBackColor(std::uint32_t color);  // 0x00BBGGRR
-  std::uint32_t BackColor() const { return backColor_; }
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  QPixmap picture_;
-  bool repeats_ = false;
-  std::uint32_t backColor_ = 0xFFFFFF;
-};
 
 class PageFace : public QWidget {
   Q_OBJECT
@@ -43,17 +20,13 @@ class PageFace : public QWidget {
   explicit PageFace(QWidget* parent = nullptr);
   ~PageFace() override;
 
-  PictureBox* picTop;
+  look::PictureBox* picTop;
   QLabel* lblPageNum1;
   QLabel* lblDate;
-  PictureBox* picBinding;
+  look::PictureBox* picBinding;
   richtext::RichTextBox* txtM;
 
-  // The seven places for a picture over the text. All are hidden, each with what it holds.
-  std::array<PictureBox*, 7> picDisplayPics;
-  std::array<QLabel*, 7> imgPhoto;
-  std::array<QLabel*, 7> imgFrame;
-  std::array<QLabel*, 7> imgController;
+  PictureSlots* pictures;  // the seven places for a picture over the text, with their controls
 
   // The texts of lblDate and lblPageNum1, which size themselves to them: the date from its left edge, the
   // number from its right one.
@@ -76,10 +49,9 @@ class PageFace : public QWidget {
  private:
   void MakeHead();
   void MakePage();
-  void MakeSlots();
+  void MakePictures();
   void DockStrips();
   void FitText();
-  void HideControllers();
 
   int headHeight_ = 870;
 };

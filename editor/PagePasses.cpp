@@ -11,6 +11,7 @@
 #include "editor/PageFace.h"
 #include "look/Pass.h"
 #include "look/frmWait.h"
+#include "pictures/PictureSlots.h"
 #include "platform/Failure.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
@@ -103,6 +104,7 @@ void ShowCurrentPage() {
   TextPage = -1;
   std::optional<std::string> body;
   guarded([&] { body = PageRow(CurrentPage).Body; });
+  guarded([] { ShowPagePictures(); });
   const std::size_t length = body ? body->size() : 0;
   std::optional<std::string> plain;
   if (length != 0) {

@@ -5,6 +5,7 @@
 
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
+#include "pictures/PictureSlots.h"
 #include "platform/CodePage.h"
 #include "platform/Dates.h"
 #include "platform/Failure.h"
@@ -37,6 +38,7 @@ bool WantsNewPage(std::int32_t number) {
 // page before, which must find its row if the program has to end.
 void AskAndAddPage() {
   if (WantsNewPage(PageCount + 1)) {
+    HidePagePictures();
     Pages.resize(Pages.size() + 1);
     ++PageCount;
     CurrentPage = PageCount;
@@ -137,5 +139,6 @@ void CloseJournal() {
   if (PagesJournal != 0 && !SaveOpenJournal()) return;
   PagesJournal = 0;
   Face().window()->hide();
+  HidePagePictures();
   Q_EMIT Face().JournalClosed();
 }

@@ -1,7 +1,14 @@
 #include "editor/frmJournal.h"
 
+#include <QtGui/QKeyEvent>
+
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
+#include "editor/SelectFont.h"
+#include "editor/frmCal.h"
+#include "editor/frmEmoticons.h"
+#include "editor/frmIndex.h"
+#include "pictures/AddPicture.h"
 #include "platform/Keystroke.h"
 #include "state/State.h"
 
@@ -23,6 +30,19 @@ void frmJournal::PageBack() {
 }
 void frmJournal::PageFirst() {
   GoFirstPage();
+}
+void frmJournal::SelectFont() {
+  ChangeSelectionFont();
+}
+void frmJournal::OpenIndex() {
+  ShowJournalIndex();
+}
+void frmJournal::OpenCalendar() {
+  look::The<frmCal>().Cal1->SetValue(Pages.at(static_cast<std::size_t>(CurrentPage)).PageDate);
+  look::The<frmCal>().ShowModal();
+}
+void frmJournal::InsertPicture() {
+  StartAddPicture();
 }
 void frmJournal::OpenJournalProperties() {
   Q_EMIT JournalPropertiesRequested();
@@ -56,6 +76,13 @@ void frmJournal::CloseBox() {
   face->txtM->SetTextRTF({});
 }
 
+void frmJournal::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_F6) return Form::keyPressEvent(event);
+  const bool onTheToolbar = Toolbar1->isAncestorOf(focusWidget());
+  QWidget* target = onTheToolbar ? static_cast<QWidget*>(face->txtM) : Toolbar1->Button(1);
+  target->setFocus(Qt::ShortcutFocusReason);
+}
+
 void frmJournal::resizeEvent(QResizeEvent* event) {
   Form::resizeEvent(event);
   face->setGeometry(rect());
@@ -75,8 +102,12 @@ void frmJournal::Toolbar1_ButtonClick(const QString& key) {
       {u"btnBack", true, [](frmJournal&) { GoBackPage(); }},
       {u"btnNext", true, [](frmJournal&) { GoNextPage(); }},
       {u"btnLastPage", true, [](frmJournal&) { GoLastPage(); }},
-      {u"btnIndex", true, [](frmJournal&) {}},
-      {u"btnCal", true, [](frmJournal&) {}},
+      {u"btnPrint", false, [](frmJournal& window) { Q_EMIT window.PrintRequested(); }},
+      {u"btnIndex", true, [](frmJournal&) { ShowJournalIndex(); }},
+      {u"btnCal", true, [](frmJournal& window) { window.OpenCalendar(); }},
+      {u"btnInsertEmoticon", false, [](frmJournal&) { ShowEmoticonPicker(); }},
+      {u"btnInsertPicture", false, [](frmJournal&) { StartAddPicture(); }},
+      {u"btnFont", false, [](frmJournal&) { ChangeSelectionFont(); }},
       {u"btnOptions", false, [](frmJournal& window) { window.OpenOptions(); }},
       {u"btnJournalProperties", false, [](frmJournal& window) { window.OpenJournalProperties(); }},
       {u"btnHelp", false, [](frmJournal&) { platform::SendKey(Qt::Key_F1); }},

@@ -17,6 +17,10 @@ class frmJournal : public look::Form {
   // The window's public surface, beside the toolbar: none of these stores the page first.
   void PageBack();
   void PageFirst();
+  void InsertPicture();
+  void SelectFont();
+  void OpenIndex();
+  void OpenCalendar();
   void OpenJournalProperties();
   void PageLast();
   void PageNew();
@@ -33,8 +37,11 @@ class frmJournal : public look::Form {
   // Commands whose windows live upstairs.
   void JournalPropertiesRequested();
   void OptionsRequested();
+  void PrintRequested();
 
  protected:
+  // F6 leads the keyboard from the page to the toolbar and back.
+  void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

@@ -15,15 +15,14 @@ char16_t CharacterOf(unsigned char byte) {
   return byte >= 0x80 && byte < 0xA0 ? middle[byte - 0x80] : byte;
 }
 
-// The byte of a character, or -1.
-int ByteOf(char16_t character) {
+}  // namespace
+
+int CodePageByte(char16_t character) {
   if (character < 0x80 || (character >= 0xA0 && character < 0x100)) return character;
   for (std::size_t i = 0; i < middle.size(); ++i)
     if (middle[i] == character) return static_cast<int>(0x80 + i);
   return -1;
 }
-
-}  // namespace
 
 QString FromCodePage(std::string_view bytes) {
   QString text(static_cast<qsizetype>(bytes.size()), Qt::Uninitialized);
@@ -36,7 +35,7 @@ std::optional<std::string> ToCodePage(const QString& text) {
   std::string bytes;
   bytes.reserve(static_cast<std::size_t>(text.size()));
   for (const QChar character : text) {
-    const int byte = ByteOf(character.unicode());
+    const int byte = CodePageByte(character.unicode());
     if (byte < 0) return std::nullopt;
     bytes.push_back(static_cast<char>(byte));
   }
@@ -45,7 +44,7 @@ std::optional<std::string> ToCodePage(const QString& text) {
 
 QString FirstForeignCharacter(const QString& text) {
   for (qsizetype i = 0; i < text.size(); ++i) {
-    if (ByteOf(text[i].unicode()) >= 0) continue;
+    if (CodePageByte(text[i].unicode()) >= 0) continue;
     const bool pair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
     return text.mid(i, pair ? 2 : 1);
   }

@@ -12,6 +12,9 @@
 
 namespace platform {
 
+// The byte of a character; -1 when the code page has none.
+int CodePageByte(char16_t character);
+
 QString FromCodePage(std::string_view bytes);
 // Nothing when a character is not in the code page: none is ever turned into a question mark.
 std::optional<std::string> ToCodePage(const QString& text);

@@ -1,5 +1,6 @@
 #include "platform/Dates.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -50,6 +51,25 @@ double FromDateTime(const QDateTime& moment) {
   const auto days = static_cast<double>(DayZero().daysTo(moment.date()));
   const double time = moment.time().msecsSinceStartOfDay() / millisecondsOfADay;
   return days < 0 ? days - time : days + time;
+}
+
+QDate CalendarDay(double date) {
+  if (std::isnan(date)) return DayZero();
+  const QDate day = ToDateTime(date).date();
+  if (day.isValid()) return std::clamp(day, FirstCalendarDay(), LastCalendarDay());
+  return date < 0 ? FirstCalendarDay() : LastCalendarDay();
+}
+
+QDate FirstCalendarDay() {
+  return {100, 1, 1};
+}
+
+QDate LastCalendarDay() {
+  return {9999, 12, 31};
+}
+
+QString MonthName(int month) {
+  return QLocale::system().standaloneMonthName(month);
 }
 
 void SetClock(std::function<double()> clock) {

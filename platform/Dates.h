@@ -19,6 +19,14 @@ QString LongDate(double date);
 QDateTime ToDateTime(double date);
 double FromDateTime(const QDateTime& moment);
 
+// The day of the date as calendars and the index show it, within the years 100 to 9999. A date beyond them
+// gives the nearest day in them, no number gives day zero.
+QDate CalendarDay(double date);
+QDate FirstCalendarDay();
+QDate LastCalendarDay();
+// The full name of a month, 1 to 12, in the user's language, as it stands alone.
+QString MonthName(int month);
+
 // The seams: a clock and a long date in the place of the desktop's; empty functions restore them.
 void SetClock(std::function<double()> clock);
 void SetLongDate(std::function<QString(double)> longDate);

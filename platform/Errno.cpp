@@ -20,6 +20,9 @@ FailureKind KindOf(int error, FailureKind missing) {
       return FailureKind::DiskFull;
     case EIO:
       return FailureKind::DeviceError;
+    case ENAMETOOLONG:
+    case EILSEQ:
+      return FailureKind::BadFileName;
     case ENOMEM:
       return FailureKind::OutOfMemory;
     default:

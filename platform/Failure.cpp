@@ -15,6 +15,8 @@ const char* TextOf(FailureKind kind) {
       return "Out of memory";
     case FailureKind::SubscriptOutOfRange:
       return "Subscript out of range";
+    case FailureKind::BadFileName:
+      return "No file can have this name";
     case FailureKind::FileNotFound:
       return "File not found";
     case FailureKind::DeviceError:
@@ -27,6 +29,8 @@ const char* TextOf(FailureKind kind) {
       return "The file or folder cannot be opened";
     case FailureKind::PathNotFound:
       return "Path not found";
+    case FailureKind::InvalidPicture:
+      return "This file cannot be shown as a picture";
     case FailureKind::InvalidPropertyValue:
       return "Invalid property value";
   }

@@ -13,6 +13,7 @@ enum class FailureKind {
   Overflow = 6,
   OutOfMemory = 7,
   SubscriptOutOfRange = 9,
+  BadFileName = 52,
   FileNotFound = 53,
   DeviceError = 57,
   DiskFull = 61,
@@ -20,6 +21,7 @@ enum class FailureKind {
   PathAccess = 75,
   PathNotFound = 76,
   InvalidPropertyValue = 380,
+  InvalidPicture = 481,
 };
 
 // what() is a sentence for a person, in UTF-8, that names the thing: "Path not found:

@@ -43,8 +43,12 @@ class InputFile {
   // Reads up to `size` bytes into `buffer`; returns how many, fewer only at the end of the file. Throws
   // DeviceError.
   std::size_t Read(char* buffer, std::size_t size);
+  // The same from the byte at `offset` on, wherever Read has come to.
+  std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size);
   // The file's length in bytes when it was opened.
   std::uint64_t size() const { return size_; }
+  // For a reader of its own; it stays open as long as this object lives.
+  int descriptor() const { return descriptor_; }
 
  private:
   int descriptor_;
@@ -62,6 +66,32 @@ std::string ReadFile(const std::string& path, std::uint64_t most = std::uint64_t
 void ReplaceFile(const std::string& path, std::string_view bytes);
 // The same with the bytes in pieces, one behind the other, so that they need not be brought together first.
 void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces);
+
+// Opens the file, which is created where it is missing, writes the bytes behind its end, and closes it.
+// Throws BadFileName, DiskFull, PermissionDenied, PathNotFound, DeviceError or PathAccess; a failed write can
+// leave a part of the bytes.
+void AppendToFile(const std::string& path, std::string_view bytes);
+
+// A file that is written to at any place. It is created where it is missing, else it keeps what it holds.
+class OutputFile {
+ public:
+  // Throws as AppendToFile does.
+  explicit OutputFile(const std::string& path);
+  ~OutputFile();
+  OutputFile(const OutputFile&) = delete;
+  OutputFile& operator=(const OutputFile&) = delete;
+
+  // Writes the bytes from the byte at `offset` on. Throws as AppendToFile does; after that it can be called
+  // again with the same bytes.
+  void WriteAt(std::uint64_t offset, std::string_view bytes);
+
+ private:
+  int descriptor_;
+  std::string path_;
+};
+
+// Makes the folder. Throws when something has that name already, or as AppendToFile does.
+void MakeFolder(const std::string& path);
 
 // Throws when the file exists and cannot be deleted; a missing file is no failure.
 void DeleteFile(const std::string& path);

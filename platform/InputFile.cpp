@@ -42,6 +42,17 @@ std::size_t InputFile::Read(char* buffer, std::size_t size) {
   return done;
 }
 
+std::size_t InputFile::ReadAt(std::uint64_t offset, char* buffer, std::size_t size) {
+  std::size_t done = 0;
+  while (done < size) {
+    const ssize_t got = pread(descriptor_, buffer + done, size - done, static_cast<off_t>(offset + done));
+    if (got == 0) break;
+    if (got < 0 && errno != EINTR) throw Failure(FailureKind::DeviceError, path_);
+    if (got > 0) done += static_cast<std::size_t>(got);
+  }
+  return done;
+}
+
 std::string ReadFile(const std::string& path, std::uint64_t most) {
   InputFile file(path);
   if (file.size() > most) throw Failure(FailureKind::OutOfMemory, path);

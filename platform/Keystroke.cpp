@@ -10,9 +10,12 @@ namespace platform {
 void SendKey(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QWidget* window = QApplication::activeWindow();
   if (!window) return;
-  QWidget* target = window->focusWidget() ? window->focusWidget() : window;
+  SendKeyTo(window->focusWidget() ? *window->focusWidget() : *window, key, modifiers);
+}
+
+void SendKeyTo(QWidget& target, Qt::Key key, Qt::KeyboardModifiers modifiers) {
   for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease})
-    QCoreApplication::postEvent(target, new QKeyEvent(type, key, modifiers));
+    QCoreApplication::postEvent(&target, new QKeyEvent(type, key, modifiers));
 }
 
 }  // namespace platform

@@ -36,14 +36,29 @@ QMessageBox* MakeBox(const Message& message) {
   return box;
 }
 
+// What agrees is the default, what declines is Escape.
+void AddButtons(QMessageBox& box, QMessageBox::StandardButton agreeing,
+                QMessageBox::StandardButton declining) {
+  box.setStandardButtons(agreeing | declining);
+  box.setDefaultButton(agreeing);
+  box.setEscapeButton(declining);
+}
+
 void AddButtons(QMessageBox& box, Buttons buttons) {
-  if (buttons == Buttons::Ok) {
-    box.setStandardButtons(QMessageBox::Ok);
-    return;
+  switch (buttons) {
+    case Buttons::Ok:
+      return box.setStandardButtons(QMessageBox::Ok);
+    case Buttons::OkCancel:
+      return AddButtons(box, QMessageBox::Ok, QMessageBox::Cancel);
+    case Buttons::YesNo:
+      return AddButtons(box, QMessageBox::Yes, QMessageBox::No);
   }
-  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-  box.setDefaultButton(QMessageBox::Yes);
-  box.setEscapeButton(QMessageBox::No);
+}
+
+Answer AnswerOf(Buttons buttons, int button) {
+  if (buttons == Buttons::Ok) return Answer::Ok;
+  if (buttons == Buttons::OkCancel) return button == QMessageBox::Ok ? Answer::Ok : Answer::Cancel;
+  return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
 Answer AskOnTheDesktop(const Message& message) {
@@ -52,8 +67,7 @@ Answer AskOnTheDesktop(const Message& message) {
   AddButtons(*box, message.buttons);
   const int button = box->exec();
   delete box;
-  if (message.buttons == Buttons::Ok) return Answer::Ok;
-  return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
+  return AnswerOf(message.buttons, button);
 }
 
 }  // namespace

@@ -6,9 +6,9 @@
 
 namespace platform {
 
-enum class Buttons { Ok, YesNo };
+enum class Buttons { Ok, OkCancel, YesNo };
 enum class BoxIcon { None, Stop, Question };
-enum class Answer { Ok, Yes, No };
+enum class Answer { Ok, Cancel, Yes, No };
 
 struct Message {
   std::string text;  // UTF-8, shown as plain text
@@ -18,7 +18,7 @@ struct Message {
 };
 
 // Shows the box over the active window and blocks until it is answered. Closing the box, or Escape, answers
-// Ok in an Ok box and No in a Yes/No box.
+// Ok in an Ok box, Cancel in an Ok/Cancel box and No in a Yes/No box.
 Answer ShowMessage(const Message& message);
 inline Answer ShowMessage(const std::string& text, BoxIcon icon = BoxIcon::None) {
   return ShowMessage(Message{text, Buttons::Ok, icon});

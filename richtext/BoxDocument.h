@@ -3,6 +3,8 @@
 
 #include "richtext/Document.h"
 
+class QString;
+class QTextCharFormat;
 class QTextCursor;
 class QTextDocument;
 
@@ -10,6 +12,8 @@ namespace richtext {
 
 // Replaces the content of `target`, with no undo history before or after it.
 void FillDocument(const Document& source, QTextDocument& target);
+// Replaces it by plain text in one format; a line end makes a paragraph.
+void FillPlain(const QString& text, const QTextCharFormat& format, QTextDocument& target);
 // Puts the content in the place of the cursor's selection, as one step of undo. Its first paragraph joins the
 // one at the cursor; an empty one there takes on its format, but a single paragraph leaves a format that the
 // empty one has. The cursor stands behind what came in.

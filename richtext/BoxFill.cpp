@@ -129,6 +129,19 @@ void FillDocument(const Document& source, QTextDocument& target) {
   target.setUndoRedoEnabled(true);
 }
 
+void FillPlain(const QString& text, const QTextCharFormat& format, QTextDocument& target) {
+  target.setUndoRedoEnabled(false);
+  target.clear();
+  QTextCursor cursor(&target);
+  cursor.beginEditBlock();
+  cursor.setBlockFormat(QTextBlockFormat());
+  cursor.setBlockCharFormat(format);
+  cursor.insertText(text, format);
+  HideWhatIsTooFar(target);
+  cursor.endEditBlock();
+  target.setUndoRedoEnabled(true);
+}
+
 void InsertDocument(const Document& source, QTextCursor& cursor) {
   cursor.beginEditBlock();
   cursor.removeSelectedText();

@@ -27,8 +27,6 @@ enum BoxProperty : int {
   TextAfterNumber,
 };
 
-constexpr double TwipsPerPixel = 15;  // 96 pixels to the inch
-
 // Hidden text has the format of shown text here: that it is hidden is told beside it.
 QTextCharFormat ToTextFormat(const CharacterFormat& format);
 CharacterFormat FromTextFormat(const QTextCharFormat& format);

@@ -1,7 +1,6 @@
 #include "richtext/BoxLabels.h"
 
 #include <algorithm>
-#include <array>
 
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtGui/QPainter>
@@ -11,44 +10,12 @@
 #include "richtext/BoxFormats.h"
 #include "richtext/BoxParagraphs.h"
 #include "richtext/ListLabel.h"
+#include "richtext/Twips.h"
 
 namespace richtext {
 namespace {
 
-constexpr int Levels = 9;
 constexpr double PaperEdge = 1;  // pixels that a label keeps off it
-
-// Counts the items of lists within lists in reading order.
-class Counter {
- public:
-  // Counts the block and returns its label.
-  QString Count(const QTextBlock& block) {
-    const ListFormat list = ListOf(block.blockFormat());
-    const int level = list.kind == ListKind::None ? 0 : std::clamp(list.level, 0, Levels - 1);
-    for (int deeper = level + 1; deeper < Levels; ++deeper) lists_[deeper] = {};
-    List& counted = lists_[level];
-    counted.next = counted.format == list ? counted.next : list.start;
-    counted.format = list;
-    const std::u16string label = LabelText(list, counted.next++);
-    return list.kind == ListKind::None ? QString() : QString::fromStdU16String(label);
-  }
-
- private:
-  struct List {
-    ListFormat format;
-    std::int32_t next = 1;
-  };
-  std::array<List, Levels> lists_;
-};
-
-// Counts the items before the block.
-Counter CountTo(const QTextBlock& block) {
-  QTextBlock first = block;
-  while (first.previous().isValid() && IsListItem(first.previous().blockFormat())) first = first.previous();
-  Counter counter;
-  for (; first != block; first = first.next()) counter.Count(first);
-  return counter;
-}
 
 QTextCharFormat LetterFormat(const QTextBlock& block) {
   const auto first = block.begin();
@@ -62,40 +29,60 @@ QFont PlainFont(QFont font) {
   return font;
 }
 
-double LeftOf(const QTextBlock& block, double width, double gap) {
-  const QRectF text = block.layout()->lineAt(0).naturalTextRect().translated(block.layout()->position());
+double LeftOf(const QTextBlock& block, const QPointF& place, double width, double gap) {
+  const QRectF text = block.layout()->lineAt(0).naturalTextRect().translated(place);
   if (block.textDirection() == Qt::RightToLeft) return text.right() + gap;
   const double hanging = -block.blockFormat().intProperty(FirstIndentOfDocument) / TwipsPerPixel;
   return std::max(text.left() - std::max(hanging, width + gap), PaperEdge);
 }
 
-void DrawLabel(QPainter& painter, const QTextBlock& block, const QString& label) {
-  const QTextCharFormat format = LetterFormat(block);
-  const QFont font = PlainFont(QFont(format.font(), painter.device()));
-  const QFontMetricsF metrics(font);
-  const double gap = metrics.horizontalAdvance(u' ');
-  const QTextLine line = block.layout()->lineAt(0);
-  const double baseline = block.layout()->position().y() + line.y() + line.ascent();
-  painter.setFont(font);
-  painter.setPen(ToColor(ColorOf(format)));
-  painter.drawText(QPointF(LeftOf(block, metrics.horizontalAdvance(label), gap), baseline), label);
-}
-
 }  // namespace
 
+LabelCounter::LabelCounter(const QTextBlock& block) {
+  QTextBlock first = block;
+  while (first.previous().isValid() && IsListItem(first.previous().blockFormat())) first = first.previous();
+  for (; first != block; first = first.next()) Count(first);
+}
+
+QString LabelCounter::Count(const QTextBlock& block) {
+  const ListFormat list = ListOf(block.blockFormat());
+  const int level = list.kind == ListKind::None ? 0 : std::clamp(list.level, 0, Levels - 1);
+  for (int deeper = level + 1; deeper < Levels; ++deeper) lists_[deeper] = {};
+  List& counted = lists_[level];
+  counted.next = counted.format == list ? counted.next : list.start;
+  counted.format = list;
+  const std::u16string label = LabelText(list, counted.next++);
+  return list.kind == ListKind::None ? QString() : QString::fromStdU16String(label);
+}
+
 QString LabelOf(const QTextBlock& block) {
-  return CountTo(block).Count(block);
+  return LabelCounter(block).Count(block);
+}
+
+// By a layout and not by the painter, which takes points for those of its device.
+void DrawLabel(QPainter& painter, const QTextBlock& block, const QPointF& place, const QString& label) {
+  const QTextCharFormat format = LetterFormat(block);
+  const QFont font = PlainFont(format.font());
+  QTextLayout drawn(label, font);
+  drawn.beginLayout();
+  const QTextLine line = drawn.createLine();
+  drawn.endLayout();
+  const QTextLine beside = block.layout()->lineAt(0);
+  const double gap = QFontMetricsF(font).horizontalAdvance(u' ');
+  painter.setPen(ToColor(ColorOf(format)));
+  drawn.draw(&painter, QPointF(LeftOf(block, place, line.naturalTextWidth(), gap),
+                               place.y() + beside.y() + beside.ascent() - line.ascent()));
 }
 
 bool DrawLabels(QPainter& painter, const QTextDocument& document, const QRectF& shown) {
   const QAbstractTextDocumentLayout& layout = *document.documentLayout();
   QTextBlock block = document.findBlock(std::max(0, layout.hitTest(shown.topLeft(), Qt::FuzzyHit)));
-  Counter counter = CountTo(block);
+  LabelCounter counter(block);
   bool drawn = false;
   for (; block.isValid() && layout.blockBoundingRect(block).top() < shown.bottom(); block = block.next()) {
     const QString label = counter.Count(block);
     if (label.isEmpty() || block.layout()->lineCount() == 0) continue;
-    DrawLabel(painter, block, label);
+    DrawLabel(painter, block, block.layout()->position(), label);
     drawn = true;
   }
   return drawn;

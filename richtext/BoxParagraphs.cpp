@@ -5,6 +5,7 @@
 
 #include "richtext/BoxFormats.h"
 #include "richtext/Limits.h"
+#include "richtext/Twips.h"
 
 namespace richtext {
 namespace {

@@ -14,11 +14,13 @@
 #include "richtext/BoxFormats.h"
 #include "richtext/Limits.h"
 #include "richtext/SmallPng.h"
+#include "richtext/Twips.h"
 
 namespace richtext {
 namespace {
 
 constexpr double LargestSide = 20000;                // pixels
+constexpr double MostPixels = 64'000'000;            // with a margin of its crop
 constexpr QSize SizeOfUnknown{16, 16};               // of a picture that tells no size of its own
 const QLatin1String DrawingResource("picture:");     // name of the resource that is drawn
 const QLatin1String SourceResource("picturefile:");  // name of the resource that is the picture as it came
@@ -27,28 +29,73 @@ QUrl SourceName(const QString& drawing) {
   return QUrl(SourceResource + drawing.mid(DrawingResource.size()));
 }
 
+bool IsCropped(const Picture& picture) {
+  return picture.crop != PictureCrop();
+}
+
+// The part that is shown, along one side.
+struct Part {
+  int from = 0;
+  int length = 0;
+};
+
+Part PartOf(int pixels, std::int32_t shown, std::int32_t before, std::int32_t after) {
+  const double whole = double{1} * shown + before + after;
+  if (shown <= 0 || whole <= 0) return {0, pixels};
+  return {static_cast<int>(std::lround(before * pixels / whole)),
+          std::max(1, static_cast<int>(std::lround(shown * pixels / whole)))};
+}
+
+// Beyond the picture's edges its margin is clear.
+QImage Cropped(const QImage& image, const Picture& picture) {
+  if (image.isNull() || !IsCropped(picture)) return image;
+  const PictureCrop& crop = picture.crop;
+  const Part across = PartOf(image.width(), picture.widthTwips, crop.left, crop.right);
+  const Part down = PartOf(image.height(), picture.heightTwips, crop.top, crop.bottom);
+  if (double{1} * across.length * down.length > MostPixels) return image;
+  return image.convertToFormat(QImage::Format_ARGB32)
+      .copy(across.from, down.from, across.length, down.length);
+}
+
+// What tells of the crop, which is one of a size; nothing where there is none.
+QVariantList CropOf(const Picture& picture) {
+  if (!IsCropped(picture)) return {};
+  const PictureCrop& crop = picture.crop;
+  return {crop.left, crop.right, crop.top, crop.bottom, picture.widthTwips, picture.heightTwips};
+}
+
+void SetCrop(const QVariantList& crop, Picture& picture) {
+  if (crop.size() != 6) return;
+  picture.crop = {crop[0].toInt(), crop[1].toInt(), crop[2].toInt(), crop[3].toInt()};
+  picture.widthTwips = crop[4].toInt();
+  picture.heightTwips = crop[5].toInt();
+}
+
 // Pictures of the same bytes are one, unless something else describes them.
 QString DrawingName(const QByteArray& bytes, const Picture& picture) {
   QCryptographicHash digest(QCryptographicHash::Sha1);
   digest.addData(bytes);
   digest.addData(QByteArray::fromStdString(picture.header));
   digest.addData(QByteArray::number(static_cast<int>(picture.kind)));
+  for (const QVariant& measure : CropOf(picture)) digest.addData(' ' + QByteArray::number(measure.toInt()));
   return DrawingResource + QLatin1String(digest.result().toHex());
 }
 
 QVariant Source(const QByteArray& bytes, const Picture& picture) {
-  return QVariantList{static_cast<int>(picture.kind), QByteArray::fromStdString(picture.header), bytes};
+  return QVariantList{static_cast<int>(picture.kind), QByteArray::fromStdString(picture.header), bytes,
+                      QVariant(CropOf(picture))};
 }
 
-// Without the size shown, which is each place's own.
+// Without the size shown, which is each place's own where nothing is cut off.
 Picture FromSource(const QVariant& source) {
   Picture kept;
   kept.kind = PictureKind::Other;
   const QVariantList parts = source.toList();
-  if (parts.size() != 3) return kept;
+  if (parts.size() != 4) return kept;
   kept.kind = static_cast<PictureKind>(parts[0].toInt());
   kept.header = parts[1].toByteArray().toStdString();
   kept.bytes = parts[2].toByteArray().toStdString();
+  SetCrop(parts[3].toList(), kept);
   return kept;
 }
 
@@ -118,11 +165,12 @@ Picture KeptPicture(const QTextImageFormat& format, const QTextDocument& documen
 }
 
 QImage DecodedPicture(const Picture& picture) {
-  if (IsFile(picture)) return QImage::fromData(QByteArray::fromStdString(picture.bytes));
+  if (IsFile(picture)) return Cropped(QImage::fromData(QByteArray::fromStdString(picture.bytes)), picture);
   const std::optional<Bitmap> bitmap = BitmapFromPicture(picture);
   if (!bitmap) return {};
   const auto* pixels = reinterpret_cast<const uchar*>(bitmap->argb.data());
-  return QImage(pixels, bitmap->width, bitmap->height, 4 * bitmap->width, QImage::Format_ARGB32).copy();
+  const QImage image(pixels, bitmap->width, bitmap->height, 4 * bitmap->width, QImage::Format_ARGB32);
+  return Cropped(image.copy(), picture);
 }
 
 QVariant DrawnPicture(const QTextDocument& document, const QUrl& name) {

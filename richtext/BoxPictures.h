@@ -22,7 +22,7 @@ Picture FromImage(const QImage& image);
 QTextImageFormat KeepPicture(const Picture& picture, const QTextCharFormat& text, QTextDocument& document);
 // The picture that such a format shows.
 Picture KeptPicture(const QTextImageFormat& format, const QTextDocument& document);
-// The picture as pixels; a null image where it cannot be decoded.
+// The part of the picture that is shown, as pixels; a null image where it cannot be decoded.
 QImage DecodedPicture(const Picture& picture);
 // What is drawn for a resource of the document; a grey field for a picture that cannot be decoded and for
 // every name that is not one of KeepPicture's. Nothing is ever fetched for a name.

@@ -92,6 +92,16 @@ struct ParagraphFormat {
   bool operator==(const ParagraphFormat&) const = default;
 };
 
+// What of a picture is cut off at its edges, in twips of the size it is shown in; negative: a margin.
+struct PictureCrop {
+  std::int32_t left = 0;
+  std::int32_t right = 0;
+  std::int32_t top = 0;
+  std::int32_t bottom = 0;
+
+  bool operator==(const PictureCrop&) const = default;
+};
+
 // A picture keeps what it came as, so that one that cannot be drawn goes out unchanged.
 struct Picture {
   PictureKind kind = PictureKind::Png;
@@ -101,6 +111,7 @@ struct Picture {
                        // as "\\wmetafile8\\picw100\\pich50"; empty for PNG and JPEG
   std::int32_t widthTwips = 0;  // the size shown; 0: the picture's own at 96 dots per inch
   std::int32_t heightTwips = 0;
+  PictureCrop crop = {};  // of a side whose size is told
 
   bool operator==(const Picture&) const = default;
 };

@@ -10,6 +10,7 @@
 #include "richtext/BoxParagraphs.h"
 #include "richtext/Limits.h"
 #include "richtext/ListLabel.h"
+#include "richtext/Twips.h"
 
 namespace richtext {
 namespace {

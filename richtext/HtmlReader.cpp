@@ -14,8 +14,10 @@
 #include "richtext/BoxPictures.h"
 #include "richtext/FormatNumbers.h"
 #include "richtext/HtmlFormats.h"
+#include "richtext/HtmlLists.h"
 #include "richtext/Limits.h"
 #include "richtext/SmallPng.h"
+#include "richtext/Twips.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
@@ -136,6 +138,7 @@ class Reader {
     if (begun_) EndParagraph();
     begun_ = true;
     paragraph_ = FromHtmlBlock(block);
+    lists_.Number(block, paragraph_.list);
     format_ = FromHtmlFormat(block.charFormat(), caret_);
   }
 
@@ -203,6 +206,7 @@ class Reader {
   CharacterFormat format_;
   ParagraphFormat paragraph_;
   QTextTableCell last_;
+  HtmlLists lists_;
   bool begun_ = false;
   std::size_t paragraphStart_ = 0;
   std::size_t firstRun_ = 0;  // of the paragraph in hand
@@ -214,7 +218,7 @@ Document ReadHtml(const QString& html, const CharacterFormat& caret, const QImag
   InertDocument document;
   document.setUndoRedoEnabled(false);
   document.setDefaultStyleSheet(HouseStyle);
-  document.setHtml(html.left(html.indexOf(QLatin1String("<!--EndFragment-->"))));
+  document.setHtml(WithListStarts(html.left(html.indexOf(QLatin1String("<!--EndFragment-->")))));
   CharacterFormat plain;
   plain.fontName = caret.fontName;
   plain.halfPoints = caret.halfPoints;

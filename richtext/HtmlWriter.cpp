@@ -4,6 +4,7 @@
 #include "richtext/BoxPictures.h"
 #include "richtext/ListLabel.h"
 #include "richtext/SmallPng.h"
+#include "richtext/Twips.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
@@ -84,9 +85,10 @@ QString Style(const QString& rules) {
 }
 
 QString ImageTag(const Picture& picture) {
-  const bool jpeg = picture.kind == PictureKind::Jpeg;
-  const std::string bytes =
-      jpeg || picture.kind == PictureKind::Png ? picture.bytes : SmallestPng(DecodedPicture(picture));
+  const bool isWhole = picture.crop == PictureCrop();
+  const bool jpeg = picture.kind == PictureKind::Jpeg && isWhole;
+  const bool isFile = jpeg || (picture.kind == PictureKind::Png && isWhole);
+  const std::string bytes = isFile ? picture.bytes : SmallestPng(DecodedPicture(picture));
   if (bytes.empty()) return {};
   QString tag = QLatin1String("<img src=\"data:image/") + QLatin1String(jpeg ? "jpeg" : "png") +
                 QLatin1String(";base64,") + QLatin1String(QByteArray::fromStdString(bytes).toBase64()) + u'"';

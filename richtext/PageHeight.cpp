@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "richtext/Twips.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {
@@ -16,7 +17,6 @@ constexpr double LetterWidth = 0.6;       // of its body
 constexpr double LineHeight = 1.3;        // of the tallest body in it
 constexpr double LargestPicture = 20'000;
 constexpr double PictureOfNoSize = 2'000;
-constexpr double TwipsPerPixel = 15;
 
 class Estimate {
  public:
@@ -31,6 +31,12 @@ class Estimate {
       ++fit;
     }
     return fit;
+  }
+
+  double Height() {
+    double height = 0;
+    for (const Paragraph& paragraph : page_.paragraphs) height += HeightOf(paragraph);
+    return height;
   }
 
  private:
@@ -88,6 +94,10 @@ class Estimate {
 
 std::size_t ParagraphsToShow(const Document& page) {
   return Estimate(page).Paragraphs();
+}
+
+double EstimatedHeight(const Document& page) {
+  return Estimate(page).Height();
 }
 
 }  // namespace richtext

@@ -12,4 +12,8 @@ namespace richtext {
 // height: about 240,000 lines, or 6 MB of text. Takes time by the page's runs.
 std::size_t ParagraphsToShow(const Document& page);
 
+// The height in pixels, 96 to the inch, that the page hardly ever exceeds, however narrow it is laid out.
+// Takes time by the page's runs.
+double EstimatedHeight(const Document& page);
+
 }  // namespace richtext

@@ -13,12 +13,15 @@
 #include "richtext/BoxDocument.h"
 #include "richtext/BoxFormats.h"
 #include "richtext/BoxLabels.h"
+#include "richtext/BoxLinks.h"
 #include "richtext/BoxParagraphs.h"
 #include "richtext/BoxPictures.h"
+#include "richtext/BoxPrinting.h"
 #include "richtext/HiddenText.h"
 #include "richtext/Pasting.h"
 #include "richtext/RtfReader.h"
 #include "richtext/RtfWriter.h"
+#include "richtext/Twips.h"
 
 namespace richtext {
 namespace {
@@ -29,25 +32,6 @@ constexpr std::uint32_t White = 0xffffff;
 constexpr QKeyCombination PlainPasteKey = Qt::CTRL | Qt::SHIFT | Qt::Key_V;
 constexpr std::size_t LongPage = 10000;  // UTF-16 units; more than any window shows at once
 
-// What `attribute` gives for all of the selection, or for the caret; nothing where it differs within.
-template <class Attribute>
-auto Common(const QTextCursor& cursor, Attribute attribute)
-    -> std::optional<decltype(attribute(QTextCharFormat()))> {
-  std::optional<decltype(attribute(QTextCharFormat()))> common;
-  const int from = cursor.selectionStart();
-  const int to = cursor.selectionEnd();
-  for (QTextBlock block = cursor.document()->findBlock(from); block.isValid() && block.position() < to;
-       block = block.next())
-    for (auto part = block.begin(); !part.atEnd(); ++part) {
-      const QTextFragment fragment = part.fragment();
-      if (fragment.position() >= to || fragment.position() + fragment.length() <= from) continue;
-      const auto value = attribute(fragment.charFormat());
-      if (common && *common != value) return std::nullopt;
-      common = value;
-    }
-  return common ? common : attribute(cursor.charFormat());
-}
-
 }  // namespace
 
 RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
@@ -57,6 +41,7 @@ RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
   document()->setDocumentMargin(DocumentMargin);
   connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::NoteEdit);
   connect(document(), &QTextDocument::contentsChanged, this, &RichTextBox::TellEdits);
+  connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextBox::LeaveLink);
   SetBackColor(White);
   Fill({});
 }
@@ -78,6 +63,7 @@ void RichTextBox::Fill(std::string_view rtf) {
   FillDocument(page, *document());
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setTextCursor(QTextCursor(document()));
+  LeaveLink();
   horizontalScrollBar()->setValue(0);
 }
 
@@ -95,118 +81,16 @@ void RichTextBox::TellEdits() {
   Q_EMIT Change();
 }
 
-QString RichTextBox::Text() const {
-  return ShownText(*document());
-}
-
-int RichTextBox::SelStart() const {
-  return ToShown(*document(), textCursor().selectionStart());
-}
-
-void RichTextBox::SetSelStart(int position) {
-  QTextCursor cursor = textCursor();
-  cursor.setPosition(PlaceOf(position));
-  setTextCursor(cursor);
-}
-
-int RichTextBox::SelLength() const {
-  return ToShown(*document(), textCursor().selectionEnd()) - SelStart();
-}
-
-void RichTextBox::SetSelLength(int length) {
-  QTextCursor cursor = textCursor();
-  const int start = SelStart();
-  cursor.setPosition(cursor.selectionStart());
-  cursor.setPosition(PlaceOf(start + std::clamp(length, 0, document()->characterCount() - start)),
-                     QTextCursor::KeepAnchor);
-  setTextCursor(cursor);
-}
-
-// The place in the document for one in the shown text, which may be too large or too small.
-int RichTextBox::PlaceOf(int position) const {
-  const int end = document()->characterCount() - 1;
-  return std::min(FromShown(*document(), std::clamp(position, 0, end)), end);
-}
-
-std::optional<QString> RichTextBox::SelFontName() const {
-  return Common(textCursor(), FontNameOf);
-}
-
-std::optional<double> RichTextBox::SelFontSize() const {
-  return Common(textCursor(), FontSizeOf);
-}
-
-std::optional<bool> RichTextBox::SelBold() const {
-  return Common(textCursor(),
-                [](const QTextCharFormat& format) { return format.fontWeight() > QFont::Medium; });
-}
-
-std::optional<bool> RichTextBox::SelItalic() const {
-  return Common(textCursor(), [](const QTextCharFormat& format) { return format.fontItalic(); });
-}
-
-std::optional<bool> RichTextBox::SelUnderline() const {
-  return Common(textCursor(), IsUnderlined);
-}
-
-std::optional<bool> RichTextBox::SelStrikeThru() const {
-  return Common(textCursor(), [](const QTextCharFormat& format) { return format.fontStrikeOut(); });
-}
-
-std::optional<std::uint32_t> RichTextBox::SelColor() const {
-  return Common(textCursor(), ColorOf);
-}
-
-void RichTextBox::SetSelFontName(const QString& name) {
-  if (name.isEmpty()) return;
-  QTextCharFormat attribute;
-  SetFontName(attribute, name);
-  SetAttribute(attribute);
-}
-
-void RichTextBox::SetSelFontSize(double points) {
-  if (!(points > 0)) return;
-  QTextCharFormat attribute;
-  SetFontSize(attribute, points);
-  QTextCursor step = textCursor();
-  step.beginEditBlock();
-  SetAttribute(attribute);
-  if (step.hasSelection()) HideWhatIsTooFar(*document());
-  step.endEditBlock();
-}
-
-void RichTextBox::SetSelBold(bool on) {
-  QTextCharFormat attribute;
-  attribute.setFontWeight(on ? QFont::Bold : QFont::Normal);
-  SetAttribute(attribute);
-}
-
-void RichTextBox::SetSelItalic(bool on) {
-  QTextCharFormat attribute;
-  attribute.setFontItalic(on);
-  SetAttribute(attribute);
-}
-
-void RichTextBox::SetSelUnderline(bool on) {
-  QTextCharFormat attribute;
-  SetUnderline(attribute, on ? UnderlineKind::Single : UnderlineKind::None);
-  SetAttribute(attribute);
-}
-
-void RichTextBox::SetSelStrikeThru(bool on) {
-  QTextCharFormat attribute;
-  attribute.setFontStrikeOut(on);
-  SetAttribute(attribute);
-}
-
-void RichTextBox::SetSelColor(std::uint32_t color) {
-  QTextCharFormat attribute;
-  attribute.setForeground(ToColor(color));
-  SetAttribute(attribute);
-}
-
-void RichTextBox::SetAttribute(const QTextCharFormat& attribute) {
-  mergeCurrentCharFormat(attribute);
+void RichTextBox::SetText(const QString& text) {
+  {
+    const QScopedValueRollback quiet(quiet_, true);
+    QTextCharFormat format;
+    SetFontName(format, font().family());
+    SetFontSize(format, font().pointSizeF());
+    FillPlain(text, format, *document());
+    setTextCursor(QTextCursor(document()));
+  }
+  Q_EMIT Change();
 }
 
 // Paper and ink are the journal's and not the desktop's: on a dark desktop the page stays what it is.
@@ -223,6 +107,10 @@ void RichTextBox::SetBackColor(std::uint32_t color) {
 
 std::uint32_t RichTextBox::BackColor() const {
   return backColor_;
+}
+
+bool RichTextBox::PrintSelection(Paper& paper) const {
+  return richtext::PrintSelection(textCursor(), paper);
 }
 
 void RichTextBox::InsertBitmap(const QImage& image) {
@@ -290,6 +178,7 @@ void RichTextBox::keyPressEvent(QKeyEvent* event) {
   else
     PressKey(*event);
   if (edits_ != before) CarryOn(format);
+  LeaveLink();
 }
 
 void RichTextBox::PressKey(QKeyEvent& event) {
@@ -340,6 +229,12 @@ void RichTextBox::CarryOn(const QTextCharFormat& format) {
   const QTextCursor cursor = textCursor();
   if (cursor.hasSelection() || cursor.block().length() > 1) return;
   setCurrentCharFormat(ToTextFormat(FromTextFormat(format)));
+}
+
+// What is typed before or behind a link is no part of it.
+void RichTextBox::LeaveLink() {
+  if (const std::optional<QTextCharFormat> beside = FormatBesideLink(textCursor()))
+    setCurrentCharFormat(*beside);
 }
 
 // What is cut from the menu is an edit like one from the keyboard.

@@ -10,6 +10,8 @@
 
 namespace richtext {
 
+class Paper;
+
 class RichTextBox : public QTextEdit {
   Q_OBJECT
 
@@ -25,6 +27,10 @@ class RichTextBox : public QTextEdit {
   // The content as plain text: paragraphs and line breaks are '\n', a picture is U+FFFC. Hidden text and the
   // labels of lists are no part of it.
   QString Text() const;
+
+  // Replaces the content by plain text in the box's own font, font(), and forgets the undo history. A line
+  // end makes a paragraph. The caret goes to the start. Change is raised, once.
+  void SetText(const QString& text);
 
   // The selection, in UTF-16 units of Text(). Values beyond the text mean its end; setting the start makes
   // the selection empty.
@@ -61,6 +67,9 @@ class RichTextBox : public QTextEdit {
   // Puts the clipboard's text at the caret, in the place of the selection and in the caret's format.
   void PasteWithoutFormatting();
 
+  // Prints the selection, as BoxPrinting.h tells.
+  bool PrintSelection(Paper& paper) const;
+
   // Gives the page's own pictures. Nothing is ever read from a file or a network, whatever a name says.
   QVariant loadResource(int type, const QUrl& name) override;
 
@@ -94,6 +103,7 @@ class RichTextBox : public QTextEdit {
   void DeleteNext(QKeyEvent& event);
   void InsertParagraph();
   void CarryOn(const QTextCharFormat& format);
+  void LeaveLink();
 
   std::uint32_t backColor_ = 0xffffff;
   bool quiet_ = false;     // what happens to the document now is no edit

@@ -67,6 +67,7 @@ void RtfListTable::SetText(std::u16string_view text) {
   ListFormat* level = LevelInHand();
   if (level == nullptr || text.empty()) return;
   text = text.substr(1, text[0]);
+  if (text.empty()) level->kind = ListKind::None;  // an outline's level that shows no number
   const auto isMark = [](char16_t unit) { return unit < LevelMarks; };
   const auto first = std::find_if(text.begin(), text.end(), isMark);
   const auto last = std::find_if(text.rbegin(), text.rend(), isMark).base();

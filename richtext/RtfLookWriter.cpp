@@ -25,6 +25,7 @@ std::string_view WordOf(VerticalPlace place) {
 
 RtfLookWriter::RtfLookWriter(const Document& document, const RtfTables& tables, RtfOutput& out)
     : document_(document), out_(out) {
+  if (!tables.HasFonts()) look_.font = 0;  // the only one, which has no name to tell
   looks_.reserve(document.formats.size());
   for (std::uint32_t i = 0; i < document.formats.size(); ++i)
     looks_.push_back(LookOf(document.formats[i], i, tables));

@@ -9,12 +9,11 @@
 #include "richtext/HexDigits.h"
 #include "richtext/Limits.h"
 #include "richtext/RtfEscape.h"
+#include "richtext/Twips.h"
 
 namespace richtext {
 namespace {
 
-constexpr std::int64_t TwipsPerPixel = 15;  // 1440 twips and 96 pixels to the inch
-constexpr std::int64_t TwipsPerInch = 1440;
 constexpr std::int64_t HiMetricPerInch = 2540;
 
 struct KindWord {
@@ -47,6 +46,10 @@ constexpr ExtentWord ExtentWords[] = {
     {"pichgoal", false, &PictureExtent::goal},
     {"picscalex", true, &PictureExtent::scalePercent},
     {"picscaley", false, &PictureExtent::scalePercent},
+    {"piccropl", true, &PictureExtent::cropBefore},
+    {"piccropr", true, &PictureExtent::cropAfter},
+    {"piccropt", false, &PictureExtent::cropBefore},
+    {"piccropb", false, &PictureExtent::cropAfter},
 };
 
 template <typename Word, std::size_t Count>
@@ -67,18 +70,34 @@ std::int64_t NaturalSize(const PictureExtent& extent, PictureKind kind, bool sca
   const std::int64_t own = std::max(extent.own, 0);
   if (kind == PictureKind::Metafile || kind == PictureKind::EnhancedMetafile)
     return own * TwipsPerInch / HiMetricPerInch;
-  return IsFile(kind) && !scaled ? 0 : own * TwipsPerPixel;
+  return IsFile(kind) && !scaled ? 0 : own * TwipsPerInch / PixelsPerInch;
 }
 
-// Twips; 0 when the picture is shown in its own size. A scale or a crop that leaves nothing was not meant.
-std::int32_t ShownSize(const PictureExtent& extent, PictureKind kind) {
+// Twips.
+struct Shown {
+  std::int32_t size = 0;  // 0 when the picture is shown in its own size
+  std::int32_t cropBefore = 0;
+  std::int32_t cropAfter = 0;
+};
+
+bool IsPart(std::int64_t crop, std::int64_t whole) {
+  return -whole < crop && crop < whole && whole <= MaxPictureTwips;
+}
+
+// A scale or a crop that leaves nothing was not meant; one that leads far out of the picture counts for the
+// size alone.
+Shown ShownSide(const PictureExtent& extent, PictureKind kind) {
   const std::int64_t percent = extent.scalePercent > 0 ? extent.scalePercent : 100;
   const std::int64_t natural = std::min<std::int64_t>(NaturalSize(extent, kind, percent != 100),
                                                       std::numeric_limits<std::int32_t>::max());
   const std::int64_t scaled = natural * percent / 100;
-  const bool isCropped = natural > 0 && extent.cropped < scaled;
-  const std::int64_t shown = isCropped ? scaled - extent.cropped : scaled;
-  return natural > 0 ? FittingPictureSize(std::max<std::int64_t>(shown, 1)) : 0;
+  const std::int64_t cropped = std::int64_t{extent.cropBefore} + extent.cropAfter;
+  if (natural <= 0) return {};
+  const std::int64_t size = cropped < scaled ? scaled - cropped : scaled;
+  const Shown shown{FittingPictureSize(std::max<std::int64_t>(size, 1))};
+  const bool isKept = cropped < scaled && size <= MaxPictureTwips && IsPart(extent.cropBefore, scaled) &&
+                      IsPart(extent.cropAfter, scaled);
+  return isKept ? Shown{shown.size, extent.cropBefore, extent.cropAfter} : shown;
 }
 
 }  // namespace
@@ -100,8 +119,6 @@ void RtfPictureReader::TakeWord(std::string_view name, bool hasParameter, std::i
         word->ofWidth ? width_ : height_;  // g++ 12 would write to a copy without the name
     extent.*word->measure = parameter;
   }
-  if (name == "piccropl" || name == "piccropr") width_.cropped += parameter;
-  if (name == "piccropt" || name == "piccropb") height_.cropped += parameter;
 }
 
 void RtfPictureReader::Describe(std::size_t place, std::string_view name, bool hasParameter,
@@ -146,8 +163,10 @@ std::string RtfPictureReader::Header() const {
 std::optional<Picture> RtfPictureReader::Take() {
   if (bytes_.empty()) return std::nullopt;
   const PictureKind kind = Kind();
-  Picture picture{
-      kind, {}, IsFile(kind) ? std::string() : Header(), ShownSize(width_, kind), ShownSize(height_, kind)};
+  const Shown width = ShownSide(width_, kind);
+  const Shown height = ShownSide(height_, kind);
+  Picture picture{kind, {}, IsFile(kind) ? std::string() : Header(), width.size, height.size};
+  picture.crop = {width.cropBefore, width.cropAfter, height.cropBefore, height.cropAfter};
   picture.bytes = std::move(bytes_);
   return picture;
 }

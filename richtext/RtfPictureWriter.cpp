@@ -27,8 +27,21 @@ std::string_view UsualHeader(PictureKind kind) {
   return "";
 }
 
-void AppendSize(std::string_view name, std::int32_t twips, std::string& rtf) {
-  if (const std::int32_t fitting = FittingPictureSize(twips)) AppendWord(name, fitting, rtf);
+void AppendMeasure(std::string_view name, std::int32_t twips, std::string& rtf) {
+  if (twips != 0) AppendWord(name, twips, rtf);
+}
+
+// The goal is that of the whole picture.
+void AppendSize(const Picture& picture, std::string& rtf) {
+  const PictureCrop& crop = picture.crop;
+  AppendMeasure("picwgoal", FittingPictureSize(std::int64_t{picture.widthTwips} + crop.left + crop.right),
+                rtf);
+  AppendMeasure("pichgoal", FittingPictureSize(std::int64_t{picture.heightTwips} + crop.top + crop.bottom),
+                rtf);
+  AppendMeasure("piccropl", crop.left, rtf);
+  AppendMeasure("piccropr", crop.right, rtf);
+  AppendMeasure("piccropt", crop.top, rtf);
+  AppendMeasure("piccropb", crop.bottom, rtf);
 }
 
 }  // namespace
@@ -37,8 +50,7 @@ bool AppendPicture(const Picture& picture, std::string& rtf) {
   if (picture.bytes.empty()) return false;
   rtf += "{\\pict";
   rtf += picture.header.empty() ? UsualHeader(picture.kind) : picture.header;
-  AppendSize("picwgoal", picture.widthTwips, rtf);
-  AppendSize("pichgoal", picture.heightTwips, rtf);
+  AppendSize(picture, rtf);
   rtf += "\r\n";
   AppendHexLines(picture.bytes, rtf);
   rtf += "\r\n}";

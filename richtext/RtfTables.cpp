@@ -71,7 +71,16 @@ RtfTables::RtfTables(const Document& document)
 }
 
 void RtfTables::AppendTo(std::string& rtf) const {
-  rtf += "{\\fonttbl";
+  if (HasFonts()) AppendFonts(rtf);
+  rtf += "\r\n";
+  if (colors_.empty()) return;
+  rtf += "{\\colortbl ;";
+  for (const std::uint32_t color : colors_) AppendColor(color, rtf);
+  rtf += "}\r\n";
+}
+
+void RtfTables::AppendFonts(std::string& rtf) const {
+  rtf += "\\deff0{\\fonttbl";
   for (std::size_t i = 0; i < fonts_.size(); ++i) {
     rtf += '{';
     AppendWord("f", static_cast<std::int32_t>(i), rtf);
@@ -84,11 +93,7 @@ void RtfTables::AppendTo(std::string& rtf) const {
     AppendWord("f", SymbolFont(), rtf);
     rtf += "\\fnil\\fcharset2 Symbol;}";
   }
-  rtf += "}\r\n";
-  if (colors_.empty()) return;
-  rtf += "{\\colortbl ;";
-  for (const std::uint32_t color : colors_) AppendColor(color, rtf);
-  rtf += "}\r\n";
+  rtf += '}';
 }
 
 }  // namespace richtext

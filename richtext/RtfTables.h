@@ -15,6 +15,10 @@ class RtfTables {
  public:
   explicit RtfTables(const Document& document);
 
+  // Whether there is a table of fonts. A document that names none leaves them to its reader.
+  bool HasFonts() const {
+    return hasBullets_ || fonts_.size() > 1 || (!fonts_.empty() && !fonts_[0].empty());
+  }
   // The \f and \cf numbers of one of the document's formats, which the document must use. \cf0 is automatic.
   std::size_t Font(std::uint32_t format) const { return fontOfFormat_[format]; }
   std::size_t Color(std::uint32_t format) const { return colorOfFormat_[format]; }
@@ -26,6 +30,8 @@ class RtfTables {
   void AppendTo(std::string& rtf) const;
 
  private:
+  void AppendFonts(std::string& rtf) const;
+
   std::vector<std::u16string> fonts_;
   std::vector<std::uint32_t> colors_;  // the first is \cf1
   std::vector<std::size_t> fontOfFormat_;

@@ -42,7 +42,7 @@ class Writer {
 
 std::string Writer::Write() {
   out_.Reserve(ExpectedSize());
-  out_.Raw("{\\rtf1\\ansi\\ansicpg1252\\deff0");
+  out_.Raw("{\\rtf1\\ansi\\ansicpg1252");
   tables_.AppendTo(out_.Bytes());
   out_.Raw("\\viewkind4\\uc1");
   for (const Paragraph& paragraph : document_.paragraphs) WriteParagraph(paragraph);

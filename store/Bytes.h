@@ -44,6 +44,8 @@ inline constexpr std::size_t LongestCountedString = 0xFFFF;
 // A 16-bit length, then the text. Throws platform::Failure (InvalidArgument), with nothing appended, when the
 // text is longer than LongestCountedString.
 void AppendCountedString(std::string& bytes, std::string_view text);
+// The same for a text of any length: from LongestCountedString on its length is 0xFFFF and then 32 bits.
+void AppendLongString(std::string& bytes, std::string_view text);
 
 // What a reader throws when a field is not there whole; the text is the field's plain name.
 class MissingField : public std::runtime_error {
@@ -62,6 +64,8 @@ class Reader {
   std::string_view Take(std::size_t size, const char* field);
   // A 16-bit length and that many bytes.
   std::string_view TakeCountedString(const char* field);
+  // What AppendLongString writes.
+  std::string_view TakeLongString(const char* field);
 
   template <std::integral Number>
   Number TakeNumber(const char* field) {

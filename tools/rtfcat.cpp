@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 
+#include <QtCore/QLoggingCategory>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QTextDocument>
 
@@ -44,6 +45,8 @@ std::string ThroughBox(const std::string& rtf) {
   char platform[] = "offscreen";
   char* arguments[] = {name, option, platform, nullptr};
   int count = 3;
+  // The toolkit tells of what it misses in the desktop, of which nothing is needed here.
+  QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
   const QGuiApplication application(count, arguments);
   QTextDocument box;
   richtext::FillDocument(richtext::ReadRtf(rtf), box);

@@ -7,6 +7,7 @@
 #include "editor/PagePasses.h"
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
+#include "output/PrintDialog.h"
 #include "platform/Application.h"
 #include "tests/support/Windows.h"
 
@@ -134,6 +135,15 @@ TEST_F(Journey, TheSystemsOrderToEndStoresThePageAndTheIndex) {
   StartAndWrite("Unsaved: \"quoted\"");
   LeaveTheProgram();
   ExpectAtTheNextStart(QStringLiteral("Unsaved: \"quoted\""));
+}
+
+TEST_F(Journey, ThePrintButtonAsksForAPrinter) {
+  StartAndWrite("");
+  int asked = 0;
+  SetPrintAnswerer([&](const PrintRequest&) { return ++asked, std::optional<PrintOrder>(); });
+  Click(Book().Toolbar1->Button(QStringLiteral("btnPrint")));
+  SetPrintAnswerer({});
+  EXPECT_EQ(asked, 1);
 }
 
 TEST_F(Journey, AnUnwritableJournalOrIndexKeepsTheProgramAndTheText) {

@@ -1,10 +1,14 @@
 #include <QtGui/QWindow>
 
 #include "bookcase/JournalIcons.h"
+#include "bookcase/frmAbout.h"
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmNewJournal.h"
 #include "editor/frmJournal.h"
+#include "output/frmExport.h"
+#include "platform/RunUrl.h"
 #include "store/NewJournals.h"
+#include "store/PictureStore.h"
 #include "store/Scrambler.h"
 #include "tests/support/Windows.h"
 
@@ -15,6 +19,7 @@ class BookcaseTest : public fixture::Windows {
   BookcaseTest() {
     MasterPassword = ScrambleText("Rosebud7");
     PageShift = '7';
+    Pictures.resize(1);  // as after the loading of a picture store
   }
 
   void Show(const fixture::Texts& names) {
@@ -139,6 +144,36 @@ TEST_F(BookcaseTest, DeletesFileAndItemButNoRowAndOnlyOnYes) {
   EXPECT_TRUE(answers.messages.empty());
 }
 
+TEST_F(BookcaseTest, DeletesThePicturesOfTheJournalAndNoOthers) {
+  Show({"one", "two"});
+  Pictures.resize(4);
+  PictureCount = 3;
+  Pictures[1].JournalFile = Pictures[3].JournalFile = "j00000.tqf";
+  Pictures[2].JournalFile = "j00001.tqf";
+  answers.yes = 1;
+  Click(Window().cmdDelete);
+  EXPECT_EQ(Pictures[1].Deleted, True);
+  EXPECT_EQ(Pictures[2].Deleted, False);
+  EXPECT_EQ(store::DecodePictureStore(folder.Read("tqpics.bin")).rows,
+            (std::vector<PagePicture>{{}, Pictures[2], {}}));
+}
+
+// Kept so for the sake of its order: the file goes first, and the index is not saved.
+TEST_F(BookcaseTest, DeletingAJournalInARunWithoutAPictureStoreEndsTheProgram) {
+  Show({"one"});
+  Pictures.clear();
+  folder.Write("j00000.tqf", "bytes");
+  answers.yes = 1;
+  // Not by a mouse click, whose event the toolkit never frees when a failure flies through it.
+  QTimer::singleShot(0, [] { Q_EMIT Window().cmdDelete->clicked(); });
+  QCoreApplication::processEvents();
+  EXPECT_EQ(answers.last(), "Subscript out of range");
+  EXPECT_EQ(end.count, 1);
+  EXPECT_EQ(Journals[1].Deleted, True);
+  EXPECT_EQ(folder.Names(), fixture::Texts{}) << "neither journal nor index nor store";
+  EXPECT_EQ(Listed(), "one1 ");
+}
+
 TEST_F(BookcaseTest, BothWaysOutSaveTheIndexAndEscapeIsNone) {
   Show({"one"});
   QTest::keyClick(&Window(), Qt::Key_Escape);
@@ -170,6 +205,51 @@ TEST_F(BookcaseTest, AddsAJournalThroughTheDialog) {
   });
   EXPECT_EQ(Listed(), "one1   2 ");
   EXPECT_EQ(look::The<frmNewJournal>().txtPass->text(), QString());
+}
+
+TEST_F(BookcaseTest, ExportsAJournalThatNobodySees) {
+  Show({"one", "two"});
+  List().setCurrentRow(1);
+  folder.Write("j00000.tqf", "no journal");
+  Click(Window().cmdExport);
+  EXPECT_TRUE(folder.Exists("export"));
+  EXPECT_EQ(look::The<frmExport>().txtHTMLTitle->text(), u"two"_qs);
+  EXPECT_TRUE(look::The<frmExport>().isVisible());
+  EXPECT_FALSE(Window().isVisible() || Book().isVisible());
+  EXPECT_EQ(PagesJournal, 2);
+  Book().face->txtM->SetTextRTF("of a page");
+  QTest::keyClick(&look::The<frmExport>(), Qt::Key_Escape);
+  EXPECT_TRUE(Window().isVisible());
+  EXPECT_TRUE(Pages.empty());
+  EXPECT_EQ(Book().face->txtM->Text(), QString());
+  List().setCurrentRow(0);
+  Click(Window().cmdExport);
+  EXPECT_EQ(answers.last(), "Journal load -- file unknown or corrupt!");
+  platform::SetProgramFolder("/proc/self");
+  Click(Window().cmdExport);
+  EXPECT_EQ(answers.messages.size(), 2u) << "without its folder nothing is loaded";
+  EXPECT_FALSE(look::IsLoaded<frmExport>());
+  EXPECT_TRUE(Window().isVisible());
+}
+
+TEST_F(BookcaseTest, BothWaysToTheAboutBoxAndFromThereToTheMaker) {
+  Show({"one"});
+  fixture::Texts opened;
+  platform::SetUrlRunner([&](const std::string& url) { opened.push_back(url); });
+  for (QPushButton* button : {Window().Image2, static_cast<QPushButton*>(Window().cmdAbout)}) {
+    QTimer::singleShot(0, [] {
+      auto& about = look::The<frmAbout>();
+      QTest::mouseClick(about.Image1, Qt::LeftButton);
+      QTest::mouseClick(about.lblWebSite, Qt::LeftButton);
+      QTest::keyClick(about.lblWebSite, Qt::Key_Return);
+      EXPECT_TRUE(about.isVisible());
+      QTest::keyClick(about.cmdClose, Qt::Key_Space);
+    });
+    Click(button);
+    EXPECT_FALSE(look::IsLoaded<frmAbout>());
+  }
+  platform::SetUrlRunner({});
+  EXPECT_EQ(opened, fixture::Texts(6, "http://www.zandolk.example/"));
 }
 
 }  // namespace

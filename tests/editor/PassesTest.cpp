@@ -14,6 +14,7 @@ class Passes : public fixture::OpenBook {
 TEST_F(Passes, APageThatWasNotChangedIsNeverStored) {
   const auto row = AddJournal({"cover", "plain \\b bold\\b0\\par \\i\\fs20 more", "\\u1046? two"});
   const std::string before = BytesOf(row);
+  const fixture::Dismissal dismissal;
   Open(row);
   for (const char* key : {"btnNext", "btnNext", "btnBack", "btnBack", "btnLastPage", "btnFirstPage",
                           "btnIndex", "btnCal", "btnNext", "btnNewPage"}) {
@@ -42,6 +43,7 @@ TEST_F(Passes, AnEmptyPageIsStoredAsTheEmptyDocument) {
 }
 
 TEST_F(Passes, OnlyTheCommandsThatLeaveOrLookUpAPageStoreIt) {
+  const fixture::Dismissal dismissal;
   Open(AddJournal({"cover", "one"}));
   for (const char* key : {"btnPrint", "btnInsertEmoticon", "btnInsertPicture", "btnFont", "btnOptions",
                           "btnJournalProperties", "btnHelp", "btnIndex", "btnCal"}) {

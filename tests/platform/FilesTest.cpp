@@ -1,5 +1,3 @@
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -20,18 +18,6 @@ void RunPowerless(const Folder& folder, const std::function<void()>& routine) {
   EXPECT_EQ(seteuid(powerless), 0);
   routine();
   EXPECT_EQ(seteuid(before), 0);
-}
-
-// No file can grow beyond 1000 bytes, which the system tells as it tells of a full disk: by a failed write.
-void RunOnASmallDisk(const std::function<void()>& routine) {
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit small{1000, before.rlim_max};
-  const auto signalBefore = std::signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &small);
-  routine();
-  setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, signalBefore);
 }
 
 // The old file must be there as it was, and nothing beside it.
@@ -65,7 +51,10 @@ TEST(Files, AFullDiskAndAReadOnlyFileOrFolderLeaveTheOldFile) {
   const Folder folder;
   folder.Write("journal.tqt", "old");
   const std::string path = folder.PathOf("journal.tqt");
-  RunOnASmallDisk([&] { ExpectNoReplacement(folder, FailureKind::DiskFull, std::string(100000, 'x')); });
+  {
+    const fixture::SmallDisk disk(1000);
+    ExpectNoReplacement(folder, FailureKind::DiskFull, std::string(100000, 'x'));
+  }
   RunPowerless(folder, [&] {
     for (const auto& [fileMode, folderMode] : {std::pair{0400u, 0700u}, {0600u, 0500u}}) {
       chmod(path.c_str(), fileMode);

@@ -102,6 +102,27 @@ TEST_F(PastingTest, HtmlListsArePagesLists) {
   EXPECT_EQ(ParagraphsOf(page)[1].leftIndent, 1440);
 }
 
+TEST_F(PastingTest, HtmlListsKeepTheirNumbers) {
+  const struct {
+    const char* html;
+    const char* lists;  // of the paragraphs
+  } cases[] = {
+      {"<ol start=3><li>a<li>b</ol>", "decimal3 #.|decimal3 #.|"},
+      {"<OL type='a' style='margin: 0' START=\"2\"><li>a</ol>", "letter2 #.|"},
+      {"<ol><li>a<p>more</p><li>b</ol>x<ol start=4><li>c</ol>", "decimal1 #.||decimal2 #.||decimal4 #.|"},
+      {"<ol><li>a<ol><li>b<li>c</ol><li>d<ul><li>e</ul><ol><li>f</ol></ol>",
+       "decimal1 #.|>decimal1 #.|>decimal1 #.|decimal1 #.|>bullet \u2022|>decimal1 #.|"},
+      {"<ol><li>a</li><ol><li>b</li></ol><li>c</li></ol>", "decimal1 #.|>decimal1 #.|decimal1 #.|"},
+      {"<ol start=1><li>a</ol><ol start=2><li>b</ol>", "decimal1 #.|decimal1 #.|"},
+  };
+  for (const auto& [html, expected] : cases) {
+    std::string lists;
+    for (const ParagraphFormat& paragraph : ParagraphsOf(ReadHtml(QString::fromUtf8(html), Plain, {})))
+      lists += Dump(paragraph.list) + '|';
+    EXPECT_EQ(lists, expected) << html;
+  }
+}
+
 TEST_F(PastingTest, PagesBackgroundsStayHighlightsCome) {
   const struct {
     const char* html;

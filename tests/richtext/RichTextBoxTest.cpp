@@ -3,6 +3,7 @@
 #include <QtWidgets/QScrollBar>
 
 #include "BoxFixture.h"
+#include "richtext/BoxPictures.h"
 #include "richtext/SmallPng.h"
 
 namespace richtext {
@@ -110,6 +111,39 @@ TEST_F(RichTextBoxTest, CaretTakesTheFormatWhereItGoes) {
   EXPECT_EQ(FormatAt(10), Loud);
 }
 
+TEST_F(RichTextBoxTest, TypingBesideALinkIsNoPartOfIt) {
+  CharacterFormat link = Font("Arial", 20, 0xff0000);
+  link.link = "http://example.invalid/";
+  const auto linked = [&] {
+    QString letters;
+    const Document page = Taken();
+    std::size_t at = 0;
+    for (const auto& run : page.runs) {
+      if (page.formats[run.format].link == link.link)
+        letters += QString::fromStdU16String(page.text.substr(at, run.length));
+      at += run.length;
+    }
+    return letters;
+  };
+  for (const Document& page :
+       {Page({{u"link", link}}), Page({{u"a", Loud}, {u"link", link}, {u"b", Loud}})}) {
+    Set(page);
+    const int start = box.Text().indexOf(u'l');
+    for (const auto& [place, letters] : {std::pair{0, "link"}, {5, "link"}, {3, "lixnk"}}) {
+      box.SetSelStart(start + place);
+      Type("x");
+      EXPECT_EQ(linked(), QLatin1String(letters)) << place;
+    }
+    if (start > 0) {
+      EXPECT_EQ(FormatAt(start + 1), Loud) << "as the text around it";
+    }
+    box.SetSelStart(box.Text().indexOf(u'k') + 1);
+    Press(Qt::Key_Return);
+    Type("y");
+    EXPECT_EQ(linked(), QLatin1String("lixnk"));
+  }
+}
+
 TEST_F(RichTextBoxTest, SelectionReadsAsMixed) {
   Set(Page({{u"plain", Plain}, {u"loud", Loud}}));
   Select(4, 2);
@@ -168,7 +202,7 @@ Document FullPage() {
   page.pictures = {{PictureKind::Png, png, {}, 301, 77},
                    {PictureKind::Png, png, {}, 0, 0},
                    {PictureKind::Png, "no picture", {}, 600, 300},
-                   {PictureKind::Png, png, {}, 0, 90}};
+                   {PictureKind::Png, png, {}, 0, 90, {0, 0, -10, 30}}};
   page.paragraphFormats = {Indented(Alignment::Left, 0, 0, 0), Indented(Alignment::Right, 1, 719, -360),
                            Indented(Alignment::Center, -15, 0, 7),
                            Indented(Alignment::Justify, 1440, 20, 360)};
@@ -187,6 +221,14 @@ TEST_F(RichTextBoxTest, HoldsWhatThePageHolds) {
   EXPECT_EQ(TakeDocument(*box.document()), taken) << "drawing it changed it";
   box.SetTextRTF(WriteRtf(taken));
   EXPECT_EQ(TakeDocument(*box.document()), taken);
+}
+
+TEST_F(RichTextBoxTest, ShowsThePartThatACropLeaves) {
+  Picture picture{PictureKind::Png, SmallestPng(Checkers({8, 6})), {}, 60, 75, {30, 30, 30, -15}};
+  const QImage shown = DecodedPicture(picture);
+  EXPECT_EQ(shown.size(), QSize(4, 5));
+  EXPECT_EQ(shown.copy(0, 0, 4, 4), Checkers({8, 6}).copy(2, 2, 4, 4));
+  EXPECT_EQ(shown.pixelColor(0, 4).alpha(), 0) << "a margin";
 }
 
 TEST_F(RichTextBoxTest, ForeignSignsStayWithinTheirParagraph) {

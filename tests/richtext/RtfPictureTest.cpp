@@ -17,6 +17,11 @@ std::string Dump(const std::vector<Picture>& pictures) {
     dump += std::string(Kinds[static_cast<int>(picture.kind)]) + ' ' + std::to_string(picture.bytes.size()) +
             ' ' + picture.header + (picture.header.empty() ? "" : " ") + std::to_string(picture.widthTwips) +
             'x' + std::to_string(picture.heightTwips);
+    const PictureCrop& crop = picture.crop;
+    if (crop == PictureCrop()) continue;
+    dump += " of";
+    for (const std::int32_t side : {crop.left, crop.right, crop.top, crop.bottom})
+      dump += ' ' + std::to_string(side);
   }
   return dump;
 }
@@ -65,13 +70,16 @@ TEST(RtfPicture, TakesTheSizeFromGoalScaleAndCrop) {
       {R"(\pngblip\picwgoal720\pichgoal360 00)", "png 1 720x360"},
       {R"(\picscalex50\picscaley200\picwgoal720\pichgoal360\pngblip 00)", "png 1 360x720"},
       {R"(\pngblip\picw10\pich20\picscalex200 00)", "png 1 300x0"},
-      {R"(\pngblip\picwgoal720\piccropl100\piccropr20\picscalex50\pichgoal9\piccropt-6 00)", "png 1 240x15"},
+      {R"(\pngblip\picwgoal720\piccropl100\piccropr20\picscalex50\pichgoal9\piccropt-6 00)",
+       "png 1 240x15 of 100 20 -6 0"},
       {R"(\wmetafile8\picw99\picwgoal720\pichgoal-5 00)", R"(wmf 1 \wmetafile8\picw99 720x0)"},
       // What would leave nothing, or more than there is room for.
       {R"(\dibitmap\picw1\picscalex1 00)", R"(dib 1 \dibitmap\picw1 1x0)"},
       {R"(\pngblip\picwgoal720\piccropl900\pichgoal720\picscaley-3 00)", "png 1 720x720"},
       {R"(\dibitmap\picw2147483647\picscalex2147483647\piccropl-2147483648 00)",
        R"(dib 1 \dibitmap\picw2147483647 1000000x0)"},
+      {R"(\pngblip\pichgoal500\piccropt-400\piccropb400 00)", "png 1 0x500 of 0 0 -400 400"},
+      {R"(\pngblip\picwgoal500\piccropl-501\piccropr9 00)", "png 1 992x0"},
   });
 }
 

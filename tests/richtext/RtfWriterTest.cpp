@@ -41,15 +41,14 @@ CharacterFormat Format(const std::string& fontName, std::int32_t halfPoints) {
 
 // What lies between the header and the paragraph's end.
 std::string Body(const std::string& rtf) {
-  const std::string begin = "\\viewkind4\\uc1\\pard\\f0\\fs24";
+  const std::string begin = "\\viewkind4\\uc1\\pard\\fs24";
   const std::size_t from = rtf.find(begin) + begin.size();
   return rtf.substr(from, rtf.rfind("\\par\r\n}\r\n") - from);
 }
 
 TEST(RtfWriter, WritesTheClassicShape) {
   EXPECT_EQ(WriteRtf(EmptyDocument()),
-            "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 ;}}\r\n"
-            "\\viewkind4\\uc1\\pard\\f0\\fs24\\par\r\n}\r\n");
+            "{\\rtf1\\ansi\\ansicpg1252\r\n\\viewkind4\\uc1\\pard\\fs24\\par\r\n}\r\n");
   EXPECT_EQ(
       WriteRtf(ReadRtf(Rich)),
       "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Arial;}{\\f1\\fnil\\fcharset0 "

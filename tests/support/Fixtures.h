@@ -2,10 +2,13 @@
 #pragma once
 
 #include <algorithm>
+#include <csignal>
 #include <functional>
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <sys/resource.h>
 #include <utility>
 #include <vector>
 
@@ -17,6 +20,7 @@
 #include "platform/Failure.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
+#include "platform/OpenFileDialog.h"
 #include "platform/Process.h"
 #include "state/State.h"
 
@@ -50,11 +54,11 @@ class Folder {
   // away.
   void Block(std::string_view name) const { EXPECT_TRUE(QDir().mkpath(QtPath(name) + u"/full"_qs)) << name; }
   void Unblock(std::string_view name) const { EXPECT_TRUE(QDir(QtPath(name)).removeRecursively()) << name; }
-  // The names of all entries, hidden ones too, in the order of their bytes.
-  Texts Names() const {
+  // The names of all entries, hidden ones too, in the order of their bytes; of a folder in it too.
+  Texts Names(std::string_view inner = {}) const {
     Texts names;
     const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    for (const QString& name : QDir(folder_.path()).entryList(all)) names.push_back(name.toStdString());
+    for (const QString& name : QDir(QtPath(inner)).entryList(all)) names.push_back(name.toStdString());
     std::sort(names.begin(), names.end());
     return names;
   }
@@ -64,6 +68,26 @@ class Folder {
   QTemporaryDir folder_;
 };
 
+// No file can grow beyond so many bytes, which the system tells as it tells of a full disk: by a failed
+// write.
+class SmallDisk {
+ public:
+  explicit SmallDisk(rlim_t bytes) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit small{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+  }
+  ~SmallDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, signalBefore_);
+  }
+  Q_DISABLE_COPY_MOVE(SmallDisk)
+
+ private:
+  rlimit before_{};
+  void (*signalBefore_)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
+
 // Answers every message box, Ok boxes with Ok, and keeps what was asked.
 class Answers {
  public:
@@ -71,6 +95,8 @@ class Answers {
       : before_(platform::SetMessageAnswerer([this](const platform::Message& message) {
           messages.push_back(message);
           if (message.buttons == platform::Buttons::Ok) return platform::Answer::Ok;
+          if (message.buttons == platform::Buttons::OkCancel)
+            return ok-- > 0 ? platform::Answer::Ok : platform::Answer::Cancel;
           return yes-- > 0 ? platform::Answer::Yes : platform::Answer::No;
         })) {}
   ~Answers() { platform::SetMessageAnswerer(std::move(before_)); }
@@ -83,11 +109,29 @@ class Answers {
   }
   std::string last() const { return messages.empty() ? std::string() : messages.back().text; }
 
+  int ok = 0;                               // so many coming Ok/Cancel boxes are answered Ok
   int yes = 0;                              // so many coming Yes/No boxes are answered Yes
   std::vector<platform::Message> messages;  // in the order of their showing
 
  private:
   platform::MessageAnswerer before_;
+};
+
+// Chooses that file in every open dialog, or cancels it without one, and keeps what was asked.
+class Chooser {
+ public:
+  Chooser() = default;
+  ~Chooser() { platform::SetOpenFileChooser(std::move(before_)); }
+  Q_DISABLE_COPY_MOVE(Chooser)
+
+  std::optional<std::string> file;
+  std::vector<platform::OpenFileQuestion> asked;
+
+ private:
+  platform::OpenFileChooser before_ = platform::SetOpenFileChooser([this](const auto& question) {
+    asked.push_back(question);
+    return file;
+  });
 };
 
 // Counts the ends of the process, which then goes on: what a routine does after its EndProcess() is seen too.
@@ -140,6 +184,7 @@ class Desk : public testing::Test {
 
   Folder folder;
   Answers answers;
+  Chooser chooser;
   End end;
 };
 

@@ -1,0 +1,51 @@
+#include "bookcase/frmAbout.h"
+
+#include "look/Emblem.h"
+#include "look/Theme.h"
+#include "platform/RunUrl.h"
+#include "state/Maker.h"
+
+namespace {
+
+QLabel* Text(const char* text) {
+  return new QLabel(QString::fromLatin1(text));
+}
+
+void OpenWebSite() {
+  platform::RunUrl(MakersAddress);
+}
+
+}  // namespace
+
+frmAbout::frmAbout()
+    : Form(Kind::Dialog, QStringLiteral("frmAbout"), QStringLiteral("About Thorn Quill"), 6000, 3300) {
+  const QString webSite = QStringLiteral("Shortcut to ZANDOLK Web Site");
+  // clang-format off
+  Image1     = Place(new LinkLabel(this),           "Image1",     240,  240,  1200, 1200, webSite);
+  Label1     = Place(Text("Thorn Quill"),           "Label1",     1680, 240,  4080, 360);
+  Label2     = Place(Text("v2.0"),                  "Label2",     1680, 630,  4080, 300);
+  lblWebSite = Place(new LinkLabel(this),           "lblWebSite", 1680, 1080, 1500, 330);
+  Label4     = Place(Text("Copyright (c) 2026 ZANDOLK, who holds the program."),
+                                                    "Label4",     240,  1680, 5520, 300);
+  Label5     = Place(Text("Licensed under the MIT licence: see the file LICENSE."),
+                                                    "Label5",     240,  1980, 5520, 300);
+  cmdClose   = Place(new look::PictureButton(QStringLiteral("Close")), "cmdClose", 4080, 2610, 1680, 450);
+  // clang-format on
+  Image1->setPixmap(look::ClosedBook(look::Pixels(1200), QColor(0x4a, 0x5f, 0x8f)));
+  QFont font = Label1->font();
+  font.setBold(true);
+  Label1->setFont(font);
+  lblWebSite->setText(QStringLiteral("by ZANDOLK"));
+  font.setBold(false);
+  font.setUnderline(true);
+  lblWebSite->setFont(font);
+  lblWebSite->setToolTip(webSite);
+  cmdClose->setDefault(true);
+  cmdClose->setFocus();
+
+  SetPicture(look::CurrentTheme().large);
+  cmdClose->SetPicture(look::CurrentTheme().button);
+  connect(lblWebSite, &LinkLabel::Clicked, this, &OpenWebSite);
+  connect(Image1, &LinkLabel::Clicked, this, &OpenWebSite);
+  connect(cmdClose, &QPushButton::clicked, this, &frmAbout::CloseBox);
+}

@@ -1,0 +1,172 @@
+#include "editor/frmEmoticons.h"
+
+#include <algorithm>
+
+#include <QtCore/QFile>
+#include <QtGui/QClipboard>
+#include <QtGui/QImageReader>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
+
+#include "editor/PageFace.h"
+#include "platform/Colors.h"
+#include "platform/Failure.h"
+#include "platform/FileList.h"
+#include "platform/Files.h"
+#include "platform/Keystroke.h"
+#include "platform/MessageBox.h"
+
+namespace {
+
+constexpr int Columns = 10;
+constexpr int ColumnLeft[Columns] = {195, 690, 1185, 1680, 2175, 2670, 3165, 3660, 4155, 4650};
+constexpr int RowTop[] = {270, 780, 1290, 1785, 2265, 2760};  // uneven, and kept so
+constexpr int ScreenSize = 60;
+constexpr QSize LargestOnAButton{28, 26};  // pixels; anything larger is shown smaller
+
+std::string Folder() {
+  return platform::ProgramFolder() + "/emoticons";
+}
+
+// Null for a file that is no picture. Of a moving picture the first one.
+QImage LoadPicture(const std::string& fileName, QSize most = {}) {
+  QImageReader reader(QFile::decodeName((Folder() + "/" + fileName).c_str()));
+  reader.setDecideFormatFromContent(true);
+  reader.setAutoTransform(true);
+  const QSize size = reader.size();
+  if (most.isValid() && (size.width() > most.width() || size.height() > most.height()))
+    reader.setScaledSize(size.scaled(most, Qt::KeepAspectRatio));
+  return reader.read();
+}
+
+// A transparent picture comes out on the colour of the page.
+QImage Flattened(const QImage& picture, const QColor& paper) {
+  QImage flat(picture.size(), QImage::Format_RGB32);
+  flat.fill(paper);
+  QPainter(&flat).drawImage(0, 0, picture);
+  return flat;
+}
+
+void Paste(const QImage& picture) {
+  richtext::RichTextBox& text = *Face().txtM;
+  const QImage flat = Flattened(picture, platform::ToColor(text.BackColor()));
+  QApplication::clipboard()->clear();
+  QApplication::clipboard()->setImage(flat);
+  text.setFocus();
+  platform::SendKeyTo(text, Qt::Key_Insert, Qt::ShiftModifier);
+}
+
+QString TwoDigits(int number) {
+  return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+}
+
+QString PageCaption(int page, int pages) {
+  return QStringLiteral("Page %1/%2").arg(TwoDigits(page), TwoDigits(pages));
+}
+
+}  // namespace
+
+frmEmoticons::frmEmoticons()
+    : Form(Kind::Dialog, QStringLiteral("frmEmoticons"), QStringLiteral("Emoticons"), 5310, 3960),
+      file1_(platform::ListFiles(Folder(), {".jpg", ".gif"})) {
+  LayOut();
+  cmdPage->setVisible(file1_.size() > ScreenSize);
+  ShowScreen(0);
+}
+
+void frmEmoticons::LayOut() {
+  for (int i = 0; i < ScreenSize; ++i) {
+    const QByteArray name = QStringLiteral("cmdEmoticons(%1)").arg(i).toLatin1();
+    auto* button = Place(new QPushButton(this), name, ColumnLeft[i % Columns], RowTop[i / Columns], 480, 450);
+    button->installEventFilter(this);
+    connect(button, &QPushButton::clicked, this, [this, button] { cmdEmoticons_Click(*button); });
+    cmdEmoticons[static_cast<std::size_t>(i)] = button;
+  }
+  // clang-format off
+  cmdHelp   = Place(new QPushButton(QStringLiteral("Help"), this), "cmdHelp", 195, 3420, 930, 375);
+  cmdPage   = Place(new QPushButton(PageCaption(1, CountPages()), this), "cmdPage", 1800, 3435, 1545, 360);
+  cmdCancel = Place(new QPushButton(QStringLiteral("&Cancel"), this), "cmdCancel", 4050, 3420, 1080, 375);
+  // clang-format on
+  connect(cmdPage, &QPushButton::clicked, this, &frmEmoticons::cmdPage_Click);
+  connect(cmdCancel, &QPushButton::clicked, this, &frmEmoticons::CloseBox);
+  connect(cmdHelp, &QPushButton::clicked, this, [] { platform::SendKey(Qt::Key_F1); });
+}
+
+// A count that fills its last screen gives one more, an empty one.
+int frmEmoticons::CountPages() const {
+  return static_cast<int>(file1_.size()) / ScreenSize + 1;
+}
+
+// A button without a file, and one whose file is no picture, is hidden.
+void frmEmoticons::ShowScreen(int start) {
+  for (int i = 0; i < ScreenSize; ++i) {
+    QPushButton& button = *cmdEmoticons[static_cast<std::size_t>(i)];
+    const auto file = static_cast<std::size_t>(start + i);
+    button.setVisible(file < file1_.size() && LoadEmoticon(button, file1_[file]));
+  }
+}
+
+bool frmEmoticons::LoadEmoticon(QPushButton& button, const std::string& fileName) {
+  const QImage picture = LoadPicture(fileName, LargestOnAButton);
+  if (picture.isNull()) return false;
+  const QString name = QFile::decodeName(fileName.c_str());
+  button.setIcon(QPixmap::fromImage(picture));
+  button.setIconSize(picture.size());
+  button.setProperty("Tag", QByteArray::fromStdString(fileName));
+  button.setAccessibleName(name);
+  button.setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped()));
+  return true;
+}
+
+// The arrow keys go from picture to picture as the eye does.
+bool frmEmoticons::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  constexpr std::pair<int, int> steps[] = {
+      {Qt::Key_Left, -1}, {Qt::Key_Right, 1}, {Qt::Key_Up, -Columns}, {Qt::Key_Down, Columns}};
+  for (const auto& [key, step] : steps) {
+    if (static_cast<QKeyEvent*>(event)->key() != key) continue;
+    MoveFocus(watched, step);
+    return true;
+  }
+  return false;
+}
+
+void frmEmoticons::MoveFocus(const QObject* from, int step) {
+  const auto place = std::find(cmdEmoticons.begin(), cmdEmoticons.end(), from) - cmdEmoticons.begin();
+  for (auto to = place + step; to >= 0 && to < ScreenSize; to += step) {
+    QPushButton* button = cmdEmoticons[static_cast<std::size_t>(to)];
+    if (!button->isHidden()) return button->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+// The last screen leads back to the first.
+void frmEmoticons::cmdPage_Click() {
+  const QString caption = cmdPage->text();  // "Page 01/03"
+  int page = caption.mid(5, 2).toInt();
+  if (page == caption.mid(8, 2).toInt()) page = 0;
+  cmdPage->setText(PageCaption(page + 1, CountPages()));
+  ShowScreen(page * ScreenSize);
+}
+
+// The text box's own paste puts the picture at the caret, once the picker is gone.
+void frmEmoticons::cmdEmoticons_Click(const QPushButton& button) {
+  hide();
+  const std::string fileName = button.property("Tag").toByteArray().toStdString();
+  if (const QImage picture = LoadPicture(fileName); picture.isNull())
+    platform::ShowMessage("The emoticon cannot be read any more:\n" + Folder() + "/" + fileName);
+  else
+    Paste(picture);
+  look::Discard(this);
+}
+
+void ShowEmoticonPicker() {
+  try {
+    look::The<frmEmoticons>();
+  } catch (const platform::Failure& failure) {
+    platform::ShowMessage(std::string("The emoticons cannot be shown.\n") + failure.what() +
+                          "\n\nThey are the pictures in the folder \"emoticons\" beside the program.");
+    return;
+  }
+  look::The<frmEmoticons>().ShowModal();
+}

@@ -1,0 +1,96 @@
+#include "editor/frmIndex.h"
+
+#include <map>
+
+#include <QtGui/QKeyEvent>
+
+#include "editor/PageFace.h"
+#include "editor/PagePasses.h"
+#include "editor/PageTurning.h"
+#include "look/Theme.h"
+#include "platform/Keystroke.h"
+#include "state/State.h"
+
+namespace {
+
+constexpr int Tag = Qt::UserRole;
+
+QTreeWidgetItem* MakeItem(const JournalIndexNode& node) {
+  auto* item = new QTreeWidgetItem;
+  item->setText(0, node.text);
+  item->setData(0, Tag, node.tag);
+  return item;
+}
+
+}  // namespace
+
+frmIndex::frmIndex()
+    : Form(Kind::Dialog, QStringLiteral("frmIndex"), QStringLiteral("Journal Index"), 6465, 7215) {
+  // clang-format off
+  TreeView1 = Place(new QTreeWidget(this), "TreeView1", 120, 135, 6195, 6525, QStringLiteral("the pages by year and month"));
+  cmdHelp   = Place(new look::PictureButton(QStringLiteral("Help"), this), "cmdHelp", 120, 6750, 930, 360);
+  cmdGoDate = Place(new look::PictureButton(QStringLiteral("Go to this date"), this), "cmdGoDate", 3225, 6750, 1965, 360);
+  cmdClose  = Place(new look::PictureButton(QStringLiteral("Close"), this), "cmdClose", 5235, 6750, 1065, 360);
+  // clang-format on
+  TreeView1->setHeaderHidden(true);
+  TreeView1->setUniformRowHeights(true);
+  TreeView1->installEventFilter(this);
+  TreeView1->viewport()->installEventFilter(this);
+  cmdGoDate->setDefault(true);
+
+  SetPicture(look::CurrentTheme().large);
+  for (auto* button : {cmdClose, cmdGoDate, cmdHelp}) button->SetPicture(look::CurrentTheme().button);
+  connect(cmdGoDate, &QPushButton::clicked, this, &frmIndex::cmdGoDate_Click);
+  connect(cmdClose, &QPushButton::clicked, this, &frmIndex::CloseBox);
+  connect(cmdHelp, &QPushButton::clicked, this, [] { platform::SendKey(Qt::Key_F1); });
+  connect(&Face(), &PageFace::JournalClosed, this, &frmIndex::CloseBox);
+}
+
+// Children come under their parents before these come into the tree: the view then hears of few insertions.
+void frmIndex::AddPages() {
+  AddToJournalIndex(nodes_, Pages);
+  std::map<int, QList<QTreeWidgetItem*>, std::greater<>> children;
+  for (std::size_t place = items_.size(); place < nodes_.size(); ++place) {
+    items_.push_back(MakeItem(nodes_[place]));
+    children[nodes_[place].parent].append(items_.back());
+  }
+  for (const auto& [parent, items] : children) {
+    if (parent >= 0)
+      items_[static_cast<std::size_t>(parent)]->addChildren(items);
+    else
+      TreeView1->addTopLevelItems(items);
+  }
+}
+
+bool frmIndex::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == TreeView1)
+    return event->type() == QEvent::KeyPress && SelectsFirst(*static_cast<QKeyEvent*>(event));
+  if (event->type() != QEvent::MouseButtonDblClick) return false;
+  cmdGoDate_Click();
+  return true;
+}
+
+// The toolkit lets the keyboard stand on an entry that is not selected, as after the opening. The first key
+// that moves selects it, and up and down go no further, so that no entry is out of the keyboard's reach.
+bool frmIndex::SelectsFirst(const QKeyEvent& key) {
+  const bool moves = key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown;
+  if (!moves || !TreeView1->selectedItems().isEmpty() || !TreeView1->currentItem()) return false;
+  TreeView1->currentItem()->setSelected(true);
+  return key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
+}
+
+// The text box's text is not stored here: what was typed while the index stood open is dropped.
+void frmIndex::cmdGoDate_Click() {
+  const QList<QTreeWidgetItem*> selected = TreeView1->selectedItems();
+  if (selected.isEmpty()) return;
+  CurrentPage = selected.front()->data(0, Tag).toInt();
+  ShowCurrentPage();
+  ShowPageHeader();
+  look::Discard(this);
+}
+
+void ShowJournalIndex() {
+  auto& index = look::The<frmIndex>();
+  index.AddPages();
+  index.ShowModeless();
+}

@@ -1,0 +1,37 @@
+#include "look/PictureBox.h"
+
+#include <algorithm>
+
+#include <QtGui/QPainter>
+
+namespace look {
+
+PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PictureBox::SetPicture(const QPixmap& picture) {
+  picture_ = picture;
+  update();
+}
+
+void PictureBox::RepeatDownwards() {
+  repeats_ = true;
+  update();
+}
+
+void PictureBox::SetBackColor(std::uint32_t color) {
+  backColor_ = color;
+  update();
+}
+
+void PictureBox::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), QColor(backColor_ & 0xFF, backColor_ >> 8 & 0xFF, backColor_ >> 16 & 0xFF));
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
+  const QSize size = picture_.deviceIndependentSize().toSize();
+  const int bottom = repeats_ ? height() : std::min(height(), size.height());
+  painter.drawTiledPixmap(0, 0, std::min(width(), size.width()), bottom, picture_);
+}
+
+}  // namespace look

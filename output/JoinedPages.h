@@ -1,0 +1,11 @@
+// The pages of the open journal as one plain text, for printing.
+#pragma once
+
+#include <cstdint>
+
+#include <QtCore/QString>
+
+// The pages `first` to `last` as they were last stored, each behind its long date (but the title page, 0) and
+// with a line end behind it. Reads them through frmPrintRTF.txtM. What cannot be read is told with the prefix
+// "Error:" and left out.
+QString JoinedPages(std::int32_t first, std::int32_t last);

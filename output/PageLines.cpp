@@ -1,0 +1,8 @@
+#include "output/PageLines.h"
+
+#include "platform/WebText.h"
+
+std::string WebLines(QString text) {
+  text.remove(QChar(QChar::ObjectReplacementCharacter)).replace(u'\n', QStringLiteral("\r\n"));
+  return platform::WebText(text.toStdU16String());
+}

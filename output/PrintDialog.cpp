@@ -1,0 +1,96 @@
+#include "output/PrintDialog.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QtCore/QFile>
+#include <QtCore/QPointer>
+#include <QtPrintSupport/QPrintDialog>
+#include <QtPrintSupport/QPrinter>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QVBoxLayout>
+
+#include "output/PrintRange.h"
+
+namespace {
+
+PrintAnswerer& Answerer() {
+  static PrintAnswerer answerer;
+  return answerer;
+}
+
+// The toolkit does not tell when the disk was full.
+bool EndsAsPdf(const QString& path) {
+  constexpr qint64 tail = 16;
+  QFile file(path);
+  return file.open(QFile::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - tail)) &&
+         file.read(tail).contains("%%EOF");
+}
+
+class PrinterPaper : public richtext::Paper {
+ public:
+  explicit PrinterPaper(std::unique_ptr<QPrinter> printer) : printer_(std::move(printer)) {}
+  QPaintDevice& Device() override { return *printer_; }
+  QSizeF Area() const override { return printer_->pageLayout().paintRect(QPageLayout::Point).size(); }
+  bool IsWhole() const override {
+    return printer_->outputFormat() != QPrinter::PdfFormat || EndsAsPdf(printer_->outputFileName());
+  }
+  bool NextSheet() override { return printer_->newPage() && printer_->printerState() != QPrinter::Error; }
+
+ private:
+  std::unique_ptr<QPrinter> printer_;
+};
+
+// The toolkit's own choice of pages knows no page 0: its boxes begin at 1, and a range of 0 to 0 means all to
+// the printer. Ours stands in its place, and the printer is told of no range.
+void PutInPlace(PrintRange& range, QPrintDialog& dialog) {
+  auto* attic = new QWidget(&dialog);
+  attic->hide();
+  if (auto* own = dialog.findChild<QGroupBox*>(QStringLiteral("gbPrintRange"))) own->setParent(attic);
+  if (auto* rows = qobject_cast<QVBoxLayout*>(dialog.layout()))
+    rows->insertWidget(1, &range);
+  else
+    dialog.setOptionTabs({&range});
+}
+
+QPrintDialog* MakeDialog(QPrinter& printer, PrintRange*& range, const PrintRequest& request) {
+  auto* dialog = new QPrintDialog(&printer, QApplication::activeWindow());
+  dialog->setObjectName(QStringLiteral("PrintDialog"));
+  dialog->setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
+                     QAbstractPrintDialog::PrintCollateCopies);
+  range = new PrintRange(request, dialog);
+  PutInPlace(*range, *dialog);
+  return dialog;
+}
+
+QString NameOf(const QPrinter& printer) {
+  return printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName();
+}
+
+std::optional<PrintOrder> AskOnTheDesktop(const PrintRequest& request) {
+  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  printer->setDocName(QStringLiteral("Thornquill"));
+  printer->setCreator(QStringLiteral("Thornquill"));
+  PrintRange* range = nullptr;
+  // The window under the dialog may be destroyed while it is up, and takes the dialog with it.
+  const QPointer<QPrintDialog> dialog = MakeDialog(*printer, range, request);
+  const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
+  PrintOrder order;
+  if (accepted) order = range->Order();
+  delete dialog;
+  if (!accepted) return std::nullopt;
+  order.printer = NameOf(*printer).toStdString();
+  order.paper = std::make_unique<PrinterPaper>(std::move(printer));
+  return order;
+}
+
+}  // namespace
+
+std::optional<PrintOrder> ShowPrintDialog(const PrintRequest& request) {
+  const PrintAnswerer answerer = Answerer();  // a copy: an answer may put another one in its place
+  return answerer ? answerer(request) : AskOnTheDesktop(request);
+}
+
+PrintAnswerer SetPrintAnswerer(PrintAnswerer answerer) {
+  return std::exchange(Answerer(), std::move(answerer));
+}

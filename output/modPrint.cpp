@@ -1,0 +1,107 @@
+#include "output/modPrint.h"
+
+#include <optional>
+
+#include <QtGui/QGuiApplication>
+
+#include "editor/PageFace.h"
+#include "look/Pass.h"
+#include "output/JoinedPages.h"
+#include "output/PrintDialog.h"
+#include "output/frmPrintRTF.h"
+#include "platform/CodePage.h"
+#include "platform/Failure.h"
+#include "platform/MessageBox.h"
+#include "state/State.h"
+
+namespace {
+
+template <class Statement>
+void Guarded(Statement&& statement) {
+  platform::Guarded("Error:", statement);
+}
+
+const JournalEntry& OpenEntry() {
+  return Journals.at(static_cast<std::size_t>(CurrentJournal));
+}
+
+// The windows are alive while a long text goes to the printer, but take no commands.
+class LivelyPaper : public richtext::Paper {
+ public:
+  explicit LivelyPaper(richtext::Paper& paper) : paper_(paper) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  }
+  ~LivelyPaper() override { QGuiApplication::restoreOverrideCursor(); }
+  QPaintDevice& Device() override { return paper_.Device(); }
+  QSizeF Area() const override { return paper_.Area(); }
+  bool IsWhole() const override { return paper_.IsWhole(); }
+  bool NextSheet() override {
+    pass_.Yield();
+    return paper_.NextSheet();
+  }
+
+ private:
+  richtext::Paper& paper_;
+  look::Pass pass_;
+};
+
+void PrintSelectionOf(const richtext::RichTextBox& box, const PrintOrder& order) {
+  LivelyPaper lively(*order.paper);
+  if (!box.PrintSelection(lively)) throw platform::Failure(platform::FailureKind::DeviceError, order.printer);
+}
+
+// The dialog's bounds and the range of all pages come from the bookcase's row, which knows the pages that the
+// journal had when it was opened.
+PrintRequest RequestOf() {
+  PrintRequest request;
+  request.selection = Face().txtM->SelLength() != 0;
+  request.highest = OpenEntry().PageCount;
+  request.from = request.to = CurrentPage;
+  return request;
+}
+
+void SetJournalFont() {
+  QFont font(platform::FromCodePage(OpenEntry().FontName));
+  if (OpenEntry().FontSize > 0) font.setPointSize(OpenEntry().FontSize);
+  look::The<frmPrintRTF>().txtM->setFont(font);
+}
+
+void PrintPages(std::int32_t first, std::int32_t last, const PrintOrder& order) {
+  richtext::RichTextBox& box = *look::The<frmPrintRTF>().txtM;
+  Guarded([&] { box.SetTextRTF({}); });
+  const QString joined = JoinedPages(first, last);
+  Guarded(SetJournalFont);
+  Guarded([&] { box.SetText(joined); });
+  Guarded([&] { box.SetSelStart(0); });
+  Guarded([&] { box.SetSelLength(static_cast<int>(box.Text().size())); });
+  Guarded([&] { PrintSelectionOf(box, order); });
+}
+
+void PrintSelection(const PrintOrder& order) {
+  const richtext::RichTextBox& box = *Face().txtM;
+  if (box.SelLength() == 0) {
+    platform::ShowMessage(
+        "No text selected -- When using the Print Selection feature, you must first select some text to "
+        "print.");
+    return;
+  }
+  Guarded([&] { PrintSelectionOf(box, order); });
+}
+
+}  // namespace
+
+// A cancelled dialog is no failure, and without a printer there is nothing to go on with.
+void PrintJournal() {
+  std::optional<PrintOrder> order;
+  Guarded([&] { order = ShowPrintDialog(RequestOf()); });
+  if (!order) return;
+  Guarded(SetJournalFont);
+  switch (order->choice) {
+    case PrintChoice::Pages:
+      return PrintPages(order->from, order->to, *order);
+    case PrintChoice::Selection:
+      return PrintSelection(*order);
+    case PrintChoice::All:
+      return PrintPages(0, OpenEntry().PageCount, *order);
+  }
+}

@@ -1,0 +1,133 @@
+#include "pictures/PictureFile.h"
+
+#include <cmath>
+
+#include <QtCore/QFile>
+#include <QtCore/QLocale>
+#include <QtGui/QImageReader>
+
+#include "platform/Failure.h"
+#include "platform/Files.h"
+
+namespace pictures {
+namespace {
+
+using platform::Failure;
+using platform::FailureKind;
+
+constexpr int MostMegabytes = 1024;         // what decoding a picture of MostPixels may take
+constexpr double MostShownPixels = 16.0e6;  // twice what the largest screens show
+constexpr int MostSide = 32767;             // what a painter takes
+constexpr int PreviewSide = 2000;           // twice the side of the preview's drawing surface
+
+Failure Unshowable(const std::string& path, const QString& why) {
+  return Failure(FailureKind::InvalidPicture, path + "\n\n" + why.toStdString());
+}
+
+Failure NoPicture(const std::string& path) {
+  return Unshowable(
+      path, QStringLiteral("It is damaged, or of a kind that this program cannot read. Save it as JPEG, "
+                           "PNG or GIF, and choose that file."));
+}
+
+Failure TooLarge(const std::string& path, QSize size) {
+  const QLocale english(QLocale::English);
+  return Unshowable(path,
+                    QStringLiteral("It measures %1 by %2 pixels, and a picture may have %3 of them at most. "
+                                   "Make a smaller copy, and choose that file.")
+                        .arg(english.toString(size.width()), english.toString(size.height()),
+                             english.toString(qlonglong{MostPixels})));
+}
+
+// An open file and the reader over it. The kind of picture is told by the bytes, not by the name.
+class Source {
+ public:
+  explicit Source(const std::string& path) : path_(path), file_(path) {
+    if (file_.size() == 0) throw Unshowable(path, QStringLiteral("It is empty."));
+    device_.open(file_.descriptor(), QFile::ReadOnly, QFile::DontCloseHandle);
+    reader.setDevice(&device_);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    if (!reader.canRead()) throw NoPicture(path);
+    CheckSize(reader.size());
+  }
+
+  // Whether the mark turns the picture by a quarter, so that its stored width is its upright height.
+  bool IsTurned() const { return reader.transformation() & QImageIOHandler::TransformationRotate90; }
+
+  // Invalid for a format that does not tell before it is decoded.
+  QSize UprightSize() const { return IsTurned() ? reader.size().transposed() : reader.size(); }
+
+  // Never null.
+  QImage Decode() {
+    QImageReader::setAllocationLimit(MostMegabytes);
+    QImage image = reader.read();
+    if (image.isNull()) throw NoPicture(path_);
+    return image;
+  }
+
+  QImageReader reader;
+
+ private:
+  void CheckSize(QSize size) const {
+    if (!size.isValid()) return;
+    if (size.isEmpty()) throw NoPicture(path_);
+    if (std::int64_t{size.width()} * size.height() > MostPixels) throw TooLarge(path_, size);
+  }
+
+  std::string path_;
+  platform::InputFile file_;
+  QFile device_;
+};
+
+QImage Stretched(const QImage& image, QSize size) {
+  return image.size() == size ? image : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+// The pixels of the screen for a size in logical ones, or fewer in the same shape.
+QSize DevicePixels(QSize shown, double devicePixelRatio) {
+  const QSizeF wanted = QSizeF(shown) * devicePixelRatio;
+  const double excess = wanted.width() * wanted.height() / MostShownPixels;
+  const QSizeF fitting = excess > 1 ? wanted / std::sqrt(excess) : wanted;
+  return fitting.toSize().boundedTo({MostSide, MostSide}).expandedTo({1, 1});
+}
+
+// A square is nobody's shape, and stands upright.
+bool HasTheShapeLying(QSize shown, QSize upright) {
+  const auto excessOf = [](QSize size) { return std::int64_t{size.width()} - size.height(); };
+  return (excessOf(shown) < 0 && excessOf(upright) > 0) || (excessOf(shown) > 0 && excessOf(upright) < 0);
+}
+
+}  // namespace
+
+QSize UprightSize(const std::string& path) {
+  Source source(path);
+  const QSize size = source.UprightSize();
+  return size.isValid() ? size : source.Decode().size();
+}
+
+QImage LoadScaled(const std::string& path, QSize shown, double devicePixelRatio) {
+  if (shown.isEmpty()) return {};
+  Source source(path);
+  const bool setUpright = !source.IsTurned() || !HasTheShapeLying(shown, source.UprightSize());
+  source.reader.setAutoTransform(setUpright);
+  const QSize size = DevicePixels(shown, devicePixelRatio);
+  source.reader.setScaledSize(setUpright && source.IsTurned() ? size.transposed() : size);
+  QImage image = Stretched(source.Decode(), size);
+  image.setDevicePixelRatio(devicePixelRatio);
+  return image;
+}
+
+QImage LoadForPreview(const std::string& path) {
+  Source source(path);
+  const QSize stored = source.reader.size();
+  const QSize most(PreviewSide, PreviewSide);
+  if (stored.width() > PreviewSide || stored.height() > PreviewSide)
+    source.reader.setScaledSize(stored.scaled(most, Qt::KeepAspectRatio).expandedTo({1, 1}));
+  const QImage image = source.Decode();
+  return image.size().boundedTo(most) == image.size()
+             ? image
+             : Stretched(image, image.size().scaled(most, Qt::KeepAspectRatio).expandedTo({1, 1}));
+}
+
+}  // namespace pictures

@@ -1,0 +1,235 @@
+#include "pictures/PictureSlots.h"
+
+#include <algorithm>
+
+#include <QtCore/QPointer>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QMouseEvent>
+
+#include "pictures/PictureFile.h"
+#include "pictures/modPictures.h"
+#include "platform/Failure.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "state/State.h"
+
+// Must stand outside of any namespace: the linker drops a library's resources unless something asks for them.
+static void LinkResources() {
+  Q_INIT_RESOURCE(pictures);
+}
+
+namespace {
+
+constexpr int HandleTop = 1;
+constexpr int HandleHeight = 20;
+constexpr int FrameLeft = 1;
+constexpr int TitleBarAllowance = 32;
+
+// The toolkit's own limit for a control's size, and far beyond any screen as a place. Rows may hold any
+// number.
+constexpr int MostPixels = 16'000'000;
+
+QPointer<PictureSlots> theSlots;
+
+QPoint PlaceOf(const PagePicture& picture) {
+  return {std::clamp(picture.Left, -MostPixels, MostPixels),
+          std::clamp(picture.Top, -MostPixels, MostPixels)};
+}
+
+QSize SizeOf(const PagePicture& picture) {
+  return {std::clamp(picture.PictureWidth, 0, MostPixels), std::clamp(picture.PictureHeight, 0, MostPixels)};
+}
+
+PagePicture& Row(std::int32_t row) {
+  return Pictures.at(static_cast<std::size_t>(row));
+}
+
+bool BelongsHere(const PagePicture& picture, const std::string& journalFile) {
+  return picture.PageNumber == CurrentPage && picture.JournalFile == journalFile && picture.Deleted != True &&
+         platform::FileExists(picture.PictureFile);
+}
+
+QImage HandleBar(double devicePixelRatio) {
+  return QImage(devicePixelRatio > 1 ? QStringLiteral(":/pictures/handle@2x.png")
+                                     : QStringLiteral(":/pictures/handle.png"));
+}
+
+}  // namespace
+
+PictureSlots::PictureSlots(QWidget* page) : QObject(page), page_(page) {
+  theSlots = this;
+  LinkResources();
+  for (std::size_t slot = 0; slot < Count; ++slot) MakeSlot(slot, page);
+}
+
+PictureSlots::~PictureSlots() = default;
+
+void PictureSlots::MakeSlot(std::size_t slot, QWidget* page) {
+  constexpr int left[Count] = {100, 320, 160, 340, 80, 240, 300};
+  constexpr int top[Count] = {80, 100, 220, 280, 380, 420, 460};
+  auto* box = new look::PictureBox(page);
+  box->setObjectName(QStringLiteral("picDisplayPics(%1)").arg(slot));
+  box->setAccessibleName(QStringLiteral("Picture %1").arg(slot + 1));
+  box->setGeometry(left[slot], top[slot], 202, 163);
+  box->hide();
+  picDisplayPics[slot] = box;
+  imgPhoto[slot] = MakeImage(slot, "imgPhoto", "Photograph");
+  imgFrame[slot] = MakeImage(slot, "imgFrame", "Frame");
+  imgFrame[slot]->move(FrameLeft, 0);
+  imgController[slot] = MakeImage(slot, "imgController", "Handle");
+  imgController[slot]->setGeometry(0, HandleTop, box->width(), HandleHeight);
+  imgController[slot]->SetPicture(HandleBar(page->devicePixelRatioF()));
+  imgController[slot]->setCursor(Qt::SizeAllCursor);
+  imgController[slot]->hide();
+  ConnectSlot(slot);
+}
+
+StretchedImage* PictureSlots::MakeImage(std::size_t slot, const char* array, const char* role) {
+  auto* image = new StretchedImage(picDisplayPics[slot]);
+  image->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(slot));
+  image->setAccessibleName(QStringLiteral("%1 of picture %2").arg(QLatin1String(role)).arg(slot + 1));
+  image->resize(picDisplayPics[slot]->size());
+  connect(image, &StretchedImage::Wheel, this, &PictureSlots::WheelTurned);
+  return image;
+}
+
+void PictureSlots::ConnectSlot(std::size_t slot) {
+  for (const StretchedImage* image : {imgPhoto[slot], imgFrame[slot]})
+    connect(image, &StretchedImage::Click, this, [this, slot] { imgPhoto_Click(slot); });
+  const StretchedImage* handle = imgController[slot];
+  connect(handle, &StretchedImage::MouseDown, this, [this, slot] { imgController_MouseDown(slot); });
+  connect(handle, &StretchedImage::MouseMove, this, [this, slot] { imgController_MouseMove(slot); });
+  connect(handle, &StretchedImage::MouseUp, this, &PictureSlots::imgController_MouseUp);
+  connect(handle, &StretchedImage::DblClick, this, [this, slot] { imgController_DblClick(slot); });
+}
+
+std::int32_t PictureSlots::RowOf(std::size_t slot) const {
+  return imgController[slot]->property("Tag").toString().toInt();
+}
+
+// The handle's visibility is left alone: one that shows goes over to whatever picture comes into its slot.
+void PictureSlots::Show(std::size_t slot, std::int32_t row) {
+  PagePicture& picture = Row(row);
+  const QSize size = SizeOf(picture);
+  imgPhoto[slot]->SetPicture(pictures::LoadScaled(picture.PictureFile, size, page_->devicePixelRatioF()));
+  imgPhoto[slot]->resize(size);
+  imgController[slot]->setProperty("Tag", QString::number(row));
+  picDisplayPics[slot]->resize(size);
+  imgController[slot]->resize(size.width(), HandleHeight);
+  picDisplayPics[slot]->move(PlaceOf(picture));
+  picDisplayPics[slot]->SetBackColor(Journals.at(static_cast<std::size_t>(CurrentJournal)).PaperColor);
+  imgFrame[slot]->hide();
+  picDisplayPics[slot]->show();
+  ShowFrame(slot, picture);
+}
+
+void PictureSlots::ShowFrame(std::size_t slot, PagePicture& picture) {
+  if (!platform::FileExists(picture.FrameFile)) {
+    picture.FrameFile.clear();
+    picture.FrameIndex = 0;
+  }
+  if (picture.FrameIndex < 1) return imgFrame[slot]->SetPicture({});
+  const QSize size = SizeOf(picture);
+  imgFrame[slot]->SetPicture(pictures::LoadScaled(picture.FrameFile, size, page_->devicePixelRatioF()));
+  imgFrame[slot]->resize(size);
+  imgFrame[slot]->show();
+}
+
+void PictureSlots::ForgetImagesFrom(std::size_t slot) {
+  for (; slot < Count; ++slot)
+    for (StretchedImage* image : {imgPhoto[slot], imgFrame[slot]}) image->SetPicture({});
+}
+
+void PictureSlots::Hide() {
+  for (look::PictureBox* box : picDisplayPics) box->hide();
+}
+
+void PictureSlots::HideControllers() {
+  for (StretchedImage* handle : imgController)
+    if (!handle->isHidden()) handle->hide();
+}
+
+// Selecting. The handle is the only way to get at a picture, and at most one shows.
+void PictureSlots::imgPhoto_Click(std::size_t slot) {
+  for (std::size_t other = 0; other < Count; ++other)
+    if (!imgController[other]->isHidden() && other != slot) imgController[other]->hide();
+  imgController[slot]->show();
+}
+
+void PictureSlots::imgController_MouseDown(std::size_t slot) {
+  DragSlot = static_cast<std::int32_t>(slot) + 1;
+}
+
+// The picture's corner goes to the pointer, wherever the handle was gripped: measured from the outer corner
+// of the window's border, and with a fixed allowance for its title bar. There is no limit to where it may go.
+void PictureSlots::imgController_MouseMove(std::size_t slot) {
+  if (DragSlot <= 0) return;
+  const QPoint corner = page_->window()->frameGeometry().topLeft();
+  PagePicture& picture = Row(RowOf(slot));
+  picture.Left = MouseTracker.X() - corner.x();
+  picture.Top = MouseTracker.Y() - corner.y() - TitleBarAllowance;
+  picDisplayPics[static_cast<std::size_t>(DragSlot) - 1]->move(PlaceOf(picture));
+}
+
+void PictureSlots::imgController_MouseUp() {
+  DragSlot = 0;
+  SavePictureStore();
+}
+
+// The button-up that follows saves. The handle has lost the mouse by being hidden, and the text beneath must
+// not get it. Where a message stood meanwhile, the button is up already.
+void PictureSlots::imgController_DblClick(std::size_t slot) {
+  Row(RowOf(slot)).Deleted = True;
+  ShowPagePicturesOrTell();
+  if (QGuiApplication::mouseButtons() == Qt::NoButton) return imgController_MouseUp();
+  page_->installEventFilter(this);
+  page_->grabMouse();
+}
+
+bool PictureSlots::eventFilter(QObject* /*watched*/, QEvent* event) {
+  if (event->type() != QEvent::MouseButtonRelease) return false;
+  page_->releaseMouse();
+  page_->removeEventFilter(this);
+  imgController_MouseUp();
+  return true;
+}
+
+// Deals the rows out to the slots; returns the first failure. A row that cannot be shown leaves no gap.
+std::optional<platform::Failure> PictureSlots::DealOut() {
+  const std::string& journalFile = Journals.at(static_cast<std::size_t>(CurrentJournal)).FileName;
+  std::optional<platform::Failure> failure;
+  std::size_t next = 0;
+  for (std::int32_t row = 1; row <= PictureCount; ++row) {
+    if (!BelongsHere(Row(row), journalFile)) continue;
+    if (next == Count) return platform::Failure(platform::FailureKind::SubscriptOutOfRange);
+    try {
+      Show(next, row);
+    } catch (const platform::Failure& problem) {
+      if (!failure) failure = problem;
+    }
+    if (!picDisplayPics[next]->isHidden()) ++next;
+  }
+  ForgetImagesFrom(next);
+  return failure;
+}
+
+void ShowPagePictures() {
+  theSlots->Hide();
+  if (const auto failure = theSlots->DealOut()) throw *failure;
+}
+
+void ShowPagePicturesOrTell() {
+  try {
+    ShowPagePictures();
+  } catch (const platform::Failure& failure) {
+    platform::ShowMessage(failure.what());
+  }
+}
+
+void HidePagePictures() {
+  theSlots->Hide();
+}
+
+int PageClientHeight() {
+  return theSlots->PageHeight();
+}

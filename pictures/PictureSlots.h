@@ -1,0 +1,89 @@
+// The seven places for a picture over the text of a page, and what a person does with them.
+//
+// A slot is a box that holds three things, the lowest first: the photograph, its frame, and the handle that
+// shows when the picture is selected. Rows of Pictures are dealt out to the slots afresh at each display. All
+// places are pixels of the journal window's client area.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include <QtCore/QObject>
+
+#include "look/PictureBox.h"
+#include "pictures/StretchedImage.h"
+#include "platform/Failure.h"
+#include "platform/cMouse.h"
+
+class QWheelEvent;
+struct PagePicture;
+
+class PictureSlots : public QObject {
+  Q_OBJECT
+
+ public:
+  static constexpr std::size_t Count = 7;
+
+  // Makes the slots, all hidden, above what lies on `page`, the client area of the journal window. The last
+  // ones made are those of ShowPagePictures.
+  explicit PictureSlots(QWidget* page);
+  ~PictureSlots() override;
+
+  std::array<look::PictureBox*, Count> picDisplayPics;
+  std::array<StretchedImage*, Count> imgPhoto;
+  std::array<StretchedImage*, Count> imgFrame;
+  std::array<StretchedImage*, Count> imgController;
+
+  cMouse MouseTracker;
+  std::int32_t DragSlot = 0;  // 0: no drag; else the number of the slot and one more
+
+  // The row of Pictures that the slot shows: the handle's property "Tag", decimal text.
+  std::int32_t RowOf(std::size_t slot) const;
+
+  // Deals out the rows of the current page whose picture files are there to the slots, and shows these.
+  // Returns the first failure of a picture, which leaves no gap, or of a frame, whose picture shows without
+  // it; SubscriptOutOfRange when there are more rows than slots.
+  std::optional<platform::Failure> DealOut();
+  void Hide();
+  void HideControllers();
+  int PageHeight() const { return page_->height(); }
+
+ Q_SIGNALS:
+  // The wheel was turned over a picture: it is the text's.
+  void WheelTurned(QWheelEvent* event);
+
+ protected:
+  // The button-up that closes a double click, when the handle that was clicked is gone.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void MakeSlot(std::size_t slot, QWidget* page);
+  StretchedImage* MakeImage(std::size_t slot, const char* array, const char* role);
+  void ConnectSlot(std::size_t slot);
+  // Puts the row into the slot and shows it; drops a frame from the row that is not there.
+  void Show(std::size_t slot, std::int32_t row);
+  void ShowFrame(std::size_t slot, PagePicture& picture);
+  // Lets go of what is on show no more, from this slot on.
+  void ForgetImagesFrom(std::size_t slot);
+
+  void imgPhoto_Click(std::size_t slot);
+  void imgController_MouseDown(std::size_t slot);
+  void imgController_MouseMove(std::size_t slot);
+  void imgController_MouseUp();
+  void imgController_DblClick(std::size_t slot);
+
+  QWidget* page_;
+};
+
+// Hides the slots, and shows in them the pictures of the current page whose files are there. A picture that
+// cannot be shown is passed over; when all are done, the first such failure is thrown. Throws
+// platform::Failure (SubscriptOutOfRange) when there are more pictures than slots, once seven are shown.
+void ShowPagePictures();
+// The same; a failure is told in a message that names the file. For what a person does at the open page.
+void ShowPagePicturesOrTell();
+// Hides the slots. Their handles stay as they are.
+void HidePagePictures();
+
+// The height of the journal window's client area, in pixels.
+int PageClientHeight();

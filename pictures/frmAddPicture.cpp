@@ -1,0 +1,187 @@
+#include "pictures/frmAddPicture.h"
+
+#include <algorithm>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+
+#include "pictures/AddPicture.h"
+#include "platform/Failure.h"
+#include "platform/Files.h"
+#include "platform/Keystroke.h"
+#include "platform/MessageBox.h"
+
+namespace {
+
+constexpr int Twips = 15;  // this window is designed in pixels
+constexpr double ScaleStep = 0.01;
+constexpr int ExtensionLength = 4;  // ".gif"
+
+std::string FramesFolder() {
+  return platform::PathOf("frames");
+}
+
+}  // namespace
+
+frmAddPicture::frmAddPicture()
+    : Form(Kind::Dialog, QStringLiteral("frmAddPicture"), QStringLiteral("Add Picture"), 676 * Twips,
+           546 * Twips) {
+  PlaceControls();
+  PlaceScaleButtons();
+  PlacePreview();
+  Label1->setBuddy(List1);
+  List1->addItem(QStringLiteral("No Frame!"));
+  cmdOK->setDefault(true);
+  List1->setFocus();
+
+  ConnectScaleButtons();
+  connect(List1, &QListWidget::currentRowChanged, this, &frmAddPicture::List1_Click);
+  connect(cmdOK, &QPushButton::clicked, this, &frmAddPicture::cmdOK_Click);
+  connect(cmdCancel, &QPushButton::clicked, this, &frmAddPicture::CloseBox);
+  connect(cmdHelp, &QPushButton::clicked, this, [] { platform::SendKey(Qt::Key_F1); });
+}
+
+void frmAddPicture::PlaceControls() {
+  const auto button = [this](const char* name, const QString& caption, int left, int width) {
+    return Place(new QPushButton(caption, this), name, left * Twips, 8 * Twips, width * Twips, 30 * Twips);
+  };
+  cmdHelp = button("cmdHelp", QStringLiteral("Help"), 8, 96);
+  cmdOK = button("cmdOK", QStringLiteral("&Insert to Journal!"), 112, 160);
+  cmdCancel = button("cmdCancel", QStringLiteral("&Cancel"), 280, 96);
+  // clang-format off
+  Label1 = Place(new QLabel(QStringLiteral("Select Frame:"), this), "Label1", 8 * Twips, 50 * Twips, 150 * Twips, 20 * Twips);
+  List1  = Place(new QListWidget(this), "List1", 8 * Twips, 74 * Twips, 150 * Twips, 464 * Twips, QStringLiteral("Select Frame:"));
+  File1  = Place(new QListWidget(this), "File1", 8 * Twips, 74 * Twips, 150 * Twips, 100 * Twips, QStringLiteral("the frame files"));
+  // clang-format on
+  File1->hide();
+}
+
+void frmAddPicture::PlaceScaleButtons() {
+  const auto button = [this](const char* name, const QString& caption, int left, int width) {
+    return Place(new QPushButton(caption, this), name, left * Twips, 46 * Twips, width * Twips, 28 * Twips);
+  };
+  cmdResizeFactorDN = button("cmdResizeFactorDN", QStringLiteral("- Smaller"), 168, 74);
+  lblScale = Place(new QLabel(QStringLiteral("Scale: 100%"), this), "lblScale", 244 * Twips, 46 * Twips,
+                   82 * Twips, 28 * Twips);
+  lblScale->setAlignment(Qt::AlignCenter);
+  cmdResizeFactorUP = button("cmdResizeFactorUP", QStringLiteral("+ Larger"), 328, 74);
+  cmdResizeFactor10 = button("cmdResizeFactor10", QStringLiteral("10%"), 406, 42);
+  cmdResizeFactor25 = button("cmdResizeFactor25", QStringLiteral("25%"), 450, 42);
+  cmdResizeFactor50 = button("cmdResizeFactor50", QStringLiteral("50%"), 494, 42);
+  cmdResizeFactor75 = button("cmdResizeFactor75", QStringLiteral("75%"), 538, 42);
+  cmdResizeFactor100 = button("cmdResizeFactor100", QStringLiteral("100%"), 582, 42);
+  cmdResizeFactor200 = button("cmdResizeFactor200", QStringLiteral("200%"), 626, 42);
+}
+
+// The preview takes the size of the picture and is cut at the dialog's edge.
+void frmAddPicture::PlacePreview() {
+  const auto box = [this](const char* name, int width, int height, const QString& role) {
+    return Place(new look::PictureBox(this), name, 168 * Twips, 82 * Twips, width * Twips, height * Twips,
+                 role);
+  };
+  picResize2 = box("picResize2", 500, 456, QStringLiteral("Preview"));
+  imgFrameSet = Place(new StretchedImage(picResize2), "imgFrameSet", 0, 0, 500 * Twips, 456 * Twips,
+                      QStringLiteral("Frame of the preview"));
+  imgFrameSet->hide();
+  picTemp = box("picTemp", 0, 0, QStringLiteral("the chosen picture"));
+  PicResize = box("PicResize", 1000, 1000, QStringLiteral("the drawing surface"));
+  for (look::PictureBox* hidden : {picTemp, PicResize}) hidden->hide();
+}
+
+void frmAddPicture::ConnectScaleButtons() {
+  const std::pair<QPushButton*, double> factors[] = {
+      {cmdResizeFactor10, 0.1},  {cmdResizeFactor25, 0.25}, {cmdResizeFactor50, 0.5},
+      {cmdResizeFactor75, 0.75}, {cmdResizeFactor100, 1.0}, {cmdResizeFactor200, 2.0},
+  };
+  for (const auto& [button, factor] : factors)
+    connect(button, &QPushButton::clicked, this, [this, scale = factor] { SetScale(scale); });
+  connect(cmdResizeFactorUP, &QPushButton::clicked, this, [this] { SetScale(AddScale + ScaleStep); });
+  connect(cmdResizeFactorDN, &QPushButton::clicked, this, &frmAddPicture::cmdResizeFactorDN_Click);
+}
+
+void frmAddPicture::Open() {
+  Form_Activate();
+  List1->setFocus();
+  ShowModal();
+}
+
+void frmAddPicture::CloseBox() {
+  hide();
+}
+
+void frmAddPicture::Form_Activate() {
+  ReadFrames();
+  {
+    const QSignalBlocker noClicks(List1);
+    List1->clear();
+    List1->addItem(QStringLiteral("No Frame"));
+    for (int i = 0; i < File1->count(); ++i) List1->addItem(File1->item(i)->text().chopped(ExtensionLength));
+    List1->setCurrentRow(-1);
+  }
+  List1->setCurrentRow(0);
+}
+
+// In the order of the names' bytes, the same on every machine.
+void frmAddPicture::ReadFrames() {
+  File1->clear();
+  const std::string path = FramesFolder();
+  const QDir folder(QFile::decodeName(path.c_str()));
+  if (!folder.isReadable()) {
+    const platform::Failure failure(platform::FailureKind::PathNotFound, path);
+    platform::ShowMessage(failure.what() +
+                          std::string("\n\nThe frames for pictures lie in this folder. Put it "
+                                      "back beside the program; until then, pictures have no "
+                                      "frame."));
+    return;
+  }
+  QStringList names = folder.entryList({QStringLiteral("*.gif")}, QDir::Files, QDir::Unsorted);
+  std::sort(names.begin(), names.end(),
+            [](const QString& a, const QString& b) { return QFile::encodeName(a) < QFile::encodeName(b); });
+  File1->addItems(names);
+}
+
+std::string frmAddPicture::FrameFile(std::int32_t index) const {
+  const QListWidgetItem* entry = File1->item(index - 1);
+  return FramesFolder() + "/" + (entry ? QFile::encodeName(entry->text()).toStdString() : std::string());
+}
+
+void frmAddPicture::List1_Click(int index) {
+  if (index < 0) return;
+  AddFrameIndex = index;
+  ShowPreviewOrDropFrame();
+}
+
+// From 25% it works 24 times: the value is then just under its least.
+void frmAddPicture::cmdResizeFactorDN_Click() {
+  if (AddScale > ScaleStep) SetScale(AddScale - ScaleStep);
+}
+
+void frmAddPicture::SetScale(double scale) {
+  AddScale = scale;
+  ShowPreviewOrDropFrame();
+}
+
+// A frame that has gone since the list was read, or is no picture, is told once and no longer chosen.
+void frmAddPicture::ShowPreviewOrDropFrame() {
+  try {
+    ShowScaledPreview();
+  } catch (const platform::Failure& failure) {
+    platform::ReportFailure({}, failure);
+    AddFrameIndex = 0;
+    List1->setCurrentRow(0);
+  }
+}
+
+void frmAddPicture::InsertPicture() {
+  StartAddPicture();
+}
+
+void frmAddPicture::SetFrame(std::int16_t index) {
+  AddFrameIndex = index;
+  ShowScaledPreview();
+}
+
+void frmAddPicture::cmdOK_Click() {
+  hide();
+  AddPictureToPage();
+}

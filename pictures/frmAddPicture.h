@@ -1,0 +1,67 @@
+// The frame and the scale of a picture, seen live, before it is laid on the page. One instance, hidden
+// between uses.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QPushButton>
+
+#include "look/Form.h"
+#include "look/PictureBox.h"
+#include "pictures/StretchedImage.h"
+
+class frmAddPicture : public look::Form {
+  Q_OBJECT
+
+ public:
+  frmAddPicture();
+
+  QPushButton* cmdHelp;
+  QPushButton* cmdOK;
+  QPushButton* cmdCancel;
+  QLabel* Label1;
+  QListWidget* List1;
+  QListWidget* File1;  // hidden: the names of the frame files
+  QPushButton* cmdResizeFactorDN;
+  QLabel* lblScale;
+  QPushButton* cmdResizeFactorUP;
+  QPushButton* cmdResizeFactor10;
+  QPushButton* cmdResizeFactor25;
+  QPushButton* cmdResizeFactor50;
+  QPushButton* cmdResizeFactor75;
+  QPushButton* cmdResizeFactor100;
+  QPushButton* cmdResizeFactor200;
+  look::PictureBox* picResize2;  // the preview
+  StretchedImage* imgFrameSet;   // the frame over it
+  look::PictureBox* picTemp;     // hidden: as large as the picture; what it holds may be a reduced copy
+  look::PictureBox* PicResize;   // hidden: the drawing surface of the preview
+
+  // Opens it with a fresh list of frames and none of them chosen; returns when it has been hidden. A folder
+  // of frames that is not there is told in a message first.
+  void Open();
+
+  // The full path of a frame file, 1 for the first.
+  std::string FrameFile(std::int32_t index) const;
+
+  void InsertPicture();
+  void SetFrame(std::int16_t index);
+
+  // Hides it: the next use finds what it holds.
+  void CloseBox() override;
+
+ private:
+  void PlaceControls();
+  void PlaceScaleButtons();
+  void PlacePreview();
+  void ConnectScaleButtons();
+  void Form_Activate();
+  void ReadFrames();
+  void List1_Click(int index);
+  void cmdResizeFactorDN_Click();
+  void SetScale(double scale);
+  void ShowPreviewOrDropFrame();
+  void cmdOK_Click();
+};

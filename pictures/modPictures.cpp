@@ -1,0 +1,120 @@
+#include "pictures/modPictures.h"
+
+#include <utility>
+
+#include "platform/Failure.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "state/State.h"
+#include "store/PictureStore.h"
+
+namespace {
+
+using platform::Failure;
+using platform::FailureKind;
+
+const char storeName[] = "tqpics.bin";
+const char oldStoreName[] = "jpics.bin";
+
+// Whether tqpics.bin may hold more than what was read from it.
+bool keepBeforeSaving = false;
+
+void Take(store::DecodedPictures store) {
+  Pictures = std::move(store.rows);
+  PictureCount = static_cast<std::int32_t>(Pictures.size()) - 1;
+}
+
+void TellDamaged(const std::string& name, const std::string& whatBecomesOfIt) {
+  platform::ShowMessage("The file " + name +
+                        ", which tells what pictures lie on the pages, is damaged. The pictures that are "
+                        "whole in it were read.\n\n" +
+                        whatBecomesOfIt);
+}
+
+void TellUnreadable(const std::string& name, const Failure& failure) {
+  platform::ShowMessage("The file " + name +
+                        ", which tells what pictures lie on the pages, could not be read. " + failure.what() +
+                        "\n\nThe pages open without their pictures.");
+}
+
+void LoadStore() {
+  try {
+    store::DecodedPictures decoded =
+        store::DecodePictureStore(platform::ReadFile(platform::PathOf(storeName)));
+    keepBeforeSaving = decoded.isDamaged;
+    Take(std::move(decoded));
+    if (keepBeforeSaving)
+      TellDamaged(storeName, "The damaged file is kept beside before it is written over.");
+  } catch (const Failure& failure) {
+    keepBeforeSaving = true;
+    Take({{{}}, true});
+    TellUnreadable(storeName, failure);
+  }
+}
+
+// Returns whether the file must be kept.
+bool ReadOldStore(const std::string& path) {
+  try {
+    store::DecodedPictures decoded = store::DecodeOldPictureStore(platform::ReadFile(path));
+    const bool isDamaged = decoded.isDamaged;
+    Take(std::move(decoded));
+    if (isDamaged) TellDamaged(oldStoreName, "The damaged file is kept as jpics.bin.damaged.");
+    return isDamaged;
+  } catch (const Failure& failure) {
+    Take({{{}}, true});
+    TellUnreadable(oldStoreName, failure);
+    return true;
+  }
+}
+
+// What is kept under another name first may go; what cannot be kept stays.
+void DeleteOldStore(const std::string& path, bool keepsIt) {
+  try {
+    if (keepsIt) platform::KeepDamaged(path);
+    platform::DeleteFile(path);
+  } catch (const Failure& failure) {
+    platform::ShowMessage("The older file jpics.bin could not be removed. " + std::string(failure.what()) +
+                          "\n\nAs long as it is there, each start takes the pictures from it, and those that "
+                          "were added since do not show. Please move it to another folder.");
+  }
+}
+
+void WriteStore(const std::string& bytes) {
+  const std::string path = platform::PathOf(storeName);
+  try {
+    if (keepBeforeSaving && platform::FileExists(path)) platform::KeepDamaged(path);
+    keepBeforeSaving = false;  // one copy, even when the writing has to be tried again
+    platform::ReplaceFile(path, bytes);
+  } catch (const Failure& failure) {
+    platform::ShowMessage("The pictures could not be saved in tqpics.bin. " + std::string(failure.what()) +
+                          "\n\nThey stay on the pages, and the next change of a picture tries again.");
+  }
+}
+
+}  // namespace
+
+void LoadPictureStore() {
+  keepBeforeSaving = false;
+  if (platform::FileExists(platform::PathOf(oldStoreName))) return ImportOldPictureStore();
+  if (!platform::IsMissing(platform::PathOf(storeName))) LoadStore();
+}
+
+// The order is meant: the older store goes as soon as its rows are in memory, whether they are ever saved or
+// not.
+void ImportOldPictureStore() {
+  const std::string path = platform::PathOf(oldStoreName);
+  const bool keepsIt = platform::FileExists(path) && ReadOldStore(path);
+  DeleteOldStore(path, keepsIt);
+}
+
+void SavePictureStore() {
+  if (Pictures.empty()) throw Failure(FailureKind::SubscriptOutOfRange);
+  WriteStore(store::EncodePictureStore(Pictures));
+}
+
+void RemovePicturesOf(const std::string& journalFile) {
+  for (std::int32_t row = 1; row <= PictureCount; ++row) {
+    PagePicture& picture = Pictures.at(static_cast<std::size_t>(row));
+    if (picture.JournalFile == journalFile) picture.Deleted = True;
+  }
+}

@@ -1,0 +1,38 @@
+#include "platform/FontDialog.h"
+
+#include <utility>
+
+#include <QtCore/QPointer>
+#include <QtWidgets/QApplication>
+
+#include "platform/FontPicker.h"
+
+namespace platform {
+namespace {
+
+FontChooser& Chooser() {
+  static FontChooser chooser;
+  return chooser;
+}
+
+DialogResult<FontValues> AskOnTheDesktop(const FontQuestion& question) {
+  // The window under the dialog may be destroyed while it is up, and takes the dialog with it.
+  QPointer<FontPicker> dialog = new FontPicker(question, QApplication::activeWindow());
+  DialogResult<FontValues> result{{DialogEnd::Cancelled, {}}, {}};
+  if (dialog->exec() == QDialog::Accepted && dialog) result = {{}, dialog->Values()};
+  delete dialog;
+  return result;
+}
+
+}  // namespace
+
+DialogResult<FontValues> AskForFont(const FontQuestion& question) {
+  const FontChooser chooser = Chooser();  // a copy: the choice may put another one in its place
+  return chooser ? chooser(question) : AskOnTheDesktop(question);
+}
+
+FontChooser SetFontChooser(FontChooser chooser) {
+  return std::exchange(Chooser(), std::move(chooser));
+}
+
+}  // namespace platform

@@ -1,0 +1,212 @@
+#include <QtCore/QRegularExpression>
+
+#include "output/frmExport.h"
+#include "platform/RunUrl.h"
+#include "tests/editor/OpenBook.h"
+
+namespace {
+
+std::string Lines(const std::string& text) {
+  return QString::fromLatin1(text).replace(u'\n', u"\r\n"_qs).toLatin1().toStdString();
+}
+
+const std::string Font = "<font face=\"Verdana\", \"MS Sans Serif\", \"Arial\">\n";
+
+std::string Head(const std::string& title, const std::string& headline) {
+  return "<HTML>\n<HEAD>\n<TITLE>" + title + R"~(</TITLE>
+<meta name="Content-Type" content="text/html; charset=iso-8859-1">
+<meta name="GENERATOR" content="Thorn Quill (http://www.zandolk.example/)">
+</HEAD>
+<BODY BGCOLOR=#FFFFFF>
+<font face="Verdana", "MS Sans Serif", "Arial">
+<BR>
+<CENTER>
+<h3>)~" + headline +
+         "</h3>\n\n<TABLE BORDER=0 width=640>\n<TR>\n<TD>\n" + Font;
+}
+
+const std::string Cell = "<TABLE BORDER=0 width=100% height=300>\n<TR>\n<TD>\n" + Font;
+const std::string TableEnd = "</TD>\n</TD>\n</TABLE>\n";
+const std::string FileEnd = "</CENTER>\n</BODY>\n</HTML>\n";
+
+class Export : public fixture::OpenBook {
+ protected:
+  ~Export() override { ExportTarget.clear(); }
+
+  void Begin(const fixture::Texts& texts, const std::string& name = "Home & <b>") {
+    const std::int32_t row = AddJournal(texts);
+    Journals.back().Name = name;
+    EXPECT_EQ(EnsureExportFolder(), 0);
+    Load(row);
+    before = BytesOf(row);
+    dialog().ShowModeless();
+  }
+  static frmExport& dialog() { return look::The<frmExport>(); }
+  void Run() { Click(dialog().cmdExport); }
+  std::string Read(const std::string& name) const { return folder.Read("export/" + name); }
+  // A run that fails tells why and can be repeated; the journal is as it was.
+  void ExpectFailure(const std::string& words) {
+    answers.messages.clear();
+    Run();
+    ASSERT_EQ(answers.messages.size(), 1u);
+    EXPECT_NE(answers.last().find(words), std::string::npos) << answers.last();
+    EXPECT_TRUE(dialog().cmdExport->isEnabled());
+    EXPECT_FALSE(dialog().ProgressBar1->isVisible() || dialog().cmdViewWebPage->isVisible());
+    EXPECT_EQ(BytesOf(1), before);
+  }
+
+  std::string before;  // the journal's file
+};
+
+TEST_F(Export, OneDatedPageMakesTwoFiles) {
+  Begin({"A title\\par 1 < 2 & 3", "\\'e9 \\u1046?\\line b\\par\\par"});
+  EXPECT_EQ(dialog().txtHTMLTitle->text(), u"Home & <b>"_qs);
+  Click(dialog().chkMulti);
+  Click(dialog().chkShowDates);
+  dialog().txtH3headline->setText(u"\u0416"_qs);
+  dialog().txtFooter->setPlainText(u"<i>foot\nnote</i>"_qs);
+  Run();
+  EXPECT_EQ(folder.Names("export/j1"), (fixture::Texts{"index.html", "page1.html"}));
+  const std::string head = Head("Home & <b>", "&#1046;");
+  EXPECT_EQ(Read("j1/index.html"),
+            Lines(head + Cell + "A title<BR>1 < 2 & 3\n\n<BR>\n" + TableEnd + "<BR>\n\n" +
+                  "<CENTER>\n[<a href=page1.html>Next Page</a>]\n</CENTER>\n" + TableEnd +
+                  "<i>foot\nnote</i>\n" + FileEnd));
+  EXPECT_EQ(Read("j1/page1.html"),
+            Lines(head + "<CENTER> day 40001 </CENTER><BR>\n" + Cell + "\xE9 &#1046;<BR>b<BR>\n\n" +
+                  TableEnd + "<BR>\n\n" + "<CENTER>\n[<a href=index.html>Home Page</a>]\n</CENTER>\n" +
+                  TableEnd + "<i>foot\nnote</i>\n" + FileEnd));
+  EXPECT_EQ(dialog().ProgressBar1->maximum(), 3);
+  EXPECT_EQ(dialog().ProgressBar1->value(), 3);
+  EXPECT_EQ(dialog().lblCreatingHTML->text().toStdString(),
+            "HTML Created: " + folder.PathOf("export/j1/page1.html"));
+  EXPECT_EQ(BytesOf(1), before);
+}
+
+TEST_F(Export, ThirtyPagesCarryTheirBarAtTheTopAndEveryLinkLeadsSomewhere) {
+  Begin(fixture::Texts(31, "text"));
+  Click(dialog().chkMulti);
+  Click(dialog().chkTopMenu);
+  Click(dialog().chkDateIndex);
+  Run();
+  std::string bar = "<CENTER>\n[Home] \n", index;
+  for (int k = 1; k <= 30; ++k) {
+    const std::string link = "<a href=page" + std::to_string(k) + ".html>";
+    if (k <= 10) bar += link + std::to_string(k) + "</a>\n";
+    index += link + "day " + std::to_string(40000 + k) + "</a><BR><BR>\n";
+  }
+  bar += "...\n [<a href=page1.html>Next</a>]\n [<a href=page30.html>Last</a>]\n</CENTER><BR>\n";
+  EXPECT_EQ(Read("j1/index.html"),
+            Lines(Head("Home & <b>", "Home & <b>") + bar + Cell +
+                  "text\n\n<BR>\n<BR>\n<TABLE BORDER=0 width=300>\n<TR>\n<TD>\n" + Font +
+                  "<font size=-1>Journal Entries by Date</font><BR><BR>\n" + index + TableEnd + TableEnd +
+                  "<BR>\n\n" + TableEnd + "\n" + FileEnd));
+  const QRegularExpression link(u"href=([^>]+)>"_qs);
+  for (const std::string& file : folder.Names("export/j1")) {
+    const std::string html = Read("j1/" + file);
+    for (auto found = link.globalMatch(QString::fromLatin1(html)); found.hasNext();) {
+      const std::string target = found.next().captured(1).toStdString();
+      EXPECT_TRUE(folder.Exists("export/j1/" + target)) << file << ": " << target;
+    }
+    EXPECT_LT(html.find("[<a href=page"), html.find("height=300")) << file;
+    EXPECT_EQ(html.find("[<a href=page", html.find("height=300")), std::string::npos) << file;
+  }
+  Click(dialog().chkMulti);
+  for (const QCheckBox* choice : {dialog().chkTopMenu, dialog().chkDateIndex})
+    EXPECT_FALSE(choice->isChecked() || choice->isEnabled());
+}
+
+TEST_F(Export, OneFileHoldsAllPages) {
+  Begin({"", "\\par\\par", "end\\par\\par"}, "Caf\xE9 #1%");
+  folder.Write("a.gif", "GIF");
+  Pictures.resize(2);
+  PictureCount = 1;
+  PagePicture& picture = Pictures[1];
+  picture.PictureFile = folder.PathOf("a.gif");
+  picture.PageNumber = 1;
+  picture.JournalFile = "j1.tqf";
+  Click(dialog().chkShowDates);
+  Click(dialog().chkShowPageNumbers);
+  Run();
+  const auto page = [](int k, const std::string& content) {
+    const std::string number = std::to_string(k);
+    return "<TABLE BORDER=0  width=100%>\n<TR>\n<TD>\n" + Font + "<CENTER>Page #" + number + ", day 4000" +
+           number + " </CENTER><BR>\n" + content + "\n\n" + TableEnd + "<HR>\n\n";
+  };
+  const std::string tag = "<a href=\"a.gif\"><img src=\"a.gif\"  align=left width=0 height=0 border=0></a>\n";
+  EXPECT_EQ(Read("Caf\xC3\xA9 #1%.html"),
+            Lines(Head("Caf\xE9 #1%", "Caf\xE9 #1%") + Cell + "\n\n" + TableEnd + "<HR>\n\n" + page(1, tag) +
+                  page(2, "end<BR>") + TableEnd + "\n" + FileEnd));
+  EXPECT_EQ(Read("a.gif"), "GIF");
+  std::string opened;
+  platform::SetUrlRunner([&](const std::string& url) { opened = url; });
+  Click(dialog().cmdViewWebPage);
+  platform::SetUrlRunner({});
+  EXPECT_EQ(opened, "file://" + folder.PathOf("export/Caf%C3%A9%20%231%25.html"));
+}
+
+TEST_F(Export, AsksOnceBeforeItWritesOverAFile) {
+  Begin({"a", "b", "c"});
+  folder.Write("export/Home & <b>.html", "old");
+  Run();
+  EXPECT_EQ(answers.texts(), fixture::Texts{"File exists, overwrite?"});
+  EXPECT_EQ(answers.messages[0].buttons, platform::Buttons::OkCancel);
+  EXPECT_EQ(answers.messages[0].icon, platform::BoxIcon::Question);
+  EXPECT_EQ(Read("Home & <b>.html"), "old");
+  EXPECT_EQ(ExportTarget, "");
+  EXPECT_FALSE(dialog().cmdViewWebPage->isVisible());
+  answers.ok = 2;
+  Run();
+  const std::string once = Read("Home & <b>.html");
+  Run();
+  EXPECT_EQ(Read("Home & <b>.html"), once);
+  EXPECT_EQ(ExportTarget, folder.PathOf("export/Home & <b>.html"));
+  Click(dialog().chkMulti);
+  Run();
+  folder.Write("export/j1/page2.html", "old");
+  folder.Write("export/j1/page3.html", "of a longer journal");
+  answers.messages.clear();
+  Run();
+  EXPECT_TRUE(dialog().cmdViewWebPage->isVisible()) << "declining leaves it to the run before";
+  EXPECT_EQ(Read("j1/page2.html"), "old");
+  answers.ok = 1;
+  Run();
+  EXPECT_EQ(answers.messages.size(), 2u);
+  EXPECT_EQ(Read("j1/page2.html").rfind("<HTML>", 0), 0u);
+  EXPECT_EQ(Read("j1/page3.html"), "of a longer journal");
+  EXPECT_EQ(ExportTarget, folder.PathOf("export/j1/index.html"));
+}
+
+TEST_F(Export, WhatCannotBeWrittenIsToldAndLeavesTheJournal) {
+  Begin({"a", std::string(3000, 'b')});
+  for (const std::string& name :
+       {std::string("../../a"), std::string("a\0b", 3), std::string(251, 'a'), std::string("/")}) {
+    Journals[1].Name = name;
+    ExpectFailure("No file can have this name: ");
+    EXPECT_EQ(folder.Names("export"), fixture::Texts()) << name;
+    EXPECT_EQ(folder.Names(), (fixture::Texts{"export", "j1.tqf"}));
+  }
+  Journals[1].Name = "..";
+  Run();
+  EXPECT_EQ(folder.Names("export"), fixture::Texts{"...html"});
+  Journals[1].Name = "Home";
+  folder.Block("export/Home.html");
+  ExpectFailure(folder.PathOf("export/Home.html"));
+  folder.Unblock("export/Home.html");
+  {
+    const fixture::SmallDisk disk(2000);
+    ExpectFailure("The disk is full: " + folder.PathOf("export/Home.html"));
+  }
+  Click(dialog().chkMulti);
+  folder.Write("export/j1", "a file in the place of the folder");
+  ExpectFailure("Path not found: " + folder.PathOf("export/j1/index.html"));
+  platform::DeleteFile(folder.PathOf("export/j1"));
+  Run();
+  EXPECT_TRUE(dialog().cmdViewWebPage->isVisible());
+  platform::SetProgramFolder("/proc/self");
+  EXPECT_EQ(EnsureExportFolder(), 1);
+  EXPECT_NE(answers.last().find("Error creating Export folder, check if Thorn Quill folders are read-only."),
+            std::string::npos);
+}
+
+}  // namespace

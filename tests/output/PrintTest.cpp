@@ -1,0 +1,224 @@
+#include <QtPrintSupport/QPrintDialog>
+#include <QtWidgets/QLineEdit>
+
+#include "output/PrintRange.h"
+#include "output/modPrint.h"
+#include "tests/editor/OpenBook.h"
+#include "tests/output/PaperRecorder.h"
+
+namespace {
+
+using fixture::Printed;
+using fixture::Texts;
+using Sheets = std::vector<Texts>;
+
+const char* const NothingSelected =
+    "No text selected -- When using the Print Selection feature, you must first select some text to print.";
+
+std::string Numbered(const std::string& word, int count) {
+  std::string text;
+  for (int i = 1; i <= count; ++i) text += word + std::to_string(i) + (i < count ? "\\par " : "");
+  return text;
+}
+
+// Takes every sheet and tells at the end that something is missing.
+class Jammed : public fixture::RecordedPaper {
+ public:
+  using RecordedPaper::RecordedPaper;
+  bool IsWhole() const override { return false; }
+};
+
+class Print : public fixture::OpenBook {
+ protected:
+  Print() {
+    SetPrintAnswerer([this](const PrintRequest& request) {
+      asked = request;
+      return std::move(answer);
+    });
+  }
+  ~Print() override { SetPrintAnswerer({}); }
+
+  Sheets PrintOn(Printed& printer, PrintChoice choice, int from = 0, int to = 0) {
+    answer.emplace(PrintOrder{choice, from, to, printer.Paper(), "here"});
+    PrintJournal();
+    return printer.Sheets();
+  }
+  Sheets PrintOnLetter(PrintChoice choice, int from = 0, int to = 0) {
+    Printed printer({8, 10.5}, 300);
+    return PrintOn(printer, choice, from, to);
+  }
+
+  std::optional<PrintOrder> answer;
+  PrintRequest asked;
+};
+
+TEST_F(Print, PagesAreOnePlainTextInTheJournalsFont) {
+  Load(AddJournal({"title", "{\\fs80\\b\\i big}\\par two", "", "{\\v hidden}last\\line line"}));
+  GoNextPage();
+  Printed printer({8, 10.5}, 300);
+  EXPECT_EQ(PrintOn(printer, PrintChoice::All),
+            (Sheets{{"title", "day 40001", "big", "two", "day 40002", "day 40003", "last", "line"}}));
+  for (const fixture::Drawn& drawn : printer.All()) {
+    EXPECT_EQ(drawn.font.families(), QStringList(QStringLiteral("DejaVu Serif")));
+    EXPECT_EQ(drawn.font.pointSizeF(), 16);
+    EXPECT_FALSE(drawn.font.bold() || drawn.font.italic());
+    EXPECT_EQ(drawn.color, QColor(Qt::black));
+  }
+  // The empty page has a line of its own between two dates.
+  const double pitch = printer.All()[1].at.y() - printer.All()[0].at.y();
+  EXPECT_NEAR(printer.All()[5].at.y() - printer.All()[4].at.y(), 2 * pitch, 1);
+  EXPECT_EQ(CurrentPage, 1);
+}
+
+// The bookcase's row is what counts: a page that was added since the journal was opened is out of reach.
+TEST_F(Print, RangesCountFromTheTitlePageToTheLastThatTheBookcaseKnows) {
+  Load(AddJournal({"title", "one", "two"}));
+  Pages.push_back(Pages.back());
+  PageCount = 3;
+  GoNextPage();
+  EXPECT_EQ(PrintOnLetter(PrintChoice::Pages, 0, 0), (Sheets{{"title"}}));
+  EXPECT_EQ(PrintOnLetter(PrintChoice::Pages, 1, 2), (Sheets{{"day 40001", "one", "day 40002", "two"}}));
+  EXPECT_EQ(PrintOnLetter(PrintChoice::All)[0].size(), 5U);
+  EXPECT_EQ(asked.highest, 2);
+  EXPECT_EQ(asked.from, 1);
+  EXPECT_EQ(asked.to, 1);
+  EXPECT_FALSE(asked.selection);
+}
+
+TEST_F(Print, ASelectionIsLiveAndPagesAreAsStored) {
+  const std::int32_t row = AddJournal({"stored"});
+  Open(row);
+  QObject::connect(&window(), &frmJournal::PrintRequested, &PrintJournal);
+  const std::string before = BytesOf(row);
+  Type("un");
+  text().selectAll();
+  Printed selection({8, 10.5}, 300);
+  answer.emplace(PrintOrder{PrintChoice::Selection, 0, 0, selection.Paper(), "here"});
+  Press("btnPrint");
+  EXPECT_EQ(selection.Sheets(), (Sheets{{"unstored"}}));
+  EXPECT_TRUE(asked.selection);
+  EXPECT_EQ(PrintOnLetter(PrintChoice::Pages, 0, 0), (Sheets{{"stored"}}));
+  EXPECT_EQ(PageDirty, True);
+  EXPECT_EQ(BytesOf(row), before);
+  EXPECT_EQ(text().SelLength(), 8);
+}
+
+TEST_F(Print, ASelectionKeepsItsFormats) {
+  Load(AddJournal(
+      {"before\\par {\\fs20 ten}{\\fs60\\b  thirty}\\par "
+       "{\\pntext 4.\\tab}{\\*\\pn\\pnlvlbody\\pndec\\pnstart4{\\pntxta .}}\\fi-360\\li720 four\\par "
+       "{\\pntext 5.\\tab}five {\\v secret}end\\par "
+       "{\\pntext 6.\\tab}six"}));
+  text().SetSelStart(5);
+  text().SetSelLength(static_cast<int>(text().Text().indexOf(u"six")) - 5);
+  Printed printer({8, 10.5}, 300);
+  EXPECT_EQ(PrintOn(printer, PrintChoice::Selection), (Sheets{{"e", "ten thirty", "4.four",
+                                                               "5.five \u034F"
+                                                               "end"}}));
+  EXPECT_EQ(printer.All()[1].font.pointSizeF(), 10);
+  EXPECT_EQ(printer.All()[2].font.pointSizeF(), 30);
+  EXPECT_TRUE(printer.All()[2].font.bold());
+}
+
+TEST_F(Print, PicturesOfTheTextFitThePaper) {
+  Load(AddJournal({"one"}));
+  QImage picture(3000, 300, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  text().InsertBitmap(picture);
+  text().selectAll();
+  Printed printer({5, 5}, 300);
+  EXPECT_EQ(PrintOn(printer, PrintChoice::Selection), (Sheets{{"[picture]", "one"}}));
+  EXPECT_NEAR(printer.All()[0].place.height(), 150, 1);
+}
+
+TEST_F(Print, WhatCannotBePrintedIsTold) {
+  Load(AddJournal({"text", "more"}));
+  PrintJournal();  // cancelled
+  EXPECT_EQ(answers.texts(), Texts());
+  EXPECT_EQ(PrintOnLetter(PrintChoice::Selection), (Sheets{{}}));
+  EXPECT_EQ(answers.texts(), Texts{NothingSelected});
+  SetPrintAnswerer([](const PrintRequest&) -> std::optional<PrintOrder> {
+    throw platform::Failure(platform::FailureKind::DeviceError, "no printers");
+  });
+  PrintJournal();
+  EXPECT_EQ(answers.last(), "Error:The device reported an error: no printers");
+  Printed jammed({8, 10.5}, 300);
+  SetPrintAnswerer([&](const PrintRequest&) {
+    return PrintOrder{PrintChoice::All, 0, 0, std::make_unique<Jammed>(jammed.device), "the attic's"};
+  });
+  PrintJournal();
+  EXPECT_EQ(answers.last(), "Error:The device reported an error: the attic's");
+  EXPECT_EQ(PageDirty, False);
+}
+
+// 300 or 600 dots to the inch: the same lines stand on the same sheets, each whole, and nothing beside them.
+TEST_F(Print, LinesGoOnFromSheetToSheet) {
+  Load(AddJournal({Numbered("line ", 200)}));
+  Sheets sheets[2];
+  for (int i = 0; i < 2; ++i) {
+    Printed printer({4.001, 5.031}, 300 + 300 * i);
+    sheets[i] = PrintOn(printer, PrintChoice::Pages, 0, 0);
+    Texts all;
+    for (const Texts& sheet : sheets[i]) all.insert(all.end(), sheet.begin(), sheet.end());
+    ASSERT_EQ(all.size(), 200U);
+    for (std::size_t line = 0; line < all.size(); ++line)
+      EXPECT_EQ(all[line], "line " + std::to_string(line + 1));
+    for (const fixture::Drawn& drawn : printer.All()) {
+      EXPECT_GE(drawn.place.top(), 0);
+      EXPECT_LE(drawn.place.bottom(), printer.device.height() + 1);
+    }
+  }
+  EXPECT_EQ(sheets[0], sheets[1]);
+  EXPECT_GT(sheets[0].size(), 5U);
+}
+
+// The text is laid out in pieces. Where one ends, no line is lost, printed twice or moved, also within a
+// paragraph that is too long for one.
+TEST_F(Print, PiecesCannotBeSeen) {
+  constexpr std::size_t paragraphs = 1500;
+  constexpr double spaceAfter = 25;  // 120 twips in dots
+  std::string words;
+  while (words.size() < 300'000) words += "some words that fill a line ";
+  Load(AddJournal({"\\sa120 " + Numbered("a short paragraph, number ", paragraphs) + "\\par " + words +
+                   "\\par the end"}));
+  text().selectAll();
+  Printed printer({6, 9}, 300);
+  QString printed;
+  for (const Texts& sheet : PrintOn(printer, PrintChoice::Selection))
+    for (const std::string& line : sheet) printed += QString::fromStdString(line);
+  EXPECT_EQ(printed.remove(u' '), text().Text().remove(u'\n').remove(u' '));
+  const auto& all = printer.All();
+  const double pitch = all[1].at.y() - all[0].at.y();
+  for (std::size_t i = 1; i + 1 < all.size(); ++i) {
+    const double step = all[i].sheet == all[i - 1].sheet ? all[i].at.y() - all[i - 1].at.y() : 0;
+    const double expected = i <= paragraphs ? pitch : pitch - spaceAfter;
+    ASSERT_TRUE(step == 0 || std::abs(step - expected) < 1) << i << ": " << step;
+  }
+}
+
+// The desktop's own dialog, answered as a person answers it.
+TEST_F(Print, TheDialogOffersThreeChoicesFromPageNullOn) {
+  SetPrintAnswerer({});
+  QTimer::singleShot(0, [&] {
+    auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(dialog);
+    auto& range = *dialog->findChild<PrintRange*>();
+    EXPECT_TRUE(range.optSelection->isEnabled());
+    EXPECT_TRUE(range.optAll->isChecked());
+    EXPECT_EQ(range.spnFrom->value(), 3);
+    EXPECT_EQ(range.spnTo->maximum(), 7);
+    EXPECT_FALSE(dialog->findChild<QWidget*>(QStringLiteral("gbPrintRange"))->isVisibleTo(dialog));
+    range.spnTo->setValue(0);
+    if (auto* file = dialog->findChild<QLineEdit*>(QStringLiteral("filename")))
+      file->setText(QString::fromStdString(folder.PathOf("printed.pdf")));
+    dialog->accept();
+  });
+  const auto order = ShowPrintDialog({false, 7, 3, 3});
+  ASSERT_TRUE(order);
+  EXPECT_EQ(order->choice, PrintChoice::Pages);
+  EXPECT_EQ(order->from, 0);
+  EXPECT_EQ(order->to, 3);
+  EXPECT_GT(order->paper->Device().height(), 0);
+}
+
+}  // namespace

@@ -1,0 +1,202 @@
+#include <random>
+
+#include <QtCore/QRegularExpression>
+
+#include "output/CopyFile.h"
+#include "output/HtmlSections.h"
+#include "output/ReplaceText.h"
+#include "platform/WebText.h"
+#include "tests/support/Fixtures.h"
+
+namespace {
+
+class Sections : public fixture::Desk {
+ protected:
+  Sections() {
+    Journals.resize(2);
+    Journals[1].FileName = "j00000.tqf";
+    CurrentJournal = 1;
+    Pages.resize(10);
+    for (std::size_t row = 0; row < Pages.size(); ++row)
+      Pages[row].PageDate = 40000 + static_cast<double>(row);
+  }
+
+  // What a section makes of a fresh file.
+  std::string Written(const std::function<void(const std::string& path)>& write) {
+    platform::DeleteFile(page);
+    write(page);
+    return folder.Read("page.html");
+  }
+  // The lines of a menu bar, each with "|" behind it; "Next>4" for a link, "4" for one that is its own
+  // number.
+  std::string Bar(std::int32_t number, std::int32_t pageCount) {
+    settings.pageCount = pageCount;
+    auto bar = QString::fromStdString(
+        Written([&](const std::string& path) { WriteHtmlMenuBar(number, path, settings); }));
+    bar.replace(u"\r\n"_qs, u"|"_qs);
+    bar.replace(QRegularExpression(u"<a href=page(\\d+).html>\\1</a>"_qs), u"\\1"_qs);
+    bar.replace(QRegularExpression(u"<a href=(?:page)?(\\w+).html>([^<]+)</a>"_qs), u"\\2>\\1"_qs);
+    return bar.toStdString();
+  }
+  PagePicture& AddPicture(const std::string& path) {
+    Pictures.resize(Pictures.size() + 1);
+    PictureCount = static_cast<std::int32_t>(Pictures.size()) - 1;
+    PagePicture& picture = Pictures.back();
+    picture.PictureFile = path;
+    picture.PictureWidth = 300 + PictureCount;
+    picture.PictureHeight = -1;
+    picture.PageNumber = CurrentPage;
+    picture.JournalFile = "j00000.tqf";
+    return picture;
+  }
+
+  std::string page = folder.PathOf("page.html");
+  fixture::Clock clock{45000};
+  ExportSettings settings;
+};
+
+TEST_F(Sections, MenuBarShowsTheNumbersAroundThePage) {
+  const std::string home = "<CENTER>|[Home>index] |", done = "</CENTER><BR>|";
+  const std::string low = "2|3|4|5|6|7|8|9|10|", high = "...|20|21|22|23|24|25|26|27|";
+  EXPECT_EQ(Bar(0, 0), "");
+  EXPECT_EQ(Bar(0, 1), "<CENTER>|[Next Page>1]|</CENTER>|");
+  EXPECT_EQ(Bar(1, 1), "<CENTER>|[Home Page>index]|</CENTER>|");
+  EXPECT_EQ(Bar(2, 2), home + "[Previous>1] |1| 2 |" + done);
+  EXPECT_EQ(Bar(2, 3), home + "[Previous>1] |1| 2 |3| [Next>3]| [Last>3]|" + done);
+  EXPECT_EQ(Bar(0, 30), "<CENTER>|[Home] |1|" + low + "...| [Next>1]| [Last>30]|" + done);
+  EXPECT_EQ(Bar(1, 30), home + " 1 |" + low + "...| [Next>2]| [Last>30]|" + done);
+  EXPECT_EQ(Bar(15, 30),
+            home + "[Previous>14] |...|10|11|12|13|14| 15 |16|17|18|19|20|...| [Next>16]| [Last>30]|" + done);
+  EXPECT_EQ(Bar(28, 30), home + "[Previous>27] |" + high + " 28 |29|30| [Next>29]| [Last>30]|" + done);
+  EXPECT_EQ(Bar(30, 30), home + "[Previous>29] |" + high + "28|29| 30 |" + done);
+  EXPECT_EQ(Bar(6, 11), home + "[Previous>5] |1|2|3|4|5| 6 |7|8|9|10|11| [Next>7]| [Last>11]|" + done);
+}
+
+TEST_F(Sections, CaptionHasFourShapes) {
+  CurrentPage = 3;  // whose date it is, whatever the number says
+  const auto caption = [&](bool dates, bool numbers, std::int32_t number = 7) {
+    settings.showDates = dates;
+    settings.showPageNumbers = numbers;
+    return Written([&](const std::string& path) { WriteHtmlPageCaption(path, number, settings); });
+  };
+  EXPECT_EQ(caption(true, true), "<CENTER>Page #7, day 40003 </CENTER><BR>\r\n");
+  EXPECT_EQ(caption(true, false), "<CENTER> day 40003 </CENTER><BR>\r\n");
+  EXPECT_EQ(caption(false, true), "<CENTER>Page #7  </CENTER><BR>\r\n");
+  EXPECT_EQ(caption(false, false), "");
+  EXPECT_EQ(caption(true, true, 0), "");
+}
+
+TEST_F(Sections, PicturesOfThisPageAloneAreCopiedAndShown) {
+  const std::string target = folder.PathOf("out");
+  platform::MakeFolder(target);
+  for (const char* name : {"row0.gif", "a.gif", "Caf\xC3\xA9 \xD0\x96.gif", "x\\b.gif", "x\\.."})
+    folder.Write(name, name);
+  CurrentPage = 3;
+  AddPicture(folder.PathOf("row0.gif"));
+  AddPicture(folder.PathOf("gone.gif"));
+  AddPicture(folder.PathOf("a.gif")).PageNumber = 4;
+  AddPicture(folder.PathOf("a.gif")).JournalFile = "J00000.tqf";
+  AddPicture(folder.PathOf("a.gif")).Deleted = True;
+  AddPicture(folder.PathOf("x\\.."));
+  AddPicture(folder.PathOf("Caf\xC3\xA9 \xD0\x96.gif"));
+  AddPicture(folder.PathOf("a.gif")).Deleted = 1;  // which removes nothing
+  AddPicture(folder.PathOf("x\\b.gif"));
+  const auto write = [&](const std::string& path) { WriteHtmlPictures(PictureCount, target, path); };
+  const std::string all =
+      "<a href=\"Caf\xE9 &#1046;.gif\"><img src=\"Caf\xE9 &#1046;.gif\"  align=left width=306 height=-1 "
+      "border=0></a>\r\n"
+      "<a href=\"a.gif\"><img src=\"a.gif\"  width=307 height=-1 border=0></a>\r\n"
+      "<a href=\"b.gif\"><img src=\"b.gif\"  width=308 height=-1 border=0></a>\r\n";
+  EXPECT_EQ(Written(write), all);
+  for (const char* name : {"a.gif", "Caf\xC3\xA9 \xD0\x96.gif"})
+    EXPECT_EQ(folder.Read("out/" + std::string(name)), name);
+  EXPECT_EQ(folder.Read("out/b.gif"), "x\\b.gif");
+  CurrentPage = 4;
+  EXPECT_EQ(Written(write),
+            "<a href=\"a.gif\"><img src=\"a.gif\"  align=left width=302 height=-1 border=0></a>\r\n");
+  EXPECT_TRUE(answers.messages.empty());
+}
+
+// Of which no block is like another.
+std::string Bytes(std::size_t size) {
+  std::string bytes(size, '\0');
+  for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<char>(i * 7 / 4096 + i);
+  return bytes;
+}
+
+TEST_F(Sections, CopyFileWritesOverTheStartOfItsTarget) {
+  for (const std::size_t size : {0, 1, 4095, 4096, 4097, 12288}) {
+    folder.Write("source", Bytes(size));
+    folder.Write("target", std::string(5000, '-'));
+    EXPECT_TRUE(CopyFile(folder.PathOf("source"), folder.PathOf("target")));
+    EXPECT_EQ(folder.Read("target"), Bytes(size) + std::string(size < 5000 ? 5000 - size : 0, '-')) << size;
+    EXPECT_TRUE(CopyFile(folder.PathOf("source"), folder.PathOf("source")));
+    EXPECT_EQ(folder.Read("source"), Bytes(size)) << "a picture may lie in the export folder already";
+  }
+}
+
+// Answers twice, and mends the cause while the third box is up.
+TEST_F(Sections, CopyFileAsksUntilTheCauseIsGone) {
+  const std::string source = folder.PathOf("source"), target = folder.PathOf("target");
+  const auto expectThreeBoxes = [&](const std::string& text, const std::function<void()>& mend) {
+    fixture::Texts asked;
+    platform::SetMessageAnswerer([&](const platform::Message& message) {
+      asked.push_back(message.title + ": " + message.text);
+      if (asked.size() == 3) mend();
+      return platform::Answer::Ok;
+    });
+    EXPECT_TRUE(CopyFile(source, target));
+    EXPECT_EQ(asked, fixture::Texts(3, "CopyFile: Error: " + text));
+    EXPECT_EQ(folder.Read("target"), Bytes(10000));
+    platform::DeleteFile(target);
+  };
+  expectThreeBoxes("53. File not found: " + source, [&] { folder.Write("source", Bytes(10000)); });
+  folder.Block("target");
+  expectThreeBoxes("75. The file or folder cannot be opened: " + target, [&] { folder.Unblock("target"); });
+  std::optional<fixture::SmallDisk> disk(5000);  // the second block gets in by a part
+  expectThreeBoxes("61. The disk is full: " + target, [&] { disk.reset(); });
+}
+
+// As told, and slow.
+std::string ReplacedStepByStep(std::string text, const std::string& search, const std::string& replacement) {
+  const auto capitals = [](std::string letters) {
+    for (char& letter : letters) letter = static_cast<char>(std::toupper(letter));
+    return letters;
+  };
+  for (;;) {
+    if (text.empty() || text == search) return {};
+    const std::size_t at = capitals(text).find(capitals(search));
+    if (at == std::string::npos) return text;
+    text = text.substr(0, at) + replacement + text.substr(at + search.size());
+  }
+}
+
+TEST(ReplaceText, EmptiesWhatIsTheSearchTextAndSearchesReplacementsToo) {
+  EXPECT_EQ(ReplaceText("\r\n", "\r\n", "<BR>"), "") << "also on a page, where nobody would expect it";
+  EXPECT_EQ(ReplaceText("\r\n\r\na\r\n", "\r\n", "<BR>"), "<BR><BR>a<BR>");
+  EXPECT_EQ(ReplaceText("abcc", "abc", "ab"), "") << "the replacement makes the search text";
+  EXPECT_EQ(ReplaceText("ABC", "abc", "x"), "x") << "compared in capitals, but emptied only as it stands";
+  EXPECT_EQ(ReplaceText("\xE9\xFF\x9A-\xDF\xF7", "\xC9\x9F\x8A", "x"), "x-\xDF\xF7");
+  EXPECT_EQ(ReplaceText("none", "abc", "abc"), "none");
+  for (const char* search : {"a", ""})
+    fixture::ExpectFailure(platform::FailureKind::InvalidArgument, "",
+                           [&] { ReplaceText("bab", search, "xAx"); });
+  std::mt19937 random(7);
+  const auto word = [&](std::size_t most) {
+    std::string letters(random() % (most + 1), ' ');
+    for (char& letter : letters) letter = "aAbB<"[random() % 5];
+    return letters;
+  };
+  for (int i = 0; i < 20000; ++i) {
+    const std::string text = word(12), search = word(2) + "a", replacement = word(search.size() - 1);
+    ASSERT_EQ(ReplaceText(text, search, replacement), ReplacedStepByStep(text, search, replacement))
+        << text << ": " << search << " to " << replacement;
+  }
+}
+
+TEST(WebText, ForeignCharactersGoOutAsReferences) {
+  EXPECT_EQ(platform::WebText(u"<&> \u20AC\u00E9\u0416\U0001F600"), "<&> \x80\xE9&#1046;&#128512;");
+  EXPECT_EQ(platform::WebText({u"\xD83Dx\xDE00", 3}), "&#65533;x&#65533;");
+}
+
+}  // namespace

@@ -1,0 +1,85 @@
+#include <QtCore/QTimer>
+#include <QtGui/QFontDatabase>
+#include <QtTest/QTest>
+
+#include "platform/ColorDialog.h"
+#include "platform/FontPicker.h"
+#include "tests/support/Fixtures.h"
+
+namespace {
+
+using platform::FontPicker;
+using platform::FontValues;
+
+class FontDialogTest : public fixture::Desk {
+ protected:
+  // What comes out when this is done in the dialog and Enter pressed at its end.
+  static FontValues After(const FontValues& start, const std::function<void(FontPicker&)>& act) {
+    QTimer::singleShot(0, [act] {
+      auto* picker = qobject_cast<FontPicker*>(QApplication::activeModalWidget());
+      ASSERT_NE(picker, nullptr);
+      act(*picker);
+      QTest::keyClick(picker, Qt::Key_Return);
+      if (picker->isVisible()) QTest::keyClick(picker, Qt::Key_Escape);
+    });
+    const auto result = platform::AskForFont({start});
+    return result.end.number == 0 ? result.choice : FontValues{u"cancelled"_qs};
+  }
+  static void Type(platform::ChoiceList* box, const QString& text) {
+    box->edit->selectAll();
+    QTest::keyClicks(box->edit, text);
+  }
+};
+
+TEST_F(FontDialogTest, WhatIsLeftAloneComesBackAsItWentIn) {
+  const FontValues cases[] = {{},
+                              {u"Not Installed Sans"_qs, 12.5, true, false, true, false, 0x102030},
+                              {u"dejavu sans"_qs, 7, false, true, false, true, 0xFFFFFF},
+                              {QString(), 16}};
+  for (const FontValues& start : cases) {
+    const FontValues back = After(start, [](FontPicker& picker) {
+      picker.name->list->setFocus(Qt::TabFocusReason);  // which makes an entry current, but chooses none
+      picker.size->list->setFocus(Qt::TabFocusReason);
+    });
+    EXPECT_EQ(back, start) << start.name.toStdString();
+  }
+}
+
+TEST_F(FontDialogTest, TypingLeadsTheListAndAnUnknownNameIsNotAccepted) {
+  const FontValues start{u"Not Installed Sans"_qs, 16};
+  FontValues back = After(start, [](FontPicker& picker) {
+    EXPECT_FALSE(picker.note->text().isEmpty());
+    EXPECT_TRUE(picker.name->list->findItems(u"]"_qs, Qt::MatchEndsWith).isEmpty()) << "no makers of fonts";
+    Type(picker.name, u"vu sans m"_qs);
+    Type(picker.size, u"10,5"_qs);
+    QTest::mouseClick(picker.italic, Qt::LeftButton, {}, {8, picker.italic->height() / 2});
+  });
+  EXPECT_EQ(back, (FontValues{u"DejaVu Sans Mono"_qs, 10.5, false, true}));
+  back = After(start, [](FontPicker& picker) {
+    Type(picker.name, u"dejavu s"_qs);
+    for (int i = 0; i < 2; ++i) QTest::keyClick(picker.name->edit, Qt::Key_Down);
+    Type(picker.size, u"9999"_qs);
+  });
+  EXPECT_TRUE(back.name.startsWith(u"DejaVu S") && QFontDatabase::hasFamily(back.name))
+      << back.name.toStdString();
+  EXPECT_EQ(back.size, 1638);
+  back = After(start, [](FontPicker& picker) { Type(picker.name, u"no such font"_qs); });
+  EXPECT_EQ(back.name, u"cancelled");
+}
+
+TEST_F(FontDialogTest, TheColourComesFromTheColourDialog) {
+  platform::SetColorChooser([](const platform::ColorQuestion& question) {
+    return platform::DialogResult<std::uint32_t>{{}, question.start + 1};
+  });
+  const auto press = [](FontPicker& picker) { QTest::mouseClick(picker.color, Qt::LeftButton); };
+  EXPECT_EQ(After({{}, 0, false, false, false, false, 0x0000AA}, press).color, 0x0000ABu);
+  platform::SetColorChooser({});
+  QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+  const auto chosen = platform::AskForColor({0x123456});
+  EXPECT_EQ(chosen.end.number, 0);
+  EXPECT_EQ(chosen.choice, 0x123456u);
+  QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+  EXPECT_EQ(platform::AskForColor({0x123456}).end.number, platform::DialogEnd::Cancelled);
+}
+
+}  // namespace
