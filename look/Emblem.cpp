@@ -19,15 +19,12 @@ QIcon Drawing(const char* name) {
 
 }  // namespace
 
-QIcon Emblem() {
-  BringTheDrawings();
-  QIcon icon;
-  for (const int size : {16, 22, 32, 48, 64, 128}) icon.addFile(QStringLiteral(":/emblem/%1").arg(size));
-  return icon;
-}
-
 QIcon QuillAndInkwell() {
   return Drawing("quill-and-inkwell");
+}
+
+QPixmap EmblemPicture() {
+  return Drawing("emblem").pixmap(QSize(80, 80));
 }
 
 QPixmap ClaspedBook() {
@@ -39,7 +36,11 @@ QPixmap HourglassAndInkwell() {
 }
 
 void GiveTheProgramItsIcon() {
-  if (QApplication::windowIcon().isNull()) QApplication::setWindowIcon(Emblem());
+  if (!QApplication::windowIcon().isNull()) return;
+  BringTheDrawings();
+  QIcon icon;
+  for (const int size : {16, 22, 32, 48, 64, 128}) icon.addFile(QStringLiteral(":/emblem/%1").arg(size));
+  QApplication::setWindowIcon(icon);
 }
 
 }  // namespace look

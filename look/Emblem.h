@@ -6,18 +6,16 @@
 
 namespace look {
 
-// In 16 to 128 pixels of the screen.
-QIcon Emblem();
-
 // The quill standing in its inkwell: 80 by 70 pixels.
 QIcon QuillAndInkwell();
 
-// Both crisp on the sharpest screen that there is now, whose scaling they carry.
+// Crisp on the sharpest screen that there is now, whose scaling they carry.
+QPixmap EmblemPicture();        // 80 by 80 pixels
 QPixmap ClaspedBook();          // 80 by 80 pixels
 QPixmap HourglassAndInkwell();  // 64 by 64 pixels
 
-// Gives the program the emblem as its icon, which every window without one of its own shows, if it has none
-// yet.
+// Gives the program the emblem as its icon, in 16 to 128 pixels of the screen, which every window without one
+// of its own shows, if it has none yet.
 void GiveTheProgramItsIcon();
 
 }  // namespace look

@@ -65,6 +65,7 @@ TEST_F(FormTest, ShowsTheEmblemInEverySizeAndItsPicturesInTheirs) {
   for (const int size : {16, 22, 32, 48, 64, 128})
     EXPECT_EQ(QApplication::windowIcon().pixmap(QSize(size, size), 1).size(), QSize(size, size));
   EXPECT_EQ(look::QuillAndInkwell().pixmap(QSize(80, 70), 1).size(), QSize(80, 70));
+  EXPECT_EQ(look::EmblemPicture().size(), QSize(80, 80));
   EXPECT_EQ(look::ClaspedBook().size(), QSize(80, 80));
   EXPECT_EQ(look::HourglassAndInkwell().size(), QSize(64, 64));
 }
