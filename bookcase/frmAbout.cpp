@@ -31,7 +31,7 @@ frmAbout::frmAbout()
                                                     "Label5",     240,  1980, 5520, 300);
   cmdClose   = Place(new look::PictureButton(QStringLiteral("Close")), "cmdClose", 4080, 2610, 1680, 450);
   // clang-format on
-  Image1->setPixmap(look::ClosedBook(look::Pixels(1200), QColor(0x4a, 0x5f, 0x8f)));
+  Image1->setPixmap(look::EmblemPicture());
   QFont font = Label1->font();
   font.setBold(true);
   Label1->setFont(font);

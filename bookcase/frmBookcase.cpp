@@ -71,8 +71,8 @@ void frmBookcase::LayOutButtons() {
   cmdClose   = Place(Button("Exit"),       "cmdClose",   240, 6270, 1800, 450);
   // clang-format on
   Image2->setFlat(true);
-  Image2->setIcon(look::ClosedBook(64, QColor(0x4a, 0x5f, 0x8f)));
-  Image2->setIconSize(QSize(64, 64));
+  Image2->setIcon(look::QuillAndInkwell());
+  Image2->setIconSize(QSize(80, 70));
   Image2->setToolTip(QStringLiteral("About Thornquill"));
   SetBold(*cmdOpen);
   cmdOpen->setDefault(true);

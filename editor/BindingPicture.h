@@ -3,6 +3,7 @@
 
 #include <QtGui/QPixmap>
 
-// 63 x 1000 pixels: a spine with raised bands and a hinge groove at its right. Its shades are half
-// transparent, so that the colour behind it gives the book its colour.
+// 63 x 1000 pixels, twice as many for a sharper screen: a spine with raised bands and a hinge groove at its
+// right. Its shades are scattered dark and light pixels over transparency, so that the colour behind it gives
+// the book its colour. Repeated downwards it shows no seam.
 QPixmap BindingPicture();

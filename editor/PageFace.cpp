@@ -66,6 +66,7 @@ PageFace::~PageFace() = default;
 void PageFace::MakePage() {
   picBinding = Placed(new look::PictureBox(this), QStringLiteral("picBinding"), 0, PageTop, PageLeft, 8850);
   picBinding->SetPicture(BindingPicture());
+  picBinding->RepeatDownwards();
   txtM = Placed(new richtext::RichTextBox(this), QStringLiteral("txtM"), PageLeft, PageTop, 7484, 8849);
   txtM->setAccessibleName(QStringLiteral("the page"));
   txtM->setFrameShape(QFrame::NoFrame);

@@ -1,5 +1,7 @@
 #include "editor/frmJournal.h"
 
+#include <QtGui/QKeyEvent>
+
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
 #include "editor/SelectFont.h"
@@ -72,6 +74,13 @@ void frmJournal::CloseBox() {
   if (PagesJournal != 0) return;  // the file could not be written, and the journal is still open
   ForgetPages();
   face->txtM->SetTextRTF({});
+}
+
+void frmJournal::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_F6) return Form::keyPressEvent(event);
+  const bool onTheToolbar = Toolbar1->isAncestorOf(focusWidget());
+  QWidget* target = onTheToolbar ? static_cast<QWidget*>(face->txtM) : Toolbar1->Button(1);
+  target->setFocus(Qt::ShortcutFocusReason);
 }
 
 void frmJournal::resizeEvent(QResizeEvent* event) {

@@ -40,6 +40,8 @@ class frmJournal : public look::Form {
   void PrintRequested();
 
  protected:
+  // F6 leads the keyboard from the page to the toolbar and back.
+  void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

@@ -16,7 +16,7 @@ frmPass::frmPass()
   cmdOK     = Place(new look::PictureButton(QStringLiteral("&Ok"), this), "cmdOK", 1740, 1410, 1800, 450);
   cmdCancel = Place(new look::PictureButton(QStringLiteral("E&xit"), this), "cmdCancel", 3660, 1410, 1800, 450);
   // clang-format on
-  Image1->setPixmap(look::ClosedBook(look::Pixels(1200), QColor(0x7a, 0x4f, 0x6b), true));
+  Image1->setPixmap(look::ClaspedBook());
   Label1->setBuddy(txtPass);
   txtPass->HideText();
   cmdOK->setDefault(true);

@@ -1,16 +1,21 @@
-// The closed book, which stands for the program and for each journal.
+// The emblem, a quill with a single thorn laid over a closed book, and the pictures that share its parts.
 #pragma once
 
-#include <QtGui/QColor>
+#include <QtGui/QIcon>
 #include <QtGui/QPixmap>
 
 namespace look {
 
-// A closed book of that cloth, seen from the front, filling a square of `size` pixels. With a clasp it is the
-// book of the lock screen.
-QPixmap ClosedBook(int size, const QColor& cloth, bool clasped = false);
+// The quill standing in its inkwell: 80 by 70 pixels.
+QIcon QuillAndInkwell();
 
-// Gives the program its icon, which every window without one of its own shows, if it has none yet.
+// Crisp on the sharpest screen that there is now, whose scaling they carry.
+QPixmap EmblemPicture();        // 80 by 80 pixels
+QPixmap ClaspedBook();          // 80 by 80 pixels
+QPixmap HourglassAndInkwell();  // 64 by 64 pixels
+
+// Gives the program the emblem as its icon, in 16 to 128 pixels of the screen, which every window without one
+// of its own shows, if it has none yet.
 void GiveTheProgramItsIcon();
 
 }  // namespace look

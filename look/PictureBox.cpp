@@ -1,5 +1,7 @@
 #include "look/PictureBox.h"
 
+#include <algorithm>
+
 #include <QtGui/QPainter>
 
 namespace look {
@@ -13,6 +15,11 @@ void PictureBox::SetPicture(const QPixmap& picture) {
   update();
 }
 
+void PictureBox::RepeatDownwards() {
+  repeats_ = true;
+  update();
+}
+
 void PictureBox::SetBackColor(std::uint32_t color) {
   backColor_ = color;
   update();
@@ -21,7 +28,10 @@ void PictureBox::SetBackColor(std::uint32_t color) {
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), QColor(backColor_ & 0xFF, backColor_ >> 8 & 0xFF, backColor_ >> 16 & 0xFF));
-  painter.drawPixmap(0, 0, picture_);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
+  const QSize size = picture_.deviceIndependentSize().toSize();
+  const int bottom = repeats_ ? height() : std::min(height(), size.height());
+  painter.drawTiledPixmap(0, 0, std::min(width(), size.width()), bottom, picture_);
 }
 
 }  // namespace look

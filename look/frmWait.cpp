@@ -24,7 +24,7 @@ frmWait::frmWait()
   lblInfo = Place(new QLabel(QStringLiteral("PLEASE WAIT"), this), "lblInfo", 1440, 600, 3720, 300);
   ProgressBar1 =
       Place(new QProgressBar(this), "ProgressBar1", 1440, 1020, 3720, 300, QStringLiteral("Progress"));
-  Image1->setPixmap(ClosedBook(Pixels(960), QColor(0x4a, 0x5f, 0x8f)));
+  Image1->setPixmap(HourglassAndInkwell());
   QFont bold = Label1->font();
   bold.setBold(true);
   Label1->setFont(bold);

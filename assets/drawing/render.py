@@ -39,8 +39,17 @@ def draw_gif(source_name, drawing, gif_name):
     write_gif(rendered(write_source(source_name, drawing)), ASSETS / f"{gif_name}.gif")
 
 
+def write_png(picture, path):
+    path.parent.mkdir(parents=True, exist_ok=True)
+    picture.save(path, "PNG", optimize=True)
+
+
 def draw_png(source_name, drawing, png_name, scale=1):
     """Writes assets/<source_name>.svg and assets/<png_name>.png."""
-    path = ASSETS / f"{png_name}.png"
-    path.parent.mkdir(parents=True, exist_ok=True)
-    rendered(write_source(source_name, drawing), scale).save(path, "PNG", optimize=True)
+    write_png(rendered(write_source(source_name, drawing), scale), ASSETS / f"{png_name}.png")
+
+
+def draw_scaled(name, drawing, scales=(1, 2, 3)):
+    """Writes assets/<name>.svg and the pictures for screens of these scalings: <name>.png, <name>@2x.png."""
+    for scale in scales:
+        draw_png(name, drawing, name if scale == 1 else f"{name}@{scale}x", scale)

@@ -125,11 +125,11 @@ def light(name):
     return f'<radialGradient id="{name}" cx="0.35" cy="0.28" r="0.8">{stops}</radialGradient>'
 
 
-def picture(size, line, parts):
-    """A whole drawing of size by size, its outlines of the given width."""
+def picture(size, line, parts, height=None):
+    """A whole drawing of size by size, or by the height, its outlines of the given width."""
     content = "".join(parts)
     lights = "".join(light(name) for name in sorted(set(re.findall(r"url\(#([\w-]+)\)", content))))
-    return svg(size, size, f'<g fill="none" stroke-width="{line}">', *parts, "</g>", defs=lights)
+    return svg(size, height or size, f'<g fill="none" stroke-width="{line}">', *parts, "</g>", defs=lights)
 
 
 # Shapes that many pictures share, around their middle.

@@ -3,6 +3,10 @@
 
 namespace {
 
+QByteArray Bytes(const QImage& picture) {
+  return {reinterpret_cast<const char*>(picture.constBits()), picture.sizeInBytes()};
+}
+
 class Window : public fixture::OpenBook {
  protected:
   Window() { Open(AddJournal({"cover", "one"})); }
@@ -43,6 +47,26 @@ TEST_F(Window, AClickOnAButtonLeavesTheKeyboardInThePageAndTabReachesIt) {
   back->setFocus(Qt::TabFocusReason);
   QTest::keyClick(back, Qt::Key_Space);
   EXPECT_EQ(CurrentPage, 0);
+}
+
+TEST_F(Window, EveryToolbarButtonHasAPictureOfItsOwnAndAnotherUnderTheMouse) {
+  QSet<QByteArray> pictures;
+  for (const auto* button : bar().findChildren<QToolButton*>())
+    for (const auto mode : {QIcon::Normal, QIcon::Active})
+      pictures += Bytes(button->icon().pixmap(QSize(16, 16), 1, mode).toImage());
+  EXPECT_EQ(pictures.size(), 2 * 14);
+}
+
+TEST_F(Window, TheBindingGoesDownATallWindowInTheColourOfThePaper) {
+  window().resize(565, 2200);
+  face().picBinding->SetBackColor(0xC0FFFF);
+  const QImage binding = face().picBinding->grab().toImage();
+  EXPECT_EQ(Bytes(binding.copy(0, 0, 66, 1000)), Bytes(binding.copy(0, 1000, 66, 1000)));
+  const QColor besideIt = binding.pixelColor(64, 500);
+  EXPECT_EQ(besideIt, QColor(0xFF, 0xFF, 0xC0));
+  int paper = 0;
+  for (int x = 0; x < 51; ++x) paper += binding.pixelColor(x, 1500) == besideIt;
+  EXPECT_GT(paper, 20) << "the shades hide the paper";
 }
 
 TEST_F(Window, TogglingTheCaptionsGoesByTheOldPositions) {

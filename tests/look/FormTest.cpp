@@ -7,6 +7,7 @@
 #include <QtWidgets/QToolTip>
 
 #include "look/CodePageEdit.h"
+#include "look/Emblem.h"
 #include "look/Pass.h"
 #include "look/Theme.h"
 #include "look/frmWait.h"
@@ -57,6 +58,16 @@ TEST_F(FormTest, IsMeasuredInTwipsHalvesToEvenAndCentredOnce) {
   dialog.move(3, 4);
   dialog.hide();
   EXPECT_EQ(ShownDialog().pos(), QPoint(3, 4));
+}
+
+TEST_F(FormTest, ShowsTheEmblemInEverySizeAndItsPicturesInTheirs) {
+  ShownDialog();
+  for (const int size : {16, 22, 32, 48, 64, 128})
+    EXPECT_EQ(QApplication::windowIcon().pixmap(QSize(size, size), 1).size(), QSize(size, size));
+  EXPECT_EQ(look::QuillAndInkwell().pixmap(QSize(80, 70), 1).size(), QSize(80, 70));
+  EXPECT_EQ(look::EmblemPicture().size(), QSize(80, 80));
+  EXPECT_EQ(look::ClaspedBook().size(), QSize(80, 80));
+  EXPECT_EQ(look::HourglassAndInkwell().size(), QSize(64, 64));
 }
 
 TEST_F(FormTest, UnloadBringsTheDesignValuesBackAndHidingDoesNot) {
