@@ -39,7 +39,7 @@ void GiveTheProgramItsIcon() {
   if (!QApplication::windowIcon().isNull()) return;
   BringTheDrawings();
   QIcon icon;
-  for (const int size : {16, 22, 32, 48, 64, 128}) icon.addFile(QStringLiteral(":/emblem/%1").arg(size));
+  for (const int size : {16, 22, 32, 48, 64, 128}) icon.addFile(QStringLiteral(":/emblem/%1.png").arg(size));
   QApplication::setWindowIcon(icon);
 }
 

@@ -29,9 +29,9 @@ void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), QColor(backColor_ & 0xFF, backColor_ >> 8 & 0xFF, backColor_ >> 16 & 0xFF));
   painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
-  const QSize size = picture_.deviceIndependentSize().toSize();
-  const int bottom = repeats_ ? height() : std::min(height(), size.height());
-  painter.drawTiledPixmap(0, 0, std::min(width(), size.width()), bottom, picture_);
+  const int step = picture_.deviceIndependentSize().toSize().height();
+  const int last = repeats_ && step > 0 ? height() : 1;
+  for (int top = 0; top < last; top += std::max(step, 1)) painter.drawPixmap(0, top, picture_);
 }
 
 }  // namespace look
