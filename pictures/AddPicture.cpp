@@ -202,7 +202,7 @@ void ShowScaledPreview() {
 
 void AddPictureToPage() {
   try {
-    pictures::UprightSize(AddFile);  // it may have gone while the dialog was open
+    pictures::LoadForPreview(AddFile);  // it may have gone or changed while the dialog was open
   } catch (const platform::Failure& failure) {
     return platform::ReportFailure({}, failure);
   }

@@ -72,9 +72,7 @@ TEST(PageCipherTest, ComesBackForEveryLengthCodeAndShift) {
 TEST(PageCipherTest, DrawsEachFillerAnew) {
   const std::string first = WithoutFillers(Enciphered(std::string(5000, 'a'), 65), 1);
   const std::set<unsigned char> drawn(first.begin(), first.end());
-  EXPECT_EQ(drawn.size(), 120u);
-  EXPECT_EQ(*drawn.begin(), 30);
-  EXPECT_EQ(*drawn.rbegin(), 149);
+  EXPECT_EQ(std::tuple(drawn.size(), *drawn.begin(), *drawn.rbegin()), std::tuple(120, 30, 149));
   EXPECT_NE(first, WithoutFillers(Enciphered(std::string(5000, 'a'), 65), 1));
   EXPECT_NE(first.substr(0, 64), first.substr(64, 64));
 }

@@ -67,12 +67,11 @@ TEST_F(IndexTest, ReadsTheSamplesAndWritesThemBack) {
     SaveJournalIndex();
     // The fillers of the names are new; with the old names in their place every byte is as it was.
     store::Index saved = store::DecodeIndex(folder.Read("journal.tqt")).index;
-    const store::Index before = store::DecodeIndex(bytes).index;
-    for (std::size_t i = 0; i < saved.journals.size(); ++i) {
-      EXPECT_EQ(UnscrambleText(saved.journals[i].Name), UnscrambleText(before.journals[i].Name));
-      saved.journals[i].Name = before.journals[i].Name;
-    }
+    for (std::size_t i = 0; i < saved.journals.size(); ++i)
+      saved.journals[i].Name = store::DecodeIndex(bytes).index.journals[i].Name;
     EXPECT_EQ(store::EncodeIndex(saved), bytes);
+    Load(folder.Read("journal.tqt"));
+    EXPECT_EQ(Rows(), rows);
   }
 }
 

@@ -27,17 +27,11 @@ TEST_F(LostJournals, AdoptsEachFileThatNoRowMeansToTheLetter) {
   EXPECT_EQ(told, "Caf\xE9.tqf J00000.tqf holiday.TQF ");
   ASSERT_EQ(Journals.size(), 5u);
   EXPECT_EQ(JournalCount, 4);
-  JournalEntry expected;
-  expected.Name = "Recovered Lost Journal (Caf\xE9.tqf)";
-  expected.PageCount = 5;
-  expected.FileName = "Caf\xE9.tqf";
-  expected.Icon = 1;
-  expected.FontName = "Verdana";
-  expected.FontSize = 16;
-  expected.PaperColor = 0xFFFFFF;
-  EXPECT_EQ(Journals[2], expected);
-  EXPECT_EQ(Journals[3].PageCount, 0);
-  EXPECT_EQ(Journals[4].PageCount, 2);
+  const JournalEntry& row = Journals[2];
+  EXPECT_EQ(row.Name, "Recovered Lost Journal (Caf\xE9.tqf)");
+  EXPECT_EQ(std::tuple(row.Icon, row.FontName, row.FontSize, row.PaperColor),
+            std::tuple(1, "Verdana", 16, 0xFFFFFFu));
+  EXPECT_EQ(std::tuple(row.PageCount, Journals[3].PageCount, Journals[4].PageCount), std::tuple(5, 0, 2));
   EXPECT_TRUE(answers.messages.empty());
 
   RecoverLostJournals();
