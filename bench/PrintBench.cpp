@@ -30,7 +30,7 @@ void OneJournal(std::int32_t pages) {
   Journals.resize(2);
   Journals[1].FontName = "DejaVu Sans";
   Journals[1].FontSize = 12;
-  Journals[1].PageCount = pages;
+  Journals[1].PageCount = PageCount = pages;
   const std::string plain = Page();
   std::string body(plain.size() * 2, '\0');
   store::Encipher(plain, PageShift, body.data());

@@ -115,15 +115,15 @@ TEST_F(Export, ThirtyPagesCarryTheirBarAtTheTopAndEveryLinkLeadsSomewhere) {
     EXPECT_FALSE(choice->isChecked() || choice->isEnabled());
 }
 
-TEST_F(Export, OneFileHoldsAllPages) {
+TEST_F(Export, OneFileHoldsAllPagesAndTheClosingNone) {
   Begin({"", "\\par\\par", "end\\par\\par"}, "Caf\xE9 #1%");
-  folder.Write("a.gif", "GIF");
+  QImage picture(4, 4, QImage::Format_RGB32);
+  ASSERT_TRUE(picture.save(QString::fromStdString(folder.PathOf("a.png"))));
   Pictures.resize(2);
   PictureCount = 1;
-  PagePicture& picture = Pictures[1];
-  picture.PictureFile = folder.PathOf("a.gif");
-  picture.PageNumber = 1;
-  picture.JournalFile = "j1.tqf";
+  Pictures[1].PictureFile = folder.PathOf("a.png");
+  Pictures[1].PageNumber = 2;
+  Pictures[1].JournalFile = "j1.tqf";
   Click(dialog().chkShowDates);
   Click(dialog().chkShowPageNumbers);
   Run();
@@ -132,16 +132,20 @@ TEST_F(Export, OneFileHoldsAllPages) {
     return "<TABLE BORDER=0  width=100%>\n<TR>\n<TD>\n" + Font + "<CENTER>Page #" + number + ", day 4000" +
            number + " </CENTER><BR>\n" + content + "\n\n" + TableEnd + "<HR>\n\n";
   };
-  const std::string tag = "<a href=\"a.gif\"><img src=\"a.gif\"  align=left width=0 height=0 border=0></a>\n";
+  const std::string tag = "<a href=\"a.png\"><img src=\"a.png\"  align=left width=0 height=0 border=0></a>\n";
   EXPECT_EQ(Read("Caf\xC3\xA9 #1%.html"),
-            Lines(Head("Caf\xE9 #1%", "Caf\xE9 #1%") + Cell + "\n\n" + TableEnd + "<HR>\n\n" + page(1, tag) +
-                  page(2, "end<BR>") + TableEnd + "\n" + FileEnd));
-  EXPECT_EQ(Read("a.gif"), "GIF");
+            Lines(Head("Caf\xE9 #1%", "Caf\xE9 #1%") + Cell + "\n\n" + TableEnd + "<HR>\n\n" + page(1, "") +
+                  page(2, tag + "end<BR>") + TableEnd + "\n" + FileEnd));
+  EXPECT_EQ(Read("a.png"), folder.Read("a.png"));
   std::string opened;
   platform::SetUrlRunner([&](const std::string& url) { opened = url; });
   Click(dialog().cmdViewWebPage);
   platform::SetUrlRunner({});
   EXPECT_EQ(opened, "file://" + folder.PathOf("export/Caf%C3%A9%20%231%25.html"));
+  EXPECT_FALSE(window().face->pictures->picDisplayPics[0]->isHidden());
+  dialog().CloseBox();
+  EXPECT_TRUE(window().face->pictures->picDisplayPics[0]->isHidden());
+  EXPECT_TRUE(Pages.empty() && text().Text().isEmpty());
 }
 
 TEST_F(Export, AsksOnceBeforeItWritesOverAFile) {
@@ -150,11 +154,7 @@ TEST_F(Export, AsksOnceBeforeItWritesOverAFile) {
   Run();
   EXPECT_EQ(answers.texts(), fixture::Texts{"File exists, overwrite?"});
   EXPECT_EQ(Read("Home & <b>.html"), "old");
-  EXPECT_EQ(ExportTarget, "");
   EXPECT_FALSE(dialog().cmdViewWebPage->isVisible());
-  answers.ok = 1;
-  Run();
-  EXPECT_EQ(Read("Home & <b>.html").rfind("<HTML>", 0), 0u);
   Click(dialog().chkMulti);
   Run();
   folder.Write("export/j1/page2.html", "old");
@@ -173,12 +173,10 @@ TEST_F(Export, AsksOnceBeforeItWritesOverAFile) {
 
 TEST_F(Export, WhatCannotBeWrittenIsToldAndLeavesTheJournal) {
   Begin({"a", std::string(3000, 'b')});
-  for (const std::string& name :
-       {std::string("../../a"), std::string("a\0b", 3), std::string(251, 'a'), std::string("/")}) {
+  for (const std::string& name : {std::string("../../a"), std::string("a\0b", 3), std::string(251, 'a')}) {
     Journals[1].Name = name;
     ExpectFailure("No file can have this name: ");
     EXPECT_EQ(folder.Names("export"), fixture::Texts()) << name;
-    EXPECT_EQ(folder.Names(), (fixture::Texts{"export", "j1.tqf"}));
   }
   Journals[1].Name = "Home";
   folder.Block("export/Home.html");
