@@ -2,6 +2,8 @@
 
 #include <QtGui/QPainter>
 
+#include "platform/Colors.h"
+
 namespace look {
 
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
@@ -20,7 +22,7 @@ void PictureBox::SetBackColor(std::uint32_t color) {
 
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), QColor(backColor_ & 0xFF, backColor_ >> 8 & 0xFF, backColor_ >> 16 & 0xFF));
+  painter.fillRect(rect(), platform::ToColor(backColor_));
   painter.drawPixmap(0, 0, picture_);
 }
 
