@@ -38,6 +38,8 @@ class Person {
   // Alt and F4: what the window manager makes the close box's order of.
   void CloseWindow();
   void PressEscape();
+  // Presses keys that type nothing, by their keysyms of X.
+  void Press(std::initializer_list<unsigned> keysyms);
   void Shot(const char* name);
 
   // Waits until the question is answered with yes, or fails with the words of what was expected.
