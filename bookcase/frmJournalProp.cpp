@@ -160,13 +160,13 @@ void frmJournalProp::ChooseIcon(int index) {
   Image1->setToolTip(JournalIconName(index));
 }
 
-// The ends are hard stops.
+// The ends are hard stops, and what a damaged row holds beyond them is at an end.
 void frmJournalProp::cmdIconBack_Click() {
-  ChooseIcon(std::max(SelectedIcon - 1, 1));
+  ChooseIcon(std::max(SelectedIcon, 2) - 1);
 }
 
 void frmJournalProp::cmdIconNext_Click() {
-  ChooseIcon(std::min(SelectedIcon + 1, JournalIconCount));
+  ChooseIcon(std::min(SelectedIcon, JournalIconCount - 1) + 1);
 }
 
 void frmJournalProp::cmdPaperColor_Click() {

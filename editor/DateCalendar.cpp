@@ -32,9 +32,6 @@ DateCalendar::DateCalendar(QWidget* parent) : QCalendarWidget(parent) {
   setDateRange(platform::FirstCalendarDay(), platform::LastCalendarDay());
   setDateEditEnabled(false);  // it would start from today and not from the date that stands here
   setFont(QFont(QStringLiteral("Verdana")));
-  QTextCharFormat weekend;
-  weekend.setForeground(QColor(0x96, 0x20, 0x3c));  // easy to read on the theme's pale tint
-  for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
   auto* days = findChild<QTableView*>();
   auto* style = new TwoClickStyle;
   style->setParent(this);
@@ -89,6 +86,9 @@ void DateCalendar::SetBackColor(const QColor& color) {
   colors.setColor(QPalette::Base, color);
   colors.setColor(QPalette::AlternateBase, color.darker(106));
   setPalette(colors);
+  QTextCharFormat weekend;  // reds that are easy to read there
+  weekend.setForeground(color.lightness() < 128 ? QColor(0xff, 0x9a, 0xa8) : QColor(0x96, 0x20, 0x3c));
+  for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
 }
 
 QColor DateCalendar::BackColor() const {

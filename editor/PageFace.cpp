@@ -7,6 +7,7 @@
 #include "editor/BindingPicture.h"
 #include "look/Form.h"
 #include "look/Theme.h"
+#include "platform/Colors.h"
 #include "state/State.h"
 
 // All places and sizes are in twips, 15 to the logical pixel.
@@ -22,14 +23,6 @@ constexpr int NumberRight = 7590 + 825;
 constexpr int NumberTop = 645;
 
 QPointer<PageFace> theFace;
-
-QColor ColorOf(std::uint32_t color) {
-  return QColor(color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF);
-}
-
-std::uint32_t PackedColor(const QColor& color) {
-  return static_cast<std::uint32_t>(color.red() | color.green() << 8 | color.blue() << 16);
-}
 
 template <class Control>
 Control* Placed(Control* control, const QString& name, int left, int top, int width, int height) {
@@ -111,7 +104,7 @@ void PageFace::SetPaper(std::uint32_t color) {
 void PageFace::WearTheme() {
   constexpr QRgb plain = 0xF0F0F0;
   const look::Theme& theme = look::CurrentTheme();
-  picTop->SetBackColor(PackedColor(theme.surface.isValid() ? theme.surface : QColor(plain)));
+  picTop->SetBackColor(platform::FromColor(theme.surface.isValid() ? theme.surface : QColor(plain)));
   picTop->SetPicture(theme.large);
 }
 
@@ -121,7 +114,7 @@ void PageFace::SetHeadHeight(int twips) {
 }
 
 void PageFace::paintEvent(QPaintEvent* event) {
-  QPainter(this).fillRect(event->rect(), ColorOf(0x808080));
+  QPainter(this).fillRect(event->rect(), platform::ToColor(0x808080));
 }
 
 void PageFace::resizeEvent(QResizeEvent*) {

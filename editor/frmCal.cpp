@@ -3,6 +3,7 @@
 #include "editor/PageTurning.h"
 #include "look/Theme.h"
 #include "platform/Keystroke.h"
+#include "platform/TaskBar.h"
 #include "state/State.h"
 
 frmCal::frmCal() : Form(Kind::Dialog, QStringLiteral("frmCal"), QStringLiteral("Select Date"), 5400, 4905) {
@@ -21,6 +22,7 @@ frmCal::frmCal() : Form(Kind::Dialog, QStringLiteral("frmCal"), QStringLiteral("
   connect(cmdSetDate, &QPushButton::clicked, this, &frmCal::cmdSetDate_Click);
   connect(cmdCancel, &QPushButton::clicked, this, &frmCal::CloseBox);
   connect(cmdHelp, &QPushButton::clicked, this, [] { platform::SendKey(Qt::Key_F1); });
+  platform::KeepOffTaskBar(*this);
 }
 
 // PageDirty is not touched: the date reaches the file with its next writing, at the latest at the closing.

@@ -16,6 +16,7 @@
 #include "platform/Files.h"
 #include "platform/Keystroke.h"
 #include "platform/MessageBox.h"
+#include "platform/TaskBar.h"
 
 namespace {
 
@@ -73,6 +74,7 @@ frmEmoticons::frmEmoticons()
   LayOut();
   cmdPage->setVisible(file1_.size() > ScreenSize);
   ShowScreen(0);
+  platform::KeepOffTaskBar(*this);
 }
 
 void frmEmoticons::LayOut() {

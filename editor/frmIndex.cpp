@@ -9,6 +9,7 @@
 #include "editor/PageTurning.h"
 #include "look/Theme.h"
 #include "platform/Keystroke.h"
+#include "platform/TaskBar.h"
 #include "state/State.h"
 
 namespace {
@@ -44,6 +45,7 @@ frmIndex::frmIndex()
   connect(cmdClose, &QPushButton::clicked, this, &frmIndex::CloseBox);
   connect(cmdHelp, &QPushButton::clicked, this, [] { platform::SendKey(Qt::Key_F1); });
   connect(&Face(), &PageFace::JournalClosed, this, &frmIndex::CloseBox);
+  platform::KeepOffTaskBar(*this);
 }
 
 // Children come under their parents before these come into the tree: the view then hears of few insertions.
@@ -66,6 +68,8 @@ bool frmIndex::eventFilter(QObject* watched, QEvent* event) {
   if (watched == TreeView1)
     return event->type() == QEvent::KeyPress && SelectsFirst(*static_cast<QKeyEvent*>(event));
   if (event->type() != QEvent::MouseButtonDblClick) return false;
+  const QTreeWidgetItem* under = TreeView1->itemAt(static_cast<QMouseEvent*>(event)->pos());
+  if (under && !under->isSelected()) return false;  // on its arrow, which opens and selects nothing
   cmdGoDate_Click();
   return true;
 }

@@ -17,10 +17,10 @@ class frmJournal : public look::Form {
   // The window's public surface, beside the toolbar: none of these stores the page first.
   void PageBack();
   void PageFirst();
-  void InsertPicture();
   void SelectFont();
   void OpenIndex();
   void OpenCalendar();
+  void InsertPicture();
   void OpenJournalProperties();
   void PageLast();
   void PageNew();

@@ -4,6 +4,8 @@
 
 #include <QtGui/QPainter>
 
+#include "platform/Colors.h"
+
 namespace look {
 
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
@@ -27,7 +29,7 @@ void PictureBox::SetBackColor(std::uint32_t color) {
 
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), QColor(backColor_ & 0xFF, backColor_ >> 8 & 0xFF, backColor_ >> 16 & 0xFF));
+  painter.fillRect(rect(), platform::ToColor(backColor_));
   painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
   const int step = picture_.deviceIndependentSize().toSize().height();
   const int last = repeats_ && step > 0 ? height() : 1;

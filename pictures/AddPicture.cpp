@@ -10,6 +10,7 @@
 #include "pictures/PictureSlots.h"
 #include "pictures/frmAddPicture.h"
 #include "pictures/modPictures.h"
+#include "platform/Colors.h"
 #include "platform/Failure.h"
 #include "platform/MessageBox.h"
 #include "platform/OpenFileDialog.h"
@@ -112,7 +113,7 @@ void DrawOnSurface(frmAddPicture& dialog) {
   QPixmap surface((QSizeF(SurfaceSide, SurfaceSide) * ratio).toSize());
   surface.setDevicePixelRatio(ratio);
   const std::uint32_t paper = dialog.PicResize->BackColor();
-  surface.fill(QColor(paper & 0xFF, paper >> 8 & 0xFF, paper >> 16 & 0xFF));
+  surface.fill(platform::ToColor(paper));
   QPainter painter(&surface);
   PaintPicture(painter, dialog);
   painter.end();

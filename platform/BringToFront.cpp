@@ -1,6 +1,5 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QWindow>
-#include <QtGui/qguiapplication_platform.h>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
@@ -13,11 +12,6 @@ namespace {
 void Restore(QWidget& window) {
   if (window.isMinimized()) window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
   window.raise();
-}
-
-xcb_connection_t* X11OfTheToolkit() {
-  auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  return x11 ? x11->connection() : nullptr;
 }
 
 void Activate(QWidget& window, const ActivationToken& token) {

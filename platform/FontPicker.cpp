@@ -60,6 +60,7 @@ FontPicker::FontPicker(const FontQuestion& question, QWidget* parent) : QDialog(
   setObjectName(QStringLiteral("FontDialog"));
   setWindowTitle(QStringLiteral("Font"));
   LayOut();
+  NameControls();
   Stand();
   for (const ChoiceList* choice : {name, size})
     connect(choice, &ChoiceList::Changed, this, &FontPicker::ShowSample);
@@ -121,6 +122,13 @@ void FontPicker::MakeSample() {
   sample->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // a large font is cut, and moves nothing
   note = new QLabel;
   note->setTextFormat(Qt::PlainText);
+}
+
+void FontPicker::NameControls() {
+  const std::pair<QWidget*, const char*> names[] = {
+      {bold, "bold"},   {italic, "italic"}, {underline, "underline"}, {strikethru, "strikethru"},
+      {color, "color"}, {sample, "sample"}, {note, "note"},           {buttons, "buttons"}};
+  for (const auto& [control, text] : names) control->setObjectName(QLatin1String(text));
 }
 
 // Puts the question's values into the controls.

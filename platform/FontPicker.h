@@ -35,6 +35,7 @@ class FontPicker : public QDialog {
   void LayOut();
   QLayout* EffectsColumn();
   void MakeSample();
+  void NameControls();
   void Stand();
   bool KeepsName() const;
   double Size() const;

@@ -5,6 +5,9 @@
 #include <poll.h>
 #include <string>
 
+#include <QtGui/QGuiApplication>
+#include <QtGui/qguiapplication_platform.h>
+
 namespace platform {
 namespace {
 
@@ -119,6 +122,11 @@ X11Connection ConnectToX11() {
   return connection;
 }
 
+xcb_connection_t* X11OfTheToolkit() {
+  auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  return x11 ? x11->connection() : nullptr;
+}
+
 std::uint32_t X11Time(xcb_connection_t* connection) {
   const HiddenWindow window(connection);
   xcb_change_property(connection, XCB_PROP_MODE_APPEND, window.id(), XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0,
@@ -132,6 +140,14 @@ void EndStartupSequence(xcb_connection_t* connection, std::string_view startupId
   Broadcast(connection, sender.id(), "remove: ID=" + Quoted(startupId));
   // The sender must live until its messages are on their way, which a question and its answer makes sure.
   Own(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+}
+
+// Before the window is shown its states are the program's own to write; the toolkit adds to what stands
+// there.
+void SkipTaskBar(xcb_connection_t* connection, xcb_window_t window) {
+  const xcb_atom_t skip = Atom(connection, "_NET_WM_STATE_SKIP_TASKBAR");
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, Atom(connection, "_NET_WM_STATE"),
+                      XCB_ATOM_ATOM, 32, 1, &skip);
 }
 
 void ActivateX11Window(xcb_connection_t* connection, xcb_window_t window, std::uint32_t timestamp) {

@@ -15,12 +15,19 @@ using X11Connection = std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_
 // A connection of our own to the display that the desktop names; empty where there is none.
 X11Connection ConnectToX11();
 
+// The toolkit's own connection, for messages about its windows; null where it speaks to another kind of
+// display.
+xcb_connection_t* X11OfTheToolkit();
+
 // The server's present time in milliseconds; 0 when it does not tell within a second. Only on a connection of
 // our own, whose other events are thrown away.
 std::uint32_t X11Time(xcb_connection_t* connection);
 
 // Tells the desktop that the start with this id is over, so that its busy pointer ends.
 void EndStartupSequence(xcb_connection_t* connection, std::string_view startupId);
+
+// Tells the window manager to leave the window, which is not shown yet, out of the lists of windows.
+void SkipTaskBar(xcb_connection_t* connection, xcb_window_t window);
 
 // Asks the window manager to bring the window to the front, for an action of the user at this server time.
 void ActivateX11Window(xcb_connection_t* connection, xcb_window_t window, std::uint32_t timestamp);

@@ -93,14 +93,6 @@ void ClearLink(QTextCharFormat& format) {
 
 }  // namespace
 
-QColor ToColor(std::uint32_t bgr) {
-  return QColor(bgr & 0xff, (bgr >> 8) & 0xff, (bgr >> 16) & 0xff);
-}
-
-std::uint32_t FromColor(const QColor& color) {
-  return static_cast<std::uint32_t>(color.red() | color.green() << 8 | color.blue() << 16);
-}
-
 QString FontNameOf(const QTextCharFormat& format) {
   const QStringList families = format.fontFamilies().toStringList();
   return families.isEmpty() ? QString::fromUtf16(ChosenFont) : families.front();

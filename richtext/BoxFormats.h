@@ -4,6 +4,7 @@
 
 #include <QtGui/QTextCharFormat>
 
+#include "platform/Colors.h"
 #include "richtext/Document.h"
 
 namespace richtext {
@@ -38,9 +39,8 @@ CharacterFormat FromTextFormat(const QTextCharFormat& format);
 QTextCharFormat ToMarkFormat(const CharacterFormat& format);
 CharacterFormat FromMarkFormat(const QTextCharFormat& format);
 
-// 0x00BBGGRR and the toolkit's colour.
-QColor ToColor(std::uint32_t bgr);
-std::uint32_t FromColor(const QColor& color);
+using platform::FromColor;
+using platform::ToColor;
 
 // The attributes of a format of the box; a missing one reads as the box's own.
 QString FontNameOf(const QTextCharFormat& format);

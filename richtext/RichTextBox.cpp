@@ -31,6 +31,13 @@ constexpr std::uint32_t White = 0xffffff;
 constexpr QKeyCombination PlainPasteKey = Qt::CTRL | Qt::SHIFT | Qt::Key_V;
 constexpr std::size_t LongPage = 10000;  // UTF-16 units; more than any window shows at once
 
+// A letter with Alt or the logo key is a command of somebody else's. AltGr is neither: it types.
+bool IsCommandOfOthers(const QKeyEvent& event) {
+  const bool withCommandKey =
+      event.modifiers().testFlag(Qt::AltModifier) || event.modifiers().testFlag(Qt::MetaModifier);
+  return withCommandKey && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
 }  // namespace
 
 RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
@@ -169,6 +176,7 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 void RichTextBox::keyPressEvent(QKeyEvent* event) {
+  if (IsCommandOfOthers(*event)) return event->ignore();
   const unsigned before = edits_;
   const QTextCharFormat format = textCursor().charFormat();
   if (isReadOnly())

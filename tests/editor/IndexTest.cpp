@@ -80,6 +80,10 @@ TEST_F(IndexTest, PressedAgainAddsThePagesASecondTimeAndDropsWhatIsTyped) {
   Click(index().cmdGoDate);
   EXPECT_EQ(Text(), "kept dropped dropped text") << "nothing is selected";
   ASSERT_TRUE(look::IsLoaded<frmIndex>());
+  tree().topLevelItem(1)->setSelected(true);
+  const QRect first = tree().visualItemRect(tree().topLevelItem(0));
+  QTest::mouseDClick(tree().viewport(), Qt::LeftButton, {}, {first.left() / 2, first.center().y()});
+  ASSERT_TRUE(look::IsLoaded<frmIndex>()) << "two clicks on another entry's arrow";
   DoubleClick(tree().topLevelItem(1));
   EXPECT_EQ(CurrentPage, 2);
   EXPECT_FALSE(look::IsLoaded<frmIndex>());
@@ -114,7 +118,6 @@ class CalendarTest : public IndexTest {
 
 TEST_F(CalendarTest, ADayKeepsTheTimeOfTheOneThatWasSet) {
   DateCalendar calendar;
-  EXPECT_EQ(calendar.firstDayOfWeek(), QLocale::system().firstDayOfWeek());
   const struct {
     double set;
     QDate shown, chosen;
@@ -153,13 +156,9 @@ TEST_F(CalendarTest, DatesThePageWithoutMovingOrDirtyingIt) {
   EXPECT_EQ(PageDirty, False);
   InCalendar([](frmCal& dialog) {
     dialog.Cal1->showNextYear();
-    dialog.Cal1->setSelectedDate({1999, 9, 9});
     Click(dialog.cmdCancel);
   });
-  InCalendar([](frmCal& dialog) {
-    QTest::keyClick(dialog.Cal1->focusProxy(), Qt::Key_Right);
-    QTest::keyClick(dialog.Cal1->focusProxy(), Qt::Key_Escape);
-  });
+  InCalendar([](frmCal& dialog) { QTest::keyClick(dialog.Cal1->focusProxy(), Qt::Key_Escape); });
   EXPECT_EQ(Pages[2].PageDate, -18140);
   InCalendar([](frmCal& dialog) {
     QTest::keyClick(dialog.Cal1->focusProxy(), Qt::Key_Right);

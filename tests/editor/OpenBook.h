@@ -5,6 +5,7 @@
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
 #include "editor/frmJournal.h"
+#include "platform/FontDialog.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
 #include "tests/support/Windows.h"
@@ -73,6 +74,13 @@ class OpenBook : public Windows {
   frmJournal& window() { return look::The<frmJournal>(); }
   richtext::RichTextBox& text() { return *window().face->txtM; }
   std::string Text() { return text().Text().toStdString(); }
+  // The look of the character behind a place.
+  platform::FontValues FontAt(int position) {
+    text().SetSelStart(position);
+    text().SetSelLength(1);
+    return {*text().SelFontName(),  *text().SelFontSize(),   *text().SelBold(), *text().SelItalic(),
+            *text().SelUnderline(), *text().SelStrikeThru(), *text().SelColor()};
+  }
   void Type(const std::string& letters) { QTest::keyClicks(&text(), QString::fromStdString(letters)); }
   void Press(const char* key) { Click(window().Toolbar1->Button(QString::fromLatin1(key))); }
   // Date and page number, as the head strip shows them, and the page's text.

@@ -125,14 +125,9 @@ TEST_F(Reading, WhatIsTypedNextHasTheJournalsFont) {
   Press("btnNext");
   EXPECT_EQ(PageDirty, False) << "a caret's font is no change";
   Type("x");
-  text().SetSelStart(10);
-  text().SetSelLength(1);
-  EXPECT_TRUE(text().SelFontName() == u"DejaVu Sans Mono" && text().SelFontSize() == 20.0 &&
-              text().SelItalic() == true && text().SelBold() == false && text().SelUnderline() == true &&
-              text().SelStrikeThru() == true && text().SelColor() == 0x0000FFu);
-  text().SetSelStart(6);
-  text().SetSelLength(4);
-  EXPECT_EQ(text().SelBold(), true) << "earlier text keeps its own";
+  EXPECT_EQ(FontAt(10),
+            (platform::FontValues{u"DejaVu Sans Mono"_qs, 20, false, true, true, true, 0x0000FF}));
+  EXPECT_TRUE(FontAt(9).bold) << "earlier text keeps its own";
 }
 
 TEST_F(Reading, TheWindowComesUpAgainWithoutTheFormerText) {

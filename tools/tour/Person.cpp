@@ -200,7 +200,11 @@ void Person::Type(const QString& text) {
 }
 
 void Person::PressEscape() {
-  PressKeysym(EscapeKey);
+  Press({EscapeKey});
+}
+
+void Person::Press(std::initializer_list<unsigned> keysyms) {
+  for (const unsigned keysym : keysyms) PressKeysym(keysym);
   Settle();
 }
 

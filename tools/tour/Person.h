@@ -38,6 +38,8 @@ class Person {
   // Alt and F4: what the window manager makes the close box's order of.
   void CloseWindow();
   void PressEscape();
+  // Presses keys that type nothing, by their keysyms of X.
+  void Press(std::initializer_list<unsigned> keysyms);
   void Shot(const char* name);
   // The path of the album's next picture, for one that is made otherwise.
   QString NextPicture(const char* name);

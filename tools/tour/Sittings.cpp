@@ -10,6 +10,7 @@
 #include "state/State.h"
 #include "tools/tour/PictureSittings.h"
 #include "tools/tour/PrintSitting.h"
+#include "tools/tour/ToolSittings.h"
 
 namespace {
 
@@ -206,15 +207,17 @@ void ComeBackAfterTheSystemEndedIt(Person& person) {
 
 void OpenTheGardenNotes(Person& person) {
   Unlock(person, QStringLiteral("changed later"));
-  person.Shot("twelve-years-bookcase");
   person.Click("cmdOpen");
   person.SeeWindow("frmJournal");
-  person.Click("btnLastPage");  // their settings open a journal on its title page
+  ExpectPage(person, QStringLiteral("Title Page"), QStringLiteral("Twelve years\nof short notes"));
+  person.Click("btnLastPage");
   person.Expect(QStringLiteral("the last page"),
                 [] { return Book().face->lblPageNum1->text() == QStringLiteral("Page 120"); });
+}
+
+void LeafThroughTheGardenNotes(Person& person) {
+  OpenTheGardenNotes(person);
   person.Shot("twelve-years");
-  person.Click("btnFirstPage");
-  ExpectPage(person, QStringLiteral("Title Page"), QStringLiteral("Twelve years\nof short notes"));
   person.CloseWindow();
   person.SeeWindow("frmBookcase");
 }
@@ -261,7 +264,23 @@ const std::vector<Sitting>& Sittings() {
        },
        [](Person&) { raise(SIGTERM); }},
       {"What the system's order to end has stored", nullptr, ComeBackAfterTheSystemEndedIt, leaveTheJournal},
-      {"A diary from elsewhere", "2-three-journals", OpenTheGardenNotes, PressExit},
+      {"A diary from elsewhere", "2-three-journals", LeafThroughTheGardenNotes, PressExit},
+      {"The index, the calendar, a font and an emoticon", "2-three-journals",
+       [](Person& person) {
+         OpenTheGardenNotes(person);
+         FindAndDateAPage(person);
+         DressTheText(person);
+       },
+       leaveTheJournal},
+      {"Another icon and paper", "2-three-journals",
+       [](Person& person) {
+         OpenTheGardenNotes(person);
+         ChangeTheProperties(person);
+         person.CloseWindow();
+         person.SeeWindow("frmBookcase");
+         person.Shot("another-icon");
+       },
+       PressExit},
       {"Left at the lock", "1-first-diary", [](Person& person) { person.SeeWindow("frmPass"); },
        [](Person& person) { person.Click("cmdCancel"); }},
   };
