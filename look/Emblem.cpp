@@ -44,7 +44,9 @@ void PaintClasp(QPainter& painter) {
 }  // namespace
 
 QPixmap ClosedBook(int size, const QColor& cloth, bool clasped) {
-  QPixmap picture(size, size);
+  const double ratio = qApp->devicePixelRatio();
+  QPixmap picture((QSizeF(size, size) * ratio).toSize());
+  picture.setDevicePixelRatio(ratio);
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
