@@ -23,8 +23,12 @@ DialogResult<std::uint32_t> AskOnTheDesktop(const ColorQuestion& question) {
   dialog->setObjectName(QStringLiteral("ColorDialog"));
   dialog->setWindowTitle(QStringLiteral("Color"));
   dialog->setOption(QColorDialog::DontUseNativeDialog);
-  DialogResult<std::uint32_t> result{{DialogEnd::Cancelled, {}}};
-  if (dialog->exec() == QDialog::Accepted && dialog) result = {{}, FromColor(dialog->selectedColor())};
+  DialogResult<std::uint32_t> result;
+  result.end.number = DialogEnd::Cancelled;
+  if (dialog->exec() == QDialog::Accepted && dialog) {
+    result.end.number = 0;
+    result.choice = FromColor(dialog->selectedColor());
+  }
   delete dialog;
   return result;
 }

@@ -18,8 +18,12 @@ FontChooser& Chooser() {
 DialogResult<FontValues> AskOnTheDesktop(const FontQuestion& question) {
   // The window under the dialog may be destroyed while it is up, and takes the dialog with it.
   QPointer<FontPicker> dialog = new FontPicker(question, QApplication::activeWindow());
-  DialogResult<FontValues> result{{DialogEnd::Cancelled, {}}, {}};
-  if (dialog->exec() == QDialog::Accepted && dialog) result = {{}, dialog->Values()};
+  DialogResult<FontValues> result;
+  result.end.number = DialogEnd::Cancelled;
+  if (dialog->exec() == QDialog::Accepted && dialog) {
+    result.end.number = 0;
+    result.choice = dialog->Values();
+  }
   delete dialog;
   return result;
 }

@@ -108,7 +108,7 @@ std::string ProfileValue(std::string_view text, std::string_view section, std::s
 std::string WithProfileValue(std::string_view text, std::string_view section, std::string_view key,
                              std::string_view value) {
   auto lines = LinesOf(text);
-  const std::string heading = "[" + std::string(section) + "]";
+  const std::string heading = std::string("[").append(section).append("]");
   const std::string entry = std::string(key) + "=" + std::string(value);
   const auto at = [&lines](std::size_t place) { return lines.begin() + static_cast<std::ptrdiff_t>(place); };
 
