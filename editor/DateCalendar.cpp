@@ -1,9 +1,13 @@
 #include "editor/DateCalendar.h"
 
+#include <algorithm>
+
 #include <QtGui/QMouseEvent>
 #include <QtGui/QTextCharFormat>
 #include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTableView>
+#include <QtWidgets/QToolButton>
 
 #include "platform/Dates.h"
 
@@ -28,14 +32,45 @@ DateCalendar::DateCalendar(QWidget* parent) : QCalendarWidget(parent) {
   setFirstDayOfWeek(QLocale::system().firstDayOfWeek());
   setVerticalHeaderFormat(NoVerticalHeader);
   setDateRange(platform::FirstCalendarDay(), platform::LastCalendarDay());
+  setDateEditEnabled(false);  // it would start from today and not from the date that stands here
   setFont(QFont(QStringLiteral("Verdana")));
+  QTextCharFormat weekend;
+  weekend.setForeground(QColor(0x96, 0x20, 0x3c));  // easy to read on the theme's pale tint
+  for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
   auto* days = findChild<QTableView*>();
   auto* style = new TwoClickStyle;
   style->setParent(this);
   days->setStyle(style);
   days->viewport()->installEventFilter(this);
   setFocusProxy(days);
+  OpenHeadToKeys();
   connect(this, &QCalendarWidget::activated, this, &DateCalendar::DblClick);
+  connect(this, &QCalendarWidget::currentPageChanged, this, &DateCalendar::FollowMonth);
+}
+
+// Month and year can be changed without a mouse, too: the toolkit keeps the keyboard out of its buttons.
+void DateCalendar::OpenHeadToKeys() {
+  QWidget* before = nullptr;
+  for (const char* name : {"prevmonth", "monthbutton", "yearbutton", "nextmonth"}) {
+    auto* button = findChild<QToolButton*>(QStringLiteral("qt_calendar_") + QLatin1String(name));
+    if (!button) continue;
+    button->setFocusPolicy(Qt::TabFocus);
+    button->installEventFilter(this);
+    QPalette colors = button->palette();  // dark under the white letters, where it is raised
+    colors.setColor(QPalette::Button, colors.color(QPalette::Highlight).darker(140));
+    button->setPalette(colors);
+    if (before) setTabOrder(before, button);
+    before = button;
+  }
+  if (before) setTabOrder(before, focusProxy());
+  if (auto* year = findChild<QSpinBox*>()) year->installEventFilter(this);
+}
+
+// The selected day goes along into another month, so that what would be set is always in sight.
+void DateCalendar::FollowMonth(int year, int month) {
+  const QDate first(year, month, 1);
+  if (selectedDate().year() == year && selectedDate().month() == month) return;
+  setSelectedDate(first.addDays(std::min(selectedDate().day(), first.daysInMonth()) - 1));
 }
 
 double DateCalendar::Value() const {
@@ -66,9 +101,25 @@ QColor DateCalendar::BackColor() const {
   return palette().color(QPalette::Base);
 }
 
-// The toolkit passes over a double click whose first click has turned the month.
+// The toolkit passes over a double click whose first click has turned the month. Enter in the year's box ends
+// the box, and must not go on to the window's default button.
 bool DateCalendar::eventFilter(QObject* watched, QEvent* event) {
+  if (qobject_cast<QSpinBox*>(watched)) return EndsYearBox(*event);
+  if (auto* button = qobject_cast<QToolButton*>(watched)) {
+    // Raised is the only way that such a button shows that it has the focus.
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+      button->setAutoRaise(event->type() == QEvent::FocusOut);
+    return false;
+  }
   if (event->type() != QEvent::MouseButtonDblClick) return QCalendarWidget::eventFilter(watched, event);
   if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) Q_EMIT DblClick();
+  return true;
+}
+
+bool DateCalendar::EndsYearBox(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+  focusProxy()->setFocus();
   return true;
 }

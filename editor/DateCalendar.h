@@ -26,5 +26,9 @@ class DateCalendar : public QCalendarWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void OpenHeadToKeys();
+  void FollowMonth(int year, int month);
+  bool EndsYearBox(const QEvent& event);
+
   double value_ = 0;
 };

@@ -70,13 +70,13 @@ bool frmIndex::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-// The toolkit lets the keyboard stand on an entry that is not selected, as after the opening. The first arrow
-// key selects it, so that no entry is out of the keyboard's reach.
+// The toolkit lets the keyboard stand on an entry that is not selected, as after the opening. The first key
+// that moves selects it, and up and down go no further, so that no entry is out of the keyboard's reach.
 bool frmIndex::SelectsFirst(const QKeyEvent& key) {
   const bool moves = key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown;
   if (!moves || !TreeView1->selectedItems().isEmpty() || !TreeView1->currentItem()) return false;
   TreeView1->currentItem()->setSelected(true);
-  return true;
+  return key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
 }
 
 // The text box's text is not stored here: what was typed while the index stood open is dropped.

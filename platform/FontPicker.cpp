@@ -20,12 +20,17 @@ constexpr double SampleSize = 12;     // of a mixed text
 constexpr QSize Swatch{28, 14};       // pixels
 constexpr int SampleHeight = 84;
 
+// Without the maker, whom the toolkit adds in brackets where two make a font of one name: no other program
+// would find the font by that.
 QStringList FontNames(bool ofTheCodePage) {
+  static const QRegularExpression maker(QStringLiteral(" \\[[^\\]]*\\]$"));
   QStringList names;
-  for (const QString& name : QFontDatabase::families()) {
-    const bool fits = !ofTheCodePage || FirstForeignCharacter(name).isEmpty();
-    if (fits && !QFontDatabase::isPrivateFamily(name)) names.append(name);
+  for (QString name : QFontDatabase::families()) {
+    if (QFontDatabase::isPrivateFamily(name)) continue;
+    name.remove(maker);
+    if (!ofTheCodePage || FirstForeignCharacter(name).isEmpty()) names.append(name);
   }
+  names.removeDuplicates();
   return names;
 }
 

@@ -133,6 +133,9 @@ TEST_F(CalendarTest, ADayKeepsTheTimeOfTheOneThatWasSet) {
     calendar.setSelectedDate(chosen);
     EXPECT_EQ(calendar.Value(), value) << set;
   }
+  calendar.setSelectedDate({2023, 1, 31});
+  calendar.showNextMonth();
+  EXPECT_EQ(calendar.selectedDate(), QDate(2023, 2, 28)) << "the day goes along into another month";
 }
 
 // A theme of no number has no surface; the desktop may be a dark one.

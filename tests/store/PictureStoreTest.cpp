@@ -13,6 +13,11 @@ std::string Record(const std::string& file, Flag deleted = False) {
 PagePicture Row(const std::string& file) {
   return {file, 120, 140, 7, "kept", 3, "/f/oval.gif", 2, "Album", "j00000.tqf", -20, 400, False};
 }
+PagePicture Removed(Flag deleted) {
+  PagePicture row = Row("a");
+  row.Deleted = deleted;
+  return row;
+}
 
 std::string Slot(const std::string& value) {
   return value + std::string(128 - value.size(), '\xEE');
@@ -51,13 +56,9 @@ TEST(PictureStoreTest, EachFieldHasItsPlaceAndTheRowBehindTheLastRecordIsBlank) 
   EXPECT_EQ(decoded.rows, rows);
   EXPECT_EQ(store::EncodePictureStore(rows),
             Raw(5, 4) + bytes.substr(4) + Raw(0xFFFF, 2) + Raw(65535, 4) + tail + blankRecord);
-}
-
-TEST(PictureStoreTest, OnlyMinusOneIsRemoved) {
-  std::vector<PagePicture> rows = {{}, Row("removed"), Row("other"), {}};
-  rows[1].Deleted = True;
-  rows[2].Deleted = 1;
-  EXPECT_EQ(store::EncodePictureStore(rows), Raw(3, 4) + blankRecord + Record("other", 1) + blankRecord);
+  EXPECT_EQ(store::EncodePictureStore({{}, Removed(True), Removed(1)}),
+            Raw(2, 4) + blankRecord + Record("a", 1))
+      << "only -1 is removed";
 }
 
 TEST(PictureStoreTest, BelievesNoCountOrLengthBeyondTheBytes) {
@@ -114,4 +115,17 @@ TEST(PictureStoreTest, EveryTruncationOfTheOlderStoreGivesTheWholeRows) {
         size < 128 + 11 * 128 + 4 ? "damaged ," : (size < lastValue ? "damaged a," : "sound a,") + rest;
     EXPECT_EQ(outline, expected) << size;
   }
+}
+
+TEST(PictureStoreTest, TheSamplesHoldWhatTheirContentsTell) {
+  const std::string logo = "/usr/share/pixmaps/debian-logo.png", bytes = Sample("3-pictures/tqpics.bin");
+  const auto sample = store::DecodePictureStore(bytes);
+  EXPECT_EQ(Outline(sample), "sound ," + logo + ",C:\\Photos\\caf\xE9.jpg,,");
+  EXPECT_EQ(sample.rows[1],
+            (PagePicture{logo, 120, 140, 0, "", 0, "", 1, "My Diary", "j00000.tqf", 158, 400}));
+  EXPECT_EQ(store::EncodePictureStore(sample.rows), Raw(4, 4) + bytes.substr(4) + blankRecord);
+  const auto older = store::DecodeOldPictureStore(Sample("4-older-pictures/jpics.bin"));
+  EXPECT_EQ(Outline(older), "sound ," + logo + ",");
+  EXPECT_EQ(older.rows[1],
+            (PagePicture{logo, 110, 100, 5, "old", 0, "", 1, "My Diary", "j00000.tqf", 64, 20}));
 }

@@ -124,7 +124,11 @@ void Person::Click(const char* control) {
   ClickAt(MiddleOf(control), 1);
 }
 
-void Person::DoubleClickItem(const char* list, int row) {
+void Person::DoubleClick(const char* control) {
+  ClickAt(MiddleOf(control), 2);
+}
+
+QPoint Person::MiddleOfItem(const char* list, int row) {
   QPoint place;
   Expect(QStringLiteral("a row %1 in the list").arg(row), [&] {
     const QWidget* active = QApplication::activeWindow();
@@ -133,7 +137,26 @@ void Person::DoubleClickItem(const char* list, int row) {
     place = found->viewport()->mapToGlobal(found->visualItemRect(found->item(row)).center());
     return true;
   });
-  ClickAt(place, 2);
+  return place;
+}
+
+void Person::ClickItem(const char* list, int row) {
+  ClickAt(MiddleOfItem(list, row), 1);
+}
+
+void Person::DoubleClickItem(const char* list, int row) {
+  ClickAt(MiddleOfItem(list, row), 2);
+}
+
+QPoint Person::Drag(const char* control, QPoint by) {
+  const QPoint start = MiddleOf(control);
+  Fake(XCB_MOTION_NOTIFY, 0, start);
+  Settle();
+  Fake(XCB_BUTTON_PRESS, 1);
+  for (int step = 1; step <= 10; ++step) Fake(XCB_MOTION_NOTIFY, 0, start + by * step / 10);
+  Fake(XCB_BUTTON_RELEASE, 1);
+  Settle();
+  return start + by;
 }
 
 void Person::ClickAt(QPoint place, int times) {

@@ -27,7 +27,12 @@ class Person {
   void AnswerBox(const QString& text, const QString& button);
   // A click in the middle of the named control of the active window.
   void Click(const char* control);
+  void DoubleClick(const char* control);
+  void ClickItem(const char* list, int row);
   void DoubleClickItem(const char* list, int row);
+  // Presses in the middle of the control, drags by so many pixels and releases. Returns the place of the
+  // release on the screen.
+  QPoint Drag(const char* control, QPoint by);
   // Types the text; '\n' is Enter, '\t' is Tab.
   void Type(const QString& text);
   // Alt and F4: what the window manager makes the close box's order of.
@@ -43,6 +48,7 @@ class Person {
 
  private:
   QPoint MiddleOf(const char* control);
+  QPoint MiddleOfItem(const char* list, int row);
   void PressKey(unsigned char keycode, bool shift);
   void PressKeysym(unsigned keysym);
   void Queue(unsigned char type, unsigned char detail, QPoint place = {});

@@ -8,6 +8,7 @@
 #include "editor/frmJournal.h"
 #include "platform/Files.h"
 #include "state/State.h"
+#include "tools/tour/PictureSittings.h"
 
 namespace {
 
@@ -44,6 +45,12 @@ void Unlock(Person& person, const QString& password) {
   person.SeeWindow("frmPass");
   person.Type(password + QLatin1Char('\n'));
   person.SeeWindow("frmBookcase");
+}
+
+void OpenMyDiary(Person& person) {
+  Unlock(person, Rosebud);
+  person.DoubleClickItem("ListView1", 0);
+  person.SeeWindow("frmJournal");
 }
 
 void PressExit(Person& person) {
@@ -122,9 +129,7 @@ void ReadItAgain(Person& person) {
   person.AnswerBox(QStringLiteral("password incorrect!"), QStringLiteral("OK"));
   person.Do(
       [] { QApplication::activeWindow()->findChild<QLineEdit*>(QStringLiteral("txtPass"))->selectAll(); });
-  Unlock(person, Rosebud);
-  person.DoubleClickItem("ListView1", 0);
-  person.SeeWindow("frmJournal");
+  OpenMyDiary(person);
   ExpectPage(person, QStringLiteral("Page 2"), QStringLiteral("The second day."));
   person.Click("btnBack");
   ExpectPage(
@@ -216,6 +221,11 @@ void OpenTheGardenNotes(Person& person) {
 
 const std::vector<Sitting>& Sittings() {
   static const auto leaveByCloseBox = [](Person& person) { person.CloseWindow(); };
+  static const auto leaveTheJournal = [](Person& person) {
+    person.CloseWindow();
+    person.SeeWindow("frmBookcase");
+    PressExit(person);
+  };
   static const std::vector<Sitting> all = {
       {"The first run, the first pages", nullptr, BeginADiary, PressExit},
       {"The lock, everything as it was left, and its export", nullptr,
@@ -224,18 +234,25 @@ const std::vector<Sitting>& Sittings() {
          ExportTheDiary(person);
        },
        leaveByCloseBox},
+      {"Three framed pictures, one dragged", nullptr,
+       [](Person& person) {
+         OpenMyDiary(person);
+         LayPictures(person);
+       },
+       leaveTheJournal},
+      {"The pictures where they lay, and one removed", nullptr,
+       [](Person& person) {
+         OpenMyDiary(person);
+         FindPicturesAgain(person);
+       },
+       leaveTheJournal},
       {"More journals, and one removed; ended by the system", nullptr,
        [](Person& person) {
          Unlock(person, Rosebud);
          AddAndDelete(person);
        },
        [](Person&) { raise(SIGTERM); }},
-      {"What the system's order to end has stored", nullptr, ComeBackAfterTheSystemEndedIt,
-       [](Person& person) {
-         person.CloseWindow();
-         person.SeeWindow("frmBookcase");
-         PressExit(person);
-       }},
+      {"What the system's order to end has stored", nullptr, ComeBackAfterTheSystemEndedIt, leaveTheJournal},
       {"A diary from elsewhere", "2-three-journals", OpenTheGardenNotes, PressExit},
       {"Left at the lock", "1-first-diary", [](Person& person) { person.SeeWindow("frmPass"); },
        [](Person& person) { person.Click("cmdCancel"); }},
