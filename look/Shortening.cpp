@@ -15,7 +15,7 @@ namespace {
 
 constexpr int FrameWidth = 2;  // pixels of a button's edge
 
-class ShorteningStyle : public QProxyStyle {
+class PlacedStyle : public QProxyStyle {
  public:
   void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette, bool enabled,
                     const QString& text, QPalette::ColorRole role) const override {
@@ -24,10 +24,18 @@ class ShorteningStyle : public QProxyStyle {
         isLine ? painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width(), flags) : text;
     QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, shown, role);
   }
-  // The margins of a button that chooses its own size are room for the text of one that does not.
+  // The margins of a button that chooses its own size are room for the text of one that does not; and the
+  // whole place of a control takes the click.
   QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override {
-    return element == SE_PushButtonContents ? option->rect.adjusted(FrameWidth, 0, -FrameWidth, 0)
-                                            : QProxyStyle::subElementRect(element, option, widget);
+    switch (element) {
+      case SE_PushButtonContents:
+        return option->rect.adjusted(FrameWidth, 0, -FrameWidth, 0);
+      case SE_CheckBoxClickRect:
+      case SE_RadioButtonClickRect:
+        return option->rect;
+      default:
+        return QProxyStyle::subElementRect(element, option, widget);
+    }
   }
 };
 
@@ -48,7 +56,7 @@ class WholeTextTip : public QObject {
 };
 
 struct Shortening {
-  QStyle* style = new ShorteningStyle;
+  QStyle* style = new PlacedStyle;
   QObject* tip = new WholeTextTip(qApp);
 };
 
