@@ -60,6 +60,13 @@ void HelpWindow::LayOut() {
   cmdBack->setEnabled(false);
   txtFind->setPlaceholderText(QStringLiteral("Find in this page"));
   txtFind->setAccessibleName(QStringLiteral("the words to find"));
+  for (const auto& [control, name] :
+       std::initializer_list<std::pair<QWidget*, const char*>>{{cmdBack, "cmdBack"},
+                                                               {txtFind, "txtFind"},
+                                                               {cmdFindNext, "cmdFindNext"},
+                                                               {lstContents, "lstContents"},
+                                                               {Browser, "Browser"}})
+    control->setObjectName(QLatin1String(name));
   lstContents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstContents->setAccessibleName(QStringLiteral("the chapters"));
   Browser->setAccessibleName(QStringLiteral("the help text"));

@@ -38,6 +38,7 @@ class Person {
   // Alt and F4: what the window manager makes the close box's order of.
   void CloseWindow();
   void PressEscape();
+  void PressF1();
   void Shot(const char* name);
 
   // Waits until the question is answered with yes, or fails with the words of what was expected.

@@ -9,10 +9,12 @@
 #include "platform/Files.h"
 #include "state/State.h"
 #include "tools/tour/PictureSittings.h"
+#include "tools/tour/SettingsSittings.h"
 
 namespace {
 
 const QString Rosebud = QStringLiteral("Rosebud7");
+const QString Thorn = QStringLiteral("Thorn 9");
 
 frmJournal& Book() {
   return look::The<frmJournal>();
@@ -208,11 +210,11 @@ void OpenTheGardenNotes(Person& person) {
   person.Shot("twelve-years-bookcase");
   person.Click("cmdOpen");
   person.SeeWindow("frmJournal");
+  ExpectPage(person, QStringLiteral("Title Page"), QStringLiteral("Twelve years\nof short notes"));
+  person.Click("btnLastPage");
   person.Expect(QStringLiteral("the last page"),
                 [] { return Book().face->lblPageNum1->text() == QStringLiteral("Page 120"); });
   person.Shot("twelve-years");
-  person.Click("btnFirstPage");
-  ExpectPage(person, QStringLiteral("Title Page"), QStringLiteral("Twelve years\nof short notes"));
   person.CloseWindow();
   person.SeeWindow("frmBookcase");
 }
@@ -253,6 +255,17 @@ const std::vector<Sitting>& Sittings() {
        },
        [](Person&) { raise(SIGTERM); }},
       {"What the system's order to end has stored", nullptr, ComeBackAfterTheSystemEndedIt, leaveTheJournal},
+      {"Three themes, and another password", nullptr,
+       [](Person& person) {
+         OpenMyDiary(person);
+         TryTheThemes(person);
+         ChangeThePassword(person, Rosebud, Thorn);
+         person.Do(&BringAStray);
+       },
+       PressExit},
+      {"Only the new password opens, and a stray journal stands there", nullptr,
+       [](Person& person) { ComeBackWithTheNewPassword(person, Rosebud, Thorn); }, PressExit},
+      {"Stray journals, and help in every window", "5-strays", AskForHelpEverywhere, PressExit},
       {"A diary from elsewhere", "2-three-journals", OpenTheGardenNotes, PressExit},
       {"Left at the lock", "1-first-diary", [](Person& person) { person.SeeWindow("frmPass"); },
        [](Person& person) { person.Click("cmdCancel"); }},
