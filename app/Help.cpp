@@ -57,5 +57,7 @@ void ShowHelp(QWidget* window) {
         std::string(failure.what()));
     return;
   }
-  theHelp->ShowTopic(TopicOf(window), window);
+  const QString topic = TopicOf(window);
+  if (QWidget* list = QApplication::activePopupWidget()) list->close();  // it would keep the mouse to itself
+  theHelp->ShowTopic(topic, *window);
 }

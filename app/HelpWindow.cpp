@@ -4,6 +4,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QShortcut>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QVBoxLayout>
@@ -35,9 +36,13 @@ HelpWindow::HelpWindow(const QString& html) : QWidget(nullptr, Qt::Window) {
   connect(cmdBack, &QPushButton::clicked, Browser, &QTextBrowser::backward);
   connect(Browser, &QTextBrowser::backwardAvailable, cmdBack, &QWidget::setEnabled);
   connect(lstContents, &QListWidget::itemActivated, this, [this] { Browser->setFocus(); });
-  connect(lstContents, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
+  const auto goToItem = [this](const QListWidgetItem* item) {
     if (item) GoTo(item->data(AnchorRole).toString());
-  });
+  };
+  connect(lstContents, &QListWidget::currentItemChanged, this, goToItem);
+  connect(lstContents, &QListWidget::itemClicked, this, goToItem);  // the marked chapter leads back as well
+  connect(Browser, &QTextBrowser::sourceChanged, this,
+          [this](const QUrl& place) { MarkChapter(place.fragment()); });
   connect(txtFind, &QLineEdit::returnPressed, this, &HelpWindow::FindNext);
   connect(txtFind, &QLineEdit::textEdited, this, [this] { TellWhetherFound(true); });
   connect(cmdFindNext, &QPushButton::clicked, this, &HelpWindow::FindNext);
@@ -55,6 +60,13 @@ void HelpWindow::LayOut() {
   cmdBack->setEnabled(false);
   txtFind->setPlaceholderText(QStringLiteral("Find in this page"));
   txtFind->setAccessibleName(QStringLiteral("the words to find"));
+  for (const auto& [control, name] :
+       std::initializer_list<std::pair<QWidget*, const char*>>{{cmdBack, "cmdBack"},
+                                                               {txtFind, "txtFind"},
+                                                               {cmdFindNext, "cmdFindNext"},
+                                                               {lstContents, "lstContents"},
+                                                               {Browser, "Browser"}})
+    control->setObjectName(QLatin1String(name));
   lstContents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstContents->setAccessibleName(QStringLiteral("the chapters"));
   Browser->setAccessibleName(QStringLiteral("the help text"));
@@ -82,6 +94,7 @@ void HelpWindow::ListContents(const QString& html) {
   for (const QRegularExpressionMatch& match : heading.globalMatch(html)) {
     auto* item = new QListWidgetItem(match.captured(2), lstContents);
     item->setData(AnchorRole, match.captured(1));
+    item->setToolTip(match.captured(2));  // for a title that has been cut short
   }
 }
 
@@ -95,16 +108,23 @@ void HelpWindow::GoTo(const QString& anchor) {
   Browser->setSource(QUrl(QStringLiteral("#") + anchor));
 }
 
-void HelpWindow::ShowTopic(const QString& anchor, QWidget* owner) {
+// Whatever led to the chapter: the list, a link in the text, the way back, or F1.
+void HelpWindow::MarkChapter(const QString& anchor) {
+  int row = lstContents->count() - 1;
+  while (row >= 0 && lstContents->item(row)->data(AnchorRole) != anchor) --row;
+  const QSignalBlocker noWayBack(lstContents);
+  if (lstContents->currentRow() != row) lstContents->setCurrentRow(row);
+}
+
+void HelpWindow::ShowTopic(const QString& anchor, const QWidget& window) {
   // A dialog blocks every window but its own children.
-  QWidget* parent = owner && owner->isModal() ? owner : nullptr;
+  QWidget* const parent = QApplication::activeModalWidget();
   if (parentWidget() != parent) setParent(parent, Qt::Window);
-  if (!isVisible()) move(owner->screen()->availableGeometry().center() - rect().center());
+  if (!isVisible()) move(window.screen()->availableGeometry().center() - rect().center());
   show();  // a chapter can be scrolled to only when the text has been laid out
   raise();
   activateWindow();
-  for (int row = 0; row < lstContents->count(); ++row)
-    if (lstContents->item(row)->data(AnchorRole) == anchor) lstContents->setCurrentRow(row);
+  GoTo(anchor);
   Browser->setFocus();
 }
 
@@ -118,7 +138,8 @@ void HelpWindow::FindNext() {
 
 void HelpWindow::TellWhetherFound(bool found) {
   QPalette palette;
-  if (!found) palette.setColor(QPalette::Text, QColor(0xb0, 0x30, 0x30));
+  const bool dark = palette.color(QPalette::Base).lightness() < 128;
+  if (!found) palette.setColor(QPalette::Text, dark ? QColor(0xff, 0x90, 0x90) : QColor(0xb0, 0x30, 0x30));
   txtFind->setPalette(palette);
   txtFind->setToolTip(found ? QString() : QStringLiteral("These words do not stand in the help."));
 }

@@ -22,9 +22,10 @@ class HelpWindow : public QWidget {
 
   // Whether the text has a chapter of that anchor.
   bool HasTopic(const QString& anchor) const;
-  // Shows the chapter, or the beginning for an anchor that the text does not have. Where `owner` blocks the
-  // other windows, the help belongs to it: it takes input all the same, and closes with it.
-  void ShowTopic(const QString& anchor, QWidget* owner);
+  // Shows the chapter, or the beginning for an empty anchor, on the screen of `window`. While a dialog blocks
+  // the other windows, the help belongs to it: it takes input all the same, and goes when the dialog is
+  // unloaded.
+  void ShowTopic(const QString& anchor, const QWidget& window);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -33,6 +34,7 @@ class HelpWindow : public QWidget {
   void LayOut();
   void ListContents(const QString& html);
   void GoTo(const QString& anchor);
+  void MarkChapter(const QString& anchor);
   void FindNext();
   void TellWhetherFound(bool found);
 };

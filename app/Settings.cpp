@@ -24,34 +24,41 @@ std::string FileText() {
   return platform::ReadProfile(platform::PathOf(FileName));
 }
 
-std::string ValueOf(const char* key) {
-  return platform::ProfileValue(FileText(), Section, key);
+struct Setting {
+  const char* key;
+  std::string value;
+};
+
+Setting SettingIn(const std::string& text, const char* key) {
+  return {key, platform::ProfileValue(text, Section, key)};
 }
 
-// The number that a text begins with; 0 for a text that begins with no digit.
-std::int32_t LeadingNumber(const std::string& text) {
+[[noreturn]] void Refuse(const Setting& setting, platform::FailureKind kind) {
+  throw platform::Failure(
+      kind, std::string(setting.key) + "=" + setting.value + " in " + platform::PathOf(FileName));
+}
+
+// The number that the value begins with; 0 where it begins with no digit. Quotes may have kept blanks before
+// it.
+std::int32_t LeadingNumber(const Setting& setting) {
+  const std::string& text = setting.value;
   std::int32_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error == std::errc::result_out_of_range) throw platform::Failure(platform::FailureKind::Overflow, text);
+  const std::size_t first = std::min(text.find_first_not_of(" \t"), text.size());
+  const auto [end, error] = std::from_chars(text.data() + first, text.data() + text.size(), number);
+  if (error == std::errc::result_out_of_range) Refuse(setting, platform::FailureKind::Overflow);
   return std::max(number, 0);
 }
 
-[[noreturn]] void Refuse(const char* key, const std::string& value) {
-  throw platform::Failure(platform::FailureKind::InvalidPropertyValue,
-                          std::string(key) + "=" + value + " in " + platform::PathOf(FileName));
-}
-
-void TakeGotoLastPage() {
-  const std::string value = ValueOf("chkGotoLastPage");
-  if (value.empty()) return;
-  const std::int32_t number = LeadingNumber(value);
-  if (number > 1) Refuse("chkGotoLastPage", value);
+void TakeGotoLastPage(const Setting& setting) {
+  if (setting.value.empty()) return;
+  const std::int32_t number = LeadingNumber(setting);
+  if (number > 1) Refuse(setting, platform::FailureKind::InvalidPropertyValue);
   chkGotoLastPage = number;
 }
 
-void TakeColor(const std::string& value, std::int32_t number) {
-  if (value.empty()) return;
-  if (number >= Themes) Refuse("optColor", value);
+void TakeColor(const Setting& setting, std::int32_t number) {
+  if (setting.value.empty()) return;
+  if (number >= Themes) Refuse(setting, platform::FailureKind::InvalidPropertyValue);
   optColor = number;
   if (number != 0) ApplyColorTheme(static_cast<std::int16_t>(number));
 }
@@ -61,12 +68,13 @@ void TakeColor(const std::string& value, std::int32_t number) {
 // Button 0 is on by design and tells of no change, so theme 0 is put on by a step of its own.
 void LoadSettings() {
   const auto guarded = [](auto&& statement) { platform::Guarded("GetIniError: ", statement); };
-  guarded(&TakeGotoLastPage);
-  std::string value;
+  std::string text;
+  guarded([&] { text = FileText(); });
+  guarded([&] { TakeGotoLastPage(SettingIn(text, "chkGotoLastPage")); });
+  const Setting color = SettingIn(text, "optColor");
   std::int32_t number = 0;
-  guarded([&] { value = ValueOf("optColor"); });
-  guarded([&] { number = LeadingNumber(value); });
-  guarded([&] { TakeColor(value, number); });
+  guarded([&] { number = LeadingNumber(color); });
+  guarded([&] { TakeColor(color, number); });
   if (number == 0) guarded([] { ApplyColorTheme(0); });
 }
 

@@ -34,6 +34,8 @@ frmOptions::frmOptions()
   LayOut();
   chkGotoLastPage->setChecked(::chkGotoLastPage == 1);
   optColor.at(static_cast<std::size_t>(::optColor))->setChecked(true);
+  for (auto* button : optColor)  // Tab leads to the chosen one, the arrow keys to the others
+    button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
   WearTheme();
   connect(chkGotoLastPage, &QCheckBox::toggled, this, &frmOptions::chkGotoLastPage_Click);
   for (std::size_t i = 0; i < optColor.size(); ++i)
@@ -56,8 +58,8 @@ void frmOptions::LayOut() {
   optColor[1] = Place(radio("Pink"),   "optColor(1)", 180, 840, 2040, 390);
   optColor[2] = Place(radio("Purple"), "optColor(2)", 180, 1290, 2040, 390);
   cmdResetPass       = Place(new look::PictureButton(QStringLiteral("Change Password"), this), "cmdResetPass", 2880, 780, 2280, 450);
-  cmdClose           = Place(new look::PictureButton(QStringLiteral("Close"), this), "cmdClose", 3240, 2910, 1920, 450);
   cmdHelp            = Place(new look::PictureButton(QStringLiteral("Help"), this), "cmdHelp", 240, 2910, 1320, 450);
+  cmdClose           = Place(new look::PictureButton(QStringLiteral("Close"), this), "cmdClose", 3240, 2910, 1920, 450);
   // clang-format on
   cmdClose->setDefault(true);
 }

@@ -9,7 +9,8 @@
 int main(int argc, char** argv) {
   const platform::ActivationToken token = platform::RunningInstance::TokenOfThisStart();
   platform::Application application(argc, argv);
-  QGuiApplication::setDesktopFileName(QStringLiteral("thornquill"));  // whose icon and entry the desktop shows
+  QGuiApplication::setDesktopFileName(
+      QStringLiteral("thornquill"));  // whose icon and entry the desktop shows
   application.SetLastWill(&StoreOpenPage);
   platform::RunningInstance instance;
   platform::ListenForTheWayOut(&LeaveTheProgram);

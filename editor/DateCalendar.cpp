@@ -13,6 +13,8 @@
 
 namespace {
 
+constexpr QColor WeekendInk(0x68, 0x14, 0x24);  // the toolkit's red is hard to read on a pale colour
+
 // Where a desktop opens things with one click, a click must still do no more than select its day.
 class TwoClickStyle : public QProxyStyle {
  public:
@@ -82,6 +84,10 @@ void DateCalendar::SetValue(double date) {
 }
 
 void DateCalendar::SetBackColor(const QColor& color) {
+  if (!color.isValid()) return setPalette({});
+  QTextCharFormat weekend;
+  weekend.setForeground(WeekendInk);
+  for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
   QPalette colors(color, color);
   colors.setColor(QPalette::Base, color);
   colors.setColor(QPalette::AlternateBase, color.darker(106));

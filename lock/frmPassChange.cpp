@@ -54,7 +54,9 @@ bool frmPassChange::Complain() {
     ShowStop("New password entries do not match!", txtNewPass);
     txtNewPass->clear();
     txtNewPass2->clear();
-  } else if (!IsPasswordTooLong(txtNewPass->Bytes())) {
+  } else if (IsPasswordTooLong(txtNewPass->Bytes())) {
+    txtNewPass->setFocus(Qt::OtherFocusReason);
+  } else {
     return false;
   }
   return true;

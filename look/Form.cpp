@@ -6,11 +6,13 @@
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 
 #include "look/Emblem.h"
 #include "look/Pass.h"
+#include "look/Shortening.h"
 #include "look/Theme.h"
 #include "platform/Rounding.h"
 
@@ -146,7 +148,10 @@ void Form::PlaceWidget(QWidget* control, const char* name, int left, int top, in
   control->setGeometry(Pixels(left), Pixels(top), Pixels(width), Pixels(height));
   if (!accessibleName.isEmpty()) control->setAccessibleName(accessibleName);
   // A name with a less-than sign is shown as it is.
-  if (auto* label = qobject_cast<QLabel*>(control)) label->setTextFormat(Qt::PlainText);
+  auto* label = qobject_cast<QLabel*>(control);
+  if (label) label->setTextFormat(Qt::PlainText);
+  const auto* button = qobject_cast<QAbstractButton*>(control);
+  if (label || (button && !button->text().isEmpty())) ShortenWhatOutgrows(*control);
 }
 
 void Discard(Form* form) {

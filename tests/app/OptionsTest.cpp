@@ -43,7 +43,7 @@ TEST_F(OptionsTest, ABadValueCostsOneMessageAndNoMore) {
       {"abc", "abc", "00", 0, {}},
       {" 1 and more", "1.9", "11", 1, {}},
       {"5", "-1", "10", 0, {"GetIniError: Invalid property value: chkGotoLastPage=5 in " + name}},
-      {"", "99999999999", "10", 0, {"GetIniError: Overflow: 99999999999"}},
+      {"\" 0\"", "99999999999", "00", 0, {"GetIniError: Overflow: optColor=99999999999 in " + name}},
   };
   look::PutOnTheme(1);
   for (const auto& each : cases) {
@@ -81,6 +81,10 @@ TEST_F(OptionsTest, AThemeDressesTheOpenWindowsAtOnceAndIsFoundAgain) {
   EXPECT_EQ(Settings(), "02");
   EXPECT_TRUE(Dialog().optColor[2]->isChecked());
   EXPECT_FALSE(Dialog().chkGotoLastPage->isChecked());
+  Dialog().show();
+  Dialog().chkGotoLastPage->setFocus();
+  QTest::keyClick(Dialog().chkGotoLastPage, Qt::Key_Tab);
+  EXPECT_EQ(Dialog().focusWidget(), Dialog().optColor[2]) << "and not the first button";
 }
 
 // The file is right, but the next touch of a control finds the design's values, and the next close writes
@@ -108,7 +112,9 @@ TEST_F(OptionsTest, TellsOfAFileThatCannotBeWritten) {
   Click(Dialog().cmdClose);
   EXPECT_NE(answers.last().find("journal.ini"), std::string::npos);
   EXPECT_FALSE(Dialog().isVisible());
+  answers.messages.clear();
   LoadSettings();
+  ASSERT_EQ(answers.messages.size(), 1u) << "once for the file";
   EXPECT_EQ(answers.last().substr(0, 13), "GetIniError: ");
 }
 
@@ -173,6 +179,10 @@ TEST_F(HelpTest, F1LeadsToTheChapterOfTheWindowAlsoWhileItBlocksTheOthers) {
                "one</a></h2>needle<p>needle");
   QTest::keyClick(bookcase.ListView1, Qt::Key_F1);
   EXPECT_EQ(Chapter(), u"The bookcase");
+  Window()->Browser->setSource(QUrl(QStringLiteral("#frmNewJournal")));  // as a link in the text does
+  EXPECT_EQ(Chapter(), u"A new one");
+  QTest::keyClick(bookcase.ListView1, Qt::Key_F1);
+  EXPECT_EQ(Chapter(), u"The bookcase") << "the key leads back";
   QTimer::singleShot(0, [] {
     auto& dialog = look::The<frmNewJournal>();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
@@ -197,9 +207,10 @@ TEST_F(HelpTest, TheHelpHasAChapterForEachWindow) {
   QFile file(QStringLiteral(TEST_SAMPLES "/../../help/THORNQUILL.HLP"));
   ASSERT_TRUE(file.open(QFile::ReadOnly));
   const HelpWindow help(QString::fromUtf8(file.readAll()));
-  for (const char* name : {"frmPass", "frmInitJournal", "frmBookcase", "frmNewJournal", "frmJournal",
-                           "frmIndex", "frmCal", "frmEmoticons", "frmAddPicture", "frmJournalProp",
-                           "frmExport", "frmOptions", "frmPassChange", "frmAbout", "FontDialog"})
+  for (const char* name :
+       {"frmPass", "frmInitJournal", "frmBookcase", "frmNewJournal", "frmJournal", "frmIndex", "frmCal",
+        "frmEmoticons", "frmAddPicture", "frmJournalProp", "frmExport", "frmOptions", "frmPassChange",
+        "frmAbout", "FontDialog", "ColorDialog", "OpenFileDialog", "PrintDialog"})
     EXPECT_TRUE(help.HasTopic(QString::fromLatin1(name))) << name;
 }
 

@@ -141,6 +141,15 @@ TEST_F(CalendarTest, ADayKeepsTheTimeOfTheOneThatWasSet) {
   EXPECT_EQ(calendar.selectedDate(), QDate(2023, 2, 28)) << "the day goes along into another month";
 }
 
+// A theme of no number has no surface; the desktop may be a dark one.
+TEST_F(CalendarTest, WearsTheDesktopsColoursWithoutASurface) {
+  DateCalendar calendar;
+  calendar.SetBackColor(QColor(0xFF, 0xC0, 0xC0));
+  EXPECT_EQ(calendar.BackColor(), QColor(0xFF, 0xC0, 0xC0));
+  calendar.SetBackColor({});
+  EXPECT_EQ(calendar.BackColor(), QApplication::palette().color(QPalette::Base));
+}
+
 TEST_F(CalendarTest, DatesThePageWithoutMovingOrDirtyingIt) {
   const std::int32_t row = AddJournal({"cover", "one", "two"});
   Open(row);

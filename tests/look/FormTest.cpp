@@ -1,7 +1,9 @@
 #include <QtGui/QClipboard>
+#include <QtGui/QHelpEvent>
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolTip>
@@ -9,6 +11,7 @@
 #include "look/CodePageEdit.h"
 #include "look/Emblem.h"
 #include "look/Pass.h"
+#include "look/Shortening.h"
 #include "look/Theme.h"
 #include "look/frmWait.h"
 #include "tests/support/Windows.h"
@@ -87,6 +90,26 @@ TEST_F(FormTest, WritesDarkOnThePictureOfADarkDesktop) {
   EXPECT_LT(dialog.label->palette().color(QPalette::WindowText).lightness(), 64);
   EXPECT_GT(dialog.box->palette().color(QPalette::Base).lightness(), 192);
   QApplication::setPalette(QPalette());
+}
+
+TEST_F(FormTest, ATextThatOutgrowsItsPlaceIsItsToolTip) {
+  const QString whole = QStringLiteral("somewhat <longer> than the hundred pixels that are here for it");
+  auto& dialog = ShownDialog();
+  const auto tipOver = [](QWidget& control) {
+    QHelpEvent ask(QEvent::ToolTip, QPoint(1, 1), control.mapToGlobal(QPoint(1, 1)));
+    QCoreApplication::sendEvent(&control, &ask);
+    return QToolTip::text();
+  };
+  EXPECT_EQ(tipOver(*dialog.label), QString());
+  EXPECT_EQ(look::OutgrownText(*dialog.label), QString());
+  dialog.label->setText(whole);
+  EXPECT_EQ(look::OutgrownText(*dialog.label), whole);
+  EXPECT_EQ(tipOver(*dialog.label), QStringLiteral("<p>") + whole.toHtmlEscaped() + QStringLiteral("</p>"));
+  QToolTip::hideText();
+  QCheckBox box(QStringLiteral("Go &on"));
+  EXPECT_EQ(look::OutgrownText(box), QString());
+  box.resize(40, 20);
+  EXPECT_EQ(look::OutgrownText(box), QStringLiteral("Go on"));
 }
 
 TEST_F(FormTest, InputOfAPassWaitsForItsEndInOrder) {

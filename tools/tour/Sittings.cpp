@@ -10,11 +10,13 @@
 #include "state/State.h"
 #include "tools/tour/PictureSittings.h"
 #include "tools/tour/PrintSitting.h"
+#include "tools/tour/SettingsSittings.h"
 #include "tools/tour/ToolSittings.h"
 
 namespace {
 
 const QString Rosebud = QStringLiteral("Rosebud7");
+const QString Thorn = QStringLiteral("Thorn 9");
 
 frmJournal& Book() {
   return look::The<frmJournal>();
@@ -264,6 +266,17 @@ const std::vector<Sitting>& Sittings() {
        },
        [](Person&) { raise(SIGTERM); }},
       {"What the system's order to end has stored", nullptr, ComeBackAfterTheSystemEndedIt, leaveTheJournal},
+      {"Three themes, and another password", nullptr,
+       [](Person& person) {
+         OpenMyDiary(person);
+         TryTheThemes(person);
+         ChangeThePassword(person, Rosebud, Thorn);
+         person.Do(&BringAStray);
+       },
+       PressExit},
+      {"Only the new password opens, and a stray journal stands there", nullptr,
+       [](Person& person) { ComeBackWithTheNewPassword(person, Rosebud, Thorn); }, PressExit},
+      {"Stray journals, and help in every window", "5-strays", AskForHelpEverywhere, PressExit},
       {"A diary from elsewhere", "2-three-journals", LeafThroughTheGardenNotes, PressExit},
       {"The index, the calendar, a font and an emoticon", "2-three-journals",
        [](Person& person) {
