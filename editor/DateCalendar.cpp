@@ -85,9 +85,6 @@ void DateCalendar::SetValue(double date) {
 
 void DateCalendar::SetBackColor(const QColor& color) {
   if (!color.isValid()) return setPalette({});
-  QTextCharFormat weekend;
-  weekend.setForeground(WeekendInk);
-  for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
   QPalette colors(color, color);
   colors.setColor(QPalette::Base, color);
   colors.setColor(QPalette::AlternateBase, color.darker(106));

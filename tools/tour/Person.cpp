@@ -19,7 +19,7 @@ namespace {
 
 constexpr int PatienceMs = 10000;
 constexpr unsigned ReturnKey = 0xff0d, TabKey = 0xff09, EscapeKey = 0xff1b, ShiftKey = 0xffe1,
-                   AltKey = 0xffe9, F1Key = 0xffbe, F4Key = 0xffc1;
+                   AltKey = 0xffe9, F4Key = 0xffc1;
 
 struct KeyPlace {
   unsigned char keycode = 0;  // 0: no key has the symbol
