@@ -15,7 +15,7 @@ struct Entry {
 };
 
 std::string Key(int number) {
-  return "d" + std::to_string(number);
+  return std::string("d").append(std::to_string(number));
 }
 
 std::vector<Entry> EntriesOf(std::span<const JournalPage> pages) {
