@@ -3,8 +3,6 @@
 add_library(thornquill_options INTERFACE)
 target_compile_options(thornquill_options INTERFACE -Wall -Wextra -Wshadow -Wnon-virtual-dtor
                                                     -Woverloaded-virtual)
-# GCC 12 sees a copy onto itself in "text" + std::string when it optimises; there is none.
-target_compile_options(thornquill_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 if(THORNQUILL_WARNINGS_AS_ERRORS)
   target_compile_options(thornquill_options INTERFACE -Werror)
 endif()
