@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr QColor WeekendInk(0x68, 0x14, 0x24);  // the toolkit's red is hard to read on a pale colour
 
 // Where a desktop opens things with one click, a click must still do no more than select its day.
 class TwoClickStyle : public QProxyStyle {
