@@ -13,7 +13,6 @@
 
 namespace {
 
-
 // Where a desktop opens things with one click, a click must still do no more than select its day.
 class TwoClickStyle : public QProxyStyle {
  public:
