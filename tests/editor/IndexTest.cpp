@@ -148,6 +148,7 @@ TEST_F(CalendarTest, WearsTheDesktopsColoursWithoutASurface) {
 }
 
 TEST_F(CalendarTest, DatesThePageWithoutMovingOrDirtyingIt) {
+  look::PutOnTheme(1);
   const std::int32_t row = AddJournal({"cover", "one", "two"});
   Open(row);
   window().PageLast();
