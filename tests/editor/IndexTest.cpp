@@ -151,7 +151,7 @@ TEST_F(CalendarTest, WearsTheDesktopsColoursWithoutASurface) {
 }
 
 TEST_F(CalendarTest, DatesThePageWithoutMovingOrDirtyingIt) {
-  look::PutOnTheme(2);
+  look::PutOnTheme(1);
   const std::int32_t row = AddJournal({"cover", "one", "two"});
   Open(row);
   window().PageLast();
