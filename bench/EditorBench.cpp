@@ -11,7 +11,6 @@
 #include "editor/PageTurning.h"
 #include "editor/frmIndex.h"
 #include "editor/frmJournal.h"
-#include "platform/Application.h"
 #include "platform/Files.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
@@ -185,11 +184,3 @@ BENCHMARK(OpenTheIndex)
     ->UseRealTime();
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  platform::Application application(argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  look::UnloadAllForms();
-  return 0;
-}

@@ -12,7 +12,6 @@
 #include "output/HtmlSections.h"
 #include "output/ReplaceText.h"
 #include "output/modExport.h"
-#include "platform/Application.h"
 #include "platform/Files.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
@@ -140,11 +139,3 @@ void ReplaceLineEndsInAMegabyte(benchmark::State& state) {
 BENCHMARK(ReplaceLineEndsInAMegabyte)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  platform::Application application(argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  look::UnloadAllForms();
-  return 0;
-}

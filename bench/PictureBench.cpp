@@ -11,7 +11,6 @@
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
-#include <QtWidgets/QApplication>
 
 #include "bench/Beside.h"
 #include "pictures/AddPicture.h"
@@ -123,11 +122,3 @@ void ScaleSeenLive(benchmark::State& state) {
 BENCHMARK(ScaleSeenLive)->Arg(10)->Arg(25)->Arg(200)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  QApplication application(argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  look::UnloadAllForms();
-  return 0;
-}

@@ -10,7 +10,6 @@
 #include "output/JoinedPages.h"
 #include "output/PrintDialog.h"
 #include "output/modPrint.h"
-#include "platform/Application.h"
 #include "state/State.h"
 #include "store/PageCipher.h"
 
@@ -84,11 +83,3 @@ void PrintAllToPdf(benchmark::State& state) {
 BENCHMARK(PrintAllToPdf)->Arg(1000)->Arg(10000)->Iterations(1)->Unit(benchmark::kSecond)->UseRealTime();
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  platform::Application application(argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  look::UnloadAllForms();
-  return 0;
-}

@@ -1,0 +1,13 @@
+// The main of every benchmark that shows windows.
+#include <benchmark/benchmark.h>
+
+#include "look/Form.h"
+#include "platform/Application.h"
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  platform::Application application(argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  look::UnloadAllForms();
+  return 0;
+}
