@@ -104,7 +104,7 @@ void Main(platform::RunningInstance& instance, const platform::ActivationToken& 
   QApplication::setQuitOnLastWindowClosed(false);  // the windows hide for one another; EndProcess alone ends
   ActivatePrevInstance(instance, token);
   QObject::connect(&instance, &platform::RunningInstance::ActivationRequested, &ComeToTheFront);
-  platform::RemoveStaleTemporaries(platform::ProgramFolder());
+  platform::RemoveUnfinished(platform::ProgramFolder());
   TellWhenTheFolderIsReadOnly();
   AnswerF1();
   LoadSettings();

@@ -35,6 +35,14 @@ bool SameLetters(std::string_view text, std::string_view lowerCase) {
   return text.size() == lowerCase.size() && qstrnicmp(text.data(), lowerCase.data(), lowerCase.size()) == 0;
 }
 
+// True for a name that matches "*.tqf" and is not hidden. The pattern comes from systems that do not tell
+// capitals from small letters, and so do diaries copied from there.
+bool IsJournalFileName(std::string_view name) {
+  constexpr std::string_view ending = ".tqf";
+  return name.size() >= ending.size() && name.front() != '.' &&
+         SameLetters(name.substr(name.size() - ending.size()), ending);
+}
+
 }  // namespace
 
 std::string ProgramFolder() {
@@ -70,14 +78,6 @@ std::vector<std::string> NamesIn(const std::string& folder) {
   if (!listing) return names;
   while (const dirent* entry = readdir(listing.get())) names.emplace_back(entry->d_name);
   return names;
-}
-
-// The pattern comes from systems that do not tell capitals from small letters, and so do diaries copied from
-// there.
-bool IsJournalFileName(std::string_view name) {
-  constexpr std::string_view ending = ".tqf";
-  return name.size() >= ending.size() && name.front() != '.' &&
-         SameLetters(name.substr(name.size() - ending.size()), ending);
 }
 
 std::vector<std::string> ListJournalFiles(const std::string& folder) {

@@ -61,8 +61,8 @@ std::string ReadFile(const std::string& path, std::uint64_t most = std::uint64_t
 
 // The one way a data file is written: the file holds `bytes` afterwards, or, on failure, what it held before.
 // The new bytes are on the disk before they take the name in one step. Throws DiskFull, PermissionDenied,
-// PathNotFound, DeviceError or PathAccess. A kill in the last moment can leave one file named as
-// IsStaleTemporary tells.
+// PathNotFound, DeviceError or PathAccess. A process that is killed meanwhile can leave one file beside it
+// that is called as UnfinishedEnding tells.
 void ReplaceFile(const std::string& path, std::string_view bytes);
 // The same with the bytes in pieces, one behind the other, so that they need not be brought together first.
 void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces);
@@ -101,11 +101,11 @@ void DeleteFile(const std::string& path);
 // Returns the copy's path; throws FileNotFound, or as ReplaceFile does when there can be no copy.
 std::string KeepDamaged(const std::string& path);
 
-// Removes the temporary files that a killed process may have left in the folder: the names of the program's
-// own data files with "." and six random letters behind them, capitals and small ones mixed. What a person
-// may have named, such as journal.tqt.backup, is left alone. Failures are ignored.
-void RemoveStaleTemporaries(const std::string& folder);
-bool IsStaleTemporary(std::string_view fileName);
+// What the name of a file that is being written has behind the name that it will take.
+inline constexpr std::string_view UnfinishedEnding = ".thornquill-unfinished";
+
+// Removes the files that a killed process did not finish. Failures are ignored.
+void RemoveUnfinished(const std::string& folder);
 
 // The names (no folder, in the code page) of the files that match "*.tqf", in the order of their bytes. A
 // name that the code page cannot hold is left out.

@@ -1,14 +1,14 @@
-// Writing a file in one step: the bytes go into a nameless file, and when they are on the disk that file
-// takes the old one's name.
+// Writing a file in one step: the bytes go into a file of their own beside it, and when they are on the disk
+// that file takes the old one's name.
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
-
-#include <QtCore/QFile>
-#include <QtCore/QSaveFile>
+#include <utility>
 
 #include "platform/Errno.h"
 #include "platform/Files.h"
@@ -16,48 +16,77 @@
 namespace platform {
 namespace {
 
-// A path for the toolkit, which knows only paths that decode. A folder whose bytes do not is reached through
-// its descriptor.
-class ToolkitPath {
- public:
-  explicit ToolkitPath(const std::string& path) : path_(QFile::decodeName(path.c_str())) {
-    if (QFile::encodeName(path_) == path.c_str()) return;
-    const std::size_t slash = path.rfind('/');
-    folder_ = open(path.substr(0, slash + 1).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
-    path_ = QStringLiteral("/proc/self/fd/%1/").arg(folder_) + QFile::decodeName(&path[slash + 1]);
-  }
-  ~ToolkitPath() {
-    if (folder_ >= 0) close(folder_);
-  }
-  ToolkitPath(const ToolkitPath&) = delete;
-  ToolkitPath& operator=(const ToolkitPath&) = delete;
-  const QString& path() const { return path_; }
-
- private:
-  QString path_;
-  int folder_ = -1;
-};
-
 [[noreturn]] void Fail(int error, const std::string& path) {
   throw FailureOf(error, path, FailureKind::PathNotFound);
 }
 
-// The toolkit tells of its failures in words; the error number that the system left behind is plainer.
-template <class Step>
-void Must(const std::string& path, Step&& step) {
-  errno = 0;
-  if (!step()) Fail(errno, path);
-}
-
-// A write that the system accepted may still fail on its way to the disk. This must be known before the old
-// file is given up, and the toolkit does not look.
-bool Sync(const QSaveFile& file) {
-  return fsync(file.handle()) == 0 || errno == EINVAL || errno == ENOTSUP;
-}
-
 // A file that is kept from being changed is not to be replaced either, though the folder would allow it.
-bool MayChange(const std::string& path) {
-  return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 || errno == ENOENT;
+void RefuseUnchangeable(const std::string& path) {
+  if (faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0 && errno != ENOENT) Fail(errno, path);
+}
+
+// The longest name that file systems take, in bytes.
+constexpr std::size_t LongestName = 255;
+
+std::string UnfinishedName(const std::string& target) {
+  const std::size_t name = target.rfind('/') + 1;
+  return target.substr(0, name + std::min(target.size() - name, LongestName - UnfinishedEnding.size())) +
+         std::string(UnfinishedEnding);
+}
+
+// Where the file itself lies, or would lie: a link to another place stays a link.
+std::string RealPath(const std::string& path) {
+  std::error_code error;
+  std::filesystem::path real(path);
+  for (int links = 0; links < 40 && std::filesystem::is_symlink(real, error); ++links)
+    real = real.parent_path() / std::filesystem::read_symlink(real, error);
+  return real.string();
+}
+
+// The file that is written, under a name of its own until it is whole. It goes again unless it took the
+// other's name.
+class Unfinished {
+ public:
+  // `path` is named in failures; `target` is where the file itself lies.
+  Unfinished(const std::string& path, const std::string& target);
+  ~Unfinished();
+  Unfinished(const Unfinished&) = delete;
+  Unfinished& operator=(const Unfinished&) = delete;
+
+  void Write(std::span<const std::string_view> pieces);
+  void TakeTheName();
+
+ private:
+  void Must(bool succeeded) const {
+    if (!succeeded) Fail(errno, path_);
+  }
+  void TakePermissionsOf(const std::string& target) const;
+
+  const std::string& path_;
+  const std::string& target_;
+  std::string name_;
+  int descriptor_;
+};
+
+// One that a killed process left is in nobody's use: there is one program for each folder.
+Unfinished::Unfinished(const std::string& path, const std::string& target)
+    : path_(path), target_(target), name_(UnfinishedName(target)) {
+  unlink(name_.c_str());
+  descriptor_ = open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  Must(descriptor_ >= 0);
+  TakePermissionsOf(target);
+}
+
+Unfinished::~Unfinished() {
+  if (descriptor_ >= 0) close(descriptor_);
+  if (!name_.empty()) unlink(name_.c_str());
+}
+
+// As far as the file system knows any: a failure changes nothing of what is saved.
+void Unfinished::TakePermissionsOf(const std::string& target) const {
+  struct stat entry {};
+  if (stat(target.c_str(), &entry) != 0) return;
+  [[maybe_unused]] const int ignored = fchmod(descriptor_, entry.st_mode & 0777);
 }
 
 // How many pieces one call to the system takes.
@@ -89,12 +118,21 @@ void WriteBatch(int descriptor, std::span<iovec> left, const std::string& path) 
   }
 }
 
-void WriteAll(int descriptor, std::span<const std::string_view> pieces, const std::string& path) {
+void Unfinished::Write(std::span<const std::string_view> pieces) {
   while (!pieces.empty()) {
     Batch batch = BatchOf(pieces);
     pieces = pieces.subspan(batch.size());
-    WriteBatch(descriptor, batch, path);
+    WriteBatch(descriptor_, batch, path_);
   }
+}
+
+// A write that the system accepted may still fail on its way to the disk. This must be known before the old
+// file is given up; a disk behind a network tells when the file is closed.
+void Unfinished::TakeTheName() {
+  Must(fsync(descriptor_) == 0 || errno == EINVAL || errno == ENOTSUP);
+  Must(close(std::exchange(descriptor_, -1)) == 0 || errno == EINTR);
+  Must(std::rename(name_.c_str(), target_.c_str()) == 0);
+  name_.clear();
 }
 
 }  // namespace
@@ -104,21 +142,19 @@ void ReplaceFile(const std::string& path, std::string_view bytes) {
 }
 
 void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces) {
-  Must(path, [&] { return MayChange(path); });
-  const ToolkitPath forToolkit(path);
-  QSaveFile file(forToolkit.path());
-  Must(path, [&] { return file.open(QFile::WriteOnly | QFile::Unbuffered); });
-  WriteAll(file.handle(), pieces, path);
-  Must(path, [&] { return Sync(file); });
-  Must(path, [&] { return file.commit(); });
+  RefuseUnchangeable(path);
+  const std::string target = RealPath(path);
+  Unfinished file(path, target);
+  file.Write(pieces);
+  file.TakeTheName();
 }
 
 bool CanWriteTo(const std::string& folder) {
   const int nameless = open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
   if (nameless >= 0) return close(nameless) == 0;
   if (errno != EOPNOTSUPP && errno != EISDIR) return false;
-  std::string trial = folder + "/.trial-XXXXXX";
-  const int descriptor = mkostemp(trial.data(), O_CLOEXEC);
+  const std::string trial = folder + "/trial" + std::string(UnfinishedEnding);
+  const int descriptor = open(trial.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
   if (descriptor < 0) return false;
   close(descriptor);
   return unlink(trial.c_str()) == 0;
