@@ -128,13 +128,14 @@ void LeaveTheProgram() {
     platform::EndProcess();
     return;
   }
-  if (!JournalStaysOpen()) SaveAndExit();
+  if (!JournalStaysOpen() && SavePicturesLeftUnsaved()) SaveAndExit();
 }
 
 void SaveWithoutDisplay() {
   if (!BookcaseLoaded) return;
   platform::SetMessageAnswerer([](const platform::Message&) { return platform::Answer::Ok; });
   StoreOpenPage();
+  SavePicturesLeftUnsaved();
   try {
     SaveJournalIndex();
   } catch (const std::exception&) {

@@ -239,7 +239,7 @@ void frmBookcase::cmdHelp_Click() {
 }
 
 void frmBookcase::cmdClose_Click() {
-  SaveAndExit();
+  if (SavePicturesLeftUnsaved()) SaveAndExit();
 }
 
 void frmBookcase::CloseBox() {

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <limits>
 #include <optional>
+#include <stdexcept>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -97,6 +99,17 @@ bool TextIsCurrentPage() {
   return PagesJournal != 0 && PagesJournal == CurrentJournal && TextPage >= 0 && TextPage == CurrentPage;
 }
 
+void SaveOpenJournal() {
+  try {
+    SaveJournalFile(Journals.at(static_cast<std::size_t>(CurrentJournal)).FileName);
+  } catch (const platform::Failure& failure) {
+    throw std::runtime_error(
+        std::string(failure.what()) +
+        "\n\nNothing is lost: the page stays in the open journal, and the file is as it was. When the cause "
+        "is removed, the next page that you change saves it too, or closing the journal does.");
+  }
+}
+
 }  // namespace
 
 void ShowCurrentPage() {
@@ -132,7 +145,7 @@ void StoreCurrentPage() {
     PageRow(CurrentPage).Body = Enciphered(text);
     enciphered = true;
   });
-  guarded([] { SaveJournalFile(Journals.at(static_cast<std::size_t>(CurrentJournal)).FileName); });
+  guarded(SaveOpenJournal);
   if (enciphered) PageDirty = False;  // otherwise the text is in the box alone, and must be stored yet
   guarded(EndProgress);
 }
@@ -140,6 +153,7 @@ void StoreCurrentPage() {
 void StoreOpenPage() {
   if (PagesJournal == 0 || TextPage < 0 || !Face().window()->isVisible()) return;
   const std::int32_t shown = std::exchange(CurrentPage, TextPage);
+  if (PageDirty == False && PagesUnsaved) platform::Guarded(EncryptionError, SaveOpenJournal);
   StoreCurrentPage();
   CurrentPage = shown;
 }

@@ -13,8 +13,8 @@ void ShowCurrentPage();
 void StoreCurrentPage();
 
 // For the end of the program on a failure: stores the text box's text as StoreCurrentPage does, but into the
-// row that it came from, wherever the failure has left CurrentPage. Nothing is stored unless the journal
-// window is shown with its journal.
+// row that it came from, wherever the failure has left CurrentPage. What an earlier failure kept from the
+// file is written as well. Nothing is stored unless the journal window is shown with its journal.
 void StoreOpenPage();
 
 // The RTF of any page, 0 to PageCount; changes no variable. Empty for a page that was never stored.

@@ -18,5 +18,8 @@ void ImportOldPictureStore();
 // there is no row 0: before a store was loaded or a picture was added.
 void SavePictureStore();
 
+// SavePictureStore, if the last one failed. Whether everything is in the file now.
+bool SavePicturesLeftUnsaved();
+
 // Marks the rows of the journal with this FileName as removed. Saves nothing.
 void RemovePicturesOf(const std::string& journalFile);

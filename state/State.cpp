@@ -20,6 +20,9 @@ std::int32_t PictureCount = 0;
 std::int32_t PagesJournal = 0;
 std::int32_t TextPage = -1;
 
+bool PagesUnsaved = false;
+bool PicturesUnsaved = false;
+
 std::int32_t chkGotoLastPage = 1;
 std::int32_t optColor = 0;
 
@@ -32,6 +35,7 @@ void ForgetPages() {
   PageDirty = False;
   PagesJournal = 0;
   TextPage = -1;
+  PagesUnsaved = false;
 }
 
 void ResetState() {
@@ -41,6 +45,7 @@ void ResetState() {
   CurrentJournal = 0;
   Pictures.clear();
   PictureCount = 0;
+  PicturesUnsaved = false;
   MasterPassword.clear();
   PageShift = 0;
   BookcaseLoaded = false;

@@ -96,6 +96,10 @@ extern bool BookcaseLoaded;
 extern std::int32_t PagesJournal;  // the row of Journals that Pages was read for; 0 while Pages is erased
 extern std::int32_t TextPage;      // the row of Pages that the text box's text came from; -1 for none
 
+// Whether the last try to write the open journal, or the pictures, failed: the file lacks what memory holds.
+extern bool PagesUnsaved;
+extern bool PicturesUnsaved;
+
 // The two settings.
 extern std::int32_t chkGotoLastPage;  // 1: a journal opens on its last page; 0: on its title page
 extern std::int32_t optColor;         // the theme: 0 blue, 1 pink, 2 purple

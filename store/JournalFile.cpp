@@ -238,11 +238,13 @@ std::string& WithFallbackName(std::string& fileName) {
 void SaveJournalFile(const std::string& fileName) {
   if (MasterPassword.empty()) platform::ShowMessage("password is null on save!");
   store::RefuseForeignPages(fileName);
+  PagesUnsaved = true;
   const std::string path = platform::PathOf(fileName);
   const store::JournalPieces journal(Pages, MasterPassword);
   store::RefuseAlienFile(path);
   store::KeepDamagedFile(path);
   platform::ReplaceFile(path, journal.pieces());
+  PagesUnsaved = false;
 }
 
 std::int32_t PeekJournalPageCount(std::string& fileName) {
