@@ -14,9 +14,10 @@ void SaveOrTell() {
   try {
     SaveSettings();
   } catch (const platform::Failure& failure) {
-    platform::ShowMessage(
-        "The options could not be saved. They hold until the program ends.\n\n" + std::string(failure.what()),
-        platform::BoxIcon::Stop);
+    platform::ShowMessage("The options could not be saved. " + std::string(failure.what()) +
+                              "\n\nThey hold until the program ends. When the cause is removed, close the "
+                              "options once more, and they are saved.",
+                          platform::BoxIcon::Stop);
   }
 }
 

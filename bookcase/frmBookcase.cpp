@@ -201,7 +201,9 @@ void frmBookcase::cmdDelete_Click() {
   try {
     RemoveJournal(row);
   } catch (const platform::Failure& failure) {
-    platform::ShowMessage(failure.what(), platform::BoxIcon::Stop);  // it names the file
+    platform::ShowMessage("The journal could not be deleted. " + std::string(failure.what()) +
+                              "\n\nIt is still in the bookcase, as it was.",
+                          platform::BoxIcon::Stop);
     return;
   }
   RemovePicturesOf(fileName);

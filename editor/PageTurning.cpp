@@ -49,7 +49,9 @@ void AskAndAddPage() {
 
 std::string NotSaved(const std::string& fileName, const platform::Failure& failure) {
   return "The journal's file " + platform::FromCodePage(fileName).toStdString() + " could not be written.\n" +
-         failure.what() + "\n\nNothing is lost: the journal stays open, and closing it will try again.";
+         failure.what() +
+         "\n\nNothing is lost: the file is as it was, and the journal stays open. When the cause is removed, "
+         "close it once more, and it is saved.";
 }
 
 bool SaveOpenJournal() {

@@ -103,8 +103,8 @@ void KeepDamagedFile(const std::string& path) {
 
 void TellNotSaved(const std::exception& failure) {
   const char* const changed =
-      "Nothing is lost: the file is as it was, and Thornquill stays open and tries again when you leave the "
-      "next time.";
+      "Nothing is lost: the file is as it was, and Thornquill stays open. When the cause is removed, leave "
+      "once more, and it is saved.";
   const char* const unchanged = "Nothing is lost: the file is as it was, and there was nothing new to save.";
   platform::ShowMessage(std::string("The bookcase could not be saved in journal.tqt. ") + failure.what() +
                         "\n\n" + (HasChanged() ? changed : unchanged));

@@ -146,20 +146,6 @@ TEST_F(Journey, ThePrintButtonAsksForAPrinter) {
   EXPECT_EQ(asked, 1);
 }
 
-TEST_F(Journey, AnUnwritableJournalOrIndexKeepsTheProgramAndTheText) {
-  StartAndWrite("Kept");
-  for (const char* name : {"j00000.tqf", "journal.tqt"}) {
-    folder.Block(name);
-    LeaveTheProgram();
-    EXPECT_EQ(end.count, 0);
-    EXPECT_TRUE(Book().isVisible() || look::The<frmBookcase>().isVisible());
-    EXPECT_NE(answers.last().find(name), std::string::npos) << answers.last();
-    folder.Unblock(name);
-  }
-  LeaveTheProgram();
-  ExpectAtTheNextStart(QStringLiteral("Kept"));
-}
-
 TEST_F(Journey, AFailureThatNobodyGuardsStoresThePageAndNotTheIndex) {
   StartAndWrite("Last words");
   auto& application = static_cast<platform::Application&>(*qApp);

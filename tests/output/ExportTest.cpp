@@ -182,10 +182,6 @@ TEST_F(Export, WhatCannotBeWrittenIsToldAndLeavesTheJournal) {
   folder.Block("export/Home.html");
   ExpectFailure(folder.PathOf("export/Home.html"));
   folder.Unblock("export/Home.html");
-  {
-    const fixture::SmallDisk disk(2000);
-    ExpectFailure("The disk is full: " + folder.PathOf("export/Home.html"));
-  }
   Click(dialog().chkMulti);
   folder.Write("export/j1", "a file in the place of the folder");
   ExpectFailure("Path not found: " + folder.PathOf("export/j1/index.html"));
