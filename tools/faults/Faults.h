@@ -1,0 +1,25 @@
+// A library that is loaded before the C library into the real program. Calls.cpp counts the calls that change
+// files, lets them fail, or ends the process in one of them; Player.cpp plays a script of clicks and keys in
+// the windows. scripts/faults tells them what to do by variables of the environment, which the program itself
+// does not read:
+//   FAULTS_SCRIPT    the file with the player's steps
+//   FAULTS_LOG       the file that gets a line for all that happens
+//   FAULTS_FOLDER    calls that change what lies in this folder are counted, from 1 on
+//   FAULTS_VERSIONS  a folder for copies of files when they are renamed or the disk is mended: "name@call"
+//   FAULTS_CALL      the call that it begins with
+//   FAULTS_HOW       before, half, after: a kill before, in the middle of (a write) or after the call;
+//                    a number: calls fail with this errno until the disk is mended;
+//                    a negative one: the same, but a write gets half of its bytes out first
+//   FAULTS_PLAIN     the disk knows no second names for files, as simple ones do not
+#pragma once
+
+#include <string>
+
+namespace faults {
+
+void Log(const std::string& line);
+// Whether calls have failed and the cause has not been mended.
+bool IsBroken();
+void Mend();
+
+}  // namespace faults
