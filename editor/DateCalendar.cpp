@@ -1,6 +1,7 @@
 #include "editor/DateCalendar.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QTextCharFormat>
@@ -33,6 +34,7 @@ DateCalendar::DateCalendar(QWidget* parent) : QCalendarWidget(parent) {
   setDateEditEnabled(false);  // it would start from today and not from the date that stands here
   setFont(QFont(QStringLiteral("Verdana")));
   auto* days = findChild<QTableView*>();
+  days->setAccessibleName(QStringLiteral("the days of the month"));
   auto* style = new TwoClickStyle;
   style->setParent(this);
   days->setStyle(style);
@@ -46,9 +48,14 @@ DateCalendar::DateCalendar(QWidget* parent) : QCalendarWidget(parent) {
 // Month and year can be changed without a mouse, too: the toolkit keeps the keyboard out of its buttons.
 void DateCalendar::OpenHeadToKeys() {
   QWidget* before = nullptr;
-  for (const char* name : {"prevmonth", "monthbutton", "yearbutton", "nextmonth"}) {
+  constexpr std::pair<const char*, const char*> buttons[] = {{"prevmonth", "previous month"},
+                                                             {"monthbutton", ""},  // say what they show
+                                                             {"yearbutton", ""},
+                                                             {"nextmonth", "next month"}};
+  for (const auto& [name, meaning] : buttons) {
     auto* button = findChild<QToolButton*>(QStringLiteral("qt_calendar_") + QLatin1String(name));
     if (!button) continue;
+    button->setAccessibleName(QLatin1String(meaning));
     button->setFocusPolicy(Qt::TabFocus);
     button->installEventFilter(this);
     QPalette colors = button->palette();  // dark under the white letters, where it is raised

@@ -75,8 +75,10 @@ FontPicker::FontPicker(const FontQuestion& question, QWidget* parent) : QDialog(
 void FontPicker::LayOut() {
   name = new ChoiceList(QStringLiteral("fontName"), FontNames(question_.codePageNames));
   name->SetFiltering(true);
+  name->edit->setAccessibleName(QStringLiteral("Font"));
   name->list->setAccessibleName(QStringLiteral("installed fonts"));
   size = new ChoiceList(QStringLiteral("fontSize"), UsualSizes());
+  size->edit->setAccessibleName(QStringLiteral("Size"));
   size->list->setAccessibleName(QStringLiteral("usual sizes"));
   size->edit->setValidator(
       new QRegularExpressionValidator(QRegularExpression(QStringLiteral("\\d{0,4}([.,]\\d?)?")), size));

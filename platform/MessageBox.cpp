@@ -4,6 +4,7 @@
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 
 namespace platform {
@@ -26,6 +27,19 @@ QMessageBox::Icon IconOf(BoxIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+// What the picture says to those who see it.
+QString MeaningOf(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::Stop:
+      return QStringLiteral("Stop");
+    case BoxIcon::Question:
+      return QStringLiteral("Question");
+    case BoxIcon::None:
+      break;
+  }
+  return {};
+}
+
 QMessageBox* MakeBox(const Message& message) {
   auto* box = new QMessageBox(IconOf(message.icon), QString::fromStdString(message.title), {},
                               QMessageBox::NoButton, QApplication::activeWindow());
@@ -33,6 +47,8 @@ QMessageBox* MakeBox(const Message& message) {
   box->setWindowModality(Qt::ApplicationModal);
   box->setTextFormat(Qt::PlainText);  // a name with a less-than sign is shown as it is
   box->setText(QString::fromStdString(message.text));
+  if (auto* picture = box->findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")))
+    picture->setAccessibleName(MeaningOf(message.icon));
   return box;
 }
 

@@ -131,7 +131,7 @@ TEST_F(EmoticonTest, ListsPicturesInTheOrderOfTheirBytesAndHidesTheButtonOfWhatI
     folder.Write("emoticons/" + std::string(name), "no picture");
   InPicker([](frmEmoticons& picker) {
     EXPECT_EQ(Screen(picker), "Page 01/01 hidden: 1");
-    EXPECT_EQ(picker.cmdEmoticons[2]->accessibleName(), u"e1000.JPG");
+    EXPECT_EQ(picker.cmdEmoticons[2]->accessibleDescription(), u"e1000.JPG");
     Click(picker.cmdCancel);
   });
   EXPECT_TRUE(QDir(QString::fromStdString(folder.PathOf("emoticons"))).removeRecursively());
