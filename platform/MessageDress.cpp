@@ -44,8 +44,10 @@ void DrawOwnSigns(QMessageBox& box) {
   box.setStyle(style);
 }
 
-// A short text stands beside the middle of the sign.
+// A short text stands beside the middle of the sign. Some desktops put pictures of their own on the buttons,
+// which know no scaling.
 void GiveRoom(QMessageBox& box) {
+  for (QAbstractButton* button : box.buttons()) button->setIcon({});
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
   auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
   if (!grid || !text) return;

@@ -1,4 +1,4 @@
-// How a message box looks: the diary's own signs, and room around the text.
+// How a message box looks: the diary's own signs, and no others, and room around the text.
 #pragma once
 
 #include <QtWidgets/QMessageBox>
