@@ -151,6 +151,7 @@ void Form::paintEvent(QPaintEvent* event) {
   if (picture_.isNull()) return QDialog::paintEvent(event);
   QPainter painter(this);
   painter.fillRect(event->rect(), palette().window());
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
   painter.drawPixmap(0, 0, picture_);
 }
 

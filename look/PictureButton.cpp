@@ -76,7 +76,7 @@ bool PictureButton::event(QEvent* event) {
 void PictureButton::paintEvent(QPaintEvent* event) {
   if (picture_.isNull()) return QPushButton::paintEvent(event);
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
   painter.setClipPath(Outline(rect(), 0));
   PaintMaterial(painter);
   PaintRelief(painter);
