@@ -1,6 +1,6 @@
 #include "platform/MessageDress.h"
 
-#include <QtWidgets/QApplication>
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProxyStyle>
