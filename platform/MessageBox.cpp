@@ -5,7 +5,8 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QMessageBox>
+
+#include "platform/MessageDress.h"
 
 namespace platform {
 namespace {
@@ -41,8 +42,10 @@ QString MeaningOf(BoxIcon icon) {
 }
 
 QMessageBox* MakeBox(const Message& message) {
-  auto* box = new QMessageBox(IconOf(message.icon), QString::fromStdString(message.title), {},
-                              QMessageBox::NoButton, QApplication::activeWindow());
+  auto* box = new QMessageBox(QApplication::activeWindow());
+  DrawOwnSigns(*box);
+  box->setIcon(IconOf(message.icon));
+  box->setWindowTitle(QString::fromStdString(message.title));
   box->setObjectName(QStringLiteral("MessageBox"));
   box->setWindowModality(Qt::ApplicationModal);
   box->setTextFormat(Qt::PlainText);  // a name with a less-than sign is shown as it is
@@ -81,6 +84,7 @@ Answer AskOnTheDesktop(const Message& message) {
   // The window under the box may be destroyed while the box is up, and takes the box with it.
   QPointer<QMessageBox> box = MakeBox(message);
   AddButtons(*box, message.buttons);
+  GiveRoom(*box);
   const int button = box->exec();
   delete box;
   return AnswerOf(message.buttons, button);

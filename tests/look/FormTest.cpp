@@ -69,7 +69,7 @@ TEST_F(FormTest, ShowsTheEmblemInEverySizeAndItsPicturesInTheirs) {
     EXPECT_EQ(QApplication::windowIcon().pixmap(QSize(size, size), 1).size(), QSize(size, size));
   EXPECT_EQ(look::QuillAndInkwell().pixmap(QSize(80, 70), 1).size(), QSize(80, 70));
   EXPECT_EQ(look::EmblemPicture().size(), QSize(80, 80));
-  EXPECT_EQ(look::ClaspedBook().size(), QSize(80, 80));
+  EXPECT_EQ(look::ClaspedBook().size(), QSize(120, 120));
   EXPECT_EQ(look::HourglassAndInkwell().size(), QSize(64, 64));
 }
 

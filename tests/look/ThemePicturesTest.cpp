@@ -48,18 +48,22 @@ Survey Look(const QImage& picture) {
 TEST(ThemePictures, HaveTheirSizeAndTintAndAreEasyToReadOn) {
   const struct {
     int index;
+    const char* name;
     QSize button;
     std::array<double, 3> tint;
   } themes[] = {
-      {0, {199, 107}, {0xC0, 0xC0, 0xFF}},
-      {1, {205, 120}, {0xFF, 0xC0, 0xC0}},
-      {2, {207, 112}, {0xFF, 0xC0, 0xFF}},
+      {0, "blue", {199, 107}, {0xC0, 0xC0, 0xFF}},
+      {1, "pink", {205, 120}, {0xFF, 0xC0, 0xC0}},
+      {2, "purple", {207, 112}, {0xFF, 0xC0, 0xFF}},
   };
   for (const auto& theme : themes) {
     const QImage large = frmPicSource::picLarge(theme.index).toImage();
     const QImage button = frmPicSource::PicButtonSize(theme.index).toImage();
     EXPECT_EQ(large.size(), QSize(800, 600)) << theme.index;
     EXPECT_EQ(button.size(), theme.button) << theme.index;
+    const QString sharper = QStringLiteral(":/themes/%1-%2@2x").arg(QLatin1String(theme.name));
+    EXPECT_EQ(QImage(sharper.arg(u"large"_qs)).size(), 2 * large.size()) << theme.name;
+    EXPECT_EQ(QImage(sharper.arg(u"button"_qs)).size(), 2 * button.size()) << theme.name;
     for (const Survey& survey : {Look(large), Look(button)}) {
       EXPECT_GE(survey.leastContrast, 7) << theme.index;
       for (std::size_t part = 0; part < 3; ++part)
