@@ -6,6 +6,8 @@
 #include <QtGui/QPainterPath>
 #include <QtWidgets/QToolTip>
 
+#include "look/Shortening.h"
+
 namespace look {
 namespace {
 
@@ -126,6 +128,7 @@ void PictureButton::PaintStitching(QPainter& painter) const {
 void PictureButton::PaintCaption(QPainter& painter) const {
   const QPoint sunk = isDown() ? Sunk : QPoint();
   painter.setPen(Veil(palette().color(QPalette::Active, QPalette::ButtonText), isEnabled() ? 255 : 110));
+  painter.setFont(CaptionFont());
   painter.drawText(rect().translated(sunk), Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine,
                    ShownCaption());
 }
@@ -139,8 +142,13 @@ QColor PictureButton::Edge() const {
   return QColor::fromHslF(palette().color(QPalette::Button).hslHueF(), 0.28f, 0.43f);
 }
 
+QFont PictureButton::CaptionFont() const {
+  return FittingFont(font(), text(), width() - 2 * CaptionMargin);
+}
+
 QString PictureButton::ShownCaption() const {
-  return fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * CaptionMargin, Qt::TextShowMnemonic);
+  const int room = width() - 2 * CaptionMargin;
+  return QFontMetrics(CaptionFont()).elidedText(text(), Qt::ElideRight, room, Qt::TextShowMnemonic);
 }
 
 }  // namespace look
