@@ -7,6 +7,7 @@
 #include <QtWidgets/QToolTip>
 
 #include "look/FocusLine.h"
+#include "look/Shortening.h"
 #include "look/Theme.h"
 
 namespace look {
@@ -131,6 +132,7 @@ void PictureButton::PaintStitching(QPainter& painter) const {
 void PictureButton::PaintCaption(QPainter& painter) const {
   const QPoint sunk = isDown() ? Sunk : QPoint();
   painter.setPen(Veil(palette().color(QPalette::Active, QPalette::ButtonText), isEnabled() ? 255 : 110));
+  painter.setFont(CaptionFont());
   painter.drawText(rect().translated(sunk), Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine,
                    ShownCaption());
 }
@@ -143,8 +145,13 @@ QColor PictureButton::Edge() const {
   return HairlineOn(palette().color(QPalette::Button));
 }
 
+QFont PictureButton::CaptionFont() const {
+  return FittingFont(font(), text(), width() - 2 * CaptionMargin);
+}
+
 QString PictureButton::ShownCaption() const {
-  return fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * CaptionMargin, Qt::TextShowMnemonic);
+  const int room = width() - 2 * CaptionMargin;
+  return QFontMetrics(CaptionFont()).elidedText(text(), Qt::ElideRight, room, Qt::TextShowMnemonic);
 }
 
 }  // namespace look

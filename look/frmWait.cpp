@@ -1,5 +1,7 @@
 #include "look/frmWait.h"
 
+#include <QtCore/QDeadlineTimer>
+#include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 
 #include "look/Emblem.h"
@@ -9,6 +11,8 @@ namespace look {
 namespace {
 
 constexpr std::chrono::milliseconds Frame{16};
+constexpr std::chrono::milliseconds MostForAppearing{
+    250};  // a window manager that takes longer is not waited for
 
 }  // namespace
 
@@ -53,7 +57,11 @@ void frmWait::ShowNow() {
   if (!wanted_) return;
   appearance_.stop();
   if (!isVisible()) Appear();
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  // Shown is not yet seen: only after its exposure is there a place to paint on.
+  const QDeadlineTimer limit(MostForAppearing);
+  do QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  while (!windowHandle()->isExposed() && !limit.hasExpired());
+  repaint();
 }
 
 void frmWait::HideNow() {

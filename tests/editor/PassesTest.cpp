@@ -107,12 +107,16 @@ TEST_F(Passes, TextGoesBackOnlyToTheRowItCameFrom) {
 
 TEST_F(Passes, TheProgressWindowComesAboveTenThousand) {
   Open(AddJournal({"cover", "one"}));
-  bool shown = false;
-  QObject::connect(&text(), &richtext::RichTextBox::Change, &text(), [&] { shown = wait().CountsAsShown(); });
+  bool shown = false, held = false;
+  QObject::connect(&text(), &richtext::RichTextBox::Change, &text(), [&] {
+    shown = wait().CountsAsShown();
+    held = !text().updatesEnabled();
+  });
   const auto show = [&](std::size_t length) {
     Pages[1].Body.assign(length, static_cast<char>('a' + PageShift));
     GoLastPage();
     EXPECT_FALSE(wait().CountsAsShown());
+    EXPECT_TRUE(held && text().updatesEnabled()) << "the screen waits for the whole page, and no longer";
     return shown;
   };
   EXPECT_FALSE(show(10'000));

@@ -102,6 +102,9 @@ TEST_F(FormTest, ATextThatOutgrowsItsPlaceIsItsToolTip) {
   };
   EXPECT_EQ(tipOver(*dialog.label), QString());
   EXPECT_EQ(look::OutgrownText(*dialog.label), QString());
+  QString slightly = QStringLiteral("m");
+  while (dialog.label->sizeHint().width() <= dialog.label->width()) dialog.label->setText(slightly += u'm');
+  EXPECT_EQ(look::OutgrownText(*dialog.label), QString()) << "somewhat smaller letters do";
   dialog.label->setText(whole);
   EXPECT_EQ(look::OutgrownText(*dialog.label), whole);
   EXPECT_EQ(tipOver(*dialog.label), QStringLiteral("<p>") + whole.toHtmlEscaped() + QStringLiteral("</p>"));
