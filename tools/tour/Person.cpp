@@ -209,13 +209,16 @@ QPoint Person::Drag(const char* control, QPoint by) {
   return start + by;
 }
 
+// The clicks of a double click, and a key's going down and up, leave together: on a busy machine the second
+// click would come too late, and the key would repeat itself.
 void Person::ClickAt(QPoint place, int times) {
   Fake(XCB_MOTION_NOTIFY, 0, place);
   Settle();
   for (; times > 0; --times) {
-    Fake(XCB_BUTTON_PRESS, 1);
-    Fake(XCB_BUTTON_RELEASE, 1);
+    Queue(XCB_BUTTON_PRESS, 1);
+    Queue(XCB_BUTTON_RELEASE, 1);
   }
+  xcb_flush(connection_);
   Settle();
 }
 
@@ -233,10 +236,12 @@ void Person::Fake(unsigned char type, unsigned char detail, QPoint place) {
 
 void Person::PressKey(unsigned char keycode, bool shift) {
   const unsigned char shiftKeycode = shift ? FindKey(connection_, ShiftKey).keycode : 0;
-  if (shift) Fake(XCB_KEY_PRESS, shiftKeycode);
-  Fake(XCB_KEY_PRESS, keycode);
-  Fake(XCB_KEY_RELEASE, keycode);
-  if (shift) Fake(XCB_KEY_RELEASE, shiftKeycode);
+  if (shift) Queue(XCB_KEY_PRESS, shiftKeycode);
+  Queue(XCB_KEY_PRESS, keycode);
+  Queue(XCB_KEY_RELEASE, keycode);
+  if (shift) Queue(XCB_KEY_RELEASE, shiftKeycode);
+  xcb_flush(connection_);
+  QThread::msleep(8);
 }
 
 void Person::PressKeysym(unsigned keysym) {

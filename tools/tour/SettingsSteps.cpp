@@ -25,12 +25,6 @@ void ChooseTheme(Person& person, int index) {
   person.Shot("theme");
 }
 
-void ExpectInProfile(Person& person, const std::string& text) {
-  person.Expect(u"in journal.ini: "_qs + QString::fromStdString(text), [&] {
-    return platform::ReadFile(platform::PathOf("journal.ini")).find(text) != std::string::npos;
-  });
-}
-
 void Enter(Person& person, const QString& password) {
   person.DoubleClick(u"txtPass"_qs);  // what stands there is typed over
   person.Type(password + u'\n');
@@ -76,7 +70,6 @@ void TryTheThemes(Person& person) {
   person.Open("btnOptions", "frmOptions");
   for (const int index : {1, 0, 2}) ChooseTheme(person, index);
   person.Escape("frmJournal");
-  ExpectInProfile(person, "[Options]\r\nchkGotoLastPage=1\r\noptColor=2\r\n");
   person.Close("frmBookcase");
 }
 
@@ -122,8 +115,6 @@ void AskForHelpEverywhere(Person& person) {
           {"cmdOptions", "frmOptions", "Options"},
           {"cmdAbout", "frmAbout", "About"},
           {"cmdExport", "frmExport", "Export Journal"}});
-  for (const char* kept : {"; my own remark\r\n[Window]\r\nx=10\r\n", "[options]\r\n", "mine=kept\r\n"})
-    ExpectInProfile(person, kept);
   person.Open("cmdOpen", "frmJournal");
   AskFor(person, "frmJournal",
          {{"btnPrint", "PrintDialog", "Printing"},

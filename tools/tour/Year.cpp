@@ -13,23 +13,11 @@ constexpr std::uint32_t Paper = 0xEAF8FF;
 constexpr double SaturdayInAugust = 46249;  // 15 August 2026
 constexpr std::size_t LastPage = 214;
 
-struct Volume {
-  const char* name;
-  std::int32_t icon;
-};
-
-constexpr Volume Volumes[] = {{"My Diary", 15},
-                              {"Garden & house", 25},
-                              {"Letters never sent", 19},
-                              {"Grandmother's recipes", 59},
-                              {"Dreams", 22},
-                              {"Winter in Lisbon", 49},
-                              {"Books I have read", 13},
-                              {"Songs", 40},
-                              {"The cat, daily", 31},
-                              {"Birds of the lake", 35},
-                              {"A year of walks", 50},
-                              {"First snow", 62}};
+const char* const Names[] = {
+    "My Diary",       "Garden & house",    "Letters never sent", "Grandmother's recipes",
+    "Dreams",         "Winter in Lisbon",  "Books I have read",  "Songs",
+    "The cat, daily", "Birds of the lake", "A year of walks",    "First snow"};
+constexpr std::int32_t Icons[] = {15, 25, 19, 59, 22, 49, 13, 40, 31, 35, 50, 62};
 
 void LayPhotograph(const char* name, const char* frame, QRect place) {
   Pictures.push_back({ASSETS "/year/" + std::string(name), place.width(), place.height(), 0, "", 1,
@@ -41,10 +29,9 @@ void LayPhotograph(const char* name, const char* frame, QRect place) {
 }  // namespace
 
 void StageAYear() {
-  MakeFirstJournal(Volumes[0].name, "p");
-  for (const Volume& volume : Volumes) {
-    if (&volume != Volumes) MakeJournal(volume.name);
-    Journals.back().Icon = volume.icon;
+  for (const char* name : Names) {
+    JournalCount == 0 ? MakeFirstJournal(name, "p") : MakeJournal(name);
+    Journals.back().Icon = Icons[JournalCount - 1];
     Journals.back().PaperColor = Paper;
   }
   CurrentJournal = PagesJournal = 1;
