@@ -59,7 +59,8 @@ TEST_F(NewJournalsTest, EachFileIsAdoptedThatNoRowMeansToTheLetter) {
   folder.Write("J00000.tqf", "an alien");
   folder.Write("holiday.TQF", journalOf(3));
   folder.Write("Caf\xC3\xA9.tqf", journalOf(6));
-  folder.Write("notes.txt", "");
+  for (const char* other : {"notes.txt", ".hidden.tqf", "\xFF.tqf", "\xD0\x96.tqf", "a.tqf.bak"})
+    folder.Write(other, "");
   folder.Block("folder.tqf");
   FillRows(1);
   std::string told;
