@@ -145,18 +145,6 @@ TEST_F(PastingTest, HtmlListsKeepTheirNumbers) {
   }
 }
 
-TEST_F(PastingTest, WhatWasPastedIsKept) {
-  for (const char* html :
-       {"<h1>Head</h1><p style='line-height:1.6; margin-left:33px; text-indent:7px'>a <sub>b</sub></p>",
-        "<ul><li>one<li>two</ul><blockquote dir=rtl>quote</blockquote><pre>a  b\n\tc</pre>",
-        "<p style='font-variant:small-caps; line-height:21px'>x <a href='y://z'>link</a></p>"}) {
-    box.SetTextRTF("");
-    Paste(Offering("", html));
-    EXPECT_NE(Text(), "");
-    ExpectKept();
-  }
-}
-
 TEST_F(PastingTest, PicturesComeFromTheClipboardAlone) {
   QTemporaryFile file;
   ASSERT_TRUE(file.open());

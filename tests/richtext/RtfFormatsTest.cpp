@@ -87,15 +87,17 @@ TEST(RtfFormats, ReadsListsOfTables) {
       R"({\listlevel\levelnfc0\levelnfcn4\levelstartat2{\leveltext\'03(\'00);}{\levelnumbers\'02;}\li99})"
       R"({\listlevel\levelnfc23{\leveltext\'01\u-3929 ?;}{\levelnumbers;}\f3}{\listname ;}\listid5})"
       R"({\list{\listlevel\levelnfc0{\leveltext\'04\'00.\'01.;}}\listid-6})"
-      R"({\list{\listlevel\levelnfc0{\leveltext\'00;}}\listid7}})"
+      R"({\list{\listlevel\levelnfc0{\leveltext\'00;}}\listid7})"
+      R"({\list{\listlevel\levelnfc3{\leveltext\'02\'00.;}}\listid8}})"
       R"({\*\listoverridetable{\listoverride\listid5\listoverridecount0\ls1})"
-      R"({\listoverride\listid-6\listoverridecount1{\lfolevel\listoverridestartat\levelstartat8}\ls2}{\listoverride\listid7\ls3}})";
+      R"({\listoverride\listid-6\listoverridecount1{\lfolevel\listoverridestartat\levelstartat8}\ls2}{\listoverride\listid7\ls3}{\listoverride\listid8\ls4}})";
   const Example lists[] = {
       {R"(\ls1{\listtext (b)\tab}a\par b\par\ilvl1 c\par\pard d})",
        "[letter2 (#)]a|[letter2 (#)]b|[>bullet \u25AA]c|d"},
       {R"(\ls2\ilvl9 a\par\ls1\ilvl0 b\par\ls0 c})", "[>>>>>>>>decimal1 #.]a|[letter2 (#)]b|c"},
       {R"(\ls2 a\par})", "[decimal8 #.]a"},
       {R"(\ls3{\listtext\tab}a\par})", "a"},
+      {R"(\ls4 a\par})", "[LETTER1 #.]a"},
       // What goes on behind other text begins with the next number there, a deeper level anew.
       {R"(\ls1 a\par b\par\pard x\par\pard\ls1 c\par})", "[letter2 (#)]a|[letter2 (#)]b|x|[letter4 (#)]c"},
       {R"(\ls2 a\par\ilvl2 b\par\ilvl0 c\par\ilvl2 d\par})",
