@@ -96,6 +96,7 @@ TEST_F(PastingTest, HtmlBecomesWhatAPageKeeps) {
       {"<del>a</del><ins>b</ins><strike>c</strike> <b style='text-decoration-line:underline'>d</b>",
        "(s 20 Arial)a(u 20 Arial)b(s 20 Arial)c(20 Arial) (b u 20 Arial)d"},
       {"<a name=x>a</a><a href=y>b</a>", "(20 Arial)a(u 20 Arial #0000ee -> y)b"},
+      {"a < b", "(20 Arial)a < b"},
       {"<h1>big</h1>", "(b 40 Arial)big"},
       {"<p style='font-size:16px'>px</p>", "(Arial)px"},
       {"<p style='font-family:\"No Such Font\",sans-serif;font-size:9pt'>x</p>", "(18 Arial)x"},
