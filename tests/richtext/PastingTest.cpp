@@ -85,6 +85,7 @@ TEST_F(PastingTest, HtmlBecomesWhatAPageKeeps) {
       {"<del>a</del><ins>b</ins><strike>c</strike> <b style='text-decoration-line:underline'>d</b>",
        "(s)a(u)b(s)c() (b u)d"},
       {"<a name=x>a</a><a href=y>b</a>", "a(u #0000ee -> y)b"},
+      {"a < b", "a < b"},
       {"<h1>big</h1>", "(b 48)big"},
       {"<p style='font-size:20px'>px</p>", "(30)px"},
       {"<p style='font-family:\"No Such Font\",sans-serif;font-size:9pt'>x</p>", "(18)x"},
@@ -171,6 +172,28 @@ TEST_F(PastingTest, DeepMarkupIsReadQuickly) {
                              QStringLiteral("</div>").repeated(deep) + QStringLiteral("<b>y</b>"));
   EXPECT_EQ(page.text.size(), 20001u);
   EXPECT_EQ(page.formats.size(), 2u) << "what follows is read as ever";
+}
+
+// The toolkit fills up every row to the longest one.
+TEST_F(PastingTest, TablesHaveNoMoreCellsThanTheirMarkupIsWorth) {
+  const auto table = [](const char* start, const char* row, int rows) {
+    return Dump(ReadHtml(QLatin1String(start) + QString::fromLatin1(row).repeated(rows), Plain, {}));
+  };
+  EXPECT_EQ(table("<table><tr><td colspan=2>a<tr><td rowspan=2>b<td>c<tr><td>d</table>", "", 0),
+            "(20 Arial)a|b>c|d");
+  for (const char* start :
+       {"<table><tr><td colspan=20000>", "<td colspan=' +20000'>", "<TD COLSPAN=\"&#50;0000\">",
+        "< td colspan=20000>", "<t&#100; colspan=20000>", "<td><table><tr><td colspan=20000></table>"})
+    EXPECT_LT(table(start, "<tr><td>x", 400).size(), 50'000u) << start;
+  const std::string sheet = table("<table>", "<tr><td>a</td><td>b</td><td>c</td></tr>", 5000);
+  EXPECT_EQ(std::count(sheet.begin(), sheet.end(), '>'), 10'000);
+}
+
+TEST_F(PastingTest, MeasuresBeyondAllBoundsAreTheLargest) {
+  const Document page = ReadHtml(
+      QStringLiteral("<p style='line-height:99999999999%; font-size:99999999999pt'>x</p>"), Plain, {});
+  EXPECT_EQ(page.paragraphFormats.at(0).lineSpacing, 32767);
+  EXPECT_EQ(page.formats.at(0).halfPoints, 3276);
 }
 
 TEST_F(PastingTest, CopyOffersTheSelectionThreefold) {
