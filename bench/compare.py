@@ -1,19 +1,15 @@
 #!/usr/bin/python3
-"""Start, memory, opening and turning in a diary of 10,000 pages, of three programs, measured from the outside.
-
-    compare.py SCREEN PROGRAM-FOLDER MAKE-DIARY      called by scripts/compare, on a virtual display
+"""compare.py SCREEN PROGRAM-FOLDER MAKE-DIARY: three diary programs, measured from the outside; see scripts/compare.
 
 SCREEN is the file that the virtual display keeps its pixels in. A time runs from the start of the process, or from
 the key, to the last change of the screen before it stands still and the program has nothing more to do. Changes
-smaller than a text cursor do not count.
+no larger than a text cursor do not count.
 """
 import ctypes
-import datetime
 import mmap
 import os
 import shutil
 import signal
-import sqlite3
 import statistics
 import struct
 import subprocess
@@ -23,57 +19,14 @@ import time
 
 import numpy
 
+import diaries
+
 PAGES = 10_000
 ROUNDS = 5
 TURNS = 5
 CURSOR = 150  # pixels
 TICK = os.sysconf("SC_CLK_TCK")
-LINES = ["The quick brown fox jumps over the lazy dog and is |back| before it rains."] * 35
 
-
-# --- the diary, in each program's own form
-
-def pages(count):
-    today = datetime.date.today()
-    for number in range(1, count + 1):
-        yield number, today - datetime.timedelta(count - number), [f"Page {number}."] + LINES
-
-
-def monthly_files(folder, count):
-    os.makedirs(folder)
-    for _, day, lines in pages(count):
-        with open(f"{folder}/{day:%Y-%m}.txt", "a", encoding="utf-8") as file:
-            file.write(f"{day.day}:\n  text: |-\n" + "".join(f"    {line.replace('|', '**')}\n" for line in lines))
-
-
-def node_text(lines):
-    runs = "".join(f"{line}\n" for line in lines).split("|")
-    bold = ' weight="heavy"'
-    return ('<?xml version="1.0" encoding="UTF-8"?>\n<node>' + "".join(
-        f"<rich_text{bold if at % 2 else ''}>{run}</rich_text>" for at, run in enumerate(runs)) + "</node>")
-
-
-def tree_database(path, count):
-    with sqlite3.connect(path) as base:
-        for table in [
-                "node (node_id INTEGER UNIQUE, name TEXT, txt TEXT, syntax TEXT, tags TEXT, is_ro INTEGER,"
-                " is_richtxt INTEGER, has_codebox INTEGER, has_table INTEGER, has_image INTEGER, level INTEGER,"
-                " ts_creation INTEGER, ts_lastsave INTEGER)",
-                "codebox (node_id INTEGER, offset INTEGER, justification TEXT, txt TEXT, syntax TEXT, width INTEGER,"
-                " height INTEGER, is_width_pix INTEGER, do_highl_bra INTEGER, do_show_linenum INTEGER)",
-                "grid (node_id INTEGER, offset INTEGER, justification TEXT, txt TEXT, col_min INTEGER, col_max INTEGER)",
-                "image (node_id INTEGER, offset INTEGER, justification TEXT, anchor TEXT, png BLOB, filename TEXT,"
-                " link TEXT, time INTEGER)",
-                "children (node_id INTEGER UNIQUE, father_id INTEGER, sequence INTEGER)",
-                "bookmark (node_id INTEGER UNIQUE, sequence INTEGER)"]:
-            base.execute("CREATE TABLE " + table)
-        for number, day, lines in pages(count):
-            base.execute("INSERT INTO node VALUES (?, ?, ?, 'custom-colors', '', 0, 1, 0, 0, 0, 0, 0, 0)",
-                         (number, f"{day} Page {number}", node_text(lines)))
-            base.execute("INSERT INTO children VALUES (?, 0, ?)", (number, number))
-
-
-# --- the screen, the keyboard and the processes
 
 class Screen:
     def __init__(self, path):
@@ -127,7 +80,7 @@ def family(process):
             pass
     found = [process]
     for member in found:
-        found += parents.get(member, [])
+        found += parents.get(member, [])  # and theirs in turn
     return found
 
 
@@ -146,12 +99,13 @@ def resident(process):
     """Megabytes; of pages that are shared with other programs each has its part."""
     total = 0
     for member in family(process):
-        with open(f"/proc/{member}/smaps_rollup", encoding="utf-8") as file:
-            total += sum(int(line.split()[1]) for line in file if line.startswith("Pss:"))
+        try:
+            with open(f"/proc/{member}/smaps_rollup", encoding="utf-8") as file:
+                total += sum(int(line.split()[1]) for line in file if line.startswith("Pss:"))
+        except OSError:
+            pass
     return total * 1024 / 1e6
 
-
-# --- the programs
 
 class Thornquill:
     unlock, open, turn = "x", "Return", "space"
@@ -167,7 +121,7 @@ class RedNotebook:
     unlock, turn, to_turn, to_text = None, "Control_L+Prior", [], []
 
     def __init__(self, folder, count):
-        monthly_files(f"{folder}/diary", count)
+        diaries.monthly_files(f"{folder}/diary", count)
         self.command = ["rednotebook", f"{folder}/diary"]
 
 
@@ -176,7 +130,7 @@ class CherryTree:
 
     def __init__(self, folder, count):
         os.makedirs(folder)
-        tree_database(f"{folder}/diary.ctb", count)
+        diaries.tree_database(f"{folder}/diary.ctb", count)
         self.command = ["cherrytree", f"{folder}/diary.ctb"]
 
 
@@ -221,14 +175,23 @@ class Run:
         for _ in range(TURNS):
             self.prepare(self.program.to_text + ["a"] + self.program.to_turn)
             changed.append(self.press(self.program.turn))
-        self.figures["10,000 pages: turn, ms"] = statistics.median(unchanged)
-        self.figures["10,000 pages: turn from a changed page, ms"] = statistics.median(changed)
+        self.figures["10,000 pages: turn, ms"] = middle(unchanged)
+        self.figures["10,000 pages: turn from a changed page, ms"] = middle(changed)
         self.figures["10,000 pages: memory after the turns, MB"] = resident(self.process.pid)
 
     def end(self):
         for member in reversed(family(self.process.pid)):
-            os.kill(member, signal.SIGKILL)
+            try:
+                os.kill(member, signal.SIGKILL)
+            except ProcessLookupError:
+                pass
         self.process.wait()
+
+
+def middle(values):
+    """The median of those that could be measured."""
+    measured = [value for value in values if value == value]
+    return statistics.median(measured) if measured else float("nan")
 
 
 def measure(screen, keyboard, kind, folder):
@@ -248,7 +211,7 @@ def measure(screen, keyboard, kind, folder):
         big.end()
         if number > 0:  # the first warms the file cache and makes the program's own settings
             rounds.append({**small.figures, **big.figures})
-    return {figure: statistics.median(run[figure] for run in rounds) for figure in rounds[0]}
+    return {figure: middle(run[figure] for run in rounds) for figure in rounds[0]}
 
 
 def main():
