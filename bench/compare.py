@@ -110,6 +110,7 @@ def resident(process):
 class Thornquill:
     unlock, open, turn = "x", "Return", "space"
     to_turn, to_text = ["F6", "Tab", "Tab"], ["F6"]  # "Back" in the toolbar, and the page again
+    begin = to_turn
 
     def __init__(self, folder, count):
         shutil.copytree(sys.argv[2], folder)
@@ -118,7 +119,7 @@ class Thornquill:
 
 
 class RedNotebook:
-    unlock, turn, to_turn, to_text = None, "Control_L+Prior", [], []
+    unlock, turn, begin, to_turn, to_text = None, "Control_L+Prior", [], [], []
 
     def __init__(self, folder, count):
         diaries.monthly_files(f"{folder}/diary", count)
@@ -126,7 +127,9 @@ class RedNotebook:
 
 
 class CherryTree:
-    unlock, turn, to_turn, to_text = None, "Down", ["Control_L+Tab"], ["Control_L+Tab"]  # it begins in the text
+    unlock, turn = None, "Down"
+    to_turn, to_text = ["Control_L+Tab"], ["Control_L+Tab"]  # to the tree, and to the text, where it begins
+    begin = ["Control_L+Tab", "Down", "Right", "Down", "Right", "Down"]  # the first of January of its second year
 
     def __init__(self, folder, count):
         os.makedirs(folder)
@@ -169,7 +172,7 @@ class Run:
         self.figures[f"{label}: memory then, MB"] = resident(self.process.pid)
 
     def turn(self):
-        self.prepare(self.program.to_turn)
+        self.prepare(self.program.begin)
         unchanged = [self.press(self.program.turn) for _ in range(TURNS)]
         changed = []
         for _ in range(TURNS):

@@ -40,11 +40,22 @@ def node_text(lines):
 
 
 def tree_database(path, count):
-    """CherryTree: a data base with a node for each page, all side by side."""
+    """CherryTree: a data base of nodes, days in months in years, as its own command for today's node makes them."""
+    empty = node_text([])
     with sqlite3.connect(path) as base:
         for table in SCHEMA:
             base.execute("CREATE TABLE " + table)
-        for number, day, lines in pages(count):
-            base.execute("INSERT INTO node VALUES (?, ?, ?, 'custom-colors', '', 0, 1, 0, 0, 0, 0, 0, 0)",
-                         (number, f"{day} Page {number}", node_text(lines)))
-            base.execute("INSERT INTO children VALUES (?, 0, ?)", (number, number))
+        numbers = {}
+
+        def node(key, name, father, text):
+            if key not in numbers:
+                numbers[key] = len(numbers) + 1
+                base.execute("INSERT INTO node VALUES (?, ?, ?, 'custom-colors', '', 0, 1, 0, 0, 0, 0, 0, 0)",
+                             (numbers[key], name, text))
+                base.execute("INSERT INTO children VALUES (?, ?, ?)", (numbers[key], father, numbers[key]))
+            return numbers[key]
+
+        for _, day, lines in pages(count):
+            year = node(day.year, f"{day:%Y}", 0, empty)
+            month = node((day.year, day.month), f"{day:%B}", year, empty)
+            node(day, f"{day:%d}", month, node_text(lines))
