@@ -75,6 +75,7 @@ void OpenJournal(benchmark::State& state) {
     state.PauseTiming();
     state.counters["resident_mb"] = MegabytesInUse();
     diary.Close();
+    state.counters["closed_mb"] = MegabytesInUse();
     state.ResumeTiming();
   }
 }
