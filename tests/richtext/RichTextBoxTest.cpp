@@ -1,5 +1,6 @@
 // The text box as a person uses it: shown, with real keys and clicks.
 #include <QtCore/QTemporaryFile>
+#include <QtGui/QAbstractTextDocumentLayout>
 #include <QtWidgets/QScrollBar>
 
 #include "richtext/BoxPictures.h"
@@ -163,6 +164,21 @@ TEST_F(RichTextBoxTest, HoldsWhatThePageHolds) {
   QApplication::processEvents();
   EXPECT_EQ(box.TextRTF(), kept) << "drawing it changed it";
   ExpectKept();
+}
+
+// Each change of the width lays the page out once more.
+TEST_F(RichTextBoxTest, TurningToAnotherTallPageKeepsTheWidth) {
+  std::string tall = "{\\rtf1";
+  for (int line = 0; line < 60; ++line) tall += " a\\par";
+  box.SetTextRTF(tall + "}");
+  const int narrow = box.viewport()->width();
+  int widest = 0;
+  QObject::connect(box.document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged,
+                   [&] { widest = std::max(widest, box.viewport()->width()); });
+  box.SetTextRTF(tall + "}");
+  EXPECT_EQ(widest, narrow);
+  box.SetTextRTF("{\\rtf1 a}");
+  EXPECT_GT(box.viewport()->width(), narrow);
 }
 
 TEST_F(RichTextBoxTest, TextCountsAsTheSelectionDoes) {
