@@ -177,10 +177,9 @@ TEST_F(PastingTest, DeepMarkupIsReadQuickly) {
 // The toolkit fills up every row to the longest one.
 TEST_F(PastingTest, TablesHaveNoMoreCellsThanTheirMarkupIsWorth) {
   const auto table = [](const char* start, const char* row, int rows) {
-    return Dump(ReadHtml(QLatin1String(start) + QString::fromLatin1(row).repeated(rows), Plain, {}));
+    return Dump(Read(QLatin1String(start) + QString::fromLatin1(row).repeated(rows)));
   };
-  EXPECT_EQ(table("<table><tr><td colspan=2>a<tr><td rowspan=2>b<td>c<tr><td>d</table>", "", 0),
-            "(20 Arial)a|b>c|d");
+  EXPECT_EQ(table("<table><tr><td colspan=2>a<tr><td rowspan=2>b<td>c<tr><td>d</table>", "", 0), "a|b>c|d");
   for (const char* start :
        {"<table><tr><td colspan=20000>", "<td colspan=' +20000'>", "<TD COLSPAN=\"&#50;0000\">",
         "< td colspan=20000>", "<t&#100; colspan=20000>", "<td><table><tr><td colspan=20000></table>"})
@@ -190,8 +189,7 @@ TEST_F(PastingTest, TablesHaveNoMoreCellsThanTheirMarkupIsWorth) {
 }
 
 TEST_F(PastingTest, MeasuresBeyondAllBoundsAreTheLargest) {
-  const Document page = ReadHtml(
-      QStringLiteral("<p style='line-height:99999999999%; font-size:99999999999pt'>x</p>"), Plain, {});
+  const Document page = Read(u"<p style='line-height:99999999999%; font-size:99999999999pt'>x</p>"_qs);
   EXPECT_EQ(page.paragraphFormats.at(0).lineSpacing, 32767);
   EXPECT_EQ(page.formats.at(0).halfPoints, 3276);
 }
