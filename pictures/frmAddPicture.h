@@ -55,6 +55,7 @@ class frmAddPicture : public look::Form {
  private:
   void PlaceControls();
   void PlaceScaleButtons();
+  void EvenScaleRow();
   void PlacePreview();
   void ConnectScaleButtons();
   void Form_Activate();
