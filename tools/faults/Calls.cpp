@@ -52,7 +52,8 @@ template <class Call>
 auto Meet(const std::string& name, const std::string& path, Call&& call) -> decltype(call(false)) {
   Plan& plan = ThePlan();
   if (!(path + "/").starts_with(plan.folder)) return call(false);
-  const bool isDue = ++plan.calls >= plan.at && plan.at > 0 && !plan.mended;
+  const bool isOver = plan.mended || (plan.felt && plan.how.ends_with("once"));
+  const bool isDue = ++plan.calls >= plan.at && plan.at > 0 && !isOver;
   const int error = isDue ? std::atoi(plan.how.c_str()) : 0;
   const bool kills = isDue && error == 0, fails = error != 0;
   const bool half = plan.how == "half" ? kills : error < 0 && !plan.felt;

@@ -10,6 +10,7 @@
 //   FAULTS_HOW       before, half, after: a kill before, in the middle of (a write) or after the call;
 //                    a number: calls fail with this errno until the disk is mended;
 //                    a negative one: the same, but a write gets half of its bytes out first
+//                    a number and "once": this call alone fails, as a device tells of a lost write
 //   FAULTS_PLAIN     the disk knows no second names for files, as simple ones do not
 #pragma once
 
