@@ -45,5 +45,6 @@ bool CopyFile(const std::string& source, const std::string& target) {
     Insist([&] { size = from->ReadAt(at, block.data(), std::min(BlockSize, from->size() - at)); });
     Insist([&] { to->WriteAt(at, {block.data(), size}); });
   }
+  Insist([&] { to->Close(); });
   return true;
 }

@@ -85,6 +85,10 @@ class OutputFile {
   // again with the same bytes.
   void WriteAt(std::uint64_t offset, std::string_view bytes);
 
+  // Throws as AppendToFile does when the disk tells only now that bytes were lost. The file is closed all the
+  // same, and closing it once more does nothing.
+  void Close();
+
  private:
   int descriptor_;
   std::string path_;

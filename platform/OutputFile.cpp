@@ -54,13 +54,17 @@ void AppendToFile(const std::string& path, std::string_view bytes) {
 OutputFile::OutputFile(const std::string& path) : descriptor_(OpenForWriting(path, 0)), path_(path) {}
 
 OutputFile::~OutputFile() {
-  close(descriptor_);
+  if (descriptor_ >= 0) close(descriptor_);
 }
 
 void OutputFile::WriteAt(std::uint64_t offset, std::string_view bytes) {
   WriteAll(path_, bytes, [&](std::string_view rest, std::size_t done) {
     return pwrite(descriptor_, rest.data(), rest.size(), static_cast<off_t>(offset + done));
   });
+}
+
+void OutputFile::Close() {
+  if (descriptor_ >= 0 && close(std::exchange(descriptor_, -1)) != 0 && errno != EINTR) Fail(path_);
 }
 
 void MakeFolder(const std::string& path) {
