@@ -30,6 +30,7 @@ frmInitJournal::frmInitJournal()
   cmdHelp     = Place(button("&Help"), "cmdHelp", 4980, 4920, 2250, 450);
   // clang-format on
   Image1->setPixmap(look::EmblemPicture());
+  Image1->setAccessibleName(QStringLiteral("a quill over a book"));
   DressWelcome();
   Label1->setBuddy(txtPass);
   Label3->setBuddy(txtNewPass);

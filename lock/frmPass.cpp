@@ -17,6 +17,7 @@ frmPass::frmPass()
   cmdCancel = Place(new look::PictureButton(QStringLiteral("E&xit"), this), "cmdCancel", 4290, 1470, 1770, 450);
   // clang-format on
   Image1->setPixmap(look::ClaspedBook());
+  Image1->setAccessibleName(QStringLiteral("a book with a clasp"));
   Label1->setBuddy(txtPass);
   txtPass->HideText();
   cmdOK->setDefault(true);
