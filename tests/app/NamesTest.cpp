@@ -23,33 +23,30 @@
 
 namespace {
 
-class Names : public fixture::Windows {
- protected:
-  // A part of the toolkit's own that the control around it speaks for.
-  static bool IsAPart(const QWidget& widget) {
-    const auto* area = qobject_cast<QAbstractScrollArea*>(widget.parentWidget());
-    return (area && area->viewport() == &widget) || qobject_cast<const QScrollBar*>(&widget) ||
-           widget.objectName() == u"qt_spinbox_lineedit";
+using Names = fixture::Windows;
+
+// A part of the toolkit's own that the control around it speaks for.
+bool IsAPart(const QWidget& widget) {
+  const auto* area = qobject_cast<QAbstractScrollArea*>(widget.parentWidget());
+  return (area && area->viewport() == &widget) || qobject_cast<const QScrollBar*>(&widget) ||
+         widget.objectName() == u"qt_spinbox_lineedit";
+}
+
+void ExpectNames(QWidget& window) {
+  for (QWidget* control : window.findChildren<QWidget*>()) {
+    if (control->focusPolicy() == Qt::NoFocus || control->isHidden() || IsAPart(*control)) continue;
+    auto* interface = QAccessible::queryAccessibleInterface(control);
+    const QString said = interface->text(QAccessible::Name) + interface->text(QAccessible::Description);
+    EXPECT_NE(said.trimmed(), QString())
+        << window.objectName().toStdString() << ": " << control->metaObject()->className() << ' '
+        << control->objectName().toStdString();
   }
-  static bool IsNamed(QWidget& control) {
-    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&control);
-    return interface && !(interface->text(QAccessible::Name) + interface->text(QAccessible::Description))
-                             .trimmed()
-                             .isEmpty();
-  }
-  static void ExpectNames(QWidget& window) {
-    for (QWidget* control : window.findChildren<QWidget*>()) {
-      if (control->focusPolicy() == Qt::NoFocus || control->isHidden() || IsAPart(*control)) continue;
-      EXPECT_TRUE(IsNamed(*control)) << window.objectName().toStdString() << ": "
-                                     << control->metaObject()->className() << ' '
-                                     << control->objectName().toStdString();
-    }
-  }
-  template <class... Windows>
-  static void ExpectNamesIn() {
-    (ExpectNames(look::The<Windows>()), ...);
-  }
-};
+}
+
+template <class... Windows>
+void ExpectNamesIn() {
+  (ExpectNames(look::The<Windows>()), ...);
+}
 
 TEST_F(Names, EveryControlOfEveryWindowAndEveryJournalHasOne) {
   MakeFirstJournal("", "p");
