@@ -1,11 +1,12 @@
 // The program's folder and a desktop that answers every box, for as long as one input is tried.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <string>
+
+#include <QtCore/QTemporaryDir>
 
 #include "fuzz/Require.h"
 #include "platform/Files.h"
@@ -13,29 +14,16 @@
 #include "platform/Process.h"
 #include "state/State.h"
 
-// Of this process alone, and gone with it.
-class ScratchFolder {
- public:
-  ScratchFolder() { Require(mkdtemp(path_.data()) != nullptr, "there is room for a folder"); }
-  ~ScratchFolder() { std::filesystem::remove_all(path_); }
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-  const std::string& path() const { return path_; }
-
- private:
-  std::string path_ = std::filesystem::temp_directory_path() / "fuzz-XXXXXX";
-};
-
 class Desk {
  public:
   using Files = std::map<std::string, std::string>;  // bytes by name
 
   Desk() {
-    static const ScratchFolder folder;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.path()))
-      std::filesystem::remove(entry);
+    static const QTemporaryDir folder;  // of this process alone, and gone with it
+    const std::string path = folder.path().toStdString();
+    for (const auto& entry : std::filesystem::directory_iterator(path)) std::filesystem::remove(entry);
     ResetState();
-    platform::SetProgramFolder(folder.path());
+    platform::SetProgramFolder(path);
     platform::SetMessageAnswerer([this](const platform::Message& message) {
       const auto says = [&](const char* words) { return message.text.find(words) != std::string::npos; };
       damageTold += says("damaged");

@@ -1,6 +1,5 @@
 // A bookcase is read or the program ends, and neither changes the file. What was read is saved and read again
 // as the same bookcase.
-#include <cstdint>
 #include <numeric>
 
 #include "fuzz/Desk.h"
@@ -16,17 +15,18 @@ std::size_t BytesOf(std::size_t sum, const JournalEntry& entry) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
+void Try(std::string_view input) {
+  const std::string bytes(input);
   Desk desk;
   desk.Write("journal.tqt", bytes);
   LoadJournalIndex();
   desk.RequireFiles({{"journal.tqt", bytes}}, "reading leaves the file alone");
-  Require(std::accumulate(Journals.begin() + 1, Journals.end(), MasterPassword.size(), BytesOf) <= size,
-          "rows come from bytes");
+  Require(
+      std::accumulate(Journals.begin() + 1, Journals.end(), MasterPassword.size(), BytesOf) <= input.size(),
+      "rows come from bytes");
   Require(desk.ends == (BookcaseLoaded ? 0 : 1), "a bookcase is read, or the program ends");
   Require(desk.damageTold == 1 || (desk.damageTold == 0 && BookcaseLoaded), "damage is told once");
-  if (!BookcaseLoaded) return 0;
+  if (!BookcaseLoaded) return;
 
   std::vector<JournalEntry> journals = Journals;
   std::erase_if(journals, [](const JournalEntry& entry) { return entry.Deleted != False; });
@@ -41,5 +41,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(Journals == journals && MasterPassword == password && PageShift == shift,
           "the bookcase comes back");
   Require(BookcaseLoaded && desk.damageTold == wasDamaged, "what is saved is sound");
-  return 0;
 }

@@ -2,7 +2,6 @@
 // and read again as the same pages; an alien file is left alone.
 #include "store/JournalFile.h"
 
-#include <cstdint>
 #include <numeric>
 
 #include "fuzz/Desk.h"
@@ -43,28 +42,28 @@ std::string RowsOf(const std::vector<JournalPage>& pages) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void Try(std::string_view input) {
   using store::JournalHealth;
-  const std::string bytes = FileOf({reinterpret_cast<const char*>(data), size});
+  const std::string bytes = FileOf(input);
   Desk desk;
   desk.Write(Name, bytes);
   const std::int32_t peeked = PeekJournalPageCount(Name);
   const auto [pages, health, wholePages] = store::ReadJournalFile(Name);
   const auto add = [](std::size_t sum, const JournalPage& page) { return sum + page.Body.size(); };
   const std::size_t wholeBytes = SmallestPage * static_cast<std::size_t>(wholePages);
-  Require(std::accumulate(pages.begin(), pages.end(), wholeBytes, add) <= size, "pages come from bytes");
+  Require(std::accumulate(pages.begin(), pages.end(), wholeBytes, add) <= input.size(),
+          "pages come from bytes");
   const auto rows = static_cast<std::int32_t>(pages.size());
   Require(health != JournalHealth::Sound || (peeked == rows - 1 && wholePages == rows), "the count is so");
   desk.RequireFiles({{Name, bytes}}, "reading leaves the file alone");
   if (health == JournalHealth::Alien) {
     Require(pages.empty() && !Saves(std::vector<JournalPage>(2)), "an alien file is refused");
     desk.RequireFiles({{Name, bytes}}, "an alien file is left alone");
-  } else if (pages.size() <= size + MostBlankRows) {
+  } else if (pages.size() <= input.size() + MostBlankRows) {
     Require(Saves(pages), "a journal is saved");
     desk.RequireKept(Name, bytes, health == JournalHealth::Damaged);
     const store::DecodedJournal again = store::ReadJournalFile(Name);
     Require(again.health == JournalHealth::Sound, "what is saved is sound");
     Require(RowsOf(again.pages) == RowsOf(pages), "the pages come back");
   }
-  return 0;
 }

@@ -1,12 +1,11 @@
 // jpics.bin: it goes when it is read, but a damaged one is kept, and tqpics.bin beside it waits for the next
 // save.
-#include <cstdint>
 
 #include "fuzz/StoredPictures.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void Try(std::string_view input) {
   constexpr std::size_t bytesOfRow = 12 * 128;
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
+  const std::string bytes(input);
   Desk desk;
   desk.Write("tqpics.bin", "not looked at");
   desk.Write("jpics.bin", bytes);
@@ -15,9 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Desk::Files left = {{"tqpics.bin", "not looked at"}};
   if (desk.damageTold == 1) left["jpics.bin.damaged"] = bytes;
   desk.RequireFiles(left, "the older file goes, or is kept when it is damaged");
-  Require(Pictures.size() <= size / bytesOfRow + 1, "rows come from bytes");
-  RequireStoredPictures(desk, size);
+  Require(Pictures.size() <= input.size() / bytesOfRow + 1, "rows come from bytes");
+  RequireStoredPictures(desk, input.size());
   left["tqpics.bin"] = desk.Read("tqpics.bin");
   desk.RequireFiles(left, "only the newer file is written");
-  return 0;
 }

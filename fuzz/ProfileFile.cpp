@@ -2,7 +2,6 @@
 #include "platform/ProfileFile.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <sstream>
 
 #include "fuzz/Desk.h"
@@ -29,8 +28,8 @@ void RequireKeptLines(const std::vector<std::string>& before, const std::vector<
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
+void Try(std::string_view input) {
+  const std::string bytes(input);
   Desk desk;
   desk.Write("journal.ini", bytes);
   const std::string path = platform::PathOf("journal.ini");
@@ -48,5 +47,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(platform::ProfileValue(again, "options", " OPTCOLOR ") == theme, "the other key keeps its value");
   Require(withKey(again) == again, "setting it once more changes nothing");
   RequireKeptLines(LinesOf(text), LinesOf(again));
-  return 0;
 }

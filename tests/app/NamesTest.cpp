@@ -24,26 +24,11 @@ namespace {
 
 // What stands still, what holds others together, and the toolkit's own bars have nothing to say.
 bool Speaks(const QAccessibleInterface& part) {
-  switch (part.role()) {
-    case QAccessible::PushButton:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::ComboBox:
-    case QAccessible::SpinBox:
-    case QAccessible::EditableText:
-    case QAccessible::Link:
-    case QAccessible::List:
-    case QAccessible::Tree:
-    case QAccessible::Table:
-    case QAccessible::ListItem:
-    case QAccessible::TreeItem:
-    case QAccessible::Cell:
-    case QAccessible::Graphic:
-    case QAccessible::ButtonMenu:
-      return !part.state().invisible;
-    default:
-      return false;
-  }
+  using enum QAccessible::Role;
+  static const QSet<QAccessible::Role> speakers{PushButton,   CheckBox, RadioButton, ComboBox, SpinBox,
+                                                EditableText, Link,     List,        Tree,     Table,
+                                                ListItem,     TreeItem, Cell,        Graphic,  ButtonMenu};
+  return speakers.contains(part.role()) && !part.state().invisible;
 }
 
 void ExpectNames(QAccessibleInterface* part, const QString& path, int& spoken) {

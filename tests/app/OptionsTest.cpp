@@ -8,6 +8,7 @@
 #include "bookcase/frmBookcase.h"
 #include "lock/frmPassChange.h"
 #include "look/Theme.h"
+#include "look/frmPicSource.h"
 #include "store/Scrambler.h"
 #include "tests/support/Windows.h"
 
@@ -16,12 +17,19 @@ namespace {
 class OptionsTest : public fixture::Windows {
  protected:
   static frmOptions& Dialog() { return look::The<frmOptions>(); }
-  // The mean colour of the theme's picture tells the themes apart: -1 for none.
-  static int ThemeOf(const QPixmap& picture) {
-    if (picture.isNull()) return -1;
-    const QColor color = picture.toImage().scaled(1, 1, {}, Qt::SmoothTransformation).pixelColor(0, 0);
-    if (color.blue() > color.red() + 20) return 0;
-    return color.blue() > color.green() + 20 ? 2 : 1;
+  // The number of the theme whose picture the windows wear; -1 for none.
+  static int ThemeOn() {
+    int index = 2;
+    while (index >= 0 && look::CurrentTheme().large.toImage() != frmPicSource::picLarge(index).toImage())
+      --index;
+    return index;
+  }
+  // The help after F1 on a control; none when it did not come.
+  static HelpWindow* HelpOn(QWidget* control) {
+    QTest::keyClick(control, Qt::Key_F1);
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (auto* help = qobject_cast<HelpWindow*>(window)) return help;
+    return nullptr;
   }
   std::string Settings() const { return std::to_string(chkGotoLastPage) + std::to_string(optColor); }
 };
@@ -51,7 +59,7 @@ TEST_F(OptionsTest, ABadValueCostsOneMessageAndNoMore) {
     LoadSettings();
     EXPECT_EQ(Settings(), each.settings) << each.color;
     EXPECT_EQ(answers.texts(), each.messages);
-    EXPECT_EQ(ThemeOf(look::CurrentTheme().large), each.theme) << each.color;
+    EXPECT_EQ(ThemeOn(), each.theme) << each.color;
   }
 }
 
@@ -77,7 +85,7 @@ TEST_F(OptionsTest, TheCloseBoxBringsTheDesignValuesBack) {
   Dialog().close();
   EXPECT_EQ(folder.Read("journal.ini"), chosen);
   EXPECT_EQ(Settings(), "10");
-  EXPECT_EQ(ThemeOf(look::CurrentTheme().large), 2) << "what the windows wear stays";
+  EXPECT_EQ(ThemeOn(), 2) << "what the windows wear stays";
   Dialog().show();
   QTest::keyClick(&Dialog(), Qt::Key_Escape);
   EXPECT_TRUE(look::IsLoaded<frmOptions>()) << "Escape is the button and not the close box";
@@ -127,26 +135,19 @@ TEST_F(OptionsTest, ThePasswordChangesOnlyWhenEverythingIsRight) {
 
 TEST_F(OptionsTest, F1LeadsToTheChapterOfTheWindow) {
   AnswerF1();
-  auto& bookcase = look::The<frmBookcase>();
-  bookcase.ShowModeless();
-  QTest::keyClick(bookcase.ListView1, Qt::Key_F1);
+  look::The<frmBookcase>().ShowModeless();
+  QWidget* const list = look::The<frmBookcase>().ListView1;
+  EXPECT_FALSE(HelpOn(list));
   EXPECT_NE(answers.last().find("THORNQUILL.HLP"), std::string::npos);
   folder.Write(
       "THORNQUILL.HLP",
       "<h2><a name=\"frmAbout\">About</a></h2>needle<h2><a name=\"frmBookcase\">Books</a></h2>needle");
-  const auto pressF1 = [&] {
-    QTest::keyClick(bookcase.ListView1, Qt::Key_F1);
-    HelpWindow* help = nullptr;
-    for (QWidget* window : QApplication::topLevelWidgets())
-      if (!help) help = qobject_cast<HelpWindow*>(window);
-    EXPECT_TRUE(help && help->lstContents->currentItem()->text() == u"Books");
-    return help;
-  };
-  HelpWindow* const help = pressF1();
+  HelpWindow* const help = HelpOn(list);
   ASSERT_TRUE(help);
+  EXPECT_EQ(help->lstContents->currentItem()->text(), u"Books");
   help->Browser->setSource(QUrl(u"#frmAbout"_qs));  // as a link in the text does
   EXPECT_EQ(help->lstContents->currentItem()->text(), u"About");
-  pressF1();  // the key leads back
+  EXPECT_EQ(HelpOn(list)->lstContents->currentItem()->text(), u"Books") << "the key leads back";
   help->txtFind->setText(u"NEEDLE"_qs);
   for (int i = 0; i < 3; ++i) Click(help->cmdFindNext);
   EXPECT_EQ(help->Browser->textCursor().selectedText(), u"needle");

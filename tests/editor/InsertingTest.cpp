@@ -43,21 +43,21 @@ class EmoticonTest : public fixture::OpenBook {
  protected:
   // Blue pictures of 10 x 10 whose first column is transparent.
   void Put(int count) {
-    QDir().mkpath(QString::fromStdString(folder.PathOf("emoticons")));
+    const QString path = QString::fromStdString(folder.PathOf("emoticons"));
+    QDir().mkpath(path);
     QImage picture(10, 10, QImage::Format_ARGB32);
     picture.fill(Qt::blue);
     for (int y = 0; y < 10; ++y) picture.setPixelColor(0, y, Qt::transparent);
-    for (int i = 0; i < count; ++i)
-      picture.save(u"%1/emoticons/e%2.gif"_qs.arg(QString::fromStdString(folder.path())).arg(1000 + i),
-                   "PNG");
+    for (int i = 0; i < count; ++i) picture.save(u"%1/e%2.gif"_qs.arg(path).arg(1000 + i), "PNG");
   }
   void InPicker(const std::function<void(frmEmoticons&)>& act) { In("btnInsertEmoticon", act); }
   // "Page 01/02: 60", the number of visible buttons behind it.
   static std::string Screen(const frmEmoticons& picker) {
-    const auto shown = std::count_if(picker.cmdEmoticons.begin(), picker.cmdEmoticons.end(),
-                                     [](const QPushButton* button) { return button->isVisible(); });
-    return picker.cmdPage->text().toStdString() + (picker.cmdPage->isVisible() ? ": " : " hidden: ") +
-           std::to_string(shown);
+    const auto& buttons = picker.cmdEmoticons;
+    const auto shown =
+        std::count_if(buttons.begin(), buttons.end(), [](const auto* button) { return button->isVisible(); });
+    const std::string page = picker.cmdPage->text().toStdString();
+    return page + (picker.cmdPage->isVisible() ? ": " : " hidden: ") + std::to_string(shown);
   }
 };
 

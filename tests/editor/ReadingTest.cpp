@@ -12,7 +12,8 @@ using Reading = fixture::OpenBook;
 
 TEST_F(Reading, AnAlienOrUnreadableFileIsToldAndNeverWritten) {
   const auto sound = AddJournal({"cover", "one"}), alien = AddJournal(), unreadable = AddJournal();
-  folder.Write(FileOf(alien), "ZANDOLK JOURNAL FILE V00002 and something else");
+  const std::string foreign = "ZANDOLK JOURNAL FILE V00002 and something else";
+  folder.Write(FileOf(alien), foreign);
   QLocalServer server;  // its socket is an entry that cannot be opened as a file, not even by root
   ASSERT_TRUE(server.listen(QString::fromStdString(folder.PathOf(FileOf(unreadable)))));
   for (const std::int32_t row : {alien, unreadable}) {
@@ -23,7 +24,7 @@ TEST_F(Reading, AnAlienOrUnreadableFileIsToldAndNeverWritten) {
     Type("x");
     window().CloseBox();
   }
-  EXPECT_EQ(BytesOf(alien), "ZANDOLK JOURNAL FILE V00002 and something else");
+  EXPECT_EQ(BytesOf(alien), foreign);
   ASSERT_EQ(answers.messages.size(), 2u);
   EXPECT_EQ(answers.messages[0].text, "Journal load -- file unknown or corrupt!");
   EXPECT_NE(answers.last().find("j3.tqf"), std::string::npos);
@@ -58,17 +59,13 @@ TEST_F(Reading, ShowsEachPageWithItsDateAndNumber) {
   EXPECT_EQ(Shown(), "Title Page: cover") << "it has a date and shows none";
   EXPECT_EQ(text().SelStart(), 0) << "the text comes after the caret was set";
   EXPECT_EQ(Journals[1].PageCount, 2);
-  for (const auto& [key, shown] : {std::pair{"btnNext", "day 40001Page 1: one"},
-                                   {"btnLastPage", "day 40002Page 2: two"},
-                                   {"btnBack", "day 40001Page 1: one"},
-                                   {"btnBack", "Title Page: cover"},
-                                   {"btnBack", "Title Page: cover"}}) {
-    Press(key);
-    EXPECT_EQ(Shown(), shown);
-  }
   chkGotoLastPage = 1;
   Open(row);
   EXPECT_EQ(Shown(), "day 40002Page 2: two");
+  for (const char* shown : {"day 40001Page 1: one", "Title Page: cover", "Title Page: cover"}) {
+    Press("btnBack");
+    EXPECT_EQ(Shown(), shown);
+  }
 }
 
 TEST_F(Reading, ANewPageIsAskedForAndComesAtTheEndOfTheBook) {
@@ -85,10 +82,8 @@ TEST_F(Reading, ANewPageIsAskedForAndComesAtTheEndOfTheBook) {
   EXPECT_EQ(Shown(), "day 45000Page 3: ");
   EXPECT_TRUE(text().hasFocus());
   EXPECT_EQ(Pages.at(3).Body, "") << "stored at its leaving and not before";
-  const auto box =
-      platform::SetMessageAnswerer([](const platform::Message&) { return platform::Answer::Ok; });
+  platform::SetMessageAnswerer([](const platform::Message&) { return platform::Answer::Ok; });
   window().PageNew();
-  platform::SetMessageAnswerer(box);
   EXPECT_EQ(PageCount, 4) << "anything but No adds the page";
 }
 

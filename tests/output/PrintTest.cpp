@@ -1,19 +1,104 @@
+#include <cmath>
+#include <map>
+
+#include <QtGui/QPaintDevice>
+#include <QtGui/QPaintEngine>
+
 #include "output/PrintRange.h"
 #include "output/modPrint.h"
+#include "richtext/Paper.h"
 #include "tests/editor/OpenBook.h"
-#include "tests/output/PaperRecorder.h"
 
 namespace {
 
-using fixture::Printed;
 using fixture::Texts;
 using Sheets = std::vector<Texts>;
 
-std::string Numbered(const std::string& word, int count) {
-  std::string text;
-  for (int i = 1; i <= count; ++i) text += word + std::to_string(i) + (i < count ? "\\par " : "");
-  return text;
-}
+struct Drawn {
+  std::size_t sheet;
+  QString text;
+  QPointF at;  // dots: where it begins on its line
+  QRectF place;
+  QFont font;
+  QColor color;
+};
+
+class RecordingEngine : public QPaintEngine {
+ public:
+  RecordingEngine() : QPaintEngine(AllFeatures) {}
+
+  bool begin(QPaintDevice*) override { return true; }
+  bool end() override { return true; }
+  void updateState(const QPaintEngineState& changed) override {
+    if (changed.state() & DirtyPen) pen_ = changed.pen();
+    if (changed.state() & DirtyTransform) dots_ = changed.transform();
+  }
+  void drawTextItem(const QPointF& at, const QTextItem& item) override {
+    const QRectF place(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent());
+    drawn.push_back({sheet, item.text(), dots_.map(at), dots_.mapRect(place), item.font(), pen_.color()});
+  }
+  void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+  void drawPath(const QPainterPath&) override {}
+  void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
+  Type type() const override { return User; }
+
+  std::vector<Drawn> drawn;
+  std::size_t sheet = 0;
+
+ private:
+  QPen pen_;
+  QTransform dots_;
+};
+
+// A printer that keeps what is drawn on it and where, sheet by sheet.
+class Printed : public QPaintDevice {
+ public:
+  explicit Printed(QSizeF inches = {8, 10.5}) : inches_(inches) {}
+
+  QPaintEngine* paintEngine() const override { return &engine_; }
+  // `whole`: what it says at the end of whether all has arrived.
+  std::unique_ptr<richtext::Paper> Paper(bool whole = true) { return std::make_unique<Sheet>(*this, whole); }
+
+  const std::vector<Drawn>& All() const { return engine_.drawn; }
+  // The lines of each sheet as a person reads them, from left to right.
+  Sheets Lines() const {
+    std::map<std::pair<std::size_t, long>, std::multimap<double, std::string>> lines;
+    for (const Drawn& drawn : All())
+      lines[{drawn.sheet, std::lround(drawn.at.y())}].emplace(drawn.at.x(), drawn.text.toStdString());
+    Sheets sheets(engine_.sheet + 1);
+    for (const auto& [place, parts] : lines) {
+      std::string& line = sheets[place.first].emplace_back();
+      for (const auto& part : parts) line += part.second;
+    }
+    return sheets;
+  }
+
+ protected:
+  int metric(PaintDeviceMetric metric) const override {
+    if (metric == PdmWidth) return static_cast<int>(inches_.width() * DotsPerInch);
+    if (metric == PdmHeight) return static_cast<int>(inches_.height() * DotsPerInch);
+    if (metric == PdmDevicePixelRatio) return 1;
+    if (metric == PdmDevicePixelRatioScaled) return static_cast<int>(devicePixelRatioFScale());
+    return DotsPerInch;
+  }
+
+ private:
+  static constexpr int DotsPerInch = 300;
+
+  struct Sheet : richtext::Paper {
+    Sheet(Printed& printer, bool isWhole) : device(printer), whole(isWhole) {}
+    QPaintDevice& Device() override { return device; }
+    QSizeF Area() const override { return device.inches_ * 72.0; }
+    bool NextSheet() override { return ++device.engine_.sheet, true; }
+    bool IsWhole() const override { return whole; }
+
+    Printed& device;
+    bool whole;
+  };
+
+  QSizeF inches_;
+  mutable RecordingEngine engine_;
+};
 
 class Print : public fixture::OpenBook {
  protected:
@@ -25,10 +110,10 @@ class Print : public fixture::OpenBook {
   }
   ~Print() override { SetPrintAnswerer({}); }
 
-  Sheets PrintOn(Printed& printer, PrintChoice choice, int from = 0, int to = 0) {
-    answer.emplace(PrintOrder{choice, from, to, printer.Paper(), "here"});
+  Sheets PrintOn(Printed& printer, PrintChoice choice, int from = 0, int to = 0, bool whole = true) {
+    answer.emplace(PrintOrder{choice, from, to, printer.Paper(whole), "the attic's"});
     PrintJournal();
-    return printer.Sheets();
+    return printer.Lines();
   }
   Texts FirstSheet(PrintChoice choice, int from = 0, int to = 0) {
     Printed printer;
@@ -45,7 +130,7 @@ TEST_F(Print, PagesAreOnePlainTextInTheJournalsFont) {
   Printed printer;
   EXPECT_EQ(PrintOn(printer, PrintChoice::All),
             (Sheets{{"title", "day 40001", "big", "two", "day 40002", "day 40003", "last", "line"}}));
-  for (const fixture::Drawn& drawn : printer.All()) {
+  for (const Drawn& drawn : printer.All()) {
     EXPECT_EQ(drawn.font.families(), QStringList(QStringLiteral("DejaVu Serif")));
     EXPECT_EQ(drawn.font.pointSizeF(), 16);
     EXPECT_FALSE(drawn.font.bold() || drawn.font.italic());
@@ -72,17 +157,14 @@ TEST_F(Print, RangesCountFromTheTitlePageToTheLastThatTheBookcaseKnows) {
 }
 
 TEST_F(Print, ASelectionIsLiveAndPagesAreAsStored) {
-  const std::int32_t row = AddJournal({"stored"});
-  Open(row);
+  const std::int32_t row = Begin({"stored"});
   QObject::connect(&window(), &frmJournal::PrintRequested, &PrintJournal);
   const std::string before = BytesOf(row);
   Type("un");
   text().selectAll();
-  Printed selection;
-  answer.emplace(PrintOrder{PrintChoice::Selection, 0, 0, selection.Paper(), "here"});
-  Press("btnPrint");
-  EXPECT_EQ(selection.Sheets(), (Sheets{{"unstored"}}));
+  Press("btnPrint");  // cancelled
   EXPECT_TRUE(asked.selection);
+  EXPECT_EQ(FirstSheet(PrintChoice::Selection), Texts{"unstored"});
   EXPECT_EQ(FirstSheet(PrintChoice::Pages, 0, 0), Texts{"stored"});
   EXPECT_EQ(PageDirty, True);
   EXPECT_EQ(BytesOf(row), before);
@@ -108,13 +190,10 @@ TEST_F(Print, ASelectionKeepsItsFormats) {
 
 TEST_F(Print, WhatCannotBePrintedIsTold) {
   Load(AddJournal({"text", "more"}));
-  PrintJournal();  // cancelled
-  EXPECT_EQ(answers.texts(), Texts());
   EXPECT_EQ(FirstSheet(PrintChoice::Selection), Texts());
   EXPECT_EQ(answers.last().find("No text selected -- "), 0u);
   Printed jammed;
-  answer.emplace(PrintOrder{PrintChoice::All, 0, 0, jammed.Paper(false), "the attic's"});
-  PrintJournal();
+  PrintOn(jammed, PrintChoice::All, 0, 0, false);
   EXPECT_EQ(answers.last(), "Error:The device reported an error: the attic's");
 }
 
@@ -123,10 +202,11 @@ TEST_F(Print, WhatCannotBePrintedIsTold) {
 TEST_F(Print, PiecesCannotBeSeen) {
   constexpr std::size_t paragraphs = 1500;
   constexpr double spaceAfter = 25;  // 120 twips in dots
-  std::string words;
-  while (words.size() < 300'000) words += "some words that fill a line ";
-  Load(AddJournal({"\\sa120 " + Numbered("a short paragraph, number ", paragraphs) + "\\par " + words +
-                   "\\par the end"}));
+  std::string page = "\\sa120 ";
+  for (std::size_t i = 1; i <= paragraphs; ++i)
+    page += "a short paragraph, number " + std::to_string(i) + "\\par ";
+  for (int i = 0; i < 11'000; ++i) page += "some words that fill a line ";
+  Load(AddJournal({page + "\\par the end"}));
   text().selectAll();
   Printed printer({4.001, 5.031});
   QString printed;

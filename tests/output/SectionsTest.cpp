@@ -14,51 +14,37 @@ class Sections : public fixture::Desk {
     Journals.resize(2);
     Journals[1].FileName = "j00000.tqf";
     CurrentJournal = 1;
-    Pages.resize(10);
-    for (std::size_t row = 0; row < Pages.size(); ++row)
-      Pages[row].PageDate = 40000 + static_cast<double>(row);
   }
 
-  // What a section makes of a fresh file.
-  std::string Written(const std::function<void(const std::string& path)>& write) {
-    platform::DeleteFile(page);
-    write(page);
-    return folder.Read("page.html");
-  }
   // The lines of a menu bar, each with "|" behind it; "Next>4" for a link, "4" for one that is its own
   // number.
   std::string Bar(std::int32_t number, std::int32_t pageCount) {
+    ExportSettings settings;
     settings.pageCount = pageCount;
-    auto bar = QString::fromStdString(
-        Written([&](const std::string& path) { WriteHtmlMenuBar(number, path, settings); }));
+    platform::DeleteFile(folder.PathOf("page.html"));
+    WriteHtmlMenuBar(number, folder.PathOf("page.html"), settings);
+    auto bar = QString::fromStdString(folder.Read("page.html"));
     bar.replace(u"\r\n"_qs, u"|"_qs);
     bar.replace(QRegularExpression(u"<a href=page(\\d+).html>\\1</a>"_qs), u"\\1"_qs);
     bar.replace(QRegularExpression(u"<a href=(?:page)?(\\w+).html>([^<]+)</a>"_qs), u"\\2>\\1"_qs);
     return bar.toStdString();
   }
-  PagePicture& AddPicture(const std::string& path) {
-    Pictures.resize(Pictures.size() + 1);
-    PictureCount = static_cast<std::int32_t>(Pictures.size()) - 1;
-    PagePicture& picture = Pictures.back();
-    picture.PictureFile = path;
+  // One more picture of page 0 of the open journal.
+  PagePicture& AddPicture(const std::string& name) {
+    PictureCount = static_cast<std::int32_t>(Pictures.size());
+    PagePicture& picture = Pictures.emplace_back();
+    picture.PictureFile = folder.PathOf(name);
     picture.PictureWidth = 300 + PictureCount;
     picture.PictureHeight = -1;
-    picture.PageNumber = CurrentPage;
     picture.JournalFile = "j00000.tqf";
     return picture;
   }
-
-  std::string page = folder.PathOf("page.html");
-  fixture::Clock clock{45000};
-  ExportSettings settings;
 };
 
 TEST_F(Sections, MenuBarShowsTheNumbersAroundThePage) {
   const std::string home = "<CENTER>|[Home>index] |", done = "</CENTER><BR>|";
   const std::string high = "...|20|21|22|23|24|25|26|27|";
   EXPECT_EQ(Bar(0, 0), "");
-  EXPECT_EQ(Bar(0, 1), "<CENTER>|[Next Page>1]|</CENTER>|");
-  EXPECT_EQ(Bar(1, 1), "<CENTER>|[Home Page>index]|</CENTER>|");
   EXPECT_EQ(Bar(2, 3), home + "[Previous>1] |1| 2 |3| [Next>3]| [Last>3]|" + done);
   EXPECT_EQ(Bar(2, 2), home + "[Previous>1] |1| 2 |" + done);
   EXPECT_EQ(Bar(7, 30),
@@ -67,40 +53,28 @@ TEST_F(Sections, MenuBarShowsTheNumbersAroundThePage) {
   EXPECT_EQ(Bar(6, 11), home + "[Previous>5] |1|2|3|4|5| 6 |7|8|9|10|11| [Next>7]| [Last>11]|" + done);
 }
 
-TEST_F(Sections, CaptionHasFourShapes) {
-  CurrentPage = 3;  // whose date it is, whatever the number says
-  const auto caption = [&](bool dates, bool numbers, std::int32_t number = 7) {
-    settings.showDates = dates;
-    settings.showPageNumbers = numbers;
-    return Written([&](const std::string& path) { WriteHtmlPageCaption(path, number, settings); });
-  };
-  EXPECT_EQ(caption(true, true), "<CENTER>Page #7, day 40003 </CENTER><BR>\r\n");
-  EXPECT_EQ(caption(false, true), "<CENTER>Page #7  </CENTER><BR>\r\n");
-  EXPECT_EQ(caption(true, true, 0), "");
-}
-
 TEST_F(Sections, PicturesOfThisPageAloneAreCopiedAndShown) {
-  const std::string target = folder.PathOf("out");
+  const std::string cafe = "Caf\xC3\xA9 \xD0\x96.gif", target = folder.PathOf("out");
   platform::MakeFolder(target);
-  for (const char* name : {"a.gif", "Caf\xC3\xA9 \xD0\x96.gif", "x\\b.gif", "x\\.."})
+  for (const std::string& name : {std::string("a.gif"), cafe, std::string("x\\b.gif"), std::string("x\\..")})
     folder.Write(name, name);
-  CurrentPage = 3;
-  AddPicture(folder.PathOf("a.gif"));  // row 0, never shown
-  AddPicture(folder.PathOf("gone.gif"));
-  AddPicture(folder.PathOf("a.gif")).PageNumber = 4;
-  AddPicture(folder.PathOf("a.gif")).JournalFile = "J00000.tqf";
-  AddPicture(folder.PathOf("a.gif")).Deleted = True;
-  AddPicture(folder.PathOf("x\\.."));
-  AddPicture(folder.PathOf("Caf\xC3\xA9 \xD0\x96.gif"));
-  AddPicture(folder.PathOf("a.gif")).Deleted = 1;  // which removes nothing
-  AddPicture(folder.PathOf("x\\b.gif"));
-  const std::string all =
+  AddPicture("a.gif");  // row 0, never shown
+  AddPicture("gone.gif");
+  AddPicture("a.gif").PageNumber = 1;
+  AddPicture("a.gif").JournalFile = "J00000.tqf";
+  AddPicture("a.gif").Deleted = True;
+  AddPicture("x\\..");
+  AddPicture(cafe);
+  AddPicture("a.gif").Deleted = 1;  // which removes nothing
+  AddPicture("x\\b.gif");
+  WriteHtmlPictures(PictureCount, target, folder.PathOf("page.html"));
+  EXPECT_EQ(
+      folder.Read("page.html"),
       "<a href=\"Caf\xE9 &#1046;.gif\"><img src=\"Caf\xE9 &#1046;.gif\"  align=left width=306 height=-1 "
       "border=0></a>\r\n"
       "<a href=\"a.gif\"><img src=\"a.gif\"  width=307 height=-1 border=0></a>\r\n"
-      "<a href=\"b.gif\"><img src=\"b.gif\"  width=308 height=-1 border=0></a>\r\n";
-  EXPECT_EQ(Written([&](const auto& path) { WriteHtmlPictures(PictureCount, target, path); }), all);
-  EXPECT_EQ(folder.Names("out"), (fixture::Texts{"Caf\xC3\xA9 \xD0\x96.gif", "a.gif", "b.gif"}));
+      "<a href=\"b.gif\"><img src=\"b.gif\"  width=308 height=-1 border=0></a>\r\n");
+  EXPECT_EQ(folder.Names("out"), (fixture::Texts{cafe, "a.gif", "b.gif"}));
   EXPECT_TRUE(answers.messages.empty());
 }
 

@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
-#include <string_view>
 #include <unistd.h>
 #include <xcb/xcb.h>
 #include <xcb/xtest.h>
@@ -24,8 +23,8 @@ constexpr unsigned ReturnKey = 0xff0d, TabKey = 0xff09, EscapeKey = 0xff1b, Shif
                    AltKey = 0xffe9, F4Key = 0xffc1;
 
 struct KeyPlace {
-  unsigned char keycode = 0;  // 0: no key has the symbol
-  bool shift = false;
+  unsigned char keycode;
+  bool shift;
 };
 
 template <class Answer>
@@ -97,16 +96,9 @@ void Person::Expect(const QString& expected, const std::function<bool()>& questi
 
 // The toolkit may hear later, or earlier, than the window manager does which window is the active one.
 bool Person::HasTheKeys(const QWidget& window) {
-  const auto root = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
-  constexpr std::string_view name = "_NET_ACTIVE_WINDOW";
-  const Reply<xcb_intern_atom_reply_t> atom(
-      xcb_intern_atom_reply(connection_, xcb_intern_atom(connection_, 1, name.size(), name.data()), nullptr),
-      &std::free);
-  const auto cookie = xcb_get_property(connection_, 0, root, atom->atom, XCB_ATOM_WINDOW, 0, 1);
-  const Reply<xcb_get_property_reply_t> active(xcb_get_property_reply(connection_, cookie, nullptr),
-                                               &std::free);
-  return xcb_get_property_value_length(active.get()) == sizeof(xcb_window_t) &&
-         *static_cast<xcb_window_t*>(xcb_get_property_value(active.get())) == window.effectiveWinId();
+  const Reply<xcb_get_input_focus_reply_t> reply(
+      xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr), &std::free);
+  return reply->focus == window.effectiveWinId();
 }
 
 void Person::SeeWindow(const char* name, const char* shot) {
@@ -124,6 +116,11 @@ void Person::Open(const char* control, const char* window, const char* shot) {
   SeeWindow(window, shot);
 }
 
+void Person::Enter(const QString& text, const char* window) {
+  Type(text + u'\n');
+  SeeWindow(window);
+}
+
 void Person::Escape(const char* window) {
   Press({EscapeKey});
   SeeWindow(window);
@@ -139,14 +136,12 @@ void Person::AnswerBox(const QString& text, const QString& button) {
   Expect(u"a message box in front: "_qs + text,
          [&] { return box() && box()->isActiveWindow() && box()->text() == text; });
   Shot("message");
-  ClickAt(StandingStill(u"a button "_qs + button,
-                        [&] {
-                          for (const QAbstractButton* candidate : box()->buttons())
-                            if (candidate->text().remove(u'&') == button)
-                              return candidate->mapToGlobal(candidate->rect().center());
-                          return QPoint();
-                        }),
-          1);
+  const auto middleOfButton = [&] {
+    for (const QAbstractButton* candidate : box()->buttons())
+      if (candidate->text().remove(u'&') == button) return candidate->mapToGlobal(candidate->rect().center());
+    return QPoint();
+  };
+  ClickAt(StandingStill(u"a button "_qs + button, middleOfButton), 1);
   Expect(u"the box to go, and a window in its place: "_qs + text, [&] {
     const QWidget* active = QApplication::activeWindow();
     return !box() && active && HasTheKeys(*active);
@@ -164,42 +159,28 @@ QPoint Person::StandingStill(const QString& what, const std::function<QPoint()>&
   return place;
 }
 
-QPoint Person::MiddleOf(const QString& control) {
-  return StandingStill(u"a control to click: "_qs + control, [&] {
+QPoint Person::MiddleOf(const QString& control, int row) {
+  return StandingStill(u"a control to click: %1, row %2"_qs.arg(control).arg(row), [&] {
     const QWidget* active = QApplication::activeWindow();
     const auto* found = active ? active->findChild<QWidget*>(control) : nullptr;
-    const bool ready = found && found->isVisible() && found->isEnabled();
-    return ready ? found->mapToGlobal(found->rect().center()) : QPoint();
+    if (!found || !found->isVisible() || !found->isEnabled()) return QPoint();
+    const auto* list = qobject_cast<const QListWidget*>(found);
+    if (!list || row < 0) return found->mapToGlobal(found->rect().center());
+    const QRect place = row < list->count() ? list->visualItemRect(list->item(row)) : QRect();
+    return place.isNull() ? QPoint() : list->viewport()->mapToGlobal(place.center());
   });
 }
 
-void Person::Click(const QString& control) {
-  ClickAt(MiddleOf(control), 1);
+void Person::Click(const QString& control, int row) {
+  ClickAt(MiddleOf(control, row), 1);
 }
 
-void Person::DoubleClick(const QString& control) {
-  ClickAt(MiddleOf(control), 2);
+void Person::DoubleClick(const QString& control, int row) {
+  ClickAt(MiddleOf(control, row), 2);
 }
 
-QPoint Person::MiddleOfItem(const char* list, int row) {
-  return StandingStill(u"a row %1 in the list"_qs.arg(row), [&] {
-    const QWidget* active = QApplication::activeWindow();
-    const auto* found = active ? active->findChild<QListWidget*>(QLatin1String(list)) : nullptr;
-    if (!found || found->count() <= row) return QPoint();
-    return found->viewport()->mapToGlobal(found->visualItemRect(found->item(row)).center());
-  });
-}
-
-void Person::ClickItem(const char* list, int row) {
-  ClickAt(MiddleOfItem(list, row), 1);
-}
-
-void Person::DoubleClickItem(const char* list, int row) {
-  ClickAt(MiddleOfItem(list, row), 2);
-}
-
-QPoint Person::Drag(const char* control, QPoint by) {
-  const QPoint start = MiddleOf(QLatin1String(control));
+QPoint Person::Drag(const QString& control, QPoint by) {
+  const QPoint start = MiddleOf(control);
   Fake(XCB_MOTION_NOTIFY, 0, start);
   Settle();
   Fake(XCB_BUTTON_PRESS, 1);
@@ -234,23 +215,22 @@ void Person::Fake(unsigned char type, unsigned char detail, QPoint place) {
   QThread::msleep(8);
 }
 
-void Person::PressKey(unsigned char keycode, bool shift) {
-  const unsigned char shiftKeycode = shift ? FindKey(connection_, ShiftKey).keycode : 0;
-  if (shift) Queue(XCB_KEY_PRESS, shiftKeycode);
-  Queue(XCB_KEY_PRESS, keycode);
-  Queue(XCB_KEY_RELEASE, keycode);
-  if (shift) Queue(XCB_KEY_RELEASE, shiftKeycode);
+void Person::PressKeysym(unsigned keysym) {
+  const KeyPlace key = FindKey(connection_, keysym);
+  const unsigned char shift = key.shift ? FindKey(connection_, ShiftKey).keycode : 0;
+  if (key.shift) Queue(XCB_KEY_PRESS, shift);
+  Queue(XCB_KEY_PRESS, key.keycode);
+  Queue(XCB_KEY_RELEASE, key.keycode);
+  if (key.shift) Queue(XCB_KEY_RELEASE, shift);
   xcb_flush(connection_);
   QThread::msleep(8);
 }
 
-void Person::PressKeysym(unsigned keysym) {
-  const KeyPlace key = FindKey(connection_, keysym);
-  PressKey(key.keycode, key.shift);
-}
-
 void Person::Type(const QString& text) {
-  for (const char32_t character : text.toUcs4()) PressKeysym(KeysymOf(character));
+  for (const char32_t character : text.toUcs4()) {
+    PressKeysym(KeysymOf(character));
+    if (character > U'~') Settle();  // before the next one borrows its key
+  }
   Settle();
 }
 
@@ -262,9 +242,10 @@ void Person::Press(std::initializer_list<unsigned> keysyms) {
 // All four at once: the program may end on the third, and the last key must not stay down for its successor.
 void Person::CloseWindow() {
   const unsigned char alt = FindKey(connection_, AltKey).keycode, f4 = FindKey(connection_, F4Key).keycode;
-  for (const auto& [type, key] : {std::pair{XCB_KEY_PRESS, alt}, std::pair{XCB_KEY_PRESS, f4},
-                                  std::pair{XCB_KEY_RELEASE, f4}, std::pair{XCB_KEY_RELEASE, alt}})
-    Queue(static_cast<unsigned char>(type), key);
+  Queue(XCB_KEY_PRESS, alt);
+  Queue(XCB_KEY_PRESS, f4);
+  Queue(XCB_KEY_RELEASE, f4);
+  Queue(XCB_KEY_RELEASE, alt);
   xcb_flush(connection_);
 }
 
@@ -276,18 +257,20 @@ void Person::Settle() {
 }
 
 void Person::Shot(const char* name) {
-  Settle();
-  const QString file =
-      u"%1/%2-%3.png"_qs.arg(album_).arg(number_++, 2, 10, QLatin1Char('0')).arg(QLatin1String(name));
-  Do([&] { QApplication::primaryScreen()->grabWindow(0).save(file); });
+  Save(u"%1-%2"_qs.arg(number_++, 2, 10, QLatin1Char('0')).arg(QLatin1String(name)),
+       [] { return QApplication::primaryScreen()->geometry(); });
 }
 
 void Person::Portrait(const char* name) {
+  Save(QLatin1String(name), [] { return QApplication::activeWindow()->frameGeometry(); });
+}
+
+void Person::Save(const QString& name, const std::function<QRect()>& place) {
   Settle();
   Do([&] {
-    const QRect place = QApplication::activeWindow()->frameGeometry();
-    QApplication::primaryScreen()
-        ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
-        .save(album_ + u'/' + QLatin1String(name) + u".png"_qs);
+    const QRect part = place();
+    const QPixmap picture =
+        QApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height());
+    picture.save(u"%1/%2.png"_qs.arg(album_, name));
   });
 }

@@ -24,19 +24,18 @@ class Person {
   void SeeWindow(const char* name, const char* shot = nullptr);
   // Clicks a control that leads to the window.
   void Open(const char* control, const char* window, const char* shot = nullptr);
-  // Leaves a window for the other one: by Escape, by the close box.
+  // Leaves a window for the other one: by Enter behind a text, by Escape, by the close box.
+  void Enter(const QString& text, const char* window);
   void Escape(const char* window);
   void Close(const char* window);
   // Waits until the only message box on the screen has this text, and answers it by a click on a button.
   void AnswerBox(const QString& text, const QString& button = QStringLiteral("OK"));
-  // A click in the middle of the named control of the active window.
-  void Click(const QString& control);
-  void DoubleClick(const QString& control);
-  void ClickItem(const char* list, int row);
-  void DoubleClickItem(const char* list, int row);
+  // A click in the middle of the named control of the active window, or on a row of a list.
+  void Click(const QString& control, int row = -1);
+  void DoubleClick(const QString& control, int row = -1);
   // Presses in the middle of the control, drags by so many pixels and releases. Returns the place of the
   // release on the screen.
-  QPoint Drag(const char* control, QPoint by);
+  QPoint Drag(const QString& control, QPoint by);
   // Types the text; '\n' is Enter, '\t' is Tab.
   void Type(const QString& text);
   // Alt and F4: what the window manager makes the close box's order of.
@@ -55,15 +54,14 @@ class Person {
 
  private:
   QPoint StandingStill(const QString& what, const std::function<QPoint()>& find);
-  QPoint MiddleOf(const QString& control);
-  QPoint MiddleOfItem(const char* list, int row);
+  QPoint MiddleOf(const QString& control, int row = -1);
   bool HasTheKeys(const QWidget& window);
-  void PressKey(unsigned char keycode, bool shift);
   void PressKeysym(unsigned keysym);
   void Queue(unsigned char type, unsigned char detail, QPoint place = {});
   void Fake(unsigned char type, unsigned char detail, QPoint place = {});
   void ClickAt(QPoint place, int times);
   void Settle();
+  void Save(const QString& name, const std::function<QRect()>& place);
 
   QString album_;
   int number_;

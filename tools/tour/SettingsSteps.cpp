@@ -2,6 +2,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QListWidget>
 
+#include "app/HelpWindow.h"
 #include "app/frmOptions.h"
 #include "bookcase/frmBookcase.h"
 #include "editor/frmJournal.h"
@@ -25,9 +26,9 @@ void ChooseTheme(Person& person, int index) {
   person.Shot("theme");
 }
 
-void Enter(Person& person, const QString& password) {
+void Unlock(Person& person, const QString& password) {
   person.DoubleClick(u"txtPass"_qs);  // what stands there is typed over
-  person.Type(password + u'\n');
+  person.Enter(password, "frmBookcase");
 }
 
 void ExpectJournals(Person& person, const QString& names) {
@@ -44,15 +45,13 @@ void PressF1(Person& person, const QString& chapter) {
   person.Press({f1Key});
   person.SeeWindow("HelpWindow");
   person.Expect(u"the help's chapter "_qs + chapter, [&] {
-    const auto* contents = QApplication::activeWindow()->findChild<QListWidget*>(u"lstContents"_qs);
-    return contents && contents->currentItem() && contents->currentItem()->text() == chapter;
+    return static_cast<HelpWindow*>(QApplication::activeWindow())->lstContents->currentItem()->text() ==
+           chapter;
   });
 }
 
 struct Reader {
-  const char* command;
-  const char* window;
-  const char* chapter;
+  const char *command, *window, *chapter;
 };
 
 void AskFor(Person& person, const char* home, std::initializer_list<Reader> readers) {
@@ -73,25 +72,25 @@ void TryTheThemes(Person& person) {
   person.Close("frmBookcase");
 }
 
-void ChangeThePassword(Person& person, const QString& old, const QString& fresh) {
+void ChangeThePassword(Person& person) {
   person.Open("cmdOptions", "frmOptions");
   person.Open("cmdResetPass", "frmPassChange");
-  person.Type(u"%1\t%2\t%2"_qs.arg(old, fresh));
+  person.Type(u"%1\t%2\t%2"_qs.arg(Rosebud, Thorn));
   person.Shot("another-password");
   person.Open("cmdOK", "frmOptions");
   person.Escape("frmBookcase");
   platform::ReplaceFile(platform::PathOf("holiday.tqf"), platform::ReadFile(platform::PathOf("j00000.tqf")));
 }
 
-void ComeBackWithTheNewPassword(Person& person, const QString& old, const QString& fresh) {
+void ComeBackWithTheNewPassword(Person& person) {
   person.SeeWindow("frmPass", "purple-lock");
-  person.Type(old + u'\n');
+  person.Type(Rosebud + u'\n');
   person.AnswerBox(u"password incorrect!"_qs);
-  Enter(person, fresh);
-  person.SeeWindow("frmBookcase", "recovered-journal");
+  Unlock(person, Thorn);
+  person.Shot("recovered-journal");
   const QString stray = u"Recovered Lost Journal (holiday.tqf)"_qs;
   ExpectJournals(person, u"My Diary, Garden & house, "_qs + stray);
-  person.DoubleClickItem("ListView1", 2);
+  person.DoubleClick(u"ListView1"_qs, 2);
   person.SeeWindow("frmJournal", "recovered-page");
   ExpectPage(person, u"Page 2"_qs, u"The second day."_qs);
 }
@@ -101,14 +100,11 @@ void AskForHelpEverywhere(Person& person) {
   person.SeeWindow("frmPass");
   PressF1(person, u"The lock"_qs);
   person.Escape("frmPass");
-  Enter(person, u"p"_qs);
-  person.SeeWindow("frmBookcase", "strays");
+  Unlock(person, u"p"_qs);
+  person.Shot("strays");
   const QString stray = u", Recovered Lost Journal (%1.tqf)"_qs;
   ExpectJournals(person, u"Known"_qs + stray.arg(u"J00000") + stray.arg(u"holiday") + stray.arg(u"j00007"));
   PressF1(person, u"The bookcase"_qs);
-  person.Click(u"txtFind"_qs);
-  person.Type(u"brother\n"_qs);
-  person.Shot("help-found");
   person.Escape("frmBookcase");
   AskFor(person, "frmBookcase",
          {{"cmdAdd", "frmNewJournal", "Create new Journal"},

@@ -7,10 +7,12 @@
 #include "tools/tour/Person.h"
 
 struct Sitting {
+  using Step = std::function<void(Person&)>;
+
   const char* title;
-  std::function<void()> stage;         // fills the fresh folder to sit down before; empty: the person's own
-  std::function<void(Person&)> play;   // up to the last check
-  std::function<void(Person&)> leave;  // what ends the program, with exit code 0
+  std::vector<Step> steps;
+  Step leave;                        // what ends the program, with exit code 0
+  std::function<void()> stage = {};  // fills the fresh folder to sit down before; empty: the person's own
 };
 
 const std::vector<Sitting>& Sittings();

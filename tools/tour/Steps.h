@@ -5,6 +5,10 @@
 
 class frmJournal;
 
+// The passwords of the person's own diary, the first and the later one.
+inline const QString Rosebud = QStringLiteral("Rosebud7");
+inline const QString Thorn = QStringLiteral("Thorn 9");
+
 frmJournal& Book();
 // The page's number on the head strip and its text.
 void ExpectPage(Person& person, const QString& number, const QString& text);
@@ -26,8 +30,8 @@ void ChangeTheProperties(Person& person);
 void TryTheThemes(Person& person);
 // At the bookcase. The new password holds from the next start on, for which a stray journal is brought: a
 // copy of the first one's file. Then only that password opens, and the stray stands there, readable.
-void ChangeThePassword(Person& person, const QString& old, const QString& fresh);
-void ComeBackWithTheNewPassword(Person& person, const QString& old, const QString& fresh);
+void ChangeThePassword(Person& person);
+void ComeBackWithTheNewPassword(Person& person);
 // At the lock of the diary with strays: it shows what its contents tell, and F1 leads each window's reader to
 // its chapter. Ends at the bookcase.
 void AskForHelpEverywhere(Person& person);

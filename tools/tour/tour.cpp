@@ -35,7 +35,7 @@ int Sit(int argc, char** argv, int number, const QString& folder, const QString&
   platform::ListenForTheWayOut(&LeaveTheProgram);
   std::thread person([&] {
     Person visitor(album, 10 * number + 1);
-    sitting.play(visitor);
+    for (const auto& step : sitting.steps) step(visitor);
     std::printf("finished\n");
     std::fflush(stdout);
     sitting.leave(visitor);
@@ -51,10 +51,11 @@ bool Play(const QString& self, int number, const QString& folder, const QString&
   QProcess process;
   process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   process.start(self, {u"--sitting"_qs, QString::number(number), folder, album});
-  const bool ended = process.waitForFinished(SittingLimitMs);
-  if (!ended) std::fprintf(stderr, "expected: the end of the sitting within %d ms\n", SittingLimitMs);
-  if (!ended) process.kill();
-  return ended && process.readAllStandardOutput().contains("finished\n") &&
+  if (!process.waitForFinished(SittingLimitMs)) {
+    std::fprintf(stderr, "expected: the end of the sitting within %d ms\n", SittingLimitMs);
+    process.kill();
+  }
+  return process.readAllStandardOutput().contains("finished\n") &&
          process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
 
