@@ -77,6 +77,7 @@ TEST(BitmapFromPicture, ReadsEveryKind) {
       {"wmf-stretch-dib-part", "ffffff"},
       {"wmf-two", "ff0000 00ff00 00ff00 -"},  // beside each other, and a margin
       {"wmf-icon", "030201 -|- -"},           // whose surroundings stay clear
+      {"wmf-no-bitmap", "none"},
       {"emf", FourColors},
       {"emf-in-name", FourColors},  // it is what it is, not what it is called
       {"emf-endless", "none"},
@@ -116,6 +117,12 @@ TEST(BitmapFromPicture, TrustsNoSize) {
     picture.bytes = With(picture.bytes, patches);
     EXPECT_EQ(Shown(picture), "none") << name << " with another number at " << patches[0].place;
   }
+}
+
+TEST(BitmapFromPicture, ShowsNoMorePaperThanItsBitmapIsWorth) {
+  Picture picture = Sample("wmf-pasted");
+  picture.bytes = With(picture.bytes, {{Window, 0x7FFF7FFF}});
+  EXPECT_EQ(Shown(picture), FourColors);
 }
 
 TEST(BitmapFromPicture, GivesNothingForWhatIsCutOff) {

@@ -107,20 +107,20 @@ TEST_F(RichTextBoxTest, TypingBesideALinkIsNoPartOfIt) {
 
 TEST_F(RichTextBoxTest, SelectionReadsAsMixedAndTakesAttributes) {
   Set(Page("plain" + InLoud("loud")));
+  const auto attributes = [this] {
+    return std::tuple(box.SelFontName(), box.SelFontSize(), box.SelBold(), box.SelItalic(),
+                      box.SelUnderline(), box.SelStrikeThru(), box.SelColor());
+  };
+  const std::tuple plain(u"Arial"_qs, 10.0, false, false, false, false, 0u);  // automatic is black
+  const std::tuple loud(u"No Such Font"_qs, 18.5, true, true, true, true, 0x0000ffu);
+  EXPECT_EQ(attributes(), plain);
   box.SetSelStart(9);
-  EXPECT_EQ(box.SelFontSize(), 18.5) << "of the letter before the caret";
-  Select(4, 2);
-  EXPECT_FALSE(box.SelFontName() || box.SelFontSize() || box.SelBold() || box.SelItalic() ||
-               box.SelUnderline() || box.SelStrikeThru() || box.SelColor());
+  EXPECT_EQ(attributes(), loud) << "of the letter before the caret";
   Select(5, 100);
   EXPECT_EQ(box.SelLength(), 4);
-  EXPECT_EQ(box.SelFontName(), QStringLiteral("No Such Font"));
-  EXPECT_EQ(box.SelFontSize(), 18.5);
-  EXPECT_TRUE(*box.SelBold() && *box.SelItalic() && *box.SelUnderline() && *box.SelStrikeThru());
-  EXPECT_EQ(box.SelColor(), 0x0000ffu);
-  Select(0, 5);
-  EXPECT_EQ(box.SelBold(), false);
-  EXPECT_EQ(box.SelColor(), 0u) << "automatic is black";
+  EXPECT_EQ(attributes(), loud);
+  Select(4, 2);
+  EXPECT_EQ(attributes(), decltype(attributes())());
   Select(3, 4);
   box.SetSelFontName(QStringLiteral("Courier"));
   box.SetSelFontSize(8.25);
