@@ -1,29 +1,14 @@
 // The user's picture files: sound ones of each kind, and what else a path can lead to.
 #include <sys/stat.h>
 
-#include <QtCore/QBuffer>
-
 #include "pictures/PictureFile.h"
 #include "tests/support/Fixtures.h"
 
 namespace {
 
-// Sky above, grass below.
-QByteArray Landscape(const char* format, QSize size) {
-  QImage image(1, 2, QImage::Format_RGB32);
-  image.setPixelColor(0, 0, QColor(40, 90, 200));
-  image.setPixelColor(0, 1, QColor(40, 160, 40));
-  QBuffer file;
-  EXPECT_TRUE(image.scaled(size).save(&file, format, 95));
-  return file.data();
-}
-
-// The same with a camera's mark on it, behind the two bytes that begin every JPEG file.
-QByteArray Marked(QByteArray jpeg, char orientation) {
-  QByteArray exif =
-      QByteArray::fromHex("ffe1002245786966000049492a0008000000010012010300010000000000000000000000");
-  exif[28] = orientation;
-  return jpeg.insert(2, exif);
+// Sky above, grass below, 400 by 200 pixels.
+QByteArray Photograph(const char* name) {
+  return QByteArray::fromStdString(platform::ReadFile(TEST_SAMPLES "/photographs/" + std::string(name)));
 }
 
 // What lies in the corners, S for sky, G for grass: "SSGG" as it was taken, row by row.
@@ -43,7 +28,7 @@ class PictureFile : public fixture::Desk {
 };
 
 TEST_F(PictureFile, IsStretchedToTheSizeShownWhateverItsName) {
-  const std::string path = Put("photo.any", Landscape("png", {400, 200}));
+  const std::string path = Put("photo.any", Photograph("lake.png"));
   EXPECT_EQ(pictures::LoadScaled(path, {90, 70}, 2).size(), QSize(180, 140));
   EXPECT_TRUE(pictures::LoadScaled(path, {90, 0}).isNull());
   EXPECT_EQ(pictures::LoadScaled(path, {2000000000, 1000}).width(), 32767);
@@ -59,7 +44,7 @@ TEST_F(PictureFile, StandsUprightUnlessItsRowHasTheLyingShape) {
       {6, {50, 50}, "GSGS"}, {6, {80, 40}, "SSGG"}, {8, {40, 80}, "SGSG"}, {8, {80, 40}, "SSGG"},
   };
   for (const auto& [orientation, shown, corners] : cases) {
-    const std::string path = Put("phone.jpg", Marked(Landscape("jpg", {400, 200}), orientation));
+    const std::string path = Put("phone.jpg", Photograph("phone.jpg").replace(30, 1, &orientation, 1));
     EXPECT_EQ(pictures::UprightSize(path), orientation < 5 ? QSize(400, 200) : QSize(200, 400));
     EXPECT_EQ(Corners(pictures::LoadScaled(path, shown)), corners) << int{orientation};
   }
@@ -69,14 +54,14 @@ TEST_F(PictureFile, ThatCannotBeShownIsNamed) {
   using enum platform::FailureKind;
   const std::string pipe = folder.PathOf("pipe.jpg");
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  QByteArray huge = Landscape("jpg", {9, 9});
+  QByteArray huge = Photograph("phone.jpg");
   huge.replace(huge.indexOf("\xff\xc0") + 5, 4, "\xc3\x50\xc3\x50");  // 50,000 for both measures
   const std::tuple<platform::FailureKind, std::string, std::string> cases[] = {
       {PathAccess, "pipe.jpg", pipe},
       {InvalidPicture, "empty.jpg\n\nIt is empty", Put("empty.jpg", {})},
       {InvalidPicture, "letter.jpg\n\nIt is damaged, or of a kind", Put("letter.jpg", "Dear diary")},
       {InvalidPicture, "50,000 by 50,000 pixels", Put("huge.jpg", huge)},
-      {InvalidPicture, "cut.png", Put("cut.png", Landscape("png", {400, 200}).left(200))},
+      {InvalidPicture, "cut.png", Put("cut.png", Photograph("lake.png").left(200))},
   };
   for (const auto& [kind, words, path] : cases) {
     fixture::ExpectFailure(kind, words, [&file = path] { pictures::LoadScaled(file, {80, 40}); });
