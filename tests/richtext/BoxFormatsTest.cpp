@@ -1,5 +1,4 @@
 // Every format of a page through the text box's document and back.
-#include "platform/Files.h"
 #include "richtext/BoxLabels.h"
 #include "richtext/Limits.h"
 #include "tests/richtext/BoxFixture.h"

@@ -196,7 +196,7 @@ TEST_F(PastingTest, CopyOffersTheSelectionThreefold) {
   EXPECT_EQ(Dump(Taken()), before) << "RTF";
   const Document back = Read(html);
   EXPECT_TRUE(Dump(back).starts_with(
-      "(b i u s 37 #ff0000)a<b><png 132 300x150>(u 20 #0000ee on #ff0000 -> x://y?a&b)c"))
+      "(b i u s 37 #ff0000)a<b><png 109 300x150>(u 20 #0000ee on #ff0000 -> x://y?a&b)c"))
       << Dump(back);
   EXPECT_EQ(back.pictures.at(0).bytes, SignedPng().toStdString());
 }

@@ -1,4 +1,5 @@
 // The text box as a person uses it: shown, with real keys and clicks.
+#include <QtCore/QBuffer>
 #include <QtCore/QTemporaryFile>
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtWidgets/QScrollBar>
