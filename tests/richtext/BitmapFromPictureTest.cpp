@@ -102,14 +102,14 @@ TEST(BitmapFromPicture, TrustsNoSize) {
       {"dib24", {{Height, 0x80000000}}},
       {"dib24", {{Width, 65536}, {Height, 65536}}},
       {"dib24", {{Depth, 0}}},
-      {"dib24", {{Depth, 2}}},
+      {"dib24", {{Depth, 2}, {Colors, 1}}},
       {"dib24", {{Packing, 4}}},
       {"dib24", {{Colors, most}}},
       {"runs8", {{Colors, 0}}},
       {"runs8", {{Height, 0xFFFFFFFE}}},
       {"runs8", {{Width, 60000}}},
       {"wmf-pasted", {{Source, 0x75307530}}},
-      {"wmf-pasted", {{Target, 0}}},
+      {"wmf-pasted", {{Target, 40 << 16}}},
       {"wmf-pasted", {{Blit, 0}}},
   };
   for (const auto& [name, patches] : lies) {
