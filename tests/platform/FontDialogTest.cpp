@@ -67,13 +67,8 @@ TEST_F(FontDialogTest, TypingLeadsTheListAndAnUnknownNameIsNotAccepted) {
   EXPECT_EQ(back.name, u"cancelled");
 }
 
-TEST_F(FontDialogTest, TheColourComesFromTheColourDialog) {
-  platform::SetColorChooser([](const platform::ColorQuestion& question) {
-    return platform::DialogResult<std::uint32_t>{{}, question.start + 1};
-  });
-  const auto press = [](FontPicker& picker) { QTest::mouseClick(picker.color, Qt::LeftButton); };
-  EXPECT_EQ(After({{}, 0, false, false, false, false, 0x0000AA}, press).color, 0x0000ABu);
-  platform::SetColorChooser({});
+// Which the font dialog's colour comes from as well: see the tour.
+TEST_F(FontDialogTest, TheColourDialogGivesItsColourUnlessItIsCancelled) {
   for (const auto& [key, number] :
        {std::pair{Qt::Key_Return, 0}, {Qt::Key_Escape, platform::DialogEnd::Cancelled}}) {
     QTimer::singleShot(0, [key = key] { QTest::keyClick(QApplication::activeModalWidget(), key); });

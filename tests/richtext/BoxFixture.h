@@ -1,12 +1,12 @@
 // The text box as a person uses it, shown, with real keys; and pages to put into it.
 #pragma once
 
-#include <QtCore/QBuffer>
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 
+#include "platform/Files.h"
 #include "richtext/BoxDocument.h"
 #include "richtext/RichTextBox.h"
 #include "tests/richtext/RtfDump.h"
@@ -36,11 +36,7 @@ inline QImage Checkers(QSize size) {
 
 // A PNG file with a text of its own, which nobody who encodes the picture anew would write again.
 inline QByteArray SignedPng() {
-  QImage image = Checkers({8, 6});
-  image.setText(QStringLiteral("Author"), QStringLiteral("someone"));
-  QBuffer file;
-  image.save(&file, "PNG");
-  return file.data();
+  return QByteArray::fromStdString(platform::ReadFile(TEST_SAMPLES "/photographs/signed.png"));
 }
 inline std::string PictureGroup(const std::string& words) {
   return "{\\pict\\pngblip" + words + ' ' + SignedPng().toHex().toStdString() + '}';

@@ -1,4 +1,5 @@
 // The text box as a person uses it: shown, with real keys and clicks.
+#include <QtCore/QBuffer>
 #include <QtCore/QTemporaryFile>
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtWidgets/QScrollBar>
@@ -23,8 +24,6 @@ TEST_F(RichTextBoxTest, EverySetAndEveryEditIsOneChange) {
       {"letter", [&] { Type("x"); }},
       {"over a selection", [&] { Select(1, 3), Type("y"); }},
       {"enter", [&] { Press(Qt::Key_Return); }},
-      {"tab", [&] { Press(Qt::Key_Tab); }},
-      {"backspace", [&] { Press(Qt::Key_Backspace); }},
       {"undo", [&] { Press(Qt::Key_Z, Qt::ControlModifier); }},
       {"redo", [&] { Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }},
       {"cut", [&] { Select(0, 2), Press(Qt::Key_X, Qt::ControlModifier); }},
@@ -109,21 +108,20 @@ TEST_F(RichTextBoxTest, TypingBesideALinkIsNoPartOfIt) {
 
 TEST_F(RichTextBoxTest, SelectionReadsAsMixedAndTakesAttributes) {
   Set(Page("plain" + InLoud("loud")));
+  const auto attributes = [this] {
+    return std::tuple(box.SelFontName(), box.SelFontSize(), box.SelBold(), box.SelItalic(),
+                      box.SelUnderline(), box.SelStrikeThru(), box.SelColor());
+  };
+  const std::tuple plain(u"Arial"_qs, 10.0, false, false, false, false, 0u);  // automatic is black
+  const std::tuple loud(u"No Such Font"_qs, 18.5, true, true, true, true, 0x0000ffu);
+  EXPECT_EQ(attributes(), plain);
   box.SetSelStart(9);
-  EXPECT_EQ(box.SelFontSize(), 18.5) << "of the letter before the caret";
-  Select(4, 2);
-  EXPECT_FALSE(box.SelFontName() || box.SelFontSize() || box.SelBold() || box.SelItalic() ||
-               box.SelUnderline() || box.SelStrikeThru() || box.SelColor());
+  EXPECT_EQ(attributes(), loud) << "of the letter before the caret";
   Select(5, 100);
   EXPECT_EQ(box.SelLength(), 4);
-  EXPECT_EQ(box.SelFontName(), QStringLiteral("No Such Font"));
-  EXPECT_EQ(box.SelFontSize(), 18.5);
-  EXPECT_EQ(std::tuple(box.SelBold(), box.SelItalic(), box.SelUnderline(), box.SelStrikeThru()),
-            std::tuple(true, true, true, true));
-  EXPECT_EQ(box.SelColor(), 0x0000ffu);
-  Select(0, 5);
-  EXPECT_EQ(box.SelBold(), false);
-  EXPECT_EQ(box.SelColor(), 0u) << "automatic is black";
+  EXPECT_EQ(attributes(), loud);
+  Select(4, 2);
+  EXPECT_EQ(attributes(), decltype(attributes())());
   Select(3, 4);
   box.SetSelFontName(QStringLiteral("Courier"));
   box.SetSelFontSize(8.25);
@@ -140,11 +138,11 @@ TEST_F(RichTextBoxTest, UndoStopsAtThePage) {
   Set(Page("first"));
   Type("typed");
   Set(Page("second"));
-  for (int i = 0; i < 3; ++i) Press(Qt::Key_Z, Qt::ControlModifier);
+  Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Text(), "second");
   EXPECT_EQ(Changes(), 0);
   Type("x");
-  Press(Qt::Key_Z, Qt::ControlModifier);
+  for (int i = 0; i < 3; ++i) Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Text(), "second");
 }
 

@@ -1,7 +1,6 @@
 // The two disguises: the scrambler of names and passwords, the cipher of pages.
 #include <set>
 
-#include "store/PageCipher.h"
 #include "store/Scrambler.h"
 #include "tests/store/StoreTest.h"
 
@@ -10,25 +9,23 @@ namespace {
 using fixture::Texts;
 using ScramblerTest = fixture::Desk;
 
+std::string EverySecond(std::string_view text, std::size_t first) {
+  std::string kept;
+  for (std::size_t i = first; i < text.size(); i += 2) kept += text[i];
+  return kept;
+}
 std::string Enciphered(std::string_view plain, int shift) {
   std::string body(plain.size() * 2, '\0');
   store::Encipher(plain, shift, body.data());
   return body;
 }
 
-TEST_F(ScramblerTest, PutsAFillerBeforeTheRaisedCharacter) {
-  EXPECT_EQ(WithoutFillers(ScrambleText("ab\xFB"), 1), "ef\xFF");
-  for (const unsigned char filler : WithoutFillers(ScrambleText(std::string(5000, 'a')), 0))
-    EXPECT_TRUE(filler >= 30 && filler <= 149);
-  EXPECT_EQ(UnscrambleText(UnscrambleText(ScrambleText(ScrambleText("p\xE9")))), "p\xE9");
-  EXPECT_EQ(answers.texts(), Texts());
-}
-
-TEST_F(ScramblerTest, GoesOnAfterEveryCharacterThatCannotBeFormed) {
+TEST_F(ScramblerTest, RaisesByFourAndGoesOnAfterEveryCharacterThatCannotBeFormed) {
+  EXPECT_EQ(EverySecond(ScrambleText("ab\xFB"), 1), "ef\xFF");
   const std::string scrambled = ScrambleText("a\xFC\xFFz"), invalid = "Invalid procedure call or argument";
-  EXPECT_EQ(WithoutFillers(scrambled, 1), "eee~") << "the pair before is repeated";
-  EXPECT_EQ(scrambled.substr(0, 2), scrambled.substr(2, 2));
-  EXPECT_EQ(WithoutFillers(ScrambleText("\xFEz"), 1), "~");
+  EXPECT_EQ(EverySecond(scrambled, 1), "eee~");
+  EXPECT_EQ(scrambled.substr(0, 2), scrambled.substr(2, 2)) << "the pair before is repeated";
+  EXPECT_EQ(EverySecond(ScrambleText("\xFEz"), 1), "~");
   EXPECT_EQ(answers.texts(), Texts(3, "Encryption Error:" + invalid));
   answers.messages.clear();
   EXPECT_EQ(UnscrambleText("?e?f?"), "abb") << "an odd filler repeats the character before it";
@@ -45,18 +42,19 @@ TEST(PageCipherTest, ShiftsAndWrapsByTwoHundredAndFiftyFive) {
   for (const std::size_t length : {1, 63, 64, 700})
     for (const auto& [plain, shift, coded, back] : cases) {
       const std::string body = Enciphered(std::string(length, static_cast<char>(plain)), shift);
-      EXPECT_EQ(WithoutFillers(body, 0), std::string(length, static_cast<char>(coded))) << plain;
+      EXPECT_EQ(EverySecond(body, 0), std::string(length, static_cast<char>(coded))) << plain;
       EXPECT_EQ(Deciphered(body, shift), std::string(length, static_cast<char>(back))) << plain;
     }
 }
 
 // Fillers that repeated themselves from page to page would show which pages are alike.
-TEST(PageCipherTest, DrawsEachFillerAnew) {
-  const std::string first = WithoutFillers(Enciphered(std::string(5000, 'a'), 65), 1);
-  const std::set<unsigned char> drawn(first.begin(), first.end());
-  EXPECT_EQ(std::tuple(drawn.size(), *drawn.begin(), *drawn.rbegin()), std::tuple(120, 30, 149));
-  EXPECT_NE(first, WithoutFillers(Enciphered(std::string(5000, 'a'), 65), 1));
-  EXPECT_NE(first.substr(0, 64), first.substr(64, 64));
+TEST(FillersTest, AreDrawnAnewOutOfAHundredAndTwenty) {
+  const std::string plain(5000, 'a'), fillers = EverySecond(Enciphered(plain, 65), 1);
+  EXPECT_NE(fillers, EverySecond(Enciphered(plain, 65), 1));
+  for (const std::string& some : {fillers, EverySecond(ScrambleText(plain), 0)}) {
+    const std::set<unsigned char> drawn(some.begin(), some.end());
+    EXPECT_EQ(std::tuple(drawn.size(), *drawn.begin(), *drawn.rbegin()), std::tuple(120, 30, 149));
+  }
 }
 
 }  // namespace

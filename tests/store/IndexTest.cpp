@@ -5,16 +5,14 @@
 
 namespace {
 
-const std::string magic = "ZANDOLK JOURNAL INDEX FILE V00003", name = "journal.tqt";
+const std::string name = "journal.tqt";
 
 // "?e" is the scrambled name "a".
-std::string Record(const std::string& fileName, const std::string& scrambled = "?e") {
-  return Counted(scrambled) + Counted("") + Raw(7, 4) + Counted(fileName) + Raw(0, 2) + Raw(30, 4) +
-         Counted("Verdana") + Raw(0x00800000, 4) + Raw(16, 4) + Raw(0xFFFF, 2) + Raw(0, 2) + Raw(0xFFFF, 2) +
-         Raw(0, 2) + Raw(0x00C0FFFF, 4);
+JournalEntry Entry(const std::string& fileName, const std::string& scrambled = "?e") {
+  return {scrambled, "", 0, fileName, False, 0, {}};
 }
-std::string Header(std::uint32_t count, std::uint32_t shift = 55, const std::string& password = "?t?q") {
-  return magic + Raw(count, 4) + Raw(password.size(), 4) + password + Raw(shift, 4);
+std::string Bytes(const std::vector<JournalEntry>& journals, const std::string& password = "?t?q") {
+  return store::EncodeIndex({password, 55, journals});
 }
 
 class IndexTest : public fixture::Desk {
@@ -31,83 +29,75 @@ class IndexTest : public fixture::Desk {
   }
   void ExpectGivenUp(const std::string& bytes) {
     ResetState();
-    const int ends = end.count;
+    end.count = 0;
     EXPECT_EQ(Load(bytes) + MasterPassword, "");
-    EXPECT_EQ(end.count, ends + 1);
+    EXPECT_EQ(end.count, 1);
     EXPECT_NE(answers.last().find(name), std::string::npos);
     EXPECT_EQ(folder.Read(name), bytes);
   }
 };
 
 TEST_F(IndexTest, ReadsEachFieldFromItsPlace) {
-  const std::string bytes = Header(1) + Record("j00004.tqf");
-  EXPECT_EQ(Load(std::string(33, '\xFF') + bytes.substr(33)), "a:j00004.tqf ") << "the start is never read";
-  EXPECT_EQ(Journals.at(1), (JournalEntry{"a", "", 7, "j00004.tqf", False, 30, "Verdana", 0x800000, 16, True,
-                                          False, True, False, 0xC0FFFF}));
-  EXPECT_EQ(UnscrambleText(MasterPassword), "pm");
-  EXPECT_EQ(PageShift, 55);
-  EXPECT_EQ(store::EncodeIndex(store::DecodeIndex(bytes).index), bytes);
+  const std::string sample = Sample("2-three-journals/journal.tqt");
+  EXPECT_EQ(store::EncodeIndex(store::DecodeIndex(sample).index), sample);
+  EXPECT_EQ(Load(std::string(33, '\xFF') + sample.substr(33)),
+            "Garden & house:j00000.tqf :j00002.tqf Never closed yet:j00005.tqf ")
+      << "the start is never read";
+  EXPECT_EQ(Journals.at(1),
+            (JournalEntry{"Garden & house", "", 120, "j00000.tqf", False, 7, "Times New Roman", 0x800000, 12,
+                          False, True, False, False, 0xC0FFFF}));
+  EXPECT_EQ(std::tuple(Journals[2].FontBold, Journals[2].FontUnderline, Journals[3].FontStrikethru),
+            std::tuple(True, True, True));
+  EXPECT_EQ(std::pair(UnscrambleText(MasterPassword), PageShift),
+            std::pair(std::string("changed later"), 65));
   EXPECT_TRUE(answers.messages.empty());
 }
 
-TEST_F(IndexTest, LeavesRemovedRowsOutAndScramblesTheRest) {
-  LoadJournalIndex();
-  EXPECT_EQ(folder.Names(), fixture::Texts()) << "a missing file is left alone";
+TEST_F(IndexTest, LeavesRemovedRowsOutAndScramblesTheRestWhenTheyAreSaved) {
   MasterPassword = "?e";
-  Journals.assign(3, {});
-  Journals[1].Name = "gone";
+  Journals = {{}, Entry("", "gone"), Entry("", "kept")};
   Journals[1].Deleted = True;
-  Journals[2].Name = "kept";
   JournalCount = 2;
-  SaveAndExit();
-  EXPECT_EQ(end.count, 1);
-  EXPECT_EQ(Journals[1].Name, "gone");
+  for (const std::string& font : {std::string(65536, 'x'), std::string()}) {
+    Journals[2].FontName = font;
+    EXPECT_EQ(Journals[2].Name, "kept");
+    SaveAndExit();
+    EXPECT_EQ(end.count, font.empty());
+  }
   EXPECT_EQ(UnscrambleText(Journals[2].Name), "kept");
-  EXPECT_EQ(folder.Read(name).substr(0, 47), Header(1, 0, "?e"));
+  EXPECT_EQ(Load(folder.Read(name)) + MasterPassword, "kept: ?e");
 }
 
 TEST_F(IndexTest, GivesUpOnAHeaderThatIsCutOrCannotBe) {
-  const std::string record = Record("j00000.tqf"), whole = Header(2) + record + record;
-  for (std::size_t size = 0; size < Header(2).size(); ++size) ExpectGivenUp(whole.substr(0, size));
-  for (const std::uint32_t count : {0xFFFFFFFFu, 0x80000000u}) ExpectGivenUp(Header(count) + record);
-  for (const std::uint32_t shift : {0xFFFFFFFFu, 256u}) ExpectGivenUp(Header(1, shift) + record);
-  for (const std::uint32_t length : {0xFFFFFFFFu, 0x80000000u, 0x7FFFFFFFu, 1000u})
-    ExpectGivenUp(magic + Raw(1, 4) + Raw(length, 4) + "?t" + Raw(55, 4) + record);
+  constexpr std::size_t count = 33, length = 37, shift = 45, header = 49;
+  const std::string bytes = Bytes({Entry("a.tqf"), Entry("b.tqf")});
+  for (std::size_t size = 0; size < header; ++size) ExpectGivenUp(bytes.substr(0, size));
+  for (const std::size_t field : {count, length, shift}) ExpectGivenUp(With(bytes, field, 0xFFFFFFFF));
+  ExpectGivenUp(With(bytes, shift, 256));
+  ExpectGivenUp(With(bytes, length, 1000));
   // Noise would cost a box for each letter, again and again.
-  ExpectGivenUp(Header(1, 55, std::string(100'000, '\0')) + record);
+  ExpectGivenUp(Bytes({Entry("a.tqf")}, std::string(100'000, '\0')));
 }
 
 TEST_F(IndexTest, ReadsTheWholeRecordsAroundAbsurdOnesAndKeepsTheDamagedFileOnce) {
-  std::string bytes = Header(0x7FFFFFFF) + Record("a.tqf");
-  for (const std::string& absurd :
-       {std::string("../a"), std::string("a\\b"), std::string("a\0b", 3), std::string("."), std::string(".."),
-        name, std::string("tqpics.bin"), std::string(256, 'a')})
-    bytes += Record(absurd);
-  bytes += Record("b.tqf", std::string(65535, 'e')) + Record("c.tqf", std::string(100, '\1')) + Record("");
-  EXPECT_EQ(Load(bytes), "a:a.tqf a: ");
-  EXPECT_EQ(answers.messages.size(), 1u);
-  EXPECT_EQ(Load(Header(2) + Record("a.tqf") + Record("cut").substr(1)), "a:a.tqf ");
-  const std::string damaged = Header(1) + Record("a.tqf") + "left over";
-  Load(damaged);
+  std::vector<JournalEntry> journals = {Entry("a.tqf")};
+  for (const std::string& absurd : {std::string("../a"), std::string("a\\b"), std::string("a\0b", 3),
+                                    std::string(".."), name, std::string(256, 'a')})
+    journals.push_back(Entry(absurd));
+  for (const std::string& noise : {std::string(65535, 'e'), std::string(100, '\1')})
+    journals.push_back(Entry("b.tqf", noise));
+  journals.push_back(Entry(""));
+  EXPECT_EQ(Load(Bytes(journals)), "a:a.tqf a: ");
+  const std::string sound = Bytes({Entry("a.tqf"), Entry("b.tqf")});
+  EXPECT_EQ(Load(sound.substr(0, sound.size() - 1)), "a:a.tqf ");
+  Load(sound + "left over");
   EXPECT_EQ(answers.messages.size(), 1u);
   EXPECT_EQ(folder.Names().size(), 1u);
   for (int round = 0; round < 2; ++round) SaveJournalIndex();
-  EXPECT_EQ(folder.Read("journal.tqt.damaged"), damaged);
+  EXPECT_EQ(folder.Read("journal.tqt.damaged"), sound + "left over");
   EXPECT_EQ(folder.Names().size(), 2u);
   Load(folder.Read(name));
   EXPECT_TRUE(answers.messages.empty());
-}
-
-TEST_F(IndexTest, ASaveThatFailsIsToldAndChangesNothing) {
-  Load(Header(1) + Record("a.tqf"));
-  Journals[1].FontName = std::string(65536, 'x');
-  fixture::ExpectFailure(platform::FailureKind::InvalidArgument, "", [] { SaveJournalIndex(); });
-  Journals[1].FontName.clear();
-  platform::SetProgramFolder(folder.PathOf("missing"));
-  SaveAndExit();
-  EXPECT_EQ(end.count, 0);
-  EXPECT_NE(answers.last().find(name), std::string::npos);
-  EXPECT_EQ(Journals[1].Name, "a");
 }
 
 }  // namespace

@@ -1,26 +1,16 @@
-// Bytes written by hand.
+// The bytes of the data files, from the samples, and changed by hand.
 #pragma once
 
 #include "store/PageCipher.h"
 #include "tests/support/Fixtures.h"
 
-// The lowest `size` bytes of a number, the lowest first.
-inline std::string Raw(std::uint64_t number, int size) {
-  std::string bytes;
-  for (int i = 0; i < size; ++i) bytes += static_cast<char>(number >> (8 * i));
-  return bytes;
-}
-inline std::string Counted(std::string_view text) {
-  return Raw(text.size(), 2) += text;
-}
-// Every second byte, the fillers left out.
-inline std::string WithoutFillers(std::string_view text, std::size_t first) {
-  std::string kept;
-  for (std::size_t i = first; i < text.size(); i += 2) kept += text[i];
-  return kept;
-}
 inline std::string Sample(const std::string& path) {
   return platform::ReadFile(std::string(TEST_SAMPLES) + "/" + path);
+}
+// The bytes with a number of 32 bits at a place, the lowest byte first.
+inline std::string With(std::string bytes, std::size_t place, std::uint32_t number) {
+  for (std::size_t i = 0; i < 4; ++i) bytes.at(place + i) = static_cast<char>(number >> (8 * i));
+  return bytes;
 }
 inline std::string Deciphered(std::string_view body, int shift) {
   std::string plain(body.size() / 2, '\0');
