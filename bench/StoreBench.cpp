@@ -103,7 +103,7 @@ class OpenJournal {
     Journals.assign(2, {});
     JournalCount = PagesJournal = CurrentJournal = 1;
     Journals[1].FileName = fileName;
-    Pages.assign(pageCount + 1, {std::string(bodySize, 'q'), 45000.5});
+    Pages.assign(static_cast<std::size_t>(pageCount) + 1, {std::string(bodySize, 'q'), 45000.5});
     PageCount = pageCount;
     SaveJournalFile(fileName);
     bytes = platform::ReadFile(Path());

@@ -79,9 +79,10 @@ TEST_F(BookcaseTest, OpensTheRowOfTheItemAndComesBackAtItsClosing) {
     Click(Window().cmdOpen);
     EXPECT_EQ(CurrentJournal, row);
     EXPECT_EQ(PagesJournal, row);
-    EXPECT_EQ(Book().windowHandle()->title().toStdString(), "Thornquill [" + Journals[row].Name + "]");
-    EXPECT_EQ(Book().face->txtM->BackColor(), Journals[row].PaperColor);
-    EXPECT_EQ(Book().face->picBinding->BackColor(), Journals[row].PaperColor);
+    const JournalEntry& entry = Journals.at(static_cast<std::size_t>(row));
+    EXPECT_EQ(Book().windowHandle()->title().toStdString(), "Thornquill [" + entry.Name + "]");
+    EXPECT_EQ(Book().face->txtM->BackColor(), entry.PaperColor);
+    EXPECT_EQ(Book().face->picBinding->BackColor(), entry.PaperColor);
     EXPECT_EQ(Book().windowIcon().cacheKey(), JournalIcon(row == 3 ? 63 : 1).cacheKey());
     EXPECT_EQ(Book().face->txtM->Text(), QString());
     EXPECT_FALSE(Window().isVisible());

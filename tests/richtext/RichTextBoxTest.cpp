@@ -129,7 +129,7 @@ TEST_F(RichTextBoxTest, TypingBesideALinkIsNoPartOfIt) {
   for (const Document& page :
        {Page({{u"link", link}}), Page({{u"a", Loud}, {u"link", link}, {u"b", Loud}})}) {
     Set(page);
-    const int start = box.Text().indexOf(u'l');
+    const int start = static_cast<int>(box.Text().indexOf(u'l'));
     for (const auto& [place, letters] : {std::pair{0, "link"}, {5, "link"}, {3, "lixnk"}}) {
       box.SetSelStart(start + place);
       Type("x");
@@ -138,7 +138,7 @@ TEST_F(RichTextBoxTest, TypingBesideALinkIsNoPartOfIt) {
     if (start > 0) {
       EXPECT_EQ(FormatAt(start + 1), Loud) << "as the text around it";
     }
-    box.SetSelStart(box.Text().indexOf(u'k') + 1);
+    box.SetSelStart(static_cast<int>(box.Text().indexOf(u'k')) + 1);
     Press(Qt::Key_Return);
     Type("y");
     EXPECT_EQ(linked(), QLatin1String("lixnk"));
@@ -259,7 +259,7 @@ TEST_F(RichTextBoxTest, TextCountsAsTheSelectionDoes) {
   EXPECT_EQ(box.SelStart(), text.size());
   box.SetSelStart(-1);
   EXPECT_EQ(box.SelStart(), 0);
-  Select(text.indexOf(u't'), 4);
+  Select(static_cast<int>(text.indexOf(u't')), 4);
   Type("x");
   EXPECT_TRUE(box.Text().endsWith(QStringLiteral("\ufffcx")));
 }

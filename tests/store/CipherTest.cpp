@@ -28,8 +28,10 @@ std::string Deciphered(std::string_view body, int shift) {
 TEST_F(ScramblerTest, PutsAFillerBeforeTheRaisedCharacter) {
   const std::string scrambled = ScrambleText("ab\xFB");
   EXPECT_EQ(WithoutFillers(scrambled, 1), "ef\xFF");
-  for (const unsigned char filler : WithoutFillers(ScrambleText(std::string(5000, 'a')), 0))
-    EXPECT_TRUE(filler >= 30 && filler <= 149);
+  for (const char byte : WithoutFillers(ScrambleText(std::string(5000, 'a')), 0)) {
+    const int filler = static_cast<unsigned char>(byte);
+    EXPECT_TRUE(filler >= 30 && filler <= 149) << filler;
+  }
   EXPECT_EQ(UnscrambleText(UnscrambleText(ScrambleText(ScrambleText("p\xE9")))), "p\xE9");
   EXPECT_EQ(answers.texts(), Texts());
 }
@@ -64,7 +66,8 @@ TEST(PageCipherTest, ComesBackForEveryLengthCodeAndShift) {
   for (int i = 0; i < 700; ++i) plain += static_cast<char>(i % 255);
   for (int shift = 0; shift <= 255; ++shift) {
     EXPECT_EQ(Deciphered(Enciphered(plain, shift), shift), plain) << shift;
-    EXPECT_EQ(Deciphered(Enciphered(plain.substr(0, shift), 65), 65), plain.substr(0, shift));
+    const std::string some = plain.substr(0, static_cast<std::size_t>(shift));
+    EXPECT_EQ(Deciphered(Enciphered(some, 65), 65), some);
   }
 }
 

@@ -13,8 +13,8 @@ std::string Record(const std::string& fileName, const std::string& name = "?e") 
          Counted("Verdana") + Raw(0x00800000, 4) + Raw(16, 4) + Raw(0xFFFF, 2) + Raw(0, 2) + Raw(0xFFFF, 2) +
          Raw(0, 2) + Raw(0x00C0FFFF, 4);
 }
-std::string Header(std::uint32_t count, std::uint32_t shift = 55, const std::string& password = "?t?q") {
-  return indexMagic + Raw(count, 4) + Raw(password.size(), 4) + password + Raw(shift, 4);
+std::string Header(std::int32_t count, std::int32_t shift = 55, const std::string& password = "?t?q") {
+  return indexMagic + Raw(count, 4) + Raw(std::ssize(password), 4) + password + Raw(shift, 4);
 }
 
 class IndexTest : public fixture::Desk {
@@ -27,8 +27,8 @@ class IndexTest : public fixture::Desk {
   // The names and the files of the rows.
   static std::string Rows() {
     std::string rows;
-    for (std::int32_t row = 1; row <= JournalCount; ++row)
-      rows += Journals.at(row).Name + ":" + Journals[row].FileName + " ";
+    for (std::size_t row = 1; row < Journals.size(); ++row)
+      rows += Journals[row].Name + ":" + Journals[row].FileName + " ";
     return rows;
   }
   void ExpectGivenUp(const std::string& bytes) {
@@ -108,8 +108,9 @@ TEST_F(IndexTest, EveryTruncationIsToldAndLosesNothing) {
 
 TEST_F(IndexTest, GivesUpOnAHeaderThatCannotBe) {
   const std::string record = Record("j00000.tqf");
-  for (const std::uint32_t count : {0xFFFFFFFFu, 0x80000000u}) ExpectGivenUp(Header(count) + record);
-  for (const std::uint32_t shift : {0xFFFFFFFFu, 256u}) ExpectGivenUp(Header(1, shift) + record);
+  for (const std::int32_t count : {-1, std::numeric_limits<std::int32_t>::min()})
+    ExpectGivenUp(Header(count) + record);
+  for (const std::int32_t shift : {-1, 256}) ExpectGivenUp(Header(1, shift) + record);
   for (const std::uint32_t length : {0xFFFFFFFFu, 0x80000000u, 0x7FFFFFFFu, 1000u})
     ExpectGivenUp(indexMagic + Raw(1, 4) + Raw(length, 4) + "?t" + Raw(55, 4) + record);
   // Noise would cost a box for each letter, again and again.

@@ -21,7 +21,7 @@ TEST_F(LostJournals, AdoptsEachFileThatNoRowMeansToTheLetter) {
   JournalCount = 1;
   Journals[1].FileName = "j00000.tqf";
   std::string told;
-  JournalAdded = [&](std::int32_t row) { told += Journals[row].FileName + " "; };
+  JournalAdded = [&](std::int32_t row) { told += Journals.at(static_cast<std::size_t>(row)).FileName + " "; };
 
   RecoverLostJournals();
   EXPECT_EQ(told, "Caf\xE9.tqf J00000.tqf holiday.TQF ");

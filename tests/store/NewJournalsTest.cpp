@@ -8,10 +8,10 @@ using platform::FailureKind;
 using NewJournalsTest = fixture::Desk;
 
 // As many rows as there are numbers from 0 to `count`, each with its number's file.
-void FillRows(int count) {
+void FillRows(std::size_t count) {
   Journals.assign(count + 1, {});
-  JournalCount = count;
-  for (int i = 0; i < count; ++i)
+  JournalCount = static_cast<std::int32_t>(count);
+  for (std::size_t i = 0; i < count; ++i)
     Journals[i + 1].FileName = "j" + std::to_string(100'000 + i).substr(1) + ".tqf";
 }
 

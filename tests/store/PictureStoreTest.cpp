@@ -26,7 +26,7 @@ std::string OldRow(const std::string& file) {
     bytes += Slot(value);
   return bytes;
 }
-std::string OldStore(std::uint32_t count, const fixture::Texts& files) {
+std::string OldStore(std::int32_t count, const fixture::Texts& files) {
   std::string bytes = Slot(Raw(count, 4));
   for (const std::string& file : files) bytes += OldRow(file);
   return bytes;

@@ -4,13 +4,14 @@
 #include "tests/support/Fixtures.h"
 
 // The lowest `size` bytes of a number, the lowest first.
-inline std::string Raw(std::uint64_t number, int size) {
+inline std::string Raw(std::int64_t number, int size) {
+  const auto bits = static_cast<std::uint64_t>(number);
   std::string bytes;
-  for (int i = 0; i < size; ++i) bytes += static_cast<char>(number >> (8 * i));
+  for (int i = 0; i < size; ++i) bytes += static_cast<char>(bits >> (8 * i));
   return bytes;
 }
 inline std::string Counted(std::string_view text) {
-  return Raw(text.size(), 2) += text;
+  return Raw(std::ssize(text), 2) += text;
 }
 // Every second byte, the fillers left out.
 inline std::string WithoutFillers(std::string_view text, std::size_t first) {
