@@ -3,6 +3,7 @@
 
 #include "pictures/AddPicture.h"
 #include "pictures/PictureSlots.h"
+#include "pictures/PictureToAdd.h"
 #include "pictures/frmAddPicture.h"
 #include "tests/support/Windows.h"
 
@@ -102,6 +103,10 @@ TEST_F(AddPicture, ListsTheFramesAfreshAtEachOpening) {
     EXPECT_EQ(Entries(dialog), "No Frame|my.wood|");
     dialog.List1->setCurrentRow(1);
     EXPECT_EQ(At(dialog, 9, 9), QColor(Qt::red));
+    for (const auto& [frame, color] : {std::pair{0, Qt::blue}, {1, Qt::red}}) {
+      dialog.SetFrame(static_cast<std::int16_t>(frame));
+      EXPECT_EQ(At(dialog, 9, 9), QColor(color)) << frame;
+    }
   });
   folder.Write("frames/Note.gif", "no picture");
   Add(photo, [this](frmAddPicture& dialog) {
