@@ -1,6 +1,7 @@
 #include "richtext/PageConversion.h"
 
 #include <array>
+#include <cstdint>
 #include <string>
 
 #include "richtext/Unicode.h"
@@ -38,7 +39,7 @@ PageConversion::~PageConversion() {
 }
 
 bool PageConversion::IsKnown() const {
-  return conversion_ != Unknown;
+  return reinterpret_cast<std::intptr_t>(conversion_) != -1;
 }
 
 char16_t PageConversion::UnitOf(std::string_view bytes) const {

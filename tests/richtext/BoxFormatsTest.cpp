@@ -90,13 +90,15 @@ class HiddenTextTest : public BoxTest {
  protected:
   // "one", something hidden, "two".
   HiddenTextTest() {
-    CharacterFormat hidden = Loud;
-    hidden.hidden = true;
-    page = Page({{u"one", Plain}, {u"hid\ufffcden", hidden}, {u"two", Plain}});
     page.pictures = {{PictureKind::Png, SignedPng(), {}, 0, 0}};
     FillDocument(page, *box.document());
   }
-  Document page;
+  static CharacterFormat Hidden() {
+    CharacterFormat format = Loud;
+    format.hidden = true;
+    return format;
+  }
+  Document page = Page({{u"one", Plain}, {u"hid\ufffcden", Hidden()}, {u"two", Plain}});
 };
 
 TEST_F(HiddenTextTest, IsKeptAndNotShown) {
