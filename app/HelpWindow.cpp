@@ -1,5 +1,7 @@
 #include "app/HelpWindow.h"
 
+#include <algorithm>
+
 #include <QtCore/QRegularExpression>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
@@ -13,6 +15,9 @@ namespace {
 
 constexpr int AnchorRole = Qt::UserRole;
 constexpr QSize DesignSize(840, 600);
+constexpr int DesignFontHeight = 14;  // pixels; a larger font makes a larger window
+constexpr QSize FrameAround(16, 48);
+constexpr int LettersOfATitle = 32;
 
 // Dark on paper, like the diary's pages, on every desktop.
 void DressAsPaper(QWidget& control) {
@@ -22,13 +27,22 @@ void DressAsPaper(QWidget& control) {
   control.setPalette(palette);
 }
 
+// The desktop's font, a little larger: it is a text to read.
+void DressForReading(QTextBrowser& browser) {
+  QFont font = browser.font();
+  font.setPointSizeF(font.pointSizeF() * 1.1);
+  browser.document()->setDefaultFont(font);
+  browser.document()->setDocumentMargin(16);
+}
+
 }  // namespace
 
 HelpWindow::HelpWindow(const QString& html) : QWidget(nullptr, Qt::Window) {
   setObjectName(QStringLiteral("HelpWindow"));
   setWindowTitle(QStringLiteral("Thornquill Help"));
   setAttribute(Qt::WA_DeleteOnClose);
-  resize(DesignSize);
+  resize((DesignSize * std::max(1.0, double(fontMetrics().height()) / DesignFontHeight))
+             .boundedTo(screen()->availableSize() - FrameAround));
   LayOut();
   Browser->setHtml(html);
   ListContents(html);
@@ -68,9 +82,12 @@ void HelpWindow::LayOut() {
                                                                {Browser, "Browser"}})
     control->setObjectName(QLatin1String(name));
   lstContents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  lstContents->setSpacing(2);
+  lstContents->setWordWrap(true);
+  lstContents->setResizeMode(QListView::Adjust);
   lstContents->setAccessibleName(QStringLiteral("the chapters"));
   Browser->setAccessibleName(QStringLiteral("the help text"));
-  Browser->document()->setDocumentMargin(16);
+  DressForReading(*Browser);
   for (QWidget* paper : {static_cast<QWidget*>(lstContents), static_cast<QWidget*>(Browser)})
     DressAsPaper(*paper);
 
@@ -82,7 +99,9 @@ void HelpWindow::LayOut() {
   auto* halves = new QSplitter;
   halves->addWidget(lstContents);
   halves->addWidget(Browser);
-  halves->setSizes({220, 620});
+  halves->setStretchFactor(1, 1);
+  const int contents = LettersOfATitle * lstContents->fontMetrics().averageCharWidth();
+  halves->setSizes({contents, width() - contents});
   auto* rows = new QVBoxLayout(this);
   rows->addLayout(bar);
   rows->addWidget(halves);

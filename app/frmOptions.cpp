@@ -30,7 +30,7 @@ void SetBackColor(QWidget& control, const QColor& color) {
 }  // namespace
 
 frmOptions::frmOptions()
-    : Form(Kind::Dialog, QStringLiteral("frmOptions"), QStringLiteral("Options"), 5400, 3600) {
+    : Form(Kind::Dialog, QStringLiteral("frmOptions"), QStringLiteral("Options"), 5880, 3600) {
   LayOut();
   chkGotoLastPage->setChecked(::chkGotoLastPage == 1);
   optColor.at(static_cast<std::size_t>(::optColor))->setChecked(true);
@@ -53,14 +53,14 @@ void frmOptions::LayOut() {
   };
   // clang-format off
   // cppcheck-suppress AssignmentAddressToInteger  ; it takes the control for the number of the same name
-  chkGotoLastPage = Place(new QCheckBox(QStringLiteral("Go to last page on startup"), this), "chkGotoLastPage", 240, 240, 4920, 390);
-  Frame1             = Place(new QGroupBox(QStringLiteral("Background Image"), this), "Frame1", 240, 780, 2400, 1860);
+  chkGotoLastPage = Place(new QCheckBox(QStringLiteral("Go to last page on startup"), this), "chkGotoLastPage", 240, 240, 5400, 390);
+  Frame1             = Place(new QGroupBox(QStringLiteral("Background Image"), this), "Frame1", 240, 780, 2580, 1860);
   optColor[0] = Place(radio("Blue"),   "optColor(0)", 180, 390, 2040, 390);
   optColor[1] = Place(radio("Pink"),   "optColor(1)", 180, 840, 2040, 390);
   optColor[2] = Place(radio("Purple"), "optColor(2)", 180, 1290, 2040, 390);
-  cmdResetPass       = Place(new look::PictureButton(QStringLiteral("Change Password"), this), "cmdResetPass", 2880, 780, 2280, 450);
-  cmdHelp            = Place(new look::PictureButton(QStringLiteral("Help"), this), "cmdHelp", 240, 2910, 1320, 450);
-  cmdClose           = Place(new look::PictureButton(QStringLiteral("Close"), this), "cmdClose", 3240, 2910, 1920, 450);
+  cmdResetPass       = Place(new look::PictureButton(QStringLiteral("Change Password"), this), "cmdResetPass", 3060, 1050, 2580, 450);
+  cmdHelp            = Place(new look::PictureButton(QStringLiteral("Help"), this), "cmdHelp", 240, 2910, 2580, 450);
+  cmdClose           = Place(new look::PictureButton(QStringLiteral("Close"), this), "cmdClose", 3060, 2910, 2580, 450);
   // clang-format on
   cmdClose->setDefault(true);
 }

@@ -4,8 +4,12 @@
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
-#include <cstddef>
 #include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <string>
+#include <unistd.h>
+#include <vector>
 
 namespace bench {
 
@@ -16,23 +20,40 @@ double SecondsOf(Work&& work) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// `work` and `floor` each return the seconds that they took for `bytes`, so that tidying up costs neither of
-// them. The label tells the least time of each: what is more was spent on other programs.
+inline double MedianOf(std::vector<double> values) {
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::nth_element(values.begin(), middle, values.end());
+  return *middle;
+}
+
+// `work` and `floor` each return the seconds that they took, so that tidying up costs neither of them. The
+// counters are medians: the times of both in milliseconds, and the work's time as a multiple of the floor's,
+// which is taken pair by pair, since what else the machine does then falls on both.
 template <class Work, class Floor>
-void RunBeside(benchmark::State& state, std::size_t bytes, Work&& work, Floor&& floor) {
-  double leastWork = 1e9;
-  double leastFloor = 1e9;
+void RunBeside(benchmark::State& state, Work&& work, Floor&& floor) {
+  std::vector<double> works, floors, multiples;
   for ([[maybe_unused]] auto iteration : state) {
-    leastFloor = std::min(leastFloor, floor());
-    const double seconds = work();
-    leastWork = std::min(leastWork, seconds);
-    state.SetIterationTime(seconds);
+    floors.push_back(floor());
+    works.push_back(work());
+    multiples.push_back(works.back() / floors.back());
+    state.SetIterationTime(works.back());
   }
-  const double megabytes = static_cast<double>(bytes) / 1e6;
-  char label[120];
-  std::snprintf(label, sizeof label, "%.0f MB/s, floor %.0f MB/s: %.2f of its speed", megabytes / leastWork,
-                megabytes / leastFloor, leastFloor / leastWork);
-  state.SetLabel(label);
+  state.counters["work_ms"] = MedianOf(works) * 1e3;
+  state.counters["floor_ms"] = MedianOf(floors) * 1e3;
+  state.counters["times_floor"] = MedianOf(multiples);
+}
+
+// Writes the bytes beside the file, brings them to the disk and gives them a name: the floor of every save.
+// Returns the seconds.
+inline double WritePlain(const std::string& path, const std::string& bytes) {
+  const std::string plain = path + ".plain";
+  const std::string temporary = plain + ".new";
+  return SecondsOf([&] {
+    const int file = open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    const bool written = write(file, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
+    if (!written || fsync(file) != 0 || close(file) != 0) std::abort();
+    if (rename(temporary.c_str(), plain.c_str()) != 0) std::abort();
+  });
 }
 
 }  // namespace bench

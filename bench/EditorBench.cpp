@@ -2,52 +2,30 @@
 #include <benchmark/benchmark.h>
 #include <cstdlib>
 #include <fstream>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
+#include "bench/Beside.h"
+#include "bench/BigDiary.h"
 #include "editor/OpenJournal.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
 #include "editor/frmIndex.h"
 #include "editor/frmJournal.h"
 #include "platform/Files.h"
-#include "store/JournalFile.h"
-#include "store/PageCipher.h"
 
 namespace {
 
-constexpr std::int32_t Shift = 55;
 const char* const JournalName = "j00000.tqf";
 
-std::string PageOf(std::size_t bytes) {
-  std::string rtf =
-      "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Verdana;}}\r\n{\\colortbl "
-      ";\\red0\\green0\\blue0;}\r\n\\viewkind4\\uc1\\pard\\cf1\\f0\\fs32 ";
-  while (rtf.size() + 90 < bytes)
-    rtf += "The quick brown fox jumps over the lazy dog and is \\b back\\b0  before it rains.\\par\r\n";
-  return rtf + "}\r\n";
-}
-
-std::string Enciphered(const std::string& rtf) {
-  std::string body(2 * rtf.size(), '\0');
-  store::Encipher(rtf, Shift, body.data());
-  return body;
-}
-
-void OneJournal() {
-  ResetState();
-  Journals.resize(2);
-  JournalCount = 1;
-  JournalEntry& row = Journals[1];
-  row.Name = "Bench";
-  row.FileName = JournalName;
-  row.FontName = "Verdana";
-  row.FontSize = 16;
-  row.PaperColor = 0xFFFFFF;
-  MasterPassword = "xA";
-  PageShift = Shift;
-  CurrentJournal = 1;
+// Resident memory of this process.
+double MegabytesInUse() {
+  long pages = 0;
+  std::ifstream("/proc/self/statm") >> pages >> pages;
+  return static_cast<double>(pages) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
 // A program folder with one journal of so many pages of 3.15 KB of RTF: 10,000 of them make 63 MB.
@@ -55,12 +33,14 @@ class Diary {
  public:
   explicit Diary(std::int32_t pages, std::size_t pageBytes = 3150) {
     platform::SetProgramFolder(folder_.path().toStdString());
-    OneJournal();
-    const std::string body = Enciphered(PageOf(pageBytes));
-    std::vector<JournalPage> rows(static_cast<std::size_t>(pages) + 1, JournalPage{body, 40000.5});
-    const std::string bytes = store::EncodeJournal(rows, MasterPassword);
-    std::ofstream(platform::PathOf(JournalName), std::ios::binary)
-        .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bench::OneJournal();
+    // By a child, so that what the making leaves behind in the memory is not counted to the opening.
+    const pid_t child = fork();
+    if (child == 0) {
+      bench::WriteJournal(pages, pageBytes);
+      _exit(0);
+    }
+    waitpid(child, nullptr, 0);
   }
   ~Diary() {
     Close();
@@ -93,7 +73,9 @@ void OpenJournal(benchmark::State& state) {
   for (auto _ : state) {
     diary.Open();
     state.PauseTiming();
+    state.counters["resident_mb"] = MegabytesInUse();
     diary.Close();
+    state.counters["closed_mb"] = MegabytesInUse();
     state.ResumeTiming();
   }
 }
@@ -115,6 +97,40 @@ void TurnToAnUnchangedPage(benchmark::State& state) {
   }
 }
 BENCHMARK(TurnToAnUnchangedPage)->Arg(10)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// A letter typed, and then the turn or the closing, beside bare writes of as many bytes: a turn stores the
+// page, and a closing stores it and then writes the file once more.
+template <class Work>
+void LeaveAChangedPage(benchmark::State& state, int writes, Work&& work) {
+  look::The<frmJournal>();
+  Diary diary(10000);
+  const std::string path = platform::PathOf(JournalName);
+  const std::string bytes = platform::ReadFile(path);
+  const auto changed = [&] {
+    if (PagesJournal == 0) diary.Open();
+    QTest::keyClick(Face().txtM, Qt::Key_A);
+    return bench::SecondsOf([&] { work(diary); });
+  };
+  bench::RunBeside(state, changed, [&] {
+    double seconds = 0;
+    for (int write = 0; write < writes; ++write) seconds += bench::WritePlain(path, bytes);
+    return seconds;
+  });
+}
+
+void TurnFromAChangedPage(benchmark::State& state) {
+  LeaveAChangedPage(state, 1, [](Diary& diary) {
+    StoreCurrentPage();
+    CurrentPage > 0 ? GoBackPage() : GoLastPage();
+    diary.Draw();
+  });
+}
+BENCHMARK(TurnFromAChangedPage)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void CloseAChangedJournal(benchmark::State& state) {
+  LeaveAChangedPage(state, 2, [](Diary&) { look::The<frmJournal>().CloseBox(); });
+}
+BENCHMARK(CloseAChangedJournal)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 // Rows of a store that lie on other pages, and on the same pages of other journals.
 void LayPicturesElsewhere(std::int32_t rows) {

@@ -113,7 +113,7 @@ void WriteLines(benchmark::State& state) {
       }
     });
   };
-  bench::RunBeside(state, count * (Line.size() + 2), work, floor);
+  bench::RunBeside(state, work, floor);
 }
 BENCHMARK(WriteLines)->UseManualTime()->Unit(benchmark::kMillisecond);
 

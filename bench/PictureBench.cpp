@@ -1,10 +1,7 @@
 // What a page with pictures costs: seven photographs of 12 megapixels, beside decoding them in full.
 #include <benchmark/benchmark.h>
 #include <cmath>
-#include <cstdio>
-#include <fstream>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 #include <QtCore/QFile>
@@ -78,12 +75,6 @@ void LayOut(const Album& album, double scale) {
   PictureCount = Photos;
 }
 
-double MegabytesInUse() {
-  long pages = 0;
-  std::ifstream("/proc/self/statm") >> pages >> pages;
-  return static_cast<double>(pages) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
-}
-
 // A turn to the page. The argument is the scale of the dialog in percent.
 void SevenPhotographs(benchmark::State& state) {
   static const Album album;
@@ -91,22 +82,9 @@ void SevenPhotographs(benchmark::State& state) {
   page.resize(565, 648);
   PictureSlots slots_(&page);
   LayOut(album, static_cast<double>(state.range(0)) / 100);
-  const double before = MegabytesInUse();
-  double least = 1e9;
-  double leastInFull = 1e9;
-  for ([[maybe_unused]] auto iteration : state) {
-    leastInFull = std::min(leastInFull, bench::SecondsOf([] { DecodeInFull(album.paths); }));
-    const double seconds = bench::SecondsOf([] { ShowPagePictures(); });
-    least = std::min(least, seconds);
-    state.SetIterationTime(seconds);
-  }
-  double held = 0;
-  for (const StretchedImage* photo : slots_.imgPhoto)
-    held += static_cast<double>(photo->Picture().sizeInBytes());
-  char label[120];
-  std::snprintf(label, sizeof label, "%.2f of %.0f ms in full; %.0f MB more in use, pictures of %.0f MB",
-                least / leastInFull, leastInFull * 1e3, MegabytesInUse() - before, held / 1e6);
-  state.SetLabel(label);
+  bench::RunBeside(
+      state, [] { return bench::SecondsOf([] { ShowPagePictures(); }); },
+      [] { return bench::SecondsOf([] { DecodeInFull(album.paths); }); });
 }
 BENCHMARK(SevenPhotographs)->Arg(10)->Arg(25)->Iterations(3)->UseManualTime()->Unit(benchmark::kMillisecond);
 

@@ -1,6 +1,5 @@
 // Printing a journal: joining its pages, and the whole way to a PDF file with the memory that it takes.
 #include <benchmark/benchmark.h>
-#include <cstdio>
 #include <sys/resource.h>
 
 #include <QtCore/QTemporaryDir>
@@ -76,9 +75,8 @@ void PrintAllToPdf(benchmark::State& state) {
   SetPrintAnswerer({});
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
-  char label[80];
-  std::snprintf(label, sizeof label, "%d sheets, peak of %ld MB", PdfPaper::sheets, usage.ru_maxrss / 1024);
-  state.SetLabel(label);
+  state.counters["sheets"] = PdfPaper::sheets;
+  state.counters["peak_mb"] = static_cast<double>(usage.ru_maxrss) / 1024;
 }
 BENCHMARK(PrintAllToPdf)->Arg(1000)->Arg(10000)->Iterations(1)->Unit(benchmark::kSecond)->UseRealTime();
 

@@ -72,7 +72,7 @@ void ValueIntoBox(benchmark::State& state) {
   const Document page = ReadRtf(rtf);
   const BareRuns bare(page);
   bench::RunBeside(
-      state, rtf.size(),
+      state,
       [&] {
         QTextDocument box;
         return bench::SecondsOf([&] { FillDocument(page, box); });

@@ -3,8 +3,8 @@
 //
 //   bench_start PROGRAM FLOOR [ROUNDS]      needs an X server; scripts/bench brings one
 //
-// PROGRAM is started in its own folder, with whatever diary lies there.
-#include <algorithm>
+// PROGRAM is started in its own folder, with whatever diary lies there. The medians go out in the form of the
+// benchmarks, for scripts/bench.
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -16,6 +16,8 @@
 #include <unistd.h>
 #include <vector>
 #include <xcb/xcb.h>
+
+#include "bench/Beside.h"
 
 namespace {
 
@@ -70,11 +72,6 @@ Figures Start(const char* program) {
   return {startMs, residentMb};
 }
 
-double Median(std::vector<double> values) {
-  std::nth_element(values.begin(), values.begin() + static_cast<long>(values.size() / 2), values.end());
-  return values[values.size() / 2];
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -89,11 +86,15 @@ int main(int argc, char** argv) {
       memory[which].push_back(figures.residentMb);
     }
   }
-  const double start = Median(starts[0]), startFloor = Median(starts[1]);
-  const double resident = Median(memory[0]), residentFloor = Median(memory[1]);
-  std::printf("start to first window   %6.1f ms   bare window %6.1f ms   ratio %.2f\n", start, startFloor,
-              start / startFloor);
-  std::printf("resident after 3 s      %6.1f MB   bare window %6.1f MB   ratio %.2f\n", resident,
-              residentFloor, resident / residentFloor);
+  const auto figure = [](const char* name, const char* unit, const std::vector<double>* values) {
+    const double work = bench::MedianOf(values[0]), floor = bench::MedianOf(values[1]);
+    std::printf("{\"name\": \"%s\", \"work_%s\": %.1f, \"floor_%s\": %.1f, \"times_floor\": %.3f}", name,
+                unit, work, unit, floor, work / floor);
+  };
+  std::printf("{\"benchmarks\": [\n");
+  figure("StartToFirstWindow", "ms", starts);
+  std::printf(",\n");
+  figure("ResidentAtRest", "MB", memory);
+  std::printf("]}\n");
   return 0;
 }

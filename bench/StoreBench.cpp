@@ -1,8 +1,6 @@
 // The pages on their way between the disk and the text box. Each work runs in turn with its floor, the
-// plainest program that moves the same bytes, and its label tells the two medians and their ratio.
-#include <algorithm>
+// plainest program that moves the same bytes.
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
@@ -13,6 +11,7 @@
 #include <unistd.h>
 #include <vector>
 
+#include "bench/Beside.h"
 #include "platform/Files.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
@@ -25,36 +24,8 @@ constexpr std::size_t megabyte = 1 << 20;
 constexpr std::int32_t shift = 65;
 const char* const fileName = "j00000.tqf";
 
-template <class Work>
-double SecondsOf(Work&& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double MedianOf(std::vector<double> times) {
-  const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-  std::nth_element(times.begin(), middle, times.end());
-  return *middle;
-}
-
-// `work` and `floor` each return the seconds that they took, so that tidying up costs neither of them.
-template <class Work, class Floor>
-void RunBeside(benchmark::State& state, Work&& work, Floor&& floor) {
-  std::vector<double> works;
-  std::vector<double> floors;
-  for ([[maybe_unused]] auto iteration : state) {
-    floors.push_back(floor());
-    works.push_back(work());
-    state.SetIterationTime(works.back());
-  }
-  const double workMedian = MedianOf(works) * 1e3;
-  const double floorMedian = MedianOf(floors) * 1e3;
-  char label[120];
-  std::snprintf(label, sizeof label, "%.3f ms, floor %.3f ms: %.2f times its time, %.2f of its speed",
-                workMedian, floorMedian, workMedian / floorMedian, floorMedian / workMedian);
-  state.SetLabel(label);
-}
+using bench::RunBeside;
+using bench::SecondsOf;
 
 // Copying as many bytes as the body has.
 double CopyBody(const std::string& from, std::string& to) {
@@ -138,18 +109,6 @@ double ReadPlain(std::size_t pageSize) {
   });
 }
 
-double WritePlain(const std::string& bytes) {
-  const std::string path = OpenJournal::Path() + ".plain";
-  const std::string temporary = path + ".new";
-  return SecondsOf([&] {
-    const int descriptor = open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-    MustBe(write(descriptor, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()));
-    MustBe(fsync(descriptor) == 0);
-    close(descriptor);
-    MustBe(rename(temporary.c_str(), path.c_str()) == 0);
-  });
-}
-
 constexpr std::int32_t manyPages = 9999;    // and the title page
 constexpr std::size_t manyBodySize = 6290;  // 63 MB in all
 
@@ -169,7 +128,7 @@ BENCHMARK(ReadManyPages)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTim
 void SaveManyPages(benchmark::State& state) {
   const OpenJournal journal(manyPages, manyBodySize);
   const auto work = [] { return SecondsOf([] { SaveJournalFile(fileName); }); };
-  RunBeside(state, work, [&] { return WritePlain(journal.bytes); });
+  RunBeside(state, work, [&] { return bench::WritePlain(OpenJournal::Path(), journal.bytes); });
 }
 BENCHMARK(SaveManyPages)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(4);
 
@@ -185,7 +144,7 @@ void TurnChangedPage(benchmark::State& state) {
       SaveJournalFile(fileName);
     });
   };
-  RunBeside(state, work, [&] { return WritePlain(journal.bytes); });
+  RunBeside(state, work, [&] { return bench::WritePlain(OpenJournal::Path(), journal.bytes); });
 }
 BENCHMARK(TurnChangedPage)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(2);
 

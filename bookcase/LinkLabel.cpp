@@ -2,8 +2,9 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
-#include <QtWidgets/QStyleOptionFocusRect>
-#include <QtWidgets/QStylePainter>
+#include <QtGui/QPainter>
+
+#include "look/FocusLine.h"
 
 LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
   setCursor(Qt::PointingHandCursor);
@@ -28,7 +29,9 @@ void LinkLabel::mouseReleaseEvent(QMouseEvent* event) {
 void LinkLabel::paintEvent(QPaintEvent* event) {
   QLabel::paintEvent(event);
   if (!hasFocus()) return;
-  QStyleOptionFocusRect focus;
-  focus.initFrom(this);
-  QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+  QPainter painter(this);
+  const QRect words =
+      fontMetrics().boundingRect(rect().adjusted(indent(), 0, 0, 0), static_cast<int>(alignment()), text());
+  look::DrawFocusLine(painter, text().isEmpty() ? rect() : words.adjusted(-indent(), -1, indent(), 1),
+                      palette().color(QPalette::WindowText));
 }

@@ -1,14 +1,17 @@
 #include "bookcase/frmBookcase.h"
 
 #include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
 
 #include "bookcase/JournalIcons.h"
+#include "bookcase/JournalList.h"
 #include "bookcase/frmAbout.h"
 #include "bookcase/frmJournalProp.h"
 #include "bookcase/frmNewJournal.h"
 #include "editor/OpenJournal.h"
 #include "editor/frmJournal.h"
 #include "look/Emblem.h"
+#include "look/FocusLine.h"
 #include "look/Theme.h"
 #include "output/frmExport.h"
 #include "pictures/modPictures.h"
@@ -33,6 +36,20 @@ JournalEntry& EntryOf(int row) {
 look::PictureButton* Button(const char* caption) {
   return new look::PictureButton(QString::fromLatin1(caption));
 }
+
+// The desktop's style shows no focus on a button that has no face.
+class PictureThatIsClicked : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QPushButton::paintEvent(event);
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    look::DrawFocusLine(painter, rect(), palette().color(QPalette::WindowText));
+  }
+};
 
 void SetBold(QWidget& control) {
   QFont font = control.font();
@@ -59,7 +76,7 @@ frmBookcase::frmBookcase()
 
 void frmBookcase::LayOutButtons() {
   // clang-format off
-  Image2     = Place(new QPushButton(this), "Image2", 540, 210, 1200, 1050, QStringLiteral("About Thornquill"));
+  Image2     = Place(new PictureThatIsClicked(this), "Image2", 540, 210, 1200, 1050, QStringLiteral("About Thornquill"));
   cmdOpen    = Place(Button("Open"),       "cmdOpen",    240, 1380, 1800, 450);
   cmdAdd     = Place(Button("Add"),        "cmdAdd",     240, 1950, 1800, 450);
   cmdDelete  = Place(Button("Delete"),     "cmdDelete",  240, 2520, 1800, 450);
@@ -81,15 +98,8 @@ void frmBookcase::LayOutButtons() {
 void frmBookcase::LayOutList() {
   Label2 = Place(new QLabel(QStringLiteral("My Journals:"), this), "Label2", 2340, 240, 3000, 300);
   ListView1 =
-      Place(new QListWidget(this), "ListView1", 2340, 570, 7020, 6150, QStringLiteral("the journals"));
+      Place(new JournalList(this), "ListView1", 2340, 570, 7020, 6150, QStringLiteral("the journals"));
   Label2->setBuddy(ListView1);
-  ListView1->setViewMode(QListView::IconMode);
-  ListView1->setMovement(QListView::Static);
-  ListView1->setResizeMode(QListView::Adjust);
-  ListView1->setIconSize(QSize(32, 32));
-  ListView1->setGridSize(QSize(104, 100));
-  ListView1->setWordWrap(true);
-  ListView1->setTextElideMode(Qt::ElideRight);
   ListView1->viewport()->installEventFilter(this);
   connect(ListView1, &QListWidget::itemSelectionChanged, this, &frmBookcase::KeepASelection);
 }
@@ -121,7 +131,7 @@ void frmBookcase::AddItem(int row) {
   item->setData(RowTag, row);
   const QString spoken = name.isEmpty() ? QStringLiteral("a journal without a name") : name;
   item->setData(Qt::AccessibleTextRole, QStringLiteral("%1, %2").arg(spoken, JournalIconName(entry.Icon)));
-  item->setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped()));  // where the list has cut it short
+  item->setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped()));
   KeepASelection();
 }
 

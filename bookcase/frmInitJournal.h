@@ -13,6 +13,7 @@ class frmInitJournal : public look::Form {
  public:
   frmInitJournal();
 
+  QLabel* Image1;
   QLabel* Label4;
   QLabel* Label5;
   QLabel* Label1;
@@ -28,6 +29,7 @@ class frmInitJournal : public look::Form {
   void CloseBox() override;  // does what cmdCancel does
 
  private:
+  void DressWelcome();
   void CreateFirstJournal();  // the click on cmdOK
   void cmdCancel_Click();
 };

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include <QtGui/QPainter>
+
 #include "bookcase/JournalIcons.h"
 #include "bookcase/frmBookcase.h"
 #include "editor/PageTurning.h"
@@ -46,7 +48,14 @@ SamplePage::SamplePage(QWidget* parent) : QLabel(QStringLiteral("Aa Bb Cc Dd Ee 
   setAutoFillBackground(true);
   setWordWrap(true);
   setAlignment(Qt::AlignCenter);
-  setFrameStyle(QFrame::Box | QFrame::Plain);
+}
+
+// The toolkit's own frame would have the colour of the letters.
+void SamplePage::paintEvent(QPaintEvent* event) {
+  QLabel::paintEvent(event);
+  QPainter painter(this);
+  painter.setPen(look::HairlineOn(parentWidget()->palette().color(QPalette::Window)));
+  painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 std::uint32_t SamplePage::BackColor() const {
@@ -95,32 +104,32 @@ void frmJournalProp::LayOutFile() {
   txtJournalName = new look::CodePageEdit(this);
   txtJournalFilename = new look::CodePageEdit(this);
   // clang-format off
-  Place(Label("Journal Name", txtJournalName), "Label1", 240, 240, 1800, 360);
-  Place(txtJournalName, "txtJournalName", 2100, 240, 4260, 360);
-  Place(Label("Journal Filename", txtJournalFilename), "Label2", 240, 720, 1800, 360);
-  Place(txtJournalFilename, "txtJournalFilename", 2100, 720, 2160, 360);
-  lblJFsize = Place(new QLabel(this), "lblJFsize", 4440, 720, 1920, 360);
+  Place(Label("Journal Name", txtJournalName), "Label1", 240, 240, 2100, 360);
+  Place(txtJournalName, "txtJournalName", 2400, 240, 3960, 360);
+  Place(Label("Journal Filename", txtJournalFilename), "Label2", 240, 720, 2100, 360);
+  Place(txtJournalFilename, "txtJournalFilename", 2400, 720, 1560, 360);
+  lblJFsize = Place(new QLabel(this), "lblJFsize", 4080, 720, 2280, 360);
   // clang-format on
   txtJournalFilename->setEnabled(false);
 }
 
 void frmJournalProp::LayOutLook() {
   // clang-format off
-  Place(Label("Select Icon"), "Label3", 240, 1320, 1800, 480);
-  cmdIconBack    = Place(Button("<-"), "cmdIconBack", 2100, 1335, 600, 450, QStringLiteral("Previous icon"));
-  Image1         = Place(new QLabel(this), "Image1", 2790, 1290, 540, 540);
-  cmdIconNext    = Place(Button("->"), "cmdIconNext", 3420, 1335, 600, 450, QStringLiteral("Next icon"));
+  Place(Label("Select Icon"), "Label3", 240, 1320, 2100, 480);
+  cmdIconBack    = Place(Button("<-"), "cmdIconBack", 2400, 1335, 600, 450, QStringLiteral("Previous icon"));
+  Image1         = Place(new QLabel(this), "Image1", 3090, 1290, 540, 540);
+  cmdIconNext    = Place(Button("->"), "cmdIconNext", 3720, 1335, 600, 450, QStringLiteral("Next icon"));
   lblSamplePage  = Place(new SamplePage(this), "lblSamplePage", 240, 2070, 6120, 2040);
-  cmdPaperColor  = Place(Button("Paper Color"), "cmdPaperColor", 240, 4320, 1800, 450);
-  cmdDefaultFont = Place(Button("Default Font"), "cmdDefaultFont", 2160, 4320, 1800, 450);
+  cmdPaperColor  = Place(Button("Paper Color"), "cmdPaperColor", 240, 4320, 1960, 450);
+  cmdDefaultFont = Place(Button("Default Font"), "cmdDefaultFont", 2320, 4320, 1960, 450);
   // clang-format on
   Image1->setAlignment(Qt::AlignCenter);
 }
 
 void frmJournalProp::LayOutButtons() {
-  cmdOK = Place(Button("&Ok"), "cmdOK", 240, 5340, 1800, 450);
-  cmdCancel = Place(Button("&Cancel"), "cmdCancel", 2160, 5340, 1800, 450);
-  cmdHelp = Place(Button("Help"), "cmdHelp", 4560, 5340, 1800, 450);
+  cmdOK = Place(Button("&Ok"), "cmdOK", 240, 5340, 1960, 450);
+  cmdCancel = Place(Button("&Cancel"), "cmdCancel", 2320, 5340, 1960, 450);
+  cmdHelp = Place(Button("Help"), "cmdHelp", 4400, 5340, 1960, 450);
   cmdOK->setDefault(true);
 }
 

@@ -24,6 +24,9 @@ class SamplePage : public QLabel {
 
   // The font, its size in points. What no font can have, an empty name or a size of 0, leaves what was there.
   void SetFont(const QString& name, double size, bool bold, bool italic, bool underline, bool strikethru);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 };
 
 class frmJournalProp : public look::Form {

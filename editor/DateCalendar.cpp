@@ -1,8 +1,10 @@
 #include "editor/DateCalendar.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
 #include <QtGui/QTextCharFormat>
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QSpinBox>
@@ -23,6 +25,42 @@ class TwoClickStyle : public QProxyStyle {
   }
 };
 
+QColor Mixed(const QColor& first, const QColor& second) {
+  return QColor((first.red() + second.red()) / 2, (first.green() + second.green()) / 2,
+                (first.blue() + second.blue()) / 2);
+}
+
+// On a theme's pale colour: ink, and for the head and the chosen day the colour's own hue, deep enough for
+// pale letters. The days of the months beside stand back.
+QPalette PaletteOn(const QColor& color) {
+  const QColor ink(0x2b, 0x24, 0x30), paper(0xff, 0xfd, 0xf6);
+  QPalette colors(color, color);
+  colors.setColor(QPalette::Base, color);
+  colors.setColor(QPalette::AlternateBase, color.darker(106));
+  if (color.lightness() < 128) return colors;
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    colors.setColor(role, ink);
+    colors.setColor(QPalette::Disabled, role, Mixed(ink, color));
+  }
+  colors.setColor(QPalette::Highlight, QColor::fromHslF(color.hslHueF(), 0.34f, 0.38f));
+  colors.setColor(QPalette::HighlightedText, paper);
+  return colors;
+}
+
+// To the month before or after.
+QPixmap Chevron(bool toTheLeft, const QColor& color, double scale) {
+  constexpr int size = 16;
+  QPixmap picture(QSize(size, size) * scale);
+  picture.setDevicePixelRatio(scale);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const double tip = toTheLeft ? 5.5 : 10.5;
+  painter.drawPolyline(QPolygonF({{size - tip, 3}, {tip, 8}, {size - tip, 13}}));
+  return picture;
+}
+
 }  // namespace
 
 DateCalendar::DateCalendar(QWidget* parent) : QCalendarWidget(parent) {
@@ -33,12 +71,14 @@ DateCalendar::DateCalendar(QWidget* parent) : QCalendarWidget(parent) {
   setDateEditEnabled(false);  // it would start from today and not from the date that stands here
   setFont(QFont(QStringLiteral("Verdana")));
   auto* days = findChild<QTableView*>();
+  days->setAccessibleName(QStringLiteral("the days of the month"));
   auto* style = new TwoClickStyle;
   style->setParent(this);
   days->setStyle(style);
   days->viewport()->installEventFilter(this);
   setFocusProxy(days);
   OpenHeadToKeys();
+  SetBackColor({});
   connect(this, &QCalendarWidget::activated, this, &DateCalendar::DblClick);
   connect(this, &QCalendarWidget::currentPageChanged, this, &DateCalendar::FollowMonth);
 }
@@ -46,14 +86,16 @@ DateCalendar::DateCalendar(QWidget* parent) : QCalendarWidget(parent) {
 // Month and year can be changed without a mouse, too: the toolkit keeps the keyboard out of its buttons.
 void DateCalendar::OpenHeadToKeys() {
   QWidget* before = nullptr;
-  for (const char* name : {"prevmonth", "monthbutton", "yearbutton", "nextmonth"}) {
+  constexpr std::pair<const char*, const char*> buttons[] = {{"prevmonth", "previous month"},
+                                                             {"monthbutton", ""},  // say what they show
+                                                             {"yearbutton", ""},
+                                                             {"nextmonth", "next month"}};
+  for (const auto& [name, meaning] : buttons) {
     auto* button = findChild<QToolButton*>(QStringLiteral("qt_calendar_") + QLatin1String(name));
     if (!button) continue;
+    button->setAccessibleName(QLatin1String(meaning));
     button->setFocusPolicy(Qt::TabFocus);
     button->installEventFilter(this);
-    QPalette colors = button->palette();  // dark under the white letters, where it is raised
-    colors.setColor(QPalette::Button, colors.color(QPalette::Highlight).darker(140));
-    button->setPalette(colors);
     if (before) setTabOrder(before, button);
     before = button;
   }
@@ -82,14 +124,27 @@ void DateCalendar::SetValue(double date) {
 }
 
 void DateCalendar::SetBackColor(const QColor& color) {
-  if (!color.isValid()) return setPalette({});
-  QPalette colors(color, color);
-  colors.setColor(QPalette::Base, color);
-  colors.setColor(QPalette::AlternateBase, color.darker(106));
-  setPalette(colors);
+  setPalette(color.isValid() ? PaletteOn(color) : QPalette());
   QTextCharFormat weekend;  // reds that are easy to read there
-  weekend.setForeground(color.lightness() < 128 ? QColor(0xff, 0x9a, 0xa8) : QColor(0x96, 0x20, 0x3c));
+  weekend.setForeground(BackColor().lightness() < 128 ? QColor(0xff, 0x9a, 0xa8) : QColor(0x96, 0x20, 0x3c));
   for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
+  DressHead();
+}
+
+// The buttons take their colours from the bar that they lie on, raised or flat; given to them, they would be
+// lost when the mouse has passed over.
+void DateCalendar::DressHead() {
+  auto* bar = findChild<QWidget*>(QStringLiteral("qt_calendar_navigationbar"));
+  auto* previous = findChild<QToolButton*>(QStringLiteral("qt_calendar_prevmonth"));
+  auto* next = findChild<QToolButton*>(QStringLiteral("qt_calendar_nextmonth"));
+  if (!bar || !previous || !next) return;
+  const QColor letters = palette().color(QPalette::HighlightedText);
+  QPalette colors;
+  colors.setColor(QPalette::Button, palette().color(QPalette::Highlight).darker(140));
+  for (const auto role : {QPalette::ButtonText, QPalette::WindowText}) colors.setColor(role, letters);
+  bar->setPalette(colors);
+  previous->setIcon(Chevron(!isRightToLeft(), letters, devicePixelRatioF()));
+  next->setIcon(Chevron(isRightToLeft(), letters, devicePixelRatioF()));
 }
 
 QColor DateCalendar::BackColor() const {

@@ -27,6 +27,7 @@ class DateCalendar : public QCalendarWidget {
 
  private:
   void OpenHeadToKeys();
+  void DressHead();
   void FollowMonth(int year, int month);
   bool EndsYearBox(const QEvent& event);
 

@@ -3,6 +3,7 @@
 #include <QtCore/QPointer>
 #include <QtGui/QPainter>
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QScrollBar>
 
 #include "editor/BindingPicture.h"
 #include "look/Form.h"
@@ -21,6 +22,8 @@ constexpr int DateLeft = 75;
 constexpr int DateTop = 630;
 constexpr int NumberRight = 7590 + 825;
 constexpr int NumberTop = 645;
+
+constexpr double PageMargin = 12;  // pixels of paper around the text
 
 QPointer<PageFace> theFace;
 
@@ -42,6 +45,13 @@ void DressLabel(QLabel* label, int pixelSize) {
   label->setTextFormat(Qt::PlainText);
 }
 
+// The scroll bars are of the page's paper, which on a dark desktop would end in a dark stripe.
+void TintScrollBars(const richtext::RichTextBox& text) {
+  const QColor paper = platform::ToColor(text.BackColor());
+  const QPalette palette(paper.darker(104), paper.darker(102));
+  for (QScrollBar* bar : {text.verticalScrollBar(), text.horizontalScrollBar()}) bar->setPalette(palette);
+}
+
 }  // namespace
 
 PageFace::PageFace(QWidget* parent) : QWidget(parent) {
@@ -59,16 +69,18 @@ PageFace::~PageFace() = default;
 void PageFace::MakePage() {
   picBinding = Placed(new look::PictureBox(this), QStringLiteral("picBinding"), 0, PageTop, PageLeft, 8850);
   picBinding->SetPicture(BindingPicture());
-  picBinding->RepeatDownwards();
+  picBinding->Repeat(Qt::Vertical);
   txtM = Placed(new richtext::RichTextBox(this), QStringLiteral("txtM"), PageLeft, PageTop, 7484, 8849);
   txtM->setAccessibleName(QStringLiteral("the page"));
   txtM->setFrameShape(QFrame::NoFrame);
+  txtM->document()->setDocumentMargin(PageMargin);
   connect(txtM, &richtext::RichTextBox::Change, this, [] { PageDirty = True; });
 }
 
 // Made after the page, and so above it, where a tall strip covers its first lines.
 void PageFace::MakeHead() {
   picTop = Placed(new look::PictureBox(this), QStringLiteral("picTop"), 0, 0, DesignWidth, headHeight_);
+  picTop->Repeat(Qt::Horizontal);
   WearTheme();
   lblPageNum1 = Placed(new QLabel(picTop), QStringLiteral("lblPageNum1"), 7590, NumberTop, 825, 195);
   lblPageNum1->setAlignment(Qt::AlignRight | Qt::AlignTop);
@@ -96,6 +108,7 @@ void PageFace::SetHeader(const QString& date, const QString& pageNumber) {
 
 void PageFace::SetPaper(std::uint32_t color) {
   txtM->SetBackColor(color);
+  TintScrollBars(*txtM);
   picBinding->SetBackColor(color);
   pictures->SetPaper(color);
 }

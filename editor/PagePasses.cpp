@@ -93,6 +93,15 @@ void SetPageText(std::string_view rtf) {
   TextPage = CurrentPage;
 }
 
+// The pictures, the text and the header of a page come to the screen together: until this goes, the page
+// before stays there as it was.
+class HeldScreen {
+ public:
+  HeldScreen() { Face().setUpdatesEnabled(false); }
+  ~HeldScreen() { Face().setUpdatesEnabled(true); }
+  Q_DISABLE_COPY_MOVE(HeldScreen)
+};
+
 bool TextIsCurrentPage() {
   return PagesJournal != 0 && PagesJournal == CurrentJournal && TextPage >= 0 && TextPage == CurrentPage;
 }
@@ -101,6 +110,7 @@ bool TextIsCurrentPage() {
 
 void ShowCurrentPage() {
   const auto guarded = [](auto&& statement) { platform::Guarded(DecryptionError, statement); };
+  const HeldScreen held;
   TextPage = -1;
   std::optional<std::string> body;
   guarded([&] { body = PageRow(CurrentPage).Body; });

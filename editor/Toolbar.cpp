@@ -72,7 +72,7 @@ class CaptionedButton : public QToolButton {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    if (isDown() || underMouse()) PaintPanel(painter);
+    if (isDown() || underMouse() || hasFocus()) PaintPanel(painter);
     if (isDown()) painter.translate(0, 1);
     const QRect picture((width() - PictureSize) / 2, PictureTop, PictureSize, PictureSize);
     icon().paint(&painter, picture, Qt::AlignCenter, underMouse() ? QIcon::Active : QIcon::Normal);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
 #include <QtGui/QClipboard>
 #include <QtGui/QImageReader>
 #include <QtGui/QKeyEvent>
@@ -56,6 +57,13 @@ void Paste(const QImage& picture) {
   QApplication::clipboard()->setImage(flat);
   text.setFocus();
   platform::SendKeyTo(text, Qt::Key_Insert, Qt::ShiftModifier);
+}
+
+// "005-hearty-laugh.gif" is "hearty laugh". A name that is a number alone stays one.
+QString SpokenName(const QString& fileName) {
+  static const QRegularExpression order(QStringLiteral("^\\d+[-_ ]+(?=.)"));
+  QString name = fileName.section(u'.', 0, -2);
+  return name.remove(order).replace(u'-', u' ').replace(u'_', u' ');
 }
 
 QString TwoDigits(int number) {
@@ -116,7 +124,8 @@ bool frmEmoticons::LoadEmoticon(QPushButton& button, const std::string& fileName
   button.setIcon(QPixmap::fromImage(picture));
   button.setIconSize(picture.size());
   button.setProperty("Tag", QByteArray::fromStdString(fileName));
-  button.setAccessibleName(name);
+  button.setAccessibleName(SpokenName(name));
+  button.setAccessibleDescription(name);
   button.setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped()));
   return true;
 }

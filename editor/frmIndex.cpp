@@ -7,6 +7,7 @@
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
+#include "look/AiryRows.h"
 #include "look/Theme.h"
 #include "platform/Keystroke.h"
 #include "platform/TaskBar.h"
@@ -16,8 +17,9 @@ namespace {
 
 constexpr int Tag = Qt::UserRole;
 
-QTreeWidgetItem* MakeItem(const JournalIndexNode& node) {
+QTreeWidgetItem* MakeItem(const JournalIndexNode& node, const QFont& yearFont) {
   auto* item = new QTreeWidgetItem;
+  if (node.parent < 0) item->setFont(0, yearFont);
   item->setText(0, node.text);
   item->setData(0, Tag, node.tag);
   return item;
@@ -35,6 +37,7 @@ frmIndex::frmIndex()
   // clang-format on
   TreeView1->setHeaderHidden(true);
   TreeView1->setUniformRowHeights(true);
+  look::GiveRowsAir(*TreeView1);
   TreeView1->installEventFilter(this);
   TreeView1->viewport()->installEventFilter(this);
   cmdGoDate->setDefault(true);
@@ -51,9 +54,11 @@ frmIndex::frmIndex()
 // Children come under their parents before these come into the tree: the view then hears of few insertions.
 void frmIndex::AddPages() {
   AddToJournalIndex(nodes_, Pages);
+  QFont bold = TreeView1->font();
+  bold.setBold(true);
   std::map<int, QList<QTreeWidgetItem*>, std::greater<>> children;
   for (std::size_t place = items_.size(); place < nodes_.size(); ++place) {
-    items_.push_back(MakeItem(nodes_[place]));
+    items_.push_back(MakeItem(nodes_[place], bold));
     children[nodes_[place].parent].append(items_.back());
   }
   for (const auto& [parent, items] : children) {

@@ -8,13 +8,13 @@
 #include "store/Scrambler.h"
 
 frmPass::frmPass()
-    : Form(Kind::Dialog, QStringLiteral("frmPass"), QStringLiteral("Thorn Quill Security Lock"), 5700, 2100) {
+    : Form(Kind::Dialog, QStringLiteral("frmPass"), QStringLiteral("Thorn Quill Security Lock"), 6300, 2280) {
   // clang-format off
-  Image1    = Place(new QLabel(this), "Image1", 240, 300, 1200, 1200);
-  Label1    = Place(new QLabel(QStringLiteral("Enter your password:"), this), "Label1", 1740, 240, 3720, 300);
-  txtPass   = Place(new look::CodePageEdit(this), "txtPass", 1740, 600, 3720, 450);
-  cmdOK     = Place(new look::PictureButton(QStringLiteral("&Ok"), this), "cmdOK", 1740, 1410, 1800, 450);
-  cmdCancel = Place(new look::PictureButton(QStringLiteral("E&xit"), this), "cmdCancel", 3660, 1410, 1800, 450);
+  Image1    = Place(new QLabel(this), "Image1", 240, 240, 1800, 1800);
+  Label1    = Place(new QLabel(QStringLiteral("Enter your password:"), this), "Label1", 2400, 360, 3660, 300);
+  txtPass   = Place(new look::CodePageEdit(this), "txtPass", 2400, 720, 3660, 450);
+  cmdOK     = Place(new look::PictureButton(QStringLiteral("&Ok"), this), "cmdOK", 2400, 1470, 1770, 450);
+  cmdCancel = Place(new look::PictureButton(QStringLiteral("E&xit"), this), "cmdCancel", 4290, 1470, 1770, 450);
   // clang-format on
   Image1->setPixmap(look::ClaspedBook());
   Label1->setBuddy(txtPass);

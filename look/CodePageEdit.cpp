@@ -9,6 +9,8 @@
 namespace look {
 namespace {
 
+constexpr int SideMargin = 3;  // pixels, besides the style's own
+
 void TellRefused(QWidget& box, const QString& character) {
   const QString text = CodePageEdit::tr(
                            "“%1” cannot be used here: the diary's files hold only letters and "
@@ -45,6 +47,7 @@ class AsteriskStyle : public QProxyStyle {
 
 CodePageEdit::CodePageEdit(QWidget* parent) : QLineEdit(parent) {
   setValidator(new CodePageValidator(this));
+  setTextMargins(SideMargin, 0, SideMargin, 0);
 }
 
 std::string CodePageEdit::Bytes() const {

@@ -28,7 +28,7 @@ QPixmap EmblemPicture() {
 }
 
 QPixmap ClaspedBook() {
-  return Drawing("clasped-book").pixmap(QSize(80, 80));
+  return Drawing("clasped-book").pixmap(QSize(120, 120));
 }
 
 QPixmap HourglassAndInkwell() {

@@ -11,7 +11,7 @@ QIcon QuillAndInkwell();
 
 // Crisp on the sharpest screen that there is now, whose scaling they carry.
 QPixmap EmblemPicture();        // 80 by 80 pixels
-QPixmap ClaspedBook();          // 80 by 80 pixels
+QPixmap ClaspedBook();          // 120 by 120 pixels
 QPixmap HourglassAndInkwell();  // 64 by 64 pixels
 
 // Gives the program the emblem as its icon, in 16 to 128 pixels of the screen, which every window without one

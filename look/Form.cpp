@@ -21,6 +21,9 @@ namespace {
 
 constexpr double TwipsPerPixel = 15;
 
+constexpr QColor Ink(0x2b, 0x24, 0x30);
+constexpr QColor Paper(0xff, 0xfd, 0xf6);
+
 // What a window manager's frame takes at most, in pixels; the frame itself is known only once it is there.
 constexpr QSize FrameAround{16, 48};
 
@@ -30,13 +33,23 @@ Qt::WindowFlags FlagsOf(Form::Kind kind) {
   return Qt::Window | both | Qt::WindowMinMaxButtonsHint;
 }
 
+QColor Mixed(const QColor& first, const QColor& second, float share) {
+  const auto mix = [share](float a, float b) { return share * a + (1 - share) * b; };
+  return QColor::fromRgbF(mix(first.redF(), second.redF()), mix(first.greenF(), second.greenF()),
+                          mix(first.blueF(), second.blueF()));
+}
+
 // Pale surfaces need dark writing, whatever the desktop's own colours are.
 QPalette PaletteOn(const QColor& surface) {
   QPalette palette(surface, surface);
   const QPalette desktop = QApplication::palette();
-  const QColor ink(0x2b, 0x24, 0x30);
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-    palette.setColor(QPalette::Active, role, ink), palette.setColor(QPalette::Inactive, role, ink);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(role, Ink);
+    palette.setColor(QPalette::Disabled, role, Mixed(Ink, surface, 0.7f));
+  }
+  palette.setColor(QPalette::PlaceholderText, Mixed(Ink, Paper, 0.7f));
+  palette.setColor(QPalette::Base, Paper);
+  palette.setColor(QPalette::Disabled, QPalette::Base, Mixed(Paper, surface, 0.4f));
   for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
     palette.setColor(role, desktop.color(role));
   return palette;
@@ -138,6 +151,7 @@ void Form::paintEvent(QPaintEvent* event) {
   if (picture_.isNull()) return QDialog::paintEvent(event);
   QPainter painter(this);
   painter.fillRect(event->rect(), palette().window());
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
   painter.drawPixmap(0, 0, picture_);
 }
 

@@ -1,7 +1,5 @@
 #include "look/PictureBox.h"
 
-#include <algorithm>
-
 #include <QtGui/QPainter>
 
 #include "platform/Colors.h"
@@ -17,8 +15,8 @@ void PictureBox::SetPicture(const QPixmap& picture) {
   update();
 }
 
-void PictureBox::RepeatDownwards() {
-  repeats_ = true;
+void PictureBox::Repeat(Qt::Orientations directions) {
+  repeats_ = directions;
   update();
 }
 
@@ -30,10 +28,13 @@ void PictureBox::SetBackColor(std::uint32_t color) {
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), platform::ToColor(backColor_));
+  if (picture_.isNull()) return;
   painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
-  const int step = picture_.deviceIndependentSize().toSize().height();
-  const int last = repeats_ && step > 0 ? height() : 1;
-  for (int top = 0; top < last; top += std::max(step, 1)) painter.drawPixmap(0, top, picture_);
+  const QSize step = picture_.deviceIndependentSize().toSize().expandedTo({1, 1});
+  const int right = repeats_.testFlag(Qt::Horizontal) ? width() : 1;
+  const int bottom = repeats_.testFlag(Qt::Vertical) ? height() : 1;
+  for (int top = 0; top < bottom; top += step.height())
+    for (int left = 0; left < right; left += step.width()) painter.drawPixmap(left, top, picture_);
 }
 
 }  // namespace look

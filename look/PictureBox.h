@@ -14,8 +14,8 @@ class PictureBox : public QWidget {
  public:
   explicit PictureBox(QWidget* parent = nullptr);
   void SetPicture(const QPixmap& picture);
-  // From now on the picture begins again below its end.
-  void RepeatDownwards();
+  // From now on the picture begins again where it ends, in these directions.
+  void Repeat(Qt::Orientations directions);
   const QPixmap& Picture() const { return picture_; }
   void SetBackColor(std::uint32_t color);  // 0x00BBGGRR
   std::uint32_t BackColor() const { return backColor_; }
@@ -25,7 +25,7 @@ class PictureBox : public QWidget {
 
  private:
   QPixmap picture_;
-  bool repeats_ = false;
+  Qt::Orientations repeats_;
   std::uint32_t backColor_ = 0xFFFFFF;
 };
 

@@ -6,6 +6,10 @@
 #include <QtGui/QPainterPath>
 #include <QtWidgets/QToolTip>
 
+#include "look/FocusLine.h"
+#include "look/Shortening.h"
+#include "look/Theme.h"
+
 namespace look {
 namespace {
 
@@ -32,10 +36,10 @@ QColor Veil(const QColor& color, int alpha) {
   return veil;
 }
 
-QPen Thread(const QColor& color, const QList<qreal>& pattern) {
+QPen Thread(const QColor& color) {
   QPen pen(color, 1);
   pen.setCapStyle(Qt::FlatCap);
-  pen.setDashPattern(pattern);
+  pen.setDashPattern({3, 3});
   pen.setDashOffset(0.5);  // the seam begins in the middle of a pixel, the stitches at its edges
   return pen;
 }
@@ -73,7 +77,7 @@ bool PictureButton::event(QEvent* event) {
 void PictureButton::paintEvent(QPaintEvent* event) {
   if (picture_.isNull()) return QPushButton::paintEvent(event);
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
   painter.setClipPath(Outline(rect(), 0));
   PaintMaterial(painter);
   PaintRelief(painter);
@@ -112,20 +116,23 @@ void PictureButton::PaintEdges(QPainter& painter) const {
   if (HasDoubleEdge()) painter.drawPath(Outline(rect(), SecondHairlineInset));
 }
 
-// The focus is a dotted line in ink, in the place of the stitches.
+// The focus is in the place of the stitches.
 void PictureButton::PaintStitching(QPainter& painter) const {
   if (height() < LeastHeightForStitches && !hasFocus()) return;
   const QPointF sunk = isDown() ? QPointF(Sunk) : QPointF();
   const double inset = HasDoubleEdge() ? StitchInsetInDoubleEdge : StitchInset;
   const QRectF seam = QRectF(rect()).adjusted(inset, inset, -inset, -inset).translated(sunk);
-  painter.setPen(hasFocus() ? Thread(palette().color(QPalette::ButtonText), {1, 1})
-                            : Thread(Veil(Edge(), isEnabled() ? 95 : 50), {3, 3}));
+  if (hasFocus()) {
+    return DrawFocusLine(painter, seam.adjusted(-0.5, -0.5, 0.5, 0.5), palette().color(QPalette::ButtonText));
+  }
+  painter.setPen(Thread(Veil(Edge(), isEnabled() ? 95 : 50)));
   painter.drawRect(seam);
 }
 
 void PictureButton::PaintCaption(QPainter& painter) const {
   const QPoint sunk = isDown() ? Sunk : QPoint();
   painter.setPen(Veil(palette().color(QPalette::Active, QPalette::ButtonText), isEnabled() ? 255 : 110));
+  painter.setFont(CaptionFont());
   painter.drawText(rect().translated(sunk), Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine,
                    ShownCaption());
 }
@@ -134,13 +141,17 @@ bool PictureButton::HasDoubleEdge() const {
   return isDefault() && isEnabled();
 }
 
-// The hairline has the face's own hue, some steps darker.
 QColor PictureButton::Edge() const {
-  return QColor::fromHslF(palette().color(QPalette::Button).hslHueF(), 0.28f, 0.43f);
+  return HairlineOn(palette().color(QPalette::Button));
+}
+
+QFont PictureButton::CaptionFont() const {
+  return FittingFont(font(), text(), width() - 2 * CaptionMargin);
 }
 
 QString PictureButton::ShownCaption() const {
-  return fontMetrics().elidedText(text(), Qt::ElideRight, width() - 2 * CaptionMargin, Qt::TextShowMnemonic);
+  const int room = width() - 2 * CaptionMargin;
+  return QFontMetrics(CaptionFont()).elidedText(text(), Qt::ElideRight, room, Qt::TextShowMnemonic);
 }
 
 }  // namespace look

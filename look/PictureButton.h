@@ -29,6 +29,7 @@ class PictureButton : public QPushButton {
   void PaintCaption(QPainter& painter) const;
   bool HasDoubleEdge() const;
   QColor Edge() const;
+  QFont CaptionFont() const;
   QString ShownCaption() const;
 
   QPixmap picture_;

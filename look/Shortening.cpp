@@ -19,10 +19,13 @@ class PlacedStyle : public QProxyStyle {
  public:
   void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette, bool enabled,
                     const QString& text, QPalette::ColorRole role) const override {
-    const bool isLine = !(flags & Qt::TextWordWrap) && !text.contains(u'\n');
-    const QString shown =
-        isLine ? painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width(), flags) : text;
+    if (flags & Qt::TextWordWrap || text.contains(u'\n'))
+      return QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
+    const QFont before = painter->font();
+    painter->setFont(FittingFont(before, text, rect.width()));
+    const QString shown = painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width(), flags);
     QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, shown, role);
+    painter->setFont(before);
   }
   // The margins of a button that chooses its own size are room for the text of one that does not; and the
   // whole place of a control takes the click.
@@ -79,18 +82,37 @@ QRect RoomIn(const QAbstractButton& button) {
   return button.style()->subElementRect(part, &option, &button);
 }
 
+int WidthIn(const QFont& font, const QString& line) {
+  return QFontMetrics(font).size(Qt::TextShowMnemonic | Qt::TextSingleLine, line).width();
+}
+
+bool Outgrows(const QFont& font, const QString& line, int width) {
+  return WidthIn(FittingFont(font, line, width), line) > width;
+}
+
 bool Outgrows(const QLabel& label) {
   const QRect room = label.contentsRect();
-  const int flags = label.wordWrap() ? Qt::TextWordWrap : Qt::TextShowMnemonic;
-  const QSize needed = label.fontMetrics().boundingRect(room, flags, label.text()).size();
-  return needed.width() > room.width() || (label.wordWrap() && needed.height() > room.height());
+  if (!label.wordWrap()) return Outgrows(label.font(), label.text(), room.width());
+  const QSize needed = label.fontMetrics().boundingRect(room, Qt::TextWordWrap, label.text()).size();
+  return needed.width() > room.width() || needed.height() > room.height();
 }
 
 bool Outgrows(const QAbstractButton& button) {
-  return button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width() > RoomIn(button).width();
+  return Outgrows(button.font(), button.text(), RoomIn(button).width());
 }
 
 }  // namespace
+
+QFont FittingFont(const QFont& font, const QString& line, int width) {
+  if (WidthIn(font, line) <= width) return font;
+  const int full = QFontInfo(font).pixelSize();
+  QFont smaller = font;
+  for (int size = full - 1; 4 * size >= 3 * full; --size) {
+    smaller.setPixelSize(size);
+    if (WidthIn(smaller, line) <= width) return smaller;
+  }
+  return font;
+}
 
 void ShortenWhatOutgrows(QWidget& control) {
   control.setStyle(TheShortening().style);

@@ -39,4 +39,8 @@ void PutOnTheme(int index) {
   theme.surface = SurfaceOf(index);
 }
 
+QColor HairlineOn(const QColor& surface) {
+  return QColor::fromHslF(surface.hslHueF(), surface.hslSaturationF() > 0 ? 0.28f : 0.0f, 0.43f);
+}
+
 }  // namespace look

@@ -19,4 +19,7 @@ const Theme& CurrentTheme();
 // stand open are not told.
 void PutOnTheme(int index);
 
+// Lines and marks on a surface: its own hue, some steps darker.
+QColor HairlineOn(const QColor& surface);
+
 }  // namespace look

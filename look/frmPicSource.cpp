@@ -1,6 +1,6 @@
 #include "look/frmPicSource.h"
 
-#include <QtCore/QtGlobal>
+#include <QtGui/QGuiApplication>
 
 // Outside every namespace, as the macro asks. Without it the linker leaves the pictures out.
 static void BringThePictures() {
@@ -11,10 +11,14 @@ namespace {
 
 constexpr const char* Names[] = {"blue", "pink", "purple"};
 
+// For a sharper screen there is the same material with a finer grain; by its name the toolkit knows its
+// scaling.
 QPixmap Decoded(const char* kind, int index) {
   BringThePictures();
   if (index < 0 || index >= static_cast<int>(std::size(Names))) return {};
-  return QPixmap(QStringLiteral(":/themes/%1-%2").arg(QLatin1String(Names[index]), QLatin1String(kind)));
+  const auto scaling = QLatin1String(qGuiApp->devicePixelRatio() > 1 ? "@2x" : "");
+  return QPixmap(
+      QStringLiteral(":/themes/%1-%2%3").arg(QLatin1String(Names[index]), QLatin1String(kind), scaling));
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "look/frmWait.h"
 
+#include <QtCore/QDeadlineTimer>
+#include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 
 #include "look/Emblem.h"
@@ -9,17 +11,19 @@ namespace look {
 namespace {
 
 constexpr std::chrono::milliseconds Frame{16};
+constexpr std::chrono::milliseconds MostForAppearing{
+    250};  // a window manager that takes longer is not waited for
 
 }  // namespace
 
 frmWait::frmWait()
-    : Form(Kind::Dialog, QStringLiteral("frmWait"), QStringLiteral("Thorn Quill"), 5400, 1680) {
+    : Form(Kind::Dialog, QStringLiteral("frmWait"), QStringLiteral("Thorn Quill"), 5400, 1560) {
   setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowDoesNotAcceptFocus);
   setAttribute(Qt::WA_ShowWithoutActivating);
   setFocusPolicy(Qt::NoFocus);
   SetPicture(CurrentTheme().large);
 
-  Image1 = Place(new QLabel(this), "Image1", 240, 240, 960, 960);
+  Image1 = Place(new QLabel(this), "Image1", 240, 300, 960, 960);
   Label1 = Place(new QLabel(QStringLiteral("Thorn Quill"), this), "Label1", 1440, 240, 3720, 300);
   lblInfo = Place(new QLabel(QStringLiteral("PLEASE WAIT"), this), "lblInfo", 1440, 600, 3720, 300);
   ProgressBar1 =
@@ -29,10 +33,19 @@ frmWait::frmWait()
   bold.setBold(true);
   Label1->setFont(bold);
   ProgressBar1->setTextVisible(false);
+  DressBar();
 
   appearance_.setSingleShot(true);
   appearance_.setTimerType(Qt::PreciseTimer);
   connect(&appearance_, &QTimer::timeout, this, &frmWait::Appear);
+}
+
+// The bar grows in the theme's own colour.
+void frmWait::DressBar() {
+  if (Picture().isNull()) return;
+  QPalette colors = ProgressBar1->palette();
+  colors.setColor(QPalette::Highlight, HairlineOn(CurrentTheme().surface));
+  ProgressBar1->setPalette(colors);
 }
 
 void frmWait::ShowSoon() {
@@ -44,7 +57,11 @@ void frmWait::ShowNow() {
   if (!wanted_) return;
   appearance_.stop();
   if (!isVisible()) Appear();
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  // Shown is not yet seen: only after its exposure is there a place to paint on.
+  const QDeadlineTimer limit(MostForAppearing);
+  do QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  while (!windowHandle()->isExposed() && !limit.hasExpired());
+  repaint();
 }
 
 void frmWait::HideNow() {

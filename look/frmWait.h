@@ -35,6 +35,7 @@ class frmWait : public Form {
   bool event(QEvent* event) override;
 
  private:
+  void DressBar();
   void Appear();
 
   bool wanted_ = false;

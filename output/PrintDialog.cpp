@@ -72,6 +72,8 @@ QPrintDialog* MakeDialog(QPrinter& printer, PrintRange*& range, const PrintReque
   range = new PrintRange(request, dialog);
   PutInPlace(*range, *dialog);
   PutInTabOrder(*range, *dialog);
+  if (auto* browse = dialog->findChild<QWidget*>(QStringLiteral("fileBrowser")))
+    browse->setAccessibleName(QStringLiteral("choose the output file"));
   return dialog;
 }
 

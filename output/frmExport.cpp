@@ -1,5 +1,8 @@
 #include "output/frmExport.h"
 
+#include <algorithm>
+#include <tuple>
+
 #include <QtCore/QFile>
 
 #include "editor/PageFace.h"
@@ -28,6 +31,20 @@ QLabel* Explanation(const char* text) {
   return label;
 }
 
+// As high as its lines are at this font and width, or as that many lines where that is more; returns its
+// lower edge.
+int FitDown(QLabel& label, int top, int leastLines = 1) {
+  const int lines = leastLines * label.fontMetrics().lineSpacing();
+  const int height = std::max(lines, label.heightForWidth(label.width()));
+  label.setGeometry(label.x(), top, label.width(), height);
+  return top + height;
+}
+
+int PutDown(QWidget& control, int top) {
+  control.move(control.x(), top);
+  return top + control.height();
+}
+
 QCheckBox* Choice(const char* text) {
   return new QCheckBox(QString::fromLatin1(text));
 }
@@ -50,9 +67,11 @@ frmExport::frmExport()
   LayOutTexts();
   LayOutChoices();
   LayOutProgress();
+  FlowDown();
   const QString name = platform::FromCodePage(Journals.at(static_cast<std::size_t>(CurrentJournal)).Name);
   txtHTMLTitle->setText(name);
   txtH3headline->setText(name);
+  for (QLineEdit* box : {txtHTMLTitle, txtH3headline}) box->home(false);  // a long name from its beginning
   txtHTMLTitle->setFocus();
 
   connect(chkMulti, &QCheckBox::clicked, this, &frmExport::chkMulti_Click);
@@ -93,11 +112,11 @@ void frmExport::LayOutChoices() {
   // clang-format off
   chkMulti           = Place(Choice("Multi-Page style"),       "chkMulti",           240, 5460, 3000, 330);
   chkDateIndex       = Place(Choice("List of Entry Dates Index (multi-page only)"),
-                                                               "chkDateIndex",       600, 5820, 4800, 330);
+                                                               "chkDateIndex",       600, 5820, 5640, 330);
   chkTopMenu         = Place(Choice("Menu Bar at Top (multi-page only)"),
-                                                               "chkTopMenu",         600, 6180, 4800, 330);
-  chkShowDates       = Place(Choice("Show Dates"),             "chkShowDates",       5760, 5460, 2250, 330);
-  chkShowPageNumbers = Place(Choice("Show Page Numbers"),      "chkShowPageNumbers", 5760, 5820, 3000, 330);
+                                                               "chkTopMenu",         600, 6180, 5640, 330);
+  chkShowDates       = Place(Choice("Show Dates"),             "chkShowDates",       6360, 5460, 3000, 330);
+  chkShowPageNumbers = Place(Choice("Show Page Numbers"),      "chkShowPageNumbers", 6360, 5820, 3000, 330);
   // clang-format on
   chkDateIndex->setEnabled(false);
   chkTopMenu->setEnabled(false);
@@ -113,10 +132,30 @@ void frmExport::LayOutProgress() {
   // clang-format on
   cmdExport->setDefault(true);
   lblCreatingHTML->setWordWrap(true);
+  lblCreatingHTML->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
   ProgressBar1->setTextVisible(false);
   lblCreatingHTML->hide();
   ProgressBar1->hide();
   cmdViewWebPage->hide();
+}
+
+// How many lines an explanation takes is a matter of the desktop's font: what is below it follows.
+void frmExport::FlowDown() {
+  constexpr int heading = 2, together = 8, group = 16;  // pixels before a thing
+  const std::tuple<QLabel*, QLabel*, QWidget*> texts[] = {
+      {Label1, Label2, txtHTMLTitle}, {Label3, Label4, txtH3headline}, {Label5, Label6, txtFooter}};
+  int bottom = 0;
+  for (const auto& [title, explanation, box] : texts)
+    bottom = PutDown(*box, FitDown(*explanation, FitDown(*title, bottom + group) + heading) + together);
+  bottom += group - together;
+  for (const auto& [left, right] : {std::pair{chkMulti, chkShowDates}, {chkDateIndex, chkShowPageNumbers}}) {
+    PutDown(*right, bottom + together);
+    bottom = PutDown(*left, bottom + together);
+  }
+  bottom = FitDown(*lblCreatingHTML, PutDown(*chkTopMenu, bottom + together) + group, 3);
+  bottom = PutDown(*ProgressBar1, bottom + together) + group;
+  for (QWidget* button : {cmdExport, cmdViewWebPage}) PutDown(*button, bottom);
+  setFixedHeight(PutDown(*cmdHelp, bottom) + group);
 }
 
 // What belongs to several pages only is neither chosen nor to be chosen for one.

@@ -48,6 +48,7 @@ class frmExport : public look::Form, private ExportDisplay {
   void LayOutTexts();
   void LayOutChoices();
   void LayOutProgress();
+  void FlowDown();
   ExportSettings Settings() const;
 
   void chkMulti_Click();

@@ -4,6 +4,8 @@
 
 #include <QtCore/QFile>
 
+#include "look/AiryRows.h"
+#include "look/Shortening.h"
 #include "pictures/NewRow.h"
 #include "pictures/PictureFile.h"
 #include "pictures/PictureSlots.h"
@@ -19,7 +21,8 @@
 
 namespace {
 
-constexpr int Twips = 15;  // this window is designed in pixels
+constexpr int Twips = 15;      // this window is designed in pixels
+constexpr int ButtonEdge = 4;  // pixels that a caption leaves free
 constexpr double ScaleStep = 0.01;
 constexpr int ExtensionLength = 4;  // ".gif"
 constexpr double OpeningScale = 0.25;
@@ -47,6 +50,7 @@ frmAddPicture::frmAddPicture()
            546 * Twips) {
   PlaceControls();
   PlaceScaleButtons();
+  EvenScaleRow();
   PlacePreview();
   Label1->setBuddy(List1);
   List1->addItem(QStringLiteral("No Frame!"));
@@ -68,10 +72,11 @@ void frmAddPicture::PlaceControls() {
   cmdOK = button("cmdOK", QStringLiteral("&Insert to Journal!"), 112, 160);
   cmdCancel = button("cmdCancel", QStringLiteral("&Cancel"), 280, 96);
   // clang-format off
-  Label1 = Place(new QLabel(QStringLiteral("Select Frame:"), this), "Label1", 8 * Twips, 50 * Twips, 150 * Twips, 20 * Twips);
-  List1  = Place(new QListWidget(this), "List1", 8 * Twips, 74 * Twips, 150 * Twips, 464 * Twips, QStringLiteral("Select Frame:"));
-  File1  = Place(new QListWidget(this), "File1", 8 * Twips, 74 * Twips, 150 * Twips, 100 * Twips, QStringLiteral("the frame files"));
+  Label1 = Place(new QLabel(QStringLiteral("Select Frame:"), this), "Label1", 8 * Twips, 46 * Twips, 150 * Twips, 28 * Twips);
+  List1  = Place(new QListWidget(this), "List1", 8 * Twips, 82 * Twips, 150 * Twips, 456 * Twips, QStringLiteral("Select Frame:"));
+  File1  = Place(new QListWidget(this), "File1", 8 * Twips, 82 * Twips, 150 * Twips, 100 * Twips, QStringLiteral("the frame files"));
   // clang-format on
+  look::GiveRowsAir(*List1);
   File1->hide();
 }
 
@@ -90,6 +95,18 @@ void frmAddPicture::PlaceScaleButtons() {
   cmdResizeFactor75 = button("cmdResizeFactor75", QStringLiteral("75%"), 538, 42);
   cmdResizeFactor100 = button("cmdResizeFactor100", QStringLiteral("100%"), 582, 42);
   cmdResizeFactor200 = button("cmdResizeFactor200", QStringLiteral("200%"), 626, 42);
+}
+
+// One size of letters for the whole row: that in which the tightest caption fits.
+void frmAddPicture::EvenScaleRow() {
+  const QList<QPushButton*> buttons = {cmdResizeFactorDN,  cmdResizeFactorUP, cmdResizeFactor10,
+                                       cmdResizeFactor25,  cmdResizeFactor50, cmdResizeFactor75,
+                                       cmdResizeFactor100, cmdResizeFactor200};
+  QFont even = look::FittingFont(font(), lblScale->text(), lblScale->width());
+  for (const QPushButton* button : buttons)
+    even = look::FittingFont(even, button->text(), button->width() - 2 * ButtonEdge);
+  lblScale->setFont(even);
+  for (QPushButton* button : buttons) button->setFont(even);
 }
 
 // The preview takes the size of the picture and is cut at the dialog's edge.

@@ -63,6 +63,7 @@ class frmAddPicture : public look::Form {
  private:
   void PlaceControls();
   void PlaceScaleButtons();
+  void EvenScaleRow();
   void PlacePreview();
   void ConnectScaleButtons();
   // Shows it with a fresh list of frames and none of them chosen; returns when it has been hidden. A folder

@@ -75,12 +75,14 @@ FontPicker::FontPicker(const FontQuestion& question, QWidget* parent) : QDialog(
 void FontPicker::LayOut() {
   name = new ChoiceList(QStringLiteral("fontName"), FontNames(question_.codePageNames));
   name->SetFiltering(true);
+  name->edit->setAccessibleName(QStringLiteral("Font"));
   name->list->setAccessibleName(QStringLiteral("installed fonts"));
   size = new ChoiceList(QStringLiteral("fontSize"), UsualSizes());
+  size->edit->setAccessibleName(QStringLiteral("Size"));
   size->list->setAccessibleName(QStringLiteral("usual sizes"));
   size->edit->setValidator(
       new QRegularExpressionValidator(QRegularExpression(QStringLiteral("\\d{0,4}([.,]\\d?)?")), size));
-  size->setFixedWidth(90);
+  size->setFixedWidth(std::max(90, 10 * fontMetrics().averageCharWidth()));
   auto* grid = new QGridLayout(this);
   grid->setSpacing(8);
   grid->addWidget(LabelOf(QStringLiteral("&Font:"), name->edit), 0, 0);
@@ -94,7 +96,8 @@ void FontPicker::LayOut() {
   buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   grid->addWidget(buttons, 4, 0, 1, 3);
   grid->setColumnStretch(0, 1);
-  resize(460, 430);
+  const QFontMetrics metrics = fontMetrics();
+  resize(std::max(460, 64 * metrics.averageCharWidth()), std::max(430, 28 * metrics.lineSpacing()));
 }
 
 QLayout* FontPicker::EffectsColumn() {

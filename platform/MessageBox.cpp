@@ -4,7 +4,9 @@
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QLabel>
+
+#include "platform/MessageDress.h"
 
 namespace platform {
 namespace {
@@ -26,13 +28,30 @@ QMessageBox::Icon IconOf(BoxIcon icon) {
   return QMessageBox::NoIcon;
 }
 
+// What the picture says to those who see it.
+QString MeaningOf(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::Stop:
+      return QStringLiteral("Stop");
+    case BoxIcon::Question:
+      return QStringLiteral("Question");
+    case BoxIcon::None:
+      break;
+  }
+  return {};
+}
+
 QMessageBox* MakeBox(const Message& message) {
-  auto* box = new QMessageBox(IconOf(message.icon), QString::fromStdString(message.title), {},
-                              QMessageBox::NoButton, QApplication::activeWindow());
+  auto* box = new QMessageBox(QApplication::activeWindow());
+  DrawOwnSigns(*box);
+  box->setIcon(IconOf(message.icon));
+  box->setWindowTitle(QString::fromStdString(message.title));
   box->setObjectName(QStringLiteral("MessageBox"));
   box->setWindowModality(Qt::ApplicationModal);
   box->setTextFormat(Qt::PlainText);  // a name with a less-than sign is shown as it is
   box->setText(QString::fromStdString(message.text));
+  if (auto* picture = box->findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")))
+    picture->setAccessibleName(MeaningOf(message.icon));
   return box;
 }
 
@@ -65,6 +84,7 @@ Answer AskOnTheDesktop(const Message& message) {
   // The window under the box may be destroyed while the box is up, and takes the box with it.
   QPointer<QMessageBox> box = MakeBox(message);
   AddButtons(*box, message.buttons);
+  GiveRoom(*box);
   const int button = box->exec();
   delete box;
   return AnswerOf(message.buttons, button);

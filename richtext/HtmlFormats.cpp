@@ -35,7 +35,7 @@ std::int32_t HalfPoints(const QTextCharFormat& format, const CharacterFormat& ca
   if (format.hasProperty(QTextFormat::FontPixelSize))
     size = format.intProperty(QTextFormat::FontPixelSize) * HalfPointsPerPixel;
   size *= Steps[std::clamp(format.intProperty(QTextFormat::FontSizeAdjustment) + 2, 0, 6)];
-  return std::clamp(static_cast<std::int32_t>(std::lround(size)), 1, MaxHalfPoints);
+  return static_cast<std::int32_t>(std::lround(std::clamp<double>(size, 1, MaxHalfPoints)));
 }
 
 std::u16string Bullet(QTextListFormat::Style style) {
@@ -77,10 +77,10 @@ void SetList(ParagraphFormat& made, const QTextListFormat& format) {
 
 // The rule and the measure are set in a form that the box's own formats share.
 void SetLineHeight(ParagraphFormat& made, const QTextBlockFormat& format) {
-  if (format.lineHeightType() == QTextBlockFormat::LineDistanceHeight || format.lineHeight() <= 0) return;
+  if (format.lineHeightType() == QTextBlockFormat::LineDistanceHeight || !(format.lineHeight() > 0)) return;
   const bool isShare = made.lineSpacingRule == LineSpacingRule::Multiple;
-  made.lineSpacing =
-      FittingIndent(static_cast<std::int32_t>(format.lineHeight() * (isShare ? 2.4 : TwipsPerPixel)));
+  const double height = format.lineHeight() * (isShare ? 2.4 : TwipsPerPixel);
+  made.lineSpacing = static_cast<std::int32_t>(std::min<double>(height, MaxIndent));
 }
 
 }  // namespace

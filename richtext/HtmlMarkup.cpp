@@ -7,11 +7,14 @@
 #include <QtCore/QRegularExpression>
 
 #include "richtext/HtmlColors.h"
+#include "richtext/HtmlTables.h"
 
 namespace richtext {
 namespace {
 
 constexpr int MaxDepth = 200;
+constexpr qsizetype FewCells = 10'000;
+constexpr qsizetype LettersOfCell = 2;  // what each cell beyond these must take of the markup
 
 // Elements that end by themselves where the next one begins.
 constexpr QStringView FlatElements[] = {
@@ -65,7 +68,9 @@ QString SizeAttributes(const QString& css) {
 
 class Rewriting {
  public:
-  explicit Rewriting(const QString& html) : html_(html) { made_.reserve(html.size()); }
+  explicit Rewriting(const QString& html) : html_(html), cells_(FewCells + html.size() / LettersOfCell) {
+    made_.reserve(html.size());
+  }
 
   QString Rewrite() {
     for (qsizetype tag = html_.indexOf(u'<'); tag >= 0; tag = html_.indexOf(u'<', at_)) {
@@ -86,12 +91,30 @@ class Rewriting {
     const bool closes = html_.mid(at_ + 1).startsWith(u'/');
     const QString name = NameAt(at_ + (closes ? 2 : 1));
     if (html_.mid(at_).startsWith(u"<!--")) return CopyTo(EndOf(u"-->"));
-    if (name.isEmpty()) return CopyTo(at_ + 1);
+    if (name.isEmpty()) return TakeBracket();
     const QStringView tag = html_.mid(at_, EndOfTag() - at_);
     at_ += tag.size();
-    if (!tag.endsWith(u"/>") && !Keeps(name, closes)) return;
+    if (IsDisguised(tag, name) || (!tag.endsWith(u"/>") && !Keeps(name, closes))) return;
+    if (!cells_.Take(name, closes, tag.toString())) return FlattenCell(name);
     made_ += closes ? tag.toString() : WithPlainStyle(tag.toString(), name);
     if (!closes && name == u"style") TakeSheet();
+  }
+
+  // No name follows, but the toolkit would look for one behind blanks and in quotes.
+  void TakeBracket() {
+    const QStringView next = html_.mid(at_ + 1, 1);
+    if (next == u"/" || next == u"!" || next == u"?") return CopyTo(at_ + 1);
+    made_ += QStringLiteral("&lt;");
+    ++at_;
+  }
+
+  // The toolkit reads entities in the name of an element.
+  static bool IsDisguised(QStringView tag, QStringView name) {
+    return tag.left(name.size() + (tag.startsWith(u"</") ? 3 : 2)).contains(u'&');
+  }
+
+  void FlattenCell(QStringView name) {
+    made_ += name == u"tr" ? QStringLiteral("<br>") : QStringLiteral(" ");
   }
 
   QString NameAt(qsizetype from) const {
@@ -140,6 +163,8 @@ class Rewriting {
     static const QRegularExpression style(
         QStringLiteral("\\sstyle\\s*=\\s*(?:\"([^\"]*)\"|'([^']*)'|([^\\s\"'>]+))"),
         QRegularExpression::CaseInsensitiveOption);
+    if (name == u"td" || name == u"th")
+      tag.replace(u"&#"_qs, u"#"_qs);  // it reads a span's digits from these
     const QRegularExpressionMatch found = style.match(tag);
     if (!found.hasMatch()) return tag;
     const int group = found.lastCapturedIndex();
@@ -150,6 +175,7 @@ class Rewriting {
   }
 
   const QStringView html_;
+  TableCells cells_;
   QString made_;
   qsizetype at_ = 0;
   int depth_ = 0;    // of open elements

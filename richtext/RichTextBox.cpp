@@ -63,8 +63,10 @@ void RichTextBox::SetTextRTF(std::string_view rtf) {
 void RichTextBox::Fill(std::string_view rtf) {
   const QScopedValueRollback quiet(quiet_, true);
   const Document page = rtf.empty() ? EmptyDocument() : ReadRtf(rtf);
-  // With its scroll bar there beforehand, a long page is laid out once, and not at the width without it too.
-  if (page.text.size() > LongPage) setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  // With its scroll bar there beforehand, a page is laid out once, and not at the width without it first and
+  // then twice more. So the bar of the page before stays until it is known that this one needs none.
+  const bool hasBar = verticalScrollBar()->maximum() > verticalScrollBar()->minimum();
+  if (hasBar || page.text.size() > LongPage) setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   FillDocument(page, *document());
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setTextCursor(QTextCursor(document()));

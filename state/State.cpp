@@ -1,5 +1,7 @@
 #include "state/State.h"
 
+#include <malloc.h>
+
 std::vector<JournalEntry> Journals(1);
 std::int32_t JournalCount = 0;
 
@@ -26,7 +28,9 @@ std::int32_t optColor = 0;
 std::function<void(std::int32_t row)> JournalAdded;
 
 void ForgetPages() {
+  const bool held = !Pages.empty();
   Pages = {};
+  if (held) malloc_trim(0);  // the allocator would keep a long journal's memory for the next one
   PageCount = 0;
   CurrentPage = 0;
   PageDirty = False;

@@ -103,7 +103,8 @@ extern std::int32_t optColor;         // the theme: 0 blue, 1 pink, 2 purple
 // Called with the row of each journal that joins the bookcase; the bookcase window lists it. May be empty.
 extern std::function<void(std::int32_t row)> JournalAdded;
 
-// Gives the pages of the open journal back to nobody: Pages is erased, no row is shown, nothing is dirty.
+// Gives the pages of the open journal back to nobody: Pages is erased and its memory back with the system, no
+// row is shown, nothing is dirty.
 void ForgetPages();
 
 // Puts every variable back to its value at the start of the program.

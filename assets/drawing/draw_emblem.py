@@ -6,7 +6,7 @@ from emblem.books import clasped_book, emblem_book
 from emblem.desk import hourglass_and_inkwell, quill_and_inkwell
 from emblem.quill import quill
 from render import ASSETS, draw_scaled, rendered, write_png, write_source
-from shapes import body, box, flat, picture, stroke
+from shapes import body, box, flat, picture, scaled, stroke
 
 HICOLOR = ASSETS.parent / "packaging" / "icons" / "hicolor"
 SMALL, LARGE = (16, 22), (32, 48, 64, 128, 256)
@@ -44,7 +44,7 @@ def main():
     scalable = HICOLOR / "scalable" / "apps" / "thornquill.svg"
     scalable.parent.mkdir(parents=True, exist_ok=True)
     scalable.write_text(emblem(), encoding="utf-8")
-    draw_scaled("emblem/clasped-book", picture(80, 2, clasped_book()))
+    draw_scaled("emblem/clasped-book", picture(120, 3, [scaled("".join(clasped_book()), 1.5, line=3)]))
     draw_scaled("emblem/quill-and-inkwell", picture(80, 1.75, quill_and_inkwell(), height=70))
     draw_scaled("emblem/hourglass-and-inkwell", picture(64, 1.75, hourglass_and_inkwell()))
 

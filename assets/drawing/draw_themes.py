@@ -9,9 +9,11 @@ from PIL import Image
 
 from render import ASSETS
 
-OVER = 2  # samples a pixel in each direction
-QUALITY = 95  # fine threads keep their shape, and no blocks show
-REACH = 2.5  # lightness above and below the tint; compression adds a little
+FINE = 2  # samples a pixel of the picture in each direction
+OVER = FINE  # samples a pixel of the window, which has several of a picture that is drawn for a sharper screen
+# By the scaling:
+QUALITY = {1: 95, 2: 88}  # fine threads keep their shape, and no blocks show
+REACH = {1: 2.5, 2: 2.3}  # lightness above and below the tint; compression adds a little
 MOST_LIGHTNESS = 6.0  # of a hundred, from the darkest pixel to the lightest
 LEAST_CONTRAST = 7.0  # of black text
 
@@ -34,7 +36,8 @@ def noise(rng, shape, across, down=None):
 
 def lit(height):
     """How light from the top left falls on a relief: slopes that face it are above 0."""
-    return height - np.roll(height, (1, 1), axis=(0, 1))
+    step = OVER // FINE
+    return height - np.roll(height, (step, step), axis=(0, 1))
 
 
 def grid(shape):
@@ -87,7 +90,7 @@ def pulp(rng, shape, pixels_each):
     field = np.zeros(shape)
     for _ in range(max(2, round(shape[0] * shape[1] / OVER**2 / pixels_each))):
         field[fibre(rng, shape)] = 1
-    return np.clip(blurred(field, 0.5, 0.5) * 2.8, 0, 1)
+    return np.clip(blurred(field, 0.5, 0.5) * 1.4 * OVER, 0, 1)
 
 
 def paper(rng, shape):
@@ -140,15 +143,15 @@ def lightness(rgb):
 
 def reduced(field):
     """From samples to pixels."""
-    rows, columns = (side // OVER for side in field.shape)
-    return field.reshape(rows, OVER, columns, OVER).mean(axis=(1, 3))
+    rows, columns = (side // FINE for side in field.shape)
+    return field.reshape(rows, FINE, columns, FINE).mean(axis=(1, 3))
 
 
-def coloured(tone, turn, tint, turned):
+def coloured(tone, turn, tint, turned, reach):
     """The tint, lighter and darker by the tone. A channel that is full already has no room above and moves less."""
     tint = np.asarray(tint, dtype=float)
     step = np.where(tint == 255, 0.3, 1.0)
-    step *= REACH / (lightness(tint) - lightness(tint - step))
+    step *= reach / (lightness(tint) - lightness(tint - step))
     tone = np.tanh(tone)[..., None]  # the few that stand out come nearer
     wanted = tint + tone * step + turn[..., None] * np.asarray(turned, dtype=float)
     for _ in range(3):  # what a full channel lost above, it cannot win back; the others keep their mean
@@ -156,9 +159,9 @@ def coloured(tone, turn, tint, turned):
     return Image.fromarray(np.clip(np.rint(wanted), 0, 255).astype(np.uint8), "RGB")
 
 
-def save(picture, path):
+def save(picture, path, quality):
     path.parent.mkdir(parents=True, exist_ok=True)
-    picture.save(path, "JPEG", quality=QUALITY, subsampling=0, optimize=True)
+    picture.save(path, "JPEG", quality=quality, subsampling=0, optimize=True)
 
 
 def check(path):
@@ -171,11 +174,14 @@ def check(path):
 
 
 def draw(material, name, size, seed, tint, turned):
-    rng = np.random.default_rng(seed)
-    tone, turn = material(rng, (size[1] * OVER, size[0] * OVER))
-    path = ASSETS / "themes" / f"{name}.jpg"
-    save(coloured(reduced(tone), reduced(turn), tint, turned), path)
-    check(path)
+    """Once for screens of one pixel to a point, and once for those of two."""
+    global OVER
+    for scale, suffix in ((1, ""), (2, "@2x")):
+        OVER = FINE * scale
+        tone, turn = material(np.random.default_rng(seed), (size[1] * OVER, size[0] * OVER))
+        path = ASSETS / "themes" / f"{name}{suffix}.jpg"
+        save(coloured(reduced(tone), reduced(turn), tint, turned, REACH[scale]), path, QUALITY[scale])
+        check(path)
 
 
 LARGE = (800, 600)

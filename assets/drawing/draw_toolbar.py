@@ -67,7 +67,7 @@ LETTER = (
 SLIDERS = line("M1.5 2.5H14.5M1.5 7.5H14.5M1.5 12.5H14.5") + "".join(
     coloured(f"M{x} {y}H{x + 3}V{y + 4}H{x}Z") for x, y in ((9.5, 0.5), (3.5, 5.5), (7.5, 10.5)))
 LABEL = (
-    coloured("M1.5 8.5L7.5 2.5H13.5V8.5L7.5 14.5Z") + disc(11, 5, 1.2, PAPER) + line("M11.4 4.6Q13 2.2 15 1.4", 0.9) +
+    coloured("M1.5 8.5L7.5 2.5H13.5V8.5L7.5 14.5Z") + slab(10, 4, 2, 2, "paper+") + line("M11.5 4.5L14.5 1.5") +
     stroke("M3.6 8.6L8.2 4", "paper+", 0.9)
 )
 QUESTION = (
@@ -87,9 +87,9 @@ PICTURES = {
     "emoticon": ("straw", SMILE),
     "picture": ("leaf", PHOTOGRAPH),
     "font": ("sky", LETTER),
-    "options": ("lilac", SLIDERS),
+    "options": ("teal", SLIDERS),
     "journal-properties": ("straw", LABEL),
-    "help": ("lilac", QUESTION),
+    "help": ("teal", QUESTION),
 }
 
 

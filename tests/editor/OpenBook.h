@@ -58,6 +58,12 @@ class OpenBook : public Windows {
     window().ShowModeless();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
   }
+  // Opens a new journal of these pages. Returns its row.
+  std::int32_t Begin(const Texts& texts) {
+    const std::int32_t row = AddJournal(texts);
+    Open(row);
+    return row;
+  }
   // The texts of a file's pages, as a person reads them.
   Texts TextsIn(std::int32_t row) {
     Texts texts;
@@ -83,6 +89,14 @@ class OpenBook : public Windows {
   }
   void Type(const std::string& letters) { QTest::keyClicks(&text(), QString::fromStdString(letters)); }
   void Press(const char* key) { Click(window().Toolbar1->Button(QString::fromLatin1(key))); }
+  // Presses a button whose dialog blocks; `act` must end it.
+  template <class Dialog>
+  void In(const char* key, const std::function<void(Dialog&)>& act) {
+    QTimer::singleShot(0, [act] { act(look::The<Dialog>()); });
+    Press(key);
+    EXPECT_FALSE(look::IsLoaded<Dialog>());
+    QCoreApplication::processEvents();
+  }
   // Date and page number, as the head strip shows them, and the page's text.
   std::string Shown() {
     const PageFace& face = *window().face;

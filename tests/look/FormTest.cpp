@@ -69,7 +69,7 @@ TEST_F(FormTest, ShowsTheEmblemInEverySizeAndItsPicturesInTheirs) {
     EXPECT_EQ(QApplication::windowIcon().pixmap(QSize(size, size), 1).size(), QSize(size, size));
   EXPECT_EQ(look::QuillAndInkwell().pixmap(QSize(80, 70), 1).size(), QSize(80, 70));
   EXPECT_EQ(look::EmblemPicture().size(), QSize(80, 80));
-  EXPECT_EQ(look::ClaspedBook().size(), QSize(80, 80));
+  EXPECT_EQ(look::ClaspedBook().size(), QSize(120, 120));
   EXPECT_EQ(look::HourglassAndInkwell().size(), QSize(64, 64));
 }
 
@@ -102,6 +102,9 @@ TEST_F(FormTest, ATextThatOutgrowsItsPlaceIsItsToolTip) {
   };
   EXPECT_EQ(tipOver(*dialog.label), QString());
   EXPECT_EQ(look::OutgrownText(*dialog.label), QString());
+  QString slightly = QStringLiteral("m");
+  while (dialog.label->sizeHint().width() <= dialog.label->width()) dialog.label->setText(slightly += u'm');
+  EXPECT_EQ(look::OutgrownText(*dialog.label), QString()) << "somewhat smaller letters do";
   dialog.label->setText(whole);
   EXPECT_EQ(look::OutgrownText(*dialog.label), whole);
   EXPECT_EQ(tipOver(*dialog.label), QStringLiteral("<p>") + whole.toHtmlEscaped() + QStringLiteral("</p>"));

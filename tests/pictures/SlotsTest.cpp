@@ -1,11 +1,9 @@
 // The pictures of a page, as they show and as a mouse handles them. The events come from the window, as the
 // display system's do, so that the toolkit itself decides who gets them.
-#include <QtGui/QImage>
 #include <QtGui/QWindow>
 
-#include "pictures/PictureSlots.h"
 #include "store/PictureStore.h"
-#include "tests/support/Windows.h"
+#include "tests/pictures/PicturePage.h"
 
 namespace {
 
@@ -24,27 +22,14 @@ class Text : public QWidget {
   }
 };
 
-class Slots : public fixture::Windows {
+class Slots : public PicturePage {
  protected:
   Slots() {
-    Journals.resize(2);
-    JournalCount = CurrentJournal = 1;
-    Journals[1].FileName = "j1";
-    CurrentPage = 2;
     Pictures.resize(1);
-    page.setGeometry(100, 120, 565, 648);
     text->resize(page.size());
     text->lower();
     page.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&page));
-  }
-  // An image of the page's usual size, in one colour but for a dot at its left edge.
-  std::string Image(const char* name, QColor color, QColor dot) {
-    QImage image(100, 80, QImage::Format_ARGB32);
-    image.fill(color);
-    image.setPixelColor(0, 40, dot);
-    EXPECT_TRUE(image.save(QString::fromStdString(folder.PathOf(name))));
-    return folder.PathOf(name);
   }
   PagePicture& Add(const std::string& file, QRect place = {10, 20, 100, 80}) {
     ++PictureCount;
@@ -82,10 +67,7 @@ class Slots : public fixture::Windows {
     return places;
   }
 
-  QWidget page;
   Text* text = new Text(&page);
-  PictureSlots* pictures = new PictureSlots(&page);
-  const std::string photo = Image("photo.png", Qt::blue, Qt::blue);
 };
 
 TEST_F(Slots, DealsOutTheRowsOfThePageWhoseFilesAreThere) {
@@ -112,7 +94,8 @@ TEST_F(Slots, StacksPhotographFrameAndHandle) {
   EXPECT_EQ(pictures->picDisplayPics[0]->geometry(), QRect(30, -20, 100, 80));
   EXPECT_EQ(pictures->imgController[0]->geometry(), QRect(0, 1, 100, 20));
   const QImage shown = pictures->picDisplayPics[0]->grab().toImage();
-  EXPECT_EQ(shown.pixelColor(1, 40), QColor(Qt::red)) << "one pixel in from the left";
+  EXPECT_EQ(shown.pixelColor(0, 40), QColor(Qt::blue)) << "the frame begins one pixel in from the left";
+  EXPECT_EQ(shown.pixelColor(1, 40), QColor(Qt::red));
   EXPECT_EQ(shown.pixelColor(50, 40), QColor(Qt::blue)) << "the photograph, through the frame";
   EXPECT_TRUE(pictures->imgFrame[1]->isHidden());
   EXPECT_EQ(Pictures[3].FrameFile, "") << "a frame that is gone is dropped for good";

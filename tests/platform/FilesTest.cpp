@@ -109,13 +109,3 @@ TEST(Files, OnlyLeftOversAreRemoved) {
   kept.insert(kept.begin(), "j2.tqf.aBcdeF");
   EXPECT_EQ(folder.Names(), kept);
 }
-
-TEST(Files, JournalFilesAreListedInTheOrderOfTheirBytes) {
-  const Folder folder;
-  for (const char* name : {"j00010.tqf", "j00002.tqf", "J3.TQF", "a.tqf.bak", ".hidden.tqf", "\xC3\xA9.tqf",
-                           "\xD0\x96.tqf", "\xFF.tqf", "zz.tqf"})
-    folder.Write(name, "x");
-  folder.Block("folder.tqf");
-  EXPECT_EQ(platform::ListJournalFiles(folder.path()),
-            (Texts{"J3.TQF", "j00002.tqf", "j00010.tqf", "zz.tqf", "\xE9.tqf"}));
-}

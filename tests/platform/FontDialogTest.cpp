@@ -74,12 +74,13 @@ TEST_F(FontDialogTest, TheColourComesFromTheColourDialog) {
   const auto press = [](FontPicker& picker) { QTest::mouseClick(picker.color, Qt::LeftButton); };
   EXPECT_EQ(After({{}, 0, false, false, false, false, 0x0000AA}, press).color, 0x0000ABu);
   platform::SetColorChooser({});
-  QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
-  const auto chosen = platform::AskForColor({0x123456});
-  EXPECT_EQ(chosen.end.number, 0);
-  EXPECT_EQ(chosen.choice, 0x123456u);
-  QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
-  EXPECT_EQ(platform::AskForColor({0x123456}).end.number, platform::DialogEnd::Cancelled);
+  for (const auto& [key, number] :
+       {std::pair{Qt::Key_Return, 0}, {Qt::Key_Escape, platform::DialogEnd::Cancelled}}) {
+    QTimer::singleShot(0, [key = key] { QTest::keyClick(QApplication::activeModalWidget(), key); });
+    const auto asked = platform::AskForColor({0x123456});
+    EXPECT_EQ(asked.end.number, number);
+    EXPECT_TRUE(number != 0 || asked.choice == 0x123456u);
+  }
 }
 
 }  // namespace

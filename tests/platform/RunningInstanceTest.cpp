@@ -82,14 +82,12 @@ TEST(RunningInstance, TheTokenIsHandedOverAndStrangeWordsAreShownTheDoor) {
 TEST(RunningInstance, TheDesktopsVariablesAreRead) {
   qputenv("DESKTOP_STARTUP_ID", "panel/1-2_TIME4000000000");
   qputenv("XDG_ACTIVATION_TOKEN", "abc");
-  qunsetenv("WAYLAND_DISPLAY");
-  const ActivationToken x11 = RunningInstance::TokenOfThisStart();
-  qputenv("WAYLAND_DISPLAY", "wayland-0");
-  const ActivationToken wayland = RunningInstance::TokenOfThisStart();
+  for (const auto& [display, id] : {std::pair{"", "panel/1-2_TIME4000000000"}, {"wayland-0", "abc"}}) {
+    qputenv("WAYLAND_DISPLAY", display);
+    EXPECT_EQ(RunningInstance::TokenOfThisStart().startupId, id);
+    EXPECT_EQ(RunningInstance::TokenOfThisStart().timestamp, 4000000000u);
+  }
   for (const char* name : {"DESKTOP_STARTUP_ID", "XDG_ACTIVATION_TOKEN", "WAYLAND_DISPLAY"}) qunsetenv(name);
-  EXPECT_EQ(x11.startupId, "panel/1-2_TIME4000000000");
-  EXPECT_EQ(x11.timestamp, 4000000000u);
-  EXPECT_EQ(wayland.startupId, "abc");
 }
 
 TEST(RunningInstance, TheDialogComesAlongWithItsWindow) {

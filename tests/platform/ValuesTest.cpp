@@ -1,9 +1,10 @@
-// The code page, dates and rounding: values in, values out.
+// The code page, dates, rounding and the pointer's scale: values in, values out.
 #include <cfenv>
 #include <limits>
 
 #include "platform/CodePage.h"
 #include "platform/Rounding.h"
+#include "platform/cMouse.h"
 #include "tests/support/Fixtures.h"
 
 TEST(CodePage, EveryByteComesBackAndNoCharacterBecomesAQuestionMark) {
@@ -34,13 +35,10 @@ TEST(Dates, TheFractionCountsAwayFromZero) {
   }
   for (const double date : {1e300, -1e12, std::numeric_limits<double>::quiet_NaN()})
     EXPECT_EQ(platform::LongDate(date), QString());
-}
-
-TEST(Dates, TheUsersOwnClockAndLongDateAreRead) {
+  EXPECT_EQ(platform::LongDate(36526.75), QLocale::system().toString(QDate(2000, 1, 1), QLocale::LongFormat));
   const QDateTime now = QDateTime::currentDateTime();
   const QDateTime read = platform::ToDateTime(platform::Now());
-  EXPECT_LT(qAbs(read.msecsTo(QDateTime(now.date(), now.time(), Qt::UTC))), 10000);
-  EXPECT_EQ(platform::LongDate(36526.75), QLocale::system().toString(QDate(2000, 1, 1), QLocale::LongFormat));
+  EXPECT_LT(qAbs(read.msecsTo(QDateTime(now.date(), now.time(), Qt::UTC))), 10000) << "the user's own clock";
 }
 
 TEST(Rounding, HalvesGoToTheEvenNeighbourInEveryMode) {
@@ -54,4 +52,12 @@ TEST(Rounding, HalvesGoToTheEvenNeighbourInEveryMode) {
       EXPECT_EQ(rounded, expected) << value;
     }
   EXPECT_EQ(platform::RoundHalfEven(-1e300), -9000000000000000000);
+}
+
+// What the pointer does for real, only a display system can show: see PointerTest.cpp.
+TEST(Pointer, APlaceAbove32767Overflows) {
+  cMouse mouse;
+  mouse.MoveTo(32767, -32768);
+  for (const auto& [x, y] : {std::pair{32768, 0}, {0, 32768}, {-32769, 0}, {0x7FFFFFFF, 0}})
+    fixture::ExpectFailure(platform::FailureKind::Overflow, "Overflow", [&] { mouse.MoveTo(x, y); });
 }

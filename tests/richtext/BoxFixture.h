@@ -1,8 +1,6 @@
 // The text box as a person uses it, shown, with real keys; and pages to put into it.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QtCore/QBuffer>
 #include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
@@ -11,57 +9,23 @@
 
 #include "richtext/BoxDocument.h"
 #include "richtext/RichTextBox.h"
-#include "richtext/RtfReader.h"
-#include "richtext/RtfWriter.h"
+#include "tests/richtext/RtfDump.h"
 
 namespace richtext {
 
-inline CharacterFormat Font(const char* name, int halfPoints, std::optional<std::uint32_t> color = {}) {
-  CharacterFormat format;
-  format.fontName = name;
-  format.halfPoints = halfPoints;
-  format.color = color;
-  return format;
+// RTF of a page that begins in 10 points of Arial.
+inline std::string Page(const std::string& body) {
+  return R"({\rtf1\deftab300{\fonttbl{\f0 Arial;}{\f1 No Such Font;}}{\colortbl;\red255;\red1;}\f0\fs20 )" +
+         body + '}';
+}
+inline std::string InLoud(const std::string& body) {
+  return R"({\f1\fs37\cf1\b\i\ul\strike )" + body + '}';
 }
 
-inline CharacterFormat LoudFont() {
-  CharacterFormat format = Font("No Such Font", 37, 0x0000ff);
-  format.bold = format.italic = format.strikethrough = true;
-  format.underline = UnderlineKind::Single;
-  return format;
-}
-
-inline CharacterFormat JournalFont() {
-  CharacterFormat format = Font("Courier", 17, 0x00ff0000);
-  format.bold = true;
-  return format;
-}
-
-inline ParagraphFormat Indented(Alignment alignment, int left, int right, int first) {
-  ParagraphFormat format;
-  format.alignment = alignment;
-  format.leftIndent = left;
-  format.rightIndent = right;
-  format.firstLineIndent = first;
-  return format;
-}
-
-inline const CharacterFormat Plain = Font("Arial", 20);
-inline const CharacterFormat Loud = LoudFont();
-inline const CharacterFormat Journal = JournalFont();
-
-// One paragraph of runs.
-inline Document Page(const std::vector<std::pair<std::u16string, CharacterFormat>>& runs) {
-  Document page;
-  for (const auto& [text, format] : runs) {
-    page.runs.push_back({std::uint32_t(text.size()), std::uint32_t(page.formats.size())});
-    page.text += text;
-    page.formats.push_back(format);
-  }
-  page.paragraphFormats = {ParagraphFormat{}};
-  page.paragraphs = {{std::uint32_t(page.text.size()), 0, std::uint32_t(page.formats.size()) - 1}};
-  return page;
-}
+// The formats of such letters, and of those that the journal's font is given to.
+inline const std::string Plain = "(20 Arial)";
+inline const std::string Loud = "(b i u s 37 No Such Font #ff0000)";
+inline const std::string Journal = "(b 17 Courier #0000ff)";
 
 inline QImage Checkers(QSize size) {
   QImage image(size, QImage::Format_ARGB32);
@@ -71,36 +35,15 @@ inline QImage Checkers(QSize size) {
 }
 
 // A PNG file with a text of its own, which nobody who encodes the picture anew would write again.
-inline std::string SignedPng() {
+inline QByteArray SignedPng() {
   QImage image = Checkers({8, 6});
   image.setText(QStringLiteral("Author"), QStringLiteral("someone"));
-  QByteArray file;
-  QBuffer buffer(&file);
-  image.save(&buffer, "PNG");
-  return file.toStdString();
+  QBuffer file;
+  image.save(&file, "PNG");
+  return file.data();
 }
-
-// What the letters and the paragraphs' ends look like, whatever numbers the formats have.
-inline std::vector<std::pair<std::uint32_t, CharacterFormat>> LettersOf(const Document& page) {
-  std::vector<std::pair<std::uint32_t, CharacterFormat>> letters;
-  for (const richtext::Run& run : page.runs) letters.emplace_back(run.length, page.formats[run.format]);
-  for (const Paragraph& paragraph : page.paragraphs)
-    letters.emplace_back(paragraph.length, page.formats[paragraph.markFormat]);
-  return letters;
-}
-
-inline std::vector<ParagraphFormat> ParagraphsOf(const Document& page) {
-  std::vector<ParagraphFormat> paragraphs;
-  for (const Paragraph& paragraph : page.paragraphs)
-    paragraphs.push_back(page.paragraphFormats[paragraph.format]);
-  return paragraphs;
-}
-
-inline void ExpectSame(const Document& page, const Document& expected) {
-  EXPECT_EQ(page.text, expected.text);
-  EXPECT_TRUE(LettersOf(page) == LettersOf(expected));
-  EXPECT_TRUE(ParagraphsOf(page) == ParagraphsOf(expected));
-  EXPECT_TRUE(page.pictures == expected.pictures);
+inline std::string PictureGroup(const std::string& words) {
+  return "{\\pict\\pngblip" + words + ' ' + SignedPng().toHex().toStdString() + '}';
 }
 
 class BoxTest : public testing::Test {
@@ -119,8 +62,8 @@ class BoxTest : public testing::Test {
     QApplication::processEvents();
     return std::exchange(changes_, 0);
   }
-  void Set(const Document& page) {
-    box.SetTextRTF(WriteRtf(page));
+  void Set(const std::string& rtf) {
+    box.SetTextRTF(rtf);
     changes_ = 0;
   }
   void Type(const char* keys) { QTest::keyClicks(&box, QString::fromLatin1(keys)); }
@@ -139,13 +82,13 @@ class BoxTest : public testing::Test {
     box.SetSelColor(0x00ff0000);
   }
   // The format of the letter before a position.
-  CharacterFormat FormatAt(int position) {
+  std::string FormatAt(int position) {
     QTextCursor letter(box.document());
     letter.setPosition(position - 1);
     letter.setPosition(position, QTextCursor::KeepAnchor);
-    return TakeSelection(letter).formats.at(0);
+    return Dump(TakeSelection(letter).formats.at(0));
   }
-  void Copy(const std::function<void(QMimeData&)>& offer) {
+  static void Copy(const std::function<void(QMimeData&)>& offer) {
     auto* data = new QMimeData;
     offer(*data);
     QApplication::clipboard()->setMimeData(data);
@@ -154,15 +97,21 @@ class BoxTest : public testing::Test {
     Copy(offer);
     Press(Qt::Key_V, Qt::ControlModifier);
   }
+  std::string Text() const { return box.Text().toStdString(); }
   Document Taken() const { return TakeDocument(*box.document()); }
   // What is in the box is what comes back when it is stored and shown again.
   void ExpectKept() {
-    const std::string stored = box.TextRTF();
-    const Document before = Taken();
-    RichTextBox later;
-    later.SetTextRTF(stored);
-    EXPECT_EQ(later.TextRTF(), stored);
-    ExpectSame(TakeDocument(*later.document()), before);
+    const std::string before = Dump(Taken()), stored = box.TextRTF();
+    box.SetTextRTF(stored);
+    EXPECT_EQ(box.TextRTF(), stored);
+    EXPECT_EQ(Dump(Taken()), before);
+  }
+  // The box holds the page, all that RTF can tell of it.
+  void ExpectHeld(const std::string& rtf) {
+    SCOPED_TRACE(rtf.substr(0, 300));
+    FillDocument(ReadRtf(rtf), *box.document());
+    EXPECT_EQ(Dump(Taken()), Dump(ReadRtf(rtf)));
+    EXPECT_EQ(WriteRtf(ReadRtf(box.TextRTF())), WriteRtf(ReadRtf(rtf)));
   }
 
   RichTextBox box;

@@ -1,17 +1,38 @@
-// A document in one readable line.
+// A document in one readable line, and tables of documents that are told by it.
 #pragma once
 
 #include <cstdio>
+#include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
-#include "richtext/Document.h"
+#include "richtext/RtfReader.h"
+#include "richtext/RtfWriter.h"
 #include "richtext/Unicode.h"
-
-namespace richtext {
 
 // "[center li720](b 40 Arial #ff0000)red() plain|next": paragraphs are parted by '|', a paragraph's format
 // stands in brackets, a character format in parentheses where it changes, and what is the default is left
 // out. A line break is '/', a tab '>', a picture "<png 3 720x360>".
+namespace richtext {
+
+// Words parted by blanks.
+class Words {
+ public:
+  void Add(const std::string& word) { line_ += line_.empty() || word.empty() ? word : ' ' + word; }
+  void Add(const std::string& name, std::int32_t number) {
+    if (number != 0) Add(name + std::to_string(number));
+  }
+  const std::string& line() const { return line_; }
+
+ private:
+  std::string line_;
+};
+
+template <class Kind>
+const char* NameOf(Kind kind, const std::vector<const char*>& names) {
+  return names.at(static_cast<std::size_t>(kind));
+}
+
 inline std::string DumpColor(std::uint32_t bgr) {
   char color[8];
   std::snprintf(color, sizeof color, "#%02x%02x%02x", bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF);
@@ -19,100 +40,108 @@ inline std::string DumpColor(std::uint32_t bgr) {
 }
 
 inline std::string Dump(const CharacterFormat& format) {
-  std::string words;
-  const auto add = [&words](const std::string& word) {
-    words += words.empty() || word.empty() ? word : ' ' + word;
-  };
-  if (format.bold) add("b");
-  if (format.italic) add("i");
-  constexpr const char* Underlines[] = {"",       "u",         "u-words",      "u-double", "u-dotted",
-                                        "u-dash", "u-dashdot", "u-dashdotdot", "u-wave",   "u-thick"};
-  add(Underlines[static_cast<int>(format.underline)]);
-  if (format.strikethrough) add("s");
-  if (format.hidden) add("v");
-  constexpr const char* CapitalWords[] = {"", "caps", "scaps"};
-  add(CapitalWords[static_cast<int>(format.capitals)]);
-  constexpr const char* Places[] = {"", "super", "sub"};
-  add(Places[static_cast<int>(format.place)]);
-  if (format.halfPoints != 24) add(std::to_string(format.halfPoints));
-  if (!format.fontName.empty()) add(format.fontName);
-  if (format.color) add(DumpColor(*format.color));
-  if (format.highlight) add("on " + DumpColor(*format.highlight));
-  if (!format.link.empty()) add("-> " + format.link);
-  return '(' + words + ')';
+  Words words;
+  if (format.bold) words.Add("b");
+  if (format.italic) words.Add("i");
+  words.Add(NameOf(format.underline, {"", "u", "u-words", "u-double", "u-dotted", "u-dash", "u-dashdot",
+                                      "u-dashdotdot", "u-wave", "u-thick"}));
+  if (format.strikethrough) words.Add("s");
+  if (format.hidden) words.Add("v");
+  words.Add(NameOf(format.capitals, {"", "caps", "scaps"}));
+  words.Add(NameOf(format.place, {"", "super", "sub"}));
+  if (format.halfPoints != 24) words.Add("", format.halfPoints);
+  words.Add(format.fontName);
+  if (format.color) words.Add(DumpColor(*format.color));
+  if (format.highlight) words.Add("on " + DumpColor(*format.highlight));
+  if (!format.link.empty()) words.Add("-> " + format.link);
+  return '(' + words.line() + ')';
 }
 
-// "2 decimal (#)" is a list of the level 1 whose first number is 2, "bullet -" one of bullets.
+// ">decimal2 (#)" is a list of the second level whose first number is 2, "bullet -" one of bullets.
 inline std::string Dump(const ListFormat& list) {
-  constexpr const char* Kinds[] = {"", "bullet", "decimal", "letter", "LETTER", "roman", "ROMAN"};
   if (list.kind == ListKind::None) return {};
+  const std::string name(static_cast<std::size_t>(list.level), '>');
   const std::string kind =
-      std::string(static_cast<std::size_t>(list.level), '>') + Kinds[static_cast<int>(list.kind)];
+      name + NameOf(list.kind, {"", "bullet", "decimal", "letter", "LETTER", "roman", "ROMAN"});
   if (list.kind == ListKind::Bullet) return kind + ' ' + ToUtf8(list.before);
   return kind + std::to_string(list.start) + ' ' + ToUtf8(list.before) + '#' + ToUtf8(list.after);
 }
 
 inline std::string Dump(const ParagraphFormat& format) {
-  constexpr const char* Alignments[] = {"", "right", "center", "justify"};
-  constexpr const char* Rules[] = {"", "lines", "atleast", "exact"};
-  constexpr const char* Tabs[] = {"tab", "rtab", "ctab", "dtab"};
-  std::string words = Alignments[static_cast<int>(format.alignment)];
-  const auto say = [&words](const std::string& word) { words += (words.empty() ? "" : " ") + word; };
-  const auto add = [&say](const char* name, std::int32_t twips) {
-    if (twips != 0) say(name + std::to_string(twips));
-  };
-  if (format.direction == Direction::RightToLeft) say("rtl");
-  add("li", format.leftIndent);
-  add("ri", format.rightIndent);
-  add("fi", format.firstLineIndent);
-  add("sb", format.spaceBefore);
-  add("sa", format.spaceAfter);
-  add(Rules[static_cast<int>(format.lineSpacingRule)], format.lineSpacing);
-  for (const TabStop& tab : format.tabs) say(Tabs[static_cast<int>(tab.kind)] + std::to_string(tab.position));
-  if (const std::string list = Dump(format.list); !list.empty()) say(list);
-  return words.empty() ? words : '[' + words + ']';
+  Words words;
+  words.Add(NameOf(format.alignment, {"", "right", "center", "justify"}));
+  if (format.direction == Direction::RightToLeft) words.Add("rtl");
+  words.Add("li", format.leftIndent);
+  words.Add("ri", format.rightIndent);
+  words.Add("fi", format.firstLineIndent);
+  words.Add("sb", format.spaceBefore);
+  words.Add("sa", format.spaceAfter);
+  words.Add(NameOf(format.lineSpacingRule, {"", "lines", "atleast", "exact"}), format.lineSpacing);
+  for (const TabStop& tab : format.tabs)
+    words.Add(NameOf(tab.kind, {"tab", "rtab", "ctab", "dtab"}), tab.position);
+  words.Add(Dump(format.list));
+  return words.line().empty() ? "" : '[' + words.line() + ']';
 }
 
+// Kind, bytes, header, size, and what is cut off at the left, the right, the top and the bottom.
 inline std::string Dump(const Picture& picture) {
-  return "<png " + std::to_string(picture.bytes.size()) + ' ' + std::to_string(picture.widthTwips) + 'x' +
-         std::to_string(picture.heightTwips) + '>';
-}
-
-inline std::string DumpText(std::u16string_view text, const Document& document, std::size_t& picture) {
-  std::string line;
-  std::u16string plain;
-  for (const char16_t unit : text) {
-    if (unit != PictureMark) {
-      plain += unit == LineBreak ? u'/' : unit == u'\t' ? u'>' : unit;
-      continue;
-    }
-    line += ToUtf8(plain) + Dump(document.pictures.at(picture++));
-    plain.clear();
-  }
-  return line + ToUtf8(plain);
+  Words words;
+  words.Add(NameOf(picture.kind, {"png", "jpeg", "dib", "wmf", "emf", "other"}));
+  words.Add(std::to_string(picture.bytes.size()));
+  words.Add(picture.header);
+  words.Add(std::to_string(picture.widthTwips) + 'x' + std::to_string(picture.heightTwips));
+  const PictureCrop& crop = picture.crop;
+  if (crop != PictureCrop())
+    for (const std::int32_t side : {crop.left, crop.right, crop.top, crop.bottom})
+      words.Add(std::to_string(side));
+  return '<' + words.line() + '>';
 }
 
 inline std::string Dump(const Document& document) {
-  std::string line;
-  std::string inForce = "()";
-  std::size_t text = 0;
-  std::size_t run = 0;
-  std::size_t picture = 0;
+  std::string line, inForce = "()";
+  std::size_t text = 0, run = 0, picture = 0;
   const auto switchTo = [&](std::uint32_t format) {
     const std::string wanted = Dump(document.formats.at(format));
     if (wanted != inForce) line += inForce = wanted;
   };
+  const auto marked = [](std::u16string part) {
+    for (char16_t& unit : part) unit = unit == LineBreak ? u'/' : unit == u'\t' ? u'>' : unit;
+    return ToUtf8(part);
+  };
   for (const Paragraph& paragraph : document.paragraphs) {
     if (&paragraph != &document.paragraphs.front()) line += '|';
     line += Dump(document.paragraphFormats.at(paragraph.format));
-    for (const std::size_t end = text + paragraph.length; text < end; ++run) {
+    for (const std::size_t end = text + paragraph.length; text < end;) {
       switchTo(document.runs.at(run).format);
-      line += DumpText(document.text.substr(text, document.runs[run].length), document, picture);
-      text += document.runs[run].length;
+      const std::size_t runEnd = text + document.runs[run++].length;
+      while (text < runEnd) {
+        const std::size_t mark = std::min(document.text.find(PictureMark, text), runEnd);
+        line += marked(document.text.substr(text, mark - text));
+        if (mark < runEnd) line += Dump(document.pictures.at(picture++));
+        text = std::min(mark + 1, runEnd);
+      }
     }
     switchTo(paragraph.markFormat);
   }
   return line;
+}
+
+struct Example {
+  std::string rtf, dump;
+};
+
+// Read as told, and the same after it was written and read again, in the same bytes.
+inline void ExpectReads(const std::string& rtf, const std::string& dump) {
+  SCOPED_TRACE(rtf.substr(0, 200));
+  const Document document = ReadRtf(rtf);
+  EXPECT_EQ(Dump(document), dump);
+  const std::string written = WriteRtf(document);
+  EXPECT_EQ(ReadRtf(written), document) << written;
+  EXPECT_EQ(WriteRtf(ReadRtf(written)), written);
+}
+
+inline void ExpectEach(const std::vector<Example>& examples) {
+  for (const auto& [rtf, dump] : examples) ExpectReads(rtf, dump);
 }
 
 }  // namespace richtext

@@ -1,9 +1,7 @@
-#include <string>
-
 #include "richtext/Limits.h"
 #include "richtext/ListLabel.h"
 #include "richtext/PlainText.h"
-#include "tests/richtext/RtfExamples.h"
+#include "tests/richtext/RtfDump.h"
 
 using namespace richtext;
 
@@ -26,13 +24,7 @@ TEST(RtfFormats, ReadsEveryLookOfLetters) {
 }
 
 TEST(RtfFormats, ReadsHyperlinks) {
-  const auto field = [](const std::string& instruction) {
-    return R"({\rtf1 a{\field{\*\fldinst{)" + instruction + R"(}}{\fldrslt{\ul b}}}c})";
-  };
-  const struct {
-    const char* instruction;
-    const char* link;
-  } examples[] = {
+  const std::pair<std::string, std::string> links[] = {
       {R"(HYPERLINK "http://x.y/?a=1&b#c")", " -> http://x.y/?a=1&b#c"},
       {R"( hyperlink  http://x.y )", " -> http://x.y"},
       {R"(HYPERLINK \\l "top" \\o "a tip")", " -> #top"},
@@ -41,11 +33,12 @@ TEST(RtfFormats, ReadsHyperlinks) {
       {R"(HYPERLINK "caf\u233?\'e9\{\}")", " -> caféé{}"},
       {R"(HYPERLINK \\* MERGEFORMAT)", ""},
       {R"(PAGEREF "x")", ""},
+      {"HYPERLINK \"" + std::string(MaxLink + 1, 'x') + '"', ""},
       {"", ""},
   };
-  for (const auto& example : examples)
-    ExpectReads(field(example.instruction), "a(u" + std::string(example.link) + ")b()c");
-  ExpectReads(field("HYPERLINK \"" + std::string(MaxLink + 1, 'x') + '"'), "a(u)b()c");
+  for (const auto& [instruction, link] : links)
+    ExpectReads(R"({\rtf1 a{\field{\*\fldinst{)" + instruction + R"(}}{\fldrslt{\ul b}}}c})",
+                "a(u" + link + ")b()c");
   ExpectEach({
       {R"({\rtf1{{\field{\fldinst HYPERLINK x}{\fldrslt\plain\i a\par b}}}\par})",
        "(i -> x)a(i)|(i -> x)b()"},
@@ -53,17 +46,6 @@ TEST(RtfFormats, ReadsHyperlinks) {
        "(-> x)a3b()c"},
       {R"({\rtf1{\field{\*\fldinst HYPERLINK x}}{\field{\fldrslt a}}})", "a"},
   });
-}
-
-// The same link in every paragraph makes a document many times as long.
-TEST(RtfFormats, BoundsWhatLinksCost) {
-  std::string rtf = R"({\rtf1{\field{\*\fldinst HYPERLINK )" + std::string(MaxLink, 'x') + R"(}{\fldrslt )";
-  for (int i = 0; i < 1000; ++i) rtf += R"(a\par )";
-  const Document document = ReadRtf(rtf);
-  const std::string written = WriteRtf(document);
-  EXPECT_EQ(ReadRtf(written), document);
-  EXPECT_LT(written.size(), 2 * MaxLinkText);
-  EXPECT_EQ(document.formats.at(document.runs.front().format).link.size(), MaxLink);
 }
 
 TEST(RtfFormats, ReadsEveryLookOfParagraphs) {
@@ -105,21 +87,23 @@ TEST(RtfFormats, ReadsListsOfTables) {
       R"({\listlevel\levelnfc0\levelnfcn4\levelstartat2{\leveltext\'03(\'00);}{\levelnumbers\'02;}\li99})"
       R"({\listlevel\levelnfc23{\leveltext\'01\u-3929 ?;}{\levelnumbers;}\f3}{\listname ;}\listid5})"
       R"({\list{\listlevel\levelnfc0{\leveltext\'04\'00.\'01.;}}\listid-6})"
-      R"({\list{\listlevel\levelnfc0{\leveltext\'00;}}\listid7}})"
+      R"({\list{\listlevel\levelnfc0{\leveltext\'00;}}\listid7})"
+      R"({\list{\listlevel\levelnfc3{\leveltext\'02\'00.;}}\listid8}})"
       R"({\*\listoverridetable{\listoverride\listid5\listoverridecount0\ls1})"
-      R"({\listoverride\listid-6\listoverridecount1{\lfolevel\listoverridestartat\levelstartat8}\ls2}{\listoverride\listid7\ls3}})";
-  const Example examples[] = {
+      R"({\listoverride\listid-6\listoverridecount1{\lfolevel\listoverridestartat\levelstartat8}\ls2}{\listoverride\listid7\ls3}{\listoverride\listid8\ls4}})";
+  const Example lists[] = {
       {R"(\ls1{\listtext (b)\tab}a\par b\par\ilvl1 c\par\pard d})",
        "[letter2 (#)]a|[letter2 (#)]b|[>bullet \u25AA]c|d"},
       {R"(\ls2\ilvl9 a\par\ls1\ilvl0 b\par\ls0 c})", "[>>>>>>>>decimal1 #.]a|[letter2 (#)]b|c"},
       {R"(\ls2 a\par})", "[decimal8 #.]a"},
       {R"(\ls3{\listtext\tab}a\par})", "a"},
+      {R"(\ls4 a\par})", "[LETTER1 #.]a"},
       // What goes on behind other text begins with the next number there, a deeper level anew.
       {R"(\ls1 a\par b\par\pard x\par\pard\ls1 c\par})", "[letter2 (#)]a|[letter2 (#)]b|x|[letter4 (#)]c"},
       {R"(\ls2 a\par\ilvl2 b\par\ilvl0 c\par\ilvl2 d\par})",
        "[decimal8 #.]a|[>>decimal1 #.]b|[decimal8 #.]c|[>>decimal1 #.]d"},
   };
-  for (const Example& example : examples) ExpectReads(tables + example.rtf + '}', example.dump);
+  for (const auto& [rtf, dump] : lists) ExpectReads(tables + rtf + '}', dump);
 }
 
 TEST(RtfFormats, ReadsListsOfLabels) {
@@ -135,33 +119,25 @@ TEST(RtfFormats, ReadsListsOfLabels) {
 }
 
 TEST(RtfFormats, CountsInEveryWay) {
-  const struct {
-    ListKind kind;
-    std::int32_t number;
-    const char16_t* label;
-  } examples[] = {
+  const std::tuple<ListKind, std::int32_t, std::u16string> labels[] = {
       {ListKind::Decimal, 0, u"(0)"},        {ListKind::LowerLetter, 26, u"(z)"},
       {ListKind::UpperLetter, 27, u"(AA)"},  {ListKind::LowerRoman, 1994, u"(mcmxciv)"},
       {ListKind::UpperRoman, 49, u"(XLIX)"}, {ListKind::UpperRoman, 5000, u"(5000)"},
       {ListKind::LowerLetter, 0, u"(0)"},
   };
-  for (const auto& example : examples) {
-    const ListFormat list{example.kind, 1, 0, u"(", u")"};
-    EXPECT_EQ(LabelText(list, example.number), example.label);
-  }
+  for (const auto& [kind, number, label] : labels)
+    EXPECT_EQ(LabelText({kind, 1, 0, u"(", u")"}, number), label);
 }
 
-TEST(RtfFormats, ReadsTextOfShapesAndObjects) {
+TEST(RtfFormats, ReadsShapesObjectsAndFieldsThatAreSigns) {
+  const std::string older = R"( {\sv {\pict\pngblip 00}x}}}{\shprslt{\*\do y}{\pict\pngblip 0001}\par}}b})";
   ExpectEach({
       {R"({\rtf1 a{\shp{\*\shpinst\shpleft1{\sp{\sn n}{\sv v}}{\shptxt\qc b\par}}{\shprslt{\*\do{\dptxbxtext b}}}}c})",
        "a|[center]b|c"},
       {R"({\rtf1{\*\do\dobxpage{\dptxbxtext b\par}}c})", "b|c"},
       {R"({\rtf1{\object{\*\objclass X}{\*\objdata 00}{\result\i b}}c})", "(i)b()c"},
-  });
-}
-
-TEST(RtfFormats, ReadsFieldsThatAreSigns) {
-  ExpectEach({
+      {R"({\rtf1 a{\shp{\*\shpinst{\sp{\sn pib})" + older, "a<png 1 0x0>b"},
+      {R"({\rtf1 a{\shp{\*\shpinst{\sp{\sn fillBlip})" + older, "a<png 2 0x0>b"},
       {R"({\rtf1 a{\field{\*\fldinst SYMBOL 74 \\f "Wingdings" \\s 12}{\fldrslt}}b})", "a☺b"},
       {R"({\rtf1{\field{\*\fldinst{symbol 0xF0B7 \\f Symbol}}}{\field{\*\fldinst SYMBOL 128}{\fldrslt{\b}}}})",
        "•€"},
@@ -169,21 +145,10 @@ TEST(RtfFormats, ReadsFieldsThatAreSigns) {
   });
 }
 
-TEST(RtfFormats, ReadsThePictureThatAShapeIs) {
-  const std::string property = R"({\shp{\*\shpinst{\sp{\sn %}{\sv {\pict\pngblip 00}x}}})";
-  const std::string older = R"({\shprslt{\*\do y}{\pict\pngblip 0001}\par}}b})";
-  const auto shape = [&](const char* name) {
-    return "{\\rtf1 a" + std::string(property).replace(property.find('%'), 1, name) + older;
-  };
-  ExpectReads(shape("pib"), "a<png 1 0x0>b");
-  ExpectReads(shape("fillBlip"), "a<png 2 0x0>b");
-}
-
 TEST(PlainText, HoldsWhatIsRead) {
   EXPECT_EQ(PlainText(ReadRtf(
                 R"({\rtf1 a\line\b b\v c\v0\tab{\pict\pngblip 00}\par{\v\par}{\listtext 1.}\u233?\par})")),
             "a\nb\t\n\n\xC3\xA9");
-  EXPECT_EQ(PlainText(EmptyDocument()), "");
 }
 
 }  // namespace

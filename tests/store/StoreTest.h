@@ -1,6 +1,7 @@
 // Bytes written by hand.
 #pragma once
 
+#include "store/PageCipher.h"
 #include "tests/support/Fixtures.h"
 
 // The lowest `size` bytes of a number, the lowest first.
@@ -21,4 +22,9 @@ inline std::string WithoutFillers(std::string_view text, std::size_t first) {
 }
 inline std::string Sample(const std::string& path) {
   return platform::ReadFile(std::string(TEST_SAMPLES) + "/" + path);
+}
+inline std::string Deciphered(std::string_view body, int shift) {
+  std::string plain(body.size() / 2, '\0');
+  store::Decipher(body, shift, plain.data());
+  return plain;
 }

@@ -3,11 +3,13 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 #include <unistd.h>
 #include <xcb/xcb.h>
 #include <xcb/xtest.h>
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QSemaphore>
 #include <QtCore/QThread>
 #include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
@@ -26,12 +28,15 @@ struct KeyPlace {
   bool shift = false;
 };
 
+template <class Answer>
+using Reply = std::unique_ptr<Answer, decltype(&std::free)>;
+
 // Finds the key of a symbol; one that no key has is put on the last keycode, as input tools do.
 KeyPlace FindKey(xcb_connection_t* connection, unsigned keysym) {
   const xcb_setup_t* setup = xcb_get_setup(connection);
   const int first = setup->min_keycode, count = setup->max_keycode - first + 1;
   const auto cookie = xcb_get_keyboard_mapping(connection, setup->min_keycode, static_cast<uint8_t>(count));
-  std::unique_ptr<xcb_get_keyboard_mapping_reply_t, decltype(&std::free)> reply(
+  const Reply<xcb_get_keyboard_mapping_reply_t> reply(
       xcb_get_keyboard_mapping_reply(connection, cookie, nullptr), &std::free);
   const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
   const int perKey = reply->keysyms_per_keycode;
@@ -56,21 +61,27 @@ unsigned KeysymOf(char32_t character) {
 
 Person::Person(QString album, int firstNumber)
     : album_(std::move(album)), number_(firstNumber), connection_(xcb_connect(nullptr, nullptr)) {
-  if (xcb_connection_has_error(connection_)) Fail(QStringLiteral("there is no X server to press keys at"));
+  if (xcb_connection_has_error(connection_)) Fail(u"there is no X server to press keys at"_qs);
 }
 
 Person::~Person() {
   xcb_disconnect(connection_);
 }
 
+// A second failure is one on the way to the last picture: the program answers no more.
 void Person::Fail(const QString& why) {
+  if (failed_) _exit(1);
+  failed_ = true;
   std::fprintf(stderr, "The tour stops: %s\n", qPrintable(why));
   Shot("where-it-stopped");
   _exit(1);
 }
 
 void Person::Do(const std::function<void()>& action) {
-  QMetaObject::invokeMethod(qApp, action, Qt::BlockingQueuedConnection);
+  const auto done = std::make_shared<QSemaphore>();
+  QMetaObject::invokeMethod(
+      qApp, [done, action] { action(), done->release(); }, Qt::QueuedConnection);
+  if (!done->tryAcquire(1, PatienceMs)) Fail(u"expected: an answer of the program's window thread"_qs);
 }
 
 void Person::Expect(const QString& expected, const std::function<bool()>& question) {
@@ -79,65 +90,104 @@ void Person::Expect(const QString& expected, const std::function<bool()>& questi
   for (bool yes = false; !yes;) {
     Do([&] { yes = question(); });
     if (yes) return;
-    if (patience.elapsed() > PatienceMs) Fail(QStringLiteral("expected: ") + expected);
+    if (patience.elapsed() > PatienceMs) Fail(u"expected: "_qs + expected);
     QThread::msleep(20);
   }
 }
 
-void Person::SeeWindow(const char* name) {
-  Expect(QStringLiteral("the window %1 in front").arg(QLatin1String(name)), [name] {
+// The toolkit may hear later, or earlier, than the window manager does which window is the active one.
+bool Person::HasTheKeys(const QWidget& window) {
+  const auto root = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
+  constexpr std::string_view name = "_NET_ACTIVE_WINDOW";
+  const Reply<xcb_intern_atom_reply_t> atom(
+      xcb_intern_atom_reply(connection_, xcb_intern_atom(connection_, 1, name.size(), name.data()), nullptr),
+      &std::free);
+  const auto cookie = xcb_get_property(connection_, 0, root, atom->atom, XCB_ATOM_WINDOW, 0, 1);
+  const Reply<xcb_get_property_reply_t> active(xcb_get_property_reply(connection_, cookie, nullptr),
+                                               &std::free);
+  return xcb_get_property_value_length(active.get()) == sizeof(xcb_window_t) &&
+         *static_cast<xcb_window_t*>(xcb_get_property_value(active.get())) == window.effectiveWinId();
+}
+
+void Person::SeeWindow(const char* name, const char* shot) {
+  Expect(u"the window %1 in front"_qs.arg(QLatin1String(name)), [&] {
     const QWidget* active = QApplication::activeWindow();
-    return active && active->isVisible() && active->objectName() == QLatin1String(name);
+    return active && active->isVisible() && active->objectName() == QLatin1String(name) &&
+           HasTheKeys(*active);
   });
   Settle();
+  if (shot) Shot(shot);
+}
+
+void Person::Open(const char* control, const char* window, const char* shot) {
+  Click(QLatin1String(control));
+  SeeWindow(window, shot);
+}
+
+void Person::Escape(const char* window) {
+  Press({EscapeKey});
+  SeeWindow(window);
+}
+
+void Person::Close(const char* window) {
+  CloseWindow();
+  SeeWindow(window);
 }
 
 void Person::AnswerBox(const QString& text, const QString& button) {
   const auto box = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
-  Expect(QStringLiteral("a message box in front: ") + text,
+  Expect(u"a message box in front: "_qs + text,
          [&] { return box() && box()->isActiveWindow() && box()->text() == text; });
   Shot("message");
-  QPoint place;
-  Do([&] {
-    for (QAbstractButton* candidate : box()->buttons())
-      if (candidate->text().remove(u'&') == button)
-        place = candidate->mapToGlobal(candidate->rect().center());
+  ClickAt(StandingStill(u"a button "_qs + button,
+                        [&] {
+                          for (const QAbstractButton* candidate : box()->buttons())
+                            if (candidate->text().remove(u'&') == button)
+                              return candidate->mapToGlobal(candidate->rect().center());
+                          return QPoint();
+                        }),
+          1);
+  Expect(u"the box to go, and a window in its place: "_qs + text, [&] {
+    const QWidget* active = QApplication::activeWindow();
+    return !box() && active && HasTheKeys(*active);
   });
-  if (place.isNull()) Fail(QStringLiteral("the box has no button ") + button);
-  ClickAt(place, 1);
-  Expect(QStringLiteral("the box to go: ") + text, [&] { return !box(); });
 }
 
-QPoint Person::MiddleOf(const char* control) {
+// A window manager may move a window when it takes it over, so a place counts only when it is found twice.
+// Null: not found.
+QPoint Person::StandingStill(const QString& what, const std::function<QPoint()>& find) {
   QPoint place;
-  Expect(QStringLiteral("a control %1 to click").arg(QLatin1String(control)), [&] {
-    const QWidget* active = QApplication::activeWindow();
-    const auto* found = active ? active->findChild<QWidget*>(QLatin1String(control)) : nullptr;
-    if (!found || !found->isVisible() || !found->isEnabled()) return false;
-    place = found->mapToGlobal(found->rect().center());
-    return true;
+  Expect(what, [&] {
+    const QPoint before = std::exchange(place, find());
+    return !place.isNull() && place == before;
   });
   return place;
 }
 
-void Person::Click(const char* control) {
+QPoint Person::MiddleOf(const QString& control) {
+  return StandingStill(u"a control to click: "_qs + control, [&] {
+    const QWidget* active = QApplication::activeWindow();
+    const auto* found = active ? active->findChild<QWidget*>(control) : nullptr;
+    const bool ready = found && found->isVisible() && found->isEnabled();
+    return ready ? found->mapToGlobal(found->rect().center()) : QPoint();
+  });
+}
+
+void Person::Click(const QString& control) {
   ClickAt(MiddleOf(control), 1);
 }
 
-void Person::DoubleClick(const char* control) {
+void Person::DoubleClick(const QString& control) {
   ClickAt(MiddleOf(control), 2);
 }
 
 QPoint Person::MiddleOfItem(const char* list, int row) {
-  QPoint place;
-  Expect(QStringLiteral("a row %1 in the list").arg(row), [&] {
+  return StandingStill(u"a row %1 in the list"_qs.arg(row), [&] {
     const QWidget* active = QApplication::activeWindow();
     const auto* found = active ? active->findChild<QListWidget*>(QLatin1String(list)) : nullptr;
-    if (!found || found->count() <= row) return false;
-    place = found->viewport()->mapToGlobal(found->visualItemRect(found->item(row)).center());
-    return true;
+    if (!found || found->count() <= row) return QPoint();
+    return found->viewport()->mapToGlobal(found->visualItemRect(found->item(row)).center());
   });
-  return place;
 }
 
 void Person::ClickItem(const char* list, int row) {
@@ -149,7 +199,7 @@ void Person::DoubleClickItem(const char* list, int row) {
 }
 
 QPoint Person::Drag(const char* control, QPoint by) {
-  const QPoint start = MiddleOf(control);
+  const QPoint start = MiddleOf(QLatin1String(control));
   Fake(XCB_MOTION_NOTIFY, 0, start);
   Settle();
   Fake(XCB_BUTTON_PRESS, 1);
@@ -159,13 +209,16 @@ QPoint Person::Drag(const char* control, QPoint by) {
   return start + by;
 }
 
+// The clicks of a double click, and a key's going down and up, leave together: on a busy machine the second
+// click would come too late, and the key would repeat itself.
 void Person::ClickAt(QPoint place, int times) {
   Fake(XCB_MOTION_NOTIFY, 0, place);
   Settle();
   for (; times > 0; --times) {
-    Fake(XCB_BUTTON_PRESS, 1);
-    Fake(XCB_BUTTON_RELEASE, 1);
+    Queue(XCB_BUTTON_PRESS, 1);
+    Queue(XCB_BUTTON_RELEASE, 1);
   }
+  xcb_flush(connection_);
   Settle();
 }
 
@@ -183,10 +236,12 @@ void Person::Fake(unsigned char type, unsigned char detail, QPoint place) {
 
 void Person::PressKey(unsigned char keycode, bool shift) {
   const unsigned char shiftKeycode = shift ? FindKey(connection_, ShiftKey).keycode : 0;
-  if (shift) Fake(XCB_KEY_PRESS, shiftKeycode);
-  Fake(XCB_KEY_PRESS, keycode);
-  Fake(XCB_KEY_RELEASE, keycode);
-  if (shift) Fake(XCB_KEY_RELEASE, shiftKeycode);
+  if (shift) Queue(XCB_KEY_PRESS, shiftKeycode);
+  Queue(XCB_KEY_PRESS, keycode);
+  Queue(XCB_KEY_RELEASE, keycode);
+  if (shift) Queue(XCB_KEY_RELEASE, shiftKeycode);
+  xcb_flush(connection_);
+  QThread::msleep(8);
 }
 
 void Person::PressKeysym(unsigned keysym) {
@@ -197,10 +252,6 @@ void Person::PressKeysym(unsigned keysym) {
 void Person::Type(const QString& text) {
   for (const char32_t character : text.toUcs4()) PressKeysym(KeysymOf(character));
   Settle();
-}
-
-void Person::PressEscape() {
-  Press({EscapeKey});
 }
 
 void Person::Press(std::initializer_list<unsigned> keysyms) {
@@ -226,12 +277,17 @@ void Person::Settle() {
 
 void Person::Shot(const char* name) {
   Settle();
-  Do([&] { QApplication::primaryScreen()->grabWindow(0).save(NextPicture(name)); });
+  const QString file =
+      u"%1/%2-%3.png"_qs.arg(album_).arg(number_++, 2, 10, QLatin1Char('0')).arg(QLatin1String(name));
+  Do([&] { QApplication::primaryScreen()->grabWindow(0).save(file); });
 }
 
-QString Person::NextPicture(const char* name) {
-  return QStringLiteral("%1/%2-%3.png")
-      .arg(album_)
-      .arg(number_++, 2, 10, QLatin1Char('0'))
-      .arg(QLatin1String(name));
+void Person::Portrait(const char* name) {
+  Settle();
+  Do([&] {
+    const QRect place = QApplication::activeWindow()->frameGeometry();
+    QApplication::primaryScreen()
+        ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
+        .save(album_ + u'/' + QLatin1String(name) + u".png"_qs);
+  });
 }

@@ -2,11 +2,11 @@
 // aloud what is not as it should be.
 //
 // The person lives on a thread of its own, so that a tour reads from top to bottom; whatever touches a widget
-// runs on the window thread.
+// runs on the window thread. Nobody waits for ever: what has not come after ten seconds ends the tour, which
+// then says what it waited for.
 #pragma once
 
 #include <functional>
-#include <string>
 
 #include <QtCore/QString>
 #include <QtWidgets/QWidget>
@@ -18,16 +18,20 @@ class Person {
   // Screenshots go to `album` as two digits, a dash, a name and ".png", counted on from `firstNumber`.
   Person(QString album, int firstNumber);
   ~Person();
-  Person(const Person&) = delete;
-  Person& operator=(const Person&) = delete;
+  Q_DISABLE_COPY_MOVE(Person)
 
-  // Waits until a window of that object name is on the screen and active; fails after ten seconds.
-  void SeeWindow(const char* name);
+  // Waits until a window of that object name is on the screen, and the window manager's keys go to it.
+  void SeeWindow(const char* name, const char* shot = nullptr);
+  // Clicks a control that leads to the window.
+  void Open(const char* control, const char* window, const char* shot = nullptr);
+  // Leaves a window for the other one: by Escape, by the close box.
+  void Escape(const char* window);
+  void Close(const char* window);
   // Waits until the only message box on the screen has this text, and answers it by a click on a button.
-  void AnswerBox(const QString& text, const QString& button);
+  void AnswerBox(const QString& text, const QString& button = QStringLiteral("OK"));
   // A click in the middle of the named control of the active window.
-  void Click(const char* control);
-  void DoubleClick(const char* control);
+  void Click(const QString& control);
+  void DoubleClick(const QString& control);
   void ClickItem(const char* list, int row);
   void DoubleClickItem(const char* list, int row);
   // Presses in the middle of the control, drags by so many pixels and releases. Returns the place of the
@@ -37,22 +41,23 @@ class Person {
   void Type(const QString& text);
   // Alt and F4: what the window manager makes the close box's order of.
   void CloseWindow();
-  void PressEscape();
   // Presses keys that type nothing, by their keysyms of X.
   void Press(std::initializer_list<unsigned> keysyms);
   void Shot(const char* name);
-  // The path of the album's next picture, for one that is made otherwise.
-  QString NextPicture(const char* name);
+  // The active window alone, with its frame, as `name`.png.
+  void Portrait(const char* name);
 
-  // Waits until the question is answered with yes, or fails with the words of what was expected.
+  // Waits until the question is answered with yes.
   void Expect(const QString& expected, const std::function<bool()>& question);
   // Runs on the window thread and returns when it is done.
   void Do(const std::function<void()>& action);
   [[noreturn]] void Fail(const QString& why);
 
  private:
-  QPoint MiddleOf(const char* control);
+  QPoint StandingStill(const QString& what, const std::function<QPoint()>& find);
+  QPoint MiddleOf(const QString& control);
   QPoint MiddleOfItem(const char* list, int row);
+  bool HasTheKeys(const QWidget& window);
   void PressKey(unsigned char keycode, bool shift);
   void PressKeysym(unsigned keysym);
   void Queue(unsigned char type, unsigned char detail, QPoint place = {});
@@ -62,5 +67,6 @@ class Person {
 
   QString album_;
   int number_;
+  bool failed_ = false;
   xcb_connection_t* connection_;
 };

@@ -8,7 +8,7 @@
 
 struct Sitting {
   const char* title;
-  const char* sample;                  // the sample folder to sit down before; null: the person's own diary
+  std::function<void()> stage;         // fills the fresh folder to sit down before; empty: the person's own
   std::function<void(Person&)> play;   // up to the last check
   std::function<void(Person&)> leave;  // what ends the program, with exit code 0
 };

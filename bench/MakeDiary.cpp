@@ -1,0 +1,17 @@
+// make_diary FOLDER PAGES: a program folder's data files, with one journal of so many pages of 3 KB of RTF
+// and the password "x".
+#include <cstdio>
+#include <cstdlib>
+
+#include "bench/BigDiary.h"
+#include "platform/Files.h"
+#include "store/JournalIndex.h"
+
+int main(int argc, char** argv) {
+  if (argc != 3) return std::fprintf(stderr, "usage: make_diary FOLDER PAGES\n"), 2;
+  platform::SetProgramFolder(argv[1]);
+  bench::OneJournal();
+  bench::WriteJournal(std::atoi(argv[2]), 3150);
+  SaveJournalIndex();
+  return 0;
+}

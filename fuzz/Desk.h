@@ -1,0 +1,74 @@
+// The program's folder and a desktop that answers every box, for as long as one input is tried.
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <string>
+
+#include "fuzz/Require.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "platform/Process.h"
+#include "state/State.h"
+
+// Of this process alone, and gone with it.
+class ScratchFolder {
+ public:
+  ScratchFolder() { Require(mkdtemp(path_.data()) != nullptr, "there is room for a folder"); }
+  ~ScratchFolder() { std::filesystem::remove_all(path_); }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+  const std::string& path() const { return path_; }
+
+ private:
+  std::string path_ = std::filesystem::temp_directory_path() / "fuzz-XXXXXX";
+};
+
+class Desk {
+ public:
+  using Files = std::map<std::string, std::string>;  // bytes by name
+
+  Desk() {
+    static const ScratchFolder folder;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.path()))
+      std::filesystem::remove(entry);
+    ResetState();
+    platform::SetProgramFolder(folder.path());
+    platform::SetMessageAnswerer([this](const platform::Message& message) {
+      const auto says = [&](const char* words) { return message.text.find(words) != std::string::npos; };
+      damageTold += says("damaged");
+      Require(says("damaged") || says("Decryption Error:"), message.text.c_str());
+      return platform::Answer::Ok;
+    });
+    platform::SetProcessEnder([this] { ++ends; });
+  }
+  ~Desk() {
+    platform::SetMessageAnswerer({});
+    platform::SetProcessEnder({});
+  }
+  Desk(const Desk&) = delete;
+  Desk& operator=(const Desk&) = delete;
+
+  void Write(const std::string& name, std::string_view bytes) const {
+    std::ofstream(platform::PathOf(name), std::ios::binary) << bytes;
+  }
+  std::string Read(const std::string& name) const { return platform::ReadFile(platform::PathOf(name)); }
+  // The folder holds these files and no other.
+  void RequireFiles(const Files& expected, const char* what) const {
+    Files files;
+    for (const auto& entry : std::filesystem::directory_iterator(platform::ProgramFolder()))
+      files[entry.path().filename()] = platform::ReadFile(entry.path());
+    Require(files == expected, what);
+  }
+  // The file was written anew; one that was damaged lies beside it as it was.
+  void RequireKept(const std::string& name, const std::string& before, bool wasDamaged) const {
+    Files files = {{name, Read(name)}};
+    if (wasDamaged) files[name + ".damaged"] = before;
+    RequireFiles(files, "a damaged file, and no other, is kept beside");
+  }
+
+  int damageTold = 0;
+  int ends = 0;  // of the process
+};

@@ -1,0 +1,36 @@
+// What the person does in a sitting, step by step.
+#pragma once
+
+#include "tools/tour/Person.h"
+
+class frmJournal;
+
+frmJournal& Book();
+// The page's number on the head strip and its text.
+void ExpectPage(Person& person, const QString& number, const QString& text);
+
+// With the journal open on its last page: three photographs in frames, of which one is dragged. In the next
+// sitting they lie where they lay, and one is removed.
+void LayPictures(Person& person);
+void FindPicturesAgain(Person& person);
+// From and to the journal: prints its page 1 to a PDF file.
+void PrintAPage(Person& person);
+
+// With a journal of many pages open. By keys alone: to a page by the index, another date for it by the
+// calendar. Then a font for what is typed next, and an emoticon behind it; then another icon and paper.
+void FindAndDateAPage(Person& person);
+void DressTheText(Person& person);
+void ChangeTheProperties(Person& person);
+
+// From the journal, which it closes: the three themes, of which the last stays.
+void TryTheThemes(Person& person);
+// At the bookcase. The new password holds from the next start on, for which a stray journal is brought: a
+// copy of the first one's file. Then only that password opens, and the stray stands there, readable.
+void ChangeThePassword(Person& person, const QString& old, const QString& fresh);
+void ComeBackWithTheNewPassword(Person& person, const QString& old, const QString& fresh);
+// At the lock of the diary with strays: it shows what its contents tell, and F1 leads each window's reader to
+// its chapter. Ends at the bookcase.
+void AskForHelpEverywhere(Person& person);
+
+// A diary as it looks after a year, in the program's folder; the password is "p". The README shows it.
+void StageAYear();

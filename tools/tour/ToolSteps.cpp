@@ -1,0 +1,86 @@
+#include <QtCore/QFile>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+
+#include "editor/frmEmoticons.h"
+#include "editor/frmIndex.h"
+#include "editor/frmJournal.h"
+#include "platform/Dates.h"
+#include "platform/Files.h"
+#include "state/State.h"
+#include "tools/tour/Steps.h"
+
+namespace {
+
+constexpr unsigned Right = 0xff53, Down = 0xff54;  // keysyms of X
+
+// In the desktop's dialog, as red, green and blue in two hexadecimal digits each.
+void ChooseColor(Person& person, const QString& digits) {
+  person.SeeWindow("ColorDialog");
+  person.Do([] {
+    for (auto* box : QApplication::activeModalWidget()->findChildren<QLineEdit*>())
+      if (box->text().startsWith(u'#')) box->setFocus(Qt::ShortcutFocusReason);
+  });
+  person.Type(u'#' + digits);
+  person.Shot("a-colour");
+  person.Type(u"\n"_qs);
+}
+
+}  // namespace
+
+void FindAndDateAPage(Person& person) {
+  person.Open("btnIndex", "frmIndex");
+  person.Press({Down, Right, Right, Right, Right, Down});
+  person.Shot("index");
+  QString entry;
+  person.Do([&entry] { entry = look::The<frmIndex>().TreeView1->currentItem()->text(0); });
+  person.Type(u"\n"_qs);
+  person.SeeWindow("frmJournal");
+  person.Expect(u"the page of "_qs + entry, [&] { return Book().face->lblDate->text() == entry; });
+  person.Open("btnCal", "frmCal");
+  person.Press({Right, Down});
+  person.Shot("calendar");
+  person.Type(u"\n"_qs);
+  person.SeeWindow("frmJournal");
+  person.Expect(u"a date eight days later"_qs, [&] {
+    const double date = Pages.at(static_cast<std::size_t>(CurrentPage)).PageDate;
+    return platform::LongDate(date - 8) == entry && Book().face->lblDate->text() == platform::LongDate(date);
+  });
+}
+
+void DressTheText(Person& person) {
+  QFile::link(QStringLiteral(ASSETS "/emoticons"), QFile::decodeName(platform::PathOf("emoticons").c_str()));
+  person.Open("btnFont", "FontDialog");
+  person.Type(u"dejavu serif"_qs);
+  person.DoubleClick(u"fontSize"_qs);
+  person.Type(u"24"_qs);
+  person.Click(u"underline"_qs);
+  person.Click(u"color"_qs);
+  ChooseColor(person, u"a02060"_qs);
+  person.SeeWindow("FontDialog", "font");
+  person.Type(u"\n"_qs);
+  person.SeeWindow("frmJournal");
+  person.Type(u"Roses! "_qs);
+  person.Open("btnInsertEmoticon", "frmEmoticons", "emoticons");
+  person.Click(u"cmdPage"_qs);
+  person.Click(u"cmdPage"_qs);
+  person.Expect(u"the last screen"_qs,
+                [] { return look::The<frmEmoticons>().cmdPage->text() == u"Page 03/03"; });
+  person.Click(u"cmdPage"_qs);
+  person.Open("cmdEmoticons(12)", "frmJournal");
+  person.Expect(u"an emoticon behind the words"_qs, [] {
+    return Book().face->txtM->Text().contains(u"Roses! "_qs + QChar::ObjectReplacementCharacter);
+  });
+  person.Shot("a-font-and-an-emoticon");
+}
+
+void ChangeTheProperties(Person& person) {
+  person.Open("btnJournalProperties", "frmJournalProp");
+  for (int i = 0; i < 3; ++i) person.Click(u"cmdIconNext"_qs);
+  person.Click(u"cmdPaperColor"_qs);
+  ChooseColor(person, u"d8ecd0"_qs);
+  person.SeeWindow("frmJournalProp", "properties");
+  person.Open("cmdOK", "frmJournal");
+  person.Expect(u"another paper"_qs, [] { return Book().face->txtM->BackColor() == 0xD0ECD8; });
+  person.Shot("another-paper");
+}
