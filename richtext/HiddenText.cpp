@@ -1,7 +1,6 @@
 #include "richtext/HiddenText.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
@@ -49,7 +48,7 @@ QString HiddenTextOf(const QTextCharFormat& format) {
 QString ShownText(const QTextDocument& document) {
   QString text = document.toRawText();
   const std::vector<int> places = Places(document);
-  for (const int place : std::ranges::reverse_view(places)) text.remove(place, 1);
+  for (auto place = places.rbegin(); place != places.rend(); ++place) text.remove(*place, 1);
   return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
 }
 

@@ -46,7 +46,7 @@ class Walk {
   Scene Read() {
     TakePlaceableHeader();
     const std::uint32_t type = UnsignedAt16(rest_, 0);
-    const bool isMetafile = (type == 1 || type == 2) && std::size_t{2} * UnsignedAt16(rest_, 2) == HeaderSize;
+    const bool isMetafile = (type == 1 || type == 2) && UnsignedAt16(rest_, 2) * std::size_t{2} == HeaderSize;
     if (!isMetafile) return {};
     rest_ = BytesFrom(rest_, HeaderSize);
     while (TakeRecord()) {

@@ -27,8 +27,6 @@ std::string NameOf(std::int32_t page) {
   return "CP" + std::to_string(page);
 }
 
-const iconv_t Unknown = reinterpret_cast<iconv_t>(-1);
-
 }  // namespace
 
 PageConversion::PageConversion(std::int32_t page)

@@ -52,8 +52,10 @@ bool Play(const QString& self, int number, const QString& folder, const QString&
   process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   process.start(self, {u"--sitting"_qs, QString::number(number), folder, album});
   const bool ended = process.waitForFinished(SittingLimitMs);
-  if (!ended) std::fprintf(stderr, "expected: the end of the sitting within %d ms\n", SittingLimitMs);
-  if (!ended) process.kill();
+  if (!ended) {
+    std::fprintf(stderr, "expected: the end of the sitting within %d ms\n", SittingLimitMs);
+    process.kill();
+  }
   return ended && process.readAllStandardOutput().contains("finished\n") &&
          process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
