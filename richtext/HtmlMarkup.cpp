@@ -152,8 +152,9 @@ class Rewriting {
     return keeps;
   }
 
+  // The toolkit takes tags in a sheet for tags.
   void TakeSheet() {
-    const qsizetype end = html_.indexOf(u"</style", at_, Qt::CaseInsensitive);
+    const qsizetype end = html_.indexOf(u'<', at_);
     const qsizetype length = (end < 0 ? html_.size() : end) - at_;
     made_ += WithPlainColors(html_.mid(at_, length));
     at_ += length;

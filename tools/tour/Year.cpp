@@ -42,8 +42,8 @@ void StageAYear() {
   store::Encipher(text, PageShift, Pages.back().Body.data());
   SaveJournalFile(Journals[1].FileName);
   Pictures.resize(1);
-  LayPhotograph("lake.jpg", "Photo corners.gif", {330, 105, 220, 165});
-  LayPhotograph("meadow.jpg", "Instant photo.gif", {80, 341, 220, 165});
+  LayPhotograph("lake.jpg", "Photo corners.gif", {324, 106, 220, 165});
+  LayPhotograph("meadow.jpg", "Instant photo.gif", {80, 356, 220, 165});
   SavePictureStore();
   SaveJournalIndex();
 }
