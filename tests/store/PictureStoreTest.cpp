@@ -79,7 +79,7 @@ TEST(PictureStoreTest, TheOlderStoreLiesInSlotsAndHasNoRowMore) {
   EXPECT_FALSE(decoded.isDamaged);
   EXPECT_EQ(decoded.rows, (std::vector<PagePicture>{Row(""), Row("a")}));
   const std::string longest(126, 'x');
-  const std::string tooLong = Slot(Raw(0, 4)) + OldRow("a").replace(7 * 128, 2, Raw(127, 2));
+  const std::string tooLong = Slot(Raw(0, 4)) + OldRow("a").replace(std::size_t{7} * 128, 2, Raw(127, 2));
   const std::pair<std::string, std::string> outlines[] = {
       {OldStore(0, {longest}), "sound " + longest + ","},
       {OldStore(0, {"a", "left over"}), "sound a,"},
