@@ -58,7 +58,7 @@ class Diary {
   }
   // A fresh file in the folder.
   std::string FreshFile(const char* name) const {
-    const std::string path = platform::PathOf(name);
+    std::string path = platform::PathOf(name);
     platform::DeleteFile(path);
     return path;
   }

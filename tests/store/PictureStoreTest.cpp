@@ -90,7 +90,7 @@ TEST(PictureStoreTest, TheOlderStoreLiesInSlotsAndHasNoRowMore) {
       {Slot(Raw(1, 4)) + tooLong.substr(128) + OldRow("b"), "damaged ,b,"},
       {OldStore(1, {"", "a"}).substr(0, 25 * 128 - 124), "sound ,a,"},
       {OldStore(1, {"", "a"}).substr(0, 25 * 128 - 125), "damaged ,,"},
-      {OldStore(1, {"a", "b"}).substr(0, 13 * 128), "damaged a,"},
+      {OldStore(1, {"a", "b"}).substr(0, std::size_t{13} * 128), "damaged a,"},
       {"", "damaged ,"}};
   for (const auto& [bytes, outline] : outlines)
     EXPECT_EQ(Outline(store::DecodeOldPictureStore(bytes)), outline);
