@@ -5,7 +5,7 @@
 #include "fuzz/StoredPictures.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  constexpr std::size_t bytesOfRow = 12 * 128;
+  constexpr std::size_t bytesOfRow = std::size_t{12} * 128;
   const std::string bytes(reinterpret_cast<const char*>(data), size);
   Desk desk;
   desk.Write("tqpics.bin", "not looked at");
