@@ -53,6 +53,7 @@ void frmOptions::LayOut() {
     return new QRadioButton(QString::fromLatin1(caption), Frame1);
   };
   // clang-format off
+  // cppcheck-suppress AssignmentAddressToInteger  ; it takes the control for the number of the same name
   chkGotoLastPage = Place(new QCheckBox(QStringLiteral("Go to last page on startup"), this), "chkGotoLastPage", 240, 240, 5400, 390);
   Frame1             = Place(new QGroupBox(QStringLiteral("Background Image"), this), "Frame1", 240, 780, 2580, 1860);
   optColor[0] = Place(radio("Blue"),   "optColor(0)", 180, 390, 2040, 390);

@@ -17,5 +17,5 @@ int main(int argc, char** argv) {
   platform::ListenForTheLostDisplay(&SaveWithoutDisplay);
   // From the event loop, where a failure of the start is told like any other.
   QTimer::singleShot(0, &application, [&] { Main(instance, token); });
-  return application.exec();
+  return QApplication::exec();
 }

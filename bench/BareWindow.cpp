@@ -19,7 +19,7 @@ class Backed : public QWidget {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QApplication application(argc, argv);
+  [[maybe_unused]] const QApplication application(argc, argv);
   const QLocalServer sameLibraries;
   look::PutOnTheme(0);
   QMainWindow window;
@@ -31,5 +31,5 @@ int main(int argc, char** argv) {
   text->setGeometry(66, 58, 300, 300);
   window.resize(565, 648);
   window.show();
-  return application.exec();
+  return QApplication::exec();
 }

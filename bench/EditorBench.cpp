@@ -70,7 +70,7 @@ class Diary {
 void OpenJournal(benchmark::State& state) {
   look::The<frmJournal>();
   Diary diary(static_cast<std::int32_t>(state.range(0)));
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     diary.Open();
     state.PauseTiming();
     state.counters["resident_mb"] = MegabytesInUse();
@@ -86,7 +86,7 @@ void TurnToAnUnchangedPage(benchmark::State& state) {
   Diary diary(static_cast<std::int32_t>(state.range(0)));
   diary.Open();
   bool forward = false;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     StoreCurrentPage();
     if (forward)
       GoNextPage();
@@ -151,7 +151,7 @@ void TurnBesideAStore(benchmark::State& state) {
   LayPicturesElsewhere(static_cast<std::int32_t>(state.range(0)));
   diary.Open();
   bool forward = false;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     if (forward)
       GoNextPage();
     else
@@ -165,7 +165,7 @@ void TypeALetter(benchmark::State& state) {
   look::The<frmJournal>();
   Diary diary(1, static_cast<std::size_t>(state.range(0)));
   diary.Open();
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     QTest::keyClick(Face().txtM, Qt::Key_A);
     diary.Draw();
   }
@@ -181,7 +181,7 @@ void OpenTheIndex(benchmark::State& state) {
   const auto pages = static_cast<double>(state.range(0));
   for (double day = 36526; Pages.size() <= static_cast<std::size_t>(pages); day += 27 * 365.25 / pages)
     Pages.push_back({{}, day});
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     ShowJournalIndex();
     look::The<frmIndex>().repaint();
     state.PauseTiming();

@@ -58,7 +58,7 @@ class Diary {
   }
   // A fresh file in the folder.
   std::string FreshFile(const char* name) const {
-    const std::string path = platform::PathOf(name);
+    std::string path = platform::PathOf(name);
     platform::DeleteFile(path);
     return path;
   }
@@ -80,7 +80,7 @@ void Export(benchmark::State& state) {
   Diary diary(1000);
   NoDisplay display;
   diary.settings.showDates = diary.settings.showPageNumbers = true;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     state.PauseTiming();
     platform::DeleteFile(platform::PathOf("export") + "/Bench.html");
     platform::DeleteFile(platform::PathOf("export") + "/j00000/index.html");
@@ -121,7 +121,7 @@ BENCHMARK(WriteLines)->UseManualTime()->Unit(benchmark::kMillisecond);
 void LinksOfAllPages(benchmark::State& state) {
   const auto pages = static_cast<std::int32_t>(state.range(0));
   Diary diary(pages);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     const std::string path = diary.FreshFile("links");
     WriteHtmlDateIndex(path, diary.settings);
     for (std::int32_t page = 0; page <= pages; ++page) WriteHtmlMenuBar(page, path, diary.settings);
@@ -131,10 +131,11 @@ void LinksOfAllPages(benchmark::State& state) {
 }
 BENCHMARK(LinksOfAllPages)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+// cppcheck-suppress constParameterCallback  ; every benchmark has this signature
 void ReplaceLineEndsInAMegabyte(benchmark::State& state) {
   std::string text;
   while (text.size() < 1 << 20) text += "a line\r\n";
-  for (auto _ : state) benchmark::DoNotOptimize(ReplaceText(text, "\r\n", "<BR>"));
+  for ([[maybe_unused]] auto iteration : state) benchmark::DoNotOptimize(ReplaceText(text, "\r\n", "<BR>"));
 }
 BENCHMARK(ReplaceLineEndsInAMegabyte)->Unit(benchmark::kMillisecond);
 

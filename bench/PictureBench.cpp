@@ -10,9 +10,9 @@
 #include <QtGui/QImage>
 
 #include "bench/Beside.h"
-#include "pictures/AddPicture.h"
 #include "pictures/PictureFile.h"
 #include "pictures/PictureSlots.h"
+#include "pictures/PictureToAdd.h"
 #include "pictures/frmAddPicture.h"
 #include "state/State.h"
 
@@ -95,7 +95,7 @@ void ScaleSeenLive(benchmark::State& state) {
   dialog.picTemp->SetPicture(QPixmap::fromImage(pictures::LoadForPreview(album.paths[0])));
   dialog.picTemp->resize(PhotoSize);
   AddScale = static_cast<double>(state.range(0)) / 100;
-  for ([[maybe_unused]] auto iteration : state) ShowScaledPreview();
+  for ([[maybe_unused]] auto iteration : state) look::The<frmAddPicture>().ShowScaledPreview();
 }
 BENCHMARK(ScaleSeenLive)->Arg(10)->Arg(25)->Arg(200)->Unit(benchmark::kMillisecond);
 

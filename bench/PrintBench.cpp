@@ -38,7 +38,7 @@ void OneJournal(std::int32_t pages) {
 void JoinThePages(benchmark::State& state) {
   const auto pages = static_cast<std::int32_t>(state.range(0));
   OneJournal(pages);
-  for (auto _ : state) benchmark::DoNotOptimize(JoinedPages(0, pages));
+  for ([[maybe_unused]] auto iteration : state) benchmark::DoNotOptimize(JoinedPages(0, pages));
   state.SetComplexityN(pages);
 }
 BENCHMARK(JoinThePages)
@@ -71,7 +71,7 @@ void PrintAllToPdf(benchmark::State& state) {
     return order;
   });
   PdfPaper::sheets = 1;
-  for (auto _ : state) PrintJournal();
+  for ([[maybe_unused]] auto iteration : state) PrintJournal();
   SetPrintAnswerer({});
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);

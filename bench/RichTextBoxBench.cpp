@@ -89,7 +89,7 @@ void ShowPage(benchmark::State& state, const std::string& rtf) {
   RichTextBox box;
   box.resize(500, 600);
   box.show();
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto iteration : state) {
     state.PauseTiming();
     box.SetTextRTF({});
     QCoreApplication::processEvents();

@@ -6,10 +6,10 @@
 // PROGRAM is started in its own folder, with whatever diary lies there. The medians go out in the form of the
 // benchmarks, for scripts/bench.
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
-#include <signal.h>
 #include <string>
 #include <sys/wait.h>
 #include <thread>

@@ -74,7 +74,7 @@ class OpenJournal {
     Journals.assign(2, {});
     JournalCount = PagesJournal = CurrentJournal = 1;
     Journals[1].FileName = fileName;
-    Pages.assign(pageCount + 1, {std::string(bodySize, 'q'), 45000.5});
+    Pages.assign(static_cast<std::size_t>(pageCount) + 1, {std::string(bodySize, 'q'), 45000.5});
     PageCount = pageCount;
     SaveJournalFile(fileName);
     bytes = platform::ReadFile(Path());
@@ -135,7 +135,7 @@ BENCHMARK(SaveManyPages)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTim
 // What the turn of a changed page costs: 3 KB of text enciphered, and a year's journal saved.
 void TurnChangedPage(benchmark::State& state) {
   const OpenJournal journal(364, 6290);
-  const std::string text(3 * 1024, 'q');
+  const std::string text(std::size_t{3} * 1024, 'q');
   const auto work = [&] {
     return SecondsOf([&] {
       std::string body(2 * text.size(), '\0');

@@ -6,7 +6,7 @@
 
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
-  platform::Application application(argc, argv);
+  [[maybe_unused]] const platform::Application application(argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   look::UnloadAllForms();
   return 0;

@@ -30,7 +30,8 @@ void LinkLabel::paintEvent(QPaintEvent* event) {
   QLabel::paintEvent(event);
   if (!hasFocus()) return;
   QPainter painter(this);
-  const QRect words = fontMetrics().boundingRect(rect().adjusted(indent(), 0, 0, 0), alignment(), text());
+  const QRect words =
+      fontMetrics().boundingRect(rect().adjusted(indent(), 0, 0, 0), static_cast<int>(alignment()), text());
   look::DrawFocusLine(painter, text().isEmpty() ? rect() : words.adjusted(-indent(), -1, indent(), 1),
                       palette().color(QPalette::WindowText));
 }

@@ -2,7 +2,7 @@
 
 add_library(thornquill_options INTERFACE)
 target_compile_options(thornquill_options INTERFACE -Wall -Wextra -Wshadow -Wnon-virtual-dtor
-                                                    -Woverloaded-virtual)
+                                                    -Woverloaded-virtual -Wconversion -Wsign-conversion)
 if(THORNQUILL_WARNINGS_AS_ERRORS)
   target_compile_options(thornquill_options INTERFACE -Werror)
 endif()

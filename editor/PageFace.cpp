@@ -3,6 +3,7 @@
 #include <QtCore/QPointer>
 #include <QtGui/QPainter>
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
 
 #include "editor/BindingPicture.h"

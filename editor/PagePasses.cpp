@@ -24,10 +24,10 @@ namespace {
 // Longer bodies, and longer texts, get the progress window.
 constexpr std::size_t LongPass = 10'000;
 // Characters between two looks at the clock: far less work than a frame lasts.
-constexpr std::size_t Chunk = 64 * 1024;
+constexpr std::size_t Chunk = std::size_t{64} * 1024;
 
 // Bytes of RTF whose laying out outlasts a frame by far. No event is served meanwhile.
-constexpr std::size_t LongLayout = 256 * 1024;
+constexpr std::size_t LongLayout = std::size_t{256} * 1024;
 
 constexpr std::string_view DecryptionError = "Page Decryption Error:";
 constexpr std::string_view EncryptionError = "Page Encryption Error:";

@@ -112,7 +112,7 @@ int frmEmoticons::CountPages() const {
 void frmEmoticons::ShowScreen(int start) {
   for (int i = 0; i < ScreenSize; ++i) {
     QPushButton& button = *cmdEmoticons[static_cast<std::size_t>(i)];
-    const auto file = static_cast<std::size_t>(start + i);
+    const std::size_t file = static_cast<std::size_t>(start) + static_cast<std::size_t>(i);
     button.setVisible(file < file1_.size() && LoadEmoticon(button, file1_[file]));
   }
 }

@@ -20,6 +20,7 @@ class Box : public richtext::RichTextBox {
 }  // namespace
 
 // What the fonts' library keeps for the next time.
+// NOLINTNEXTLINE(bugprone-reserved-identifier)  ; the sanitizer gives the name
 extern "C" const char* __lsan_default_suppressions() {
   return "leak:libfontconfig";
 }

@@ -4,7 +4,7 @@
 #include "fuzz/StoredPictures.h"
 
 void Try(std::string_view input) {
-  constexpr std::size_t bytesOfRow = 12 * 128;
+  constexpr std::size_t bytesOfRow = std::size_t{12} * 128;
   const std::string bytes(input);
   Desk desk;
   desk.Write("tqpics.bin", "not looked at");

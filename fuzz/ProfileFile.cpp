@@ -35,7 +35,7 @@ void Try(std::string_view input) {
   const std::string path = platform::PathOf("journal.ini");
   const std::string text = platform::ReadProfile(path);
   const std::string theme = platform::ProfileValue(text, "Options", "optColor");
-  Require(text == bytes && text.find(theme) != text.npos, "a value stands in the file");
+  Require(text == bytes && text.find(theme) != std::string::npos, "a value stands in the file");
   Require(theme.size() <= platform::LongestProfileValue, "a value has an end");
 
   const auto withKey = [](const std::string& profile) {

@@ -218,7 +218,7 @@ std::optional<platform::Failure> PictureSlots::DealOut() {
 
 void ShowPagePictures() {
   theSlots->Hide();
-  if (const auto failure = theSlots->DealOut()) throw *failure;
+  if (const auto failure = theSlots->DealOut()) throw platform::Failure(*failure);
 }
 
 void ShowPagePicturesOrTell() {

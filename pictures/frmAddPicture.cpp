@@ -1,15 +1,23 @@
 #include "pictures/frmAddPicture.h"
 
+#include <algorithm>
+
 #include <QtCore/QFile>
 
 #include "look/AiryRows.h"
 #include "look/Shortening.h"
-#include "pictures/AddPicture.h"
+#include "pictures/NewRow.h"
+#include "pictures/PictureFile.h"
+#include "pictures/PictureSlots.h"
+#include "pictures/PictureToAdd.h"
+#include "pictures/modPictures.h"
 #include "platform/Failure.h"
 #include "platform/FileList.h"
 #include "platform/Files.h"
 #include "platform/Keystroke.h"
 #include "platform/MessageBox.h"
+#include "platform/OpenFileDialog.h"
+#include "state/State.h"
 
 namespace {
 
@@ -17,9 +25,22 @@ constexpr int Twips = 15;      // this window is designed in pixels
 constexpr int ButtonEdge = 4;  // pixels that a caption leaves free
 constexpr double ScaleStep = 0.01;
 constexpr int ExtensionLength = 4;  // ".gif"
+constexpr double OpeningScale = 0.25;
+constexpr int LargestFrame = 1000;         // pixels to decode a frame in; the control stretches it beyond
+constexpr int MostControlSide = 16777215;  // the toolkit's limit for a control
+
+const char* const Filter =
+    "Image files (*.GIF;*.JPG;*.BMP)|*.GIF;*.JPG;*.BMP|Windows Bitmap (*.BMP)|*.BMP|JPEG files (*.JPG)|*.JPG|"
+    "GIF files (*.GIF)|*.GIF|All Files (*.*)|*.*";
 
 std::string FramesFolder() {
   return platform::PathOf("frames");
+}
+
+bool AskForPicture() {
+  const auto path = platform::AskForFile({"Open", platform::FiltersFrom(Filter), 1});
+  if (path) AddFile = *path;
+  return path.has_value();
 }
 
 }  // namespace
@@ -182,7 +203,27 @@ void frmAddPicture::ShowPreviewOrDropFrame() {
 }
 
 void frmAddPicture::InsertPicture() {
-  StartAddPicture();
+  if (PageIsFull()) {
+    platform::ShowMessage("Maximum pictures for this page.");
+    return;
+  }
+  if (!AskForPicture()) return;
+  for (look::PictureBox* box : {PicResize, picResize2, picTemp})
+    box->SetBackColor(Journals.at(static_cast<std::size_t>(CurrentJournal)).PaperColor);
+  try {
+    LoadPicture();
+  } catch (const platform::Failure& failure) {
+    return platform::ReportFailure({}, failure);
+  }
+  AddScale = OpeningScale;
+  Open();  // shows the preview as well, with no frame
+}
+
+// The box is as large as the picture; it may hold a reduced copy.
+void frmAddPicture::LoadPicture() {
+  const QSize size = pictures::UprightSize(AddFile);
+  picTemp->SetPicture(QPixmap::fromImage(pictures::LoadForPreview(AddFile)));
+  picTemp->resize(size);
 }
 
 void frmAddPicture::SetFrame(std::int16_t index) {
@@ -190,7 +231,39 @@ void frmAddPicture::SetFrame(std::int16_t index) {
   ShowScaledPreview();
 }
 
+void frmAddPicture::ShowScaledPreview() {
+  MeasureAtScale(picTemp->size());
+  PicResize->SetPicture(
+      DrawPreview(picTemp->Picture(), picTemp->size(), PicResize->BackColor(), devicePixelRatioF()));
+  picResize2->SetPicture(PicResize->Picture());
+  picResize2->resize(std::min(AddWidth, MostControlSide), std::min(AddHeight, MostControlSide));
+  lblScale->setText(QString::fromStdString(ScaleText()));
+  ShowFrame();  // the last step, since it can fail
+}
+
+void frmAddPicture::ShowFrame() {
+  imgFrameSet->hide();
+  if (AddFrameIndex < 1) return imgFrameSet->SetPicture({});
+  const QSize size = picResize2->size();
+  imgFrameSet->SetPicture(pictures::LoadScaled(
+      FrameFile(AddFrameIndex), size.boundedTo({LargestFrame, LargestFrame}), devicePixelRatioF()));
+  imgFrameSet->resize(size);
+  imgFrameSet->show();
+}
+
 void frmAddPicture::cmdOK_Click() {
   hide();
   AddPictureToPage();
+}
+
+void frmAddPicture::AddPictureToPage() {
+  try {
+    pictures::LoadForPreview(AddFile);  // it may have gone or changed while the dialog was open
+  } catch (const platform::Failure& failure) {
+    return platform::ReportFailure({}, failure);
+  }
+  AddFrameIndex = std::max(0, List1->currentRow());
+  MakeRow(AddFrameIndex == 0 ? std::string() : FrameFile(AddFrameIndex));
+  SavePictureStore();
+  ShowPagePicturesOrTell();
 }

@@ -39,14 +39,22 @@ class frmAddPicture : public look::Form {
   look::PictureBox* picTemp;     // hidden: as large as the picture; what it holds may be a reduced copy
   look::PictureBox* PicResize;   // hidden: the drawing surface of the preview
 
-  // Opens it with a fresh list of frames and none of them chosen; returns when it has been hidden. A folder
-  // of frames that is not there is told in a message first.
-  void Open();
-
   // The full path of a frame file, 1 for the first.
   std::string FrameFile(std::int32_t index) const;
 
+  // StartAddPicture.
   void InsertPicture();
+
+  // Sets AddWidth and AddHeight for the picture in picTemp at AddScale, and the preview. Throws
+  // platform::Failure when the frame that AddFrameIndex names cannot be shown; the rest is done and the frame
+  // hidden.
+  void ShowScaledPreview();
+
+  // Makes the row for AddFile, saves the store and shows the page's pictures. A file that can no longer be
+  // shown is told in a message, and no row is made.
+  void AddPictureToPage();
+
+  // Chooses a frame, 0 for none, without the list.
   void SetFrame(std::int16_t index);
 
   // Hides it: the next use finds what it holds.
@@ -58,11 +66,16 @@ class frmAddPicture : public look::Form {
   void EvenScaleRow();
   void PlacePreview();
   void ConnectScaleButtons();
+  // Shows it with a fresh list of frames and none of them chosen; returns when it has been hidden. A folder
+  // of frames that is not there is told in a message first.
+  void Open();
   void Form_Activate();
   void ReadFrames();
   void List1_Click(int index);
   void cmdResizeFactorDN_Click();
   void SetScale(double scale);
   void ShowPreviewOrDropFrame();
+  void LoadPicture();
+  void ShowFrame();
   void cmdOK_Click();
 };

@@ -2,6 +2,7 @@
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QVBoxLayout>
 
 namespace platform {

@@ -19,16 +19,17 @@ ColorChooser& Chooser() {
 // The toolkit's own dialog opens in full on every desktop.
 DialogResult<std::uint32_t> AskOnTheDesktop(const ColorQuestion& question) {
   // The window under the dialog may be destroyed while it is up, and takes the dialog with it.
-  QPointer<QColorDialog> dialog = new QColorDialog(ToColor(question.start), QApplication::activeWindow());
+  auto* dialog = new QColorDialog(ToColor(question.start), QApplication::activeWindow());
+  const QPointer<QColorDialog> standing = dialog;
   dialog->setObjectName(QStringLiteral("ColorDialog"));
   dialog->setWindowTitle(QStringLiteral("Color"));
   dialog->setOption(QColorDialog::DontUseNativeDialog);
   DialogResult<std::uint32_t> result{{DialogEnd::Cancelled, {}}};
-  if (dialog->exec() == QDialog::Accepted && dialog) {
+  if (dialog->exec() == QDialog::Accepted && standing) {
     result.end.number = 0;
     result.choice = FromColor(dialog->selectedColor());
   }
-  delete dialog;
+  delete standing;
   return result;
 }
 

@@ -5,7 +5,7 @@
 #include <dirent.h>
 #include <memory>
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QByteArray>
 
 #include "platform/Errno.h"
 #include "platform/Files.h"

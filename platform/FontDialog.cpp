@@ -17,13 +17,14 @@ FontChooser& Chooser() {
 
 DialogResult<FontValues> AskOnTheDesktop(const FontQuestion& question) {
   // The window under the dialog may be destroyed while it is up, and takes the dialog with it.
-  QPointer<FontPicker> dialog = new FontPicker(question, QApplication::activeWindow());
+  auto* dialog = new FontPicker(question, QApplication::activeWindow());
+  const QPointer<FontPicker> standing = dialog;
   DialogResult<FontValues> result{{DialogEnd::Cancelled, {}}, {}};
-  if (dialog->exec() == QDialog::Accepted && dialog) {
+  if (dialog->exec() == QDialog::Accepted && standing) {
     result.end.number = 0;
     result.choice = dialog->Values();
   }
-  delete dialog;
+  delete standing;
   return result;
 }
 

@@ -1,9 +1,10 @@
 // The toolkit tells of a broken connection to the display in a warning and calls exit() with its next
 // statement. There is no other word of it, and behind exit() the toolkit is half gone; so the warning is
 // listened for.
+#include <functional>
 #include <utility>
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QString>
 
 #include "platform/WayOut.h"
 

@@ -19,7 +19,7 @@ OpenFileChooser& Chooser() {
 }
 
 QString& LastFolder() {
-  static QString folder;
+  static QString folder{};
   return folder;
 }
 

@@ -39,7 +39,8 @@ void Catch(int signal) {
 
 void EmptyThePipe() {
   std::array<char, 64> bytes{};
-  while (read(thePipe[0], bytes.data(), bytes.size()) > 0) continue;
+  while (read(thePipe[0], bytes.data(), bytes.size()) > 0) {
+  }
 }
 
 std::function<void()>& Leave() {

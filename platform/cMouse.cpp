@@ -1,6 +1,7 @@
 #include "platform/cMouse.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <functional>
 #include <limits>
@@ -92,8 +93,9 @@ void cMouse::MoveTo(std::int32_t x, std::int32_t y) {
 }
 
 void cMouse::Click(std::int32_t button) {
+  static constexpr std::array<std::uint8_t, 2> PressAndRelease = {XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE};
   FakeInput([button](xcb_connection_t* connection) {
-    for (const std::uint8_t type : {XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE})
+    for (const std::uint8_t type : PressAndRelease)
       xcb_test_fake_input(connection, type, ServerButton(button), XCB_CURRENT_TIME, XCB_WINDOW_NONE, 0, 0, 0);
   });
 }

@@ -47,8 +47,9 @@ LabelCounter::LabelCounter(const QTextBlock& block) {
 QString LabelCounter::Count(const QTextBlock& block) {
   const ListFormat list = ListOf(block.blockFormat());
   const int level = list.kind == ListKind::None ? 0 : std::clamp(list.level, 0, Levels - 1);
-  for (int deeper = level + 1; deeper < Levels; ++deeper) lists_[deeper] = {};
-  List& counted = lists_[level];
+  const auto counting = lists_.begin() + level;
+  std::fill(counting + 1, lists_.end(), List());
+  List& counted = *counting;
   counted.next = counted.format == list ? counted.next : list.start;
   counted.format = list;
   const std::u16string label = LabelText(list, counted.next++);

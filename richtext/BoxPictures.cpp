@@ -180,7 +180,8 @@ QImage DecodedPicture(const Picture& picture) {
   const std::optional<Bitmap> bitmap = BitmapFromPicture(picture);
   if (!bitmap) return {};
   const auto* pixels = reinterpret_cast<const uchar*>(bitmap->argb.data());
-  const QImage image(pixels, bitmap->width, bitmap->height, 4 * bitmap->width, QImage::Format_ARGB32);
+  const QImage image(pixels, bitmap->width, bitmap->height, qsizetype{4} * bitmap->width,
+                     QImage::Format_ARGB32);
   return Cropped(image.copy(), picture);
 }
 

@@ -43,8 +43,8 @@ double PixelsPerInch() {
 // The sheets of the paper, on which the painter counts in the box's pixels.
 class Sheets {
  public:
-  Sheets(Paper& paper, QPainter& painter) : paper_(paper), painter_(painter) {
-    size_ = paper.Area() / PointsPerInch * PixelsPerInch();
+  Sheets(Paper& paper, QPainter& painter)
+      : paper_(paper), painter_(painter), size_(paper.Area() / PointsPerInch * PixelsPerInch()) {
     painter.scale(paper.Device().logicalDpiX() / PixelsPerInch(),
                   paper.Device().logicalDpiY() / PixelsPerInch());
   }

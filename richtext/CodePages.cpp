@@ -156,6 +156,7 @@ PairTable& PairsOf(std::int32_t page) {
 const std::vector<CodePage>& AllPages() {
   static const std::vector<CodePage> pages = [] {
     std::vector<CodePage> made;
+    made.reserve(std::size(UpperHalves) + std::size(DoubleBytePages) + 2);
     for (const UpperHalf& upper : UpperHalves) made.push_back(SingleBytePage(upper));
     for (const DoubleBytePage& pairs : DoubleBytePages) made.push_back(PageOfPairs(pairs));
     made.push_back(PageOfSymbols());

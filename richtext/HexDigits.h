@@ -10,8 +10,8 @@ namespace detail {
 constexpr std::array<std::int8_t, 256> HexDigitTable() {
   std::array<std::int8_t, 256> table{};
   table.fill(-1);
-  for (int i = 0; i < 10; ++i) table['0' + i] = static_cast<std::int8_t>(i);
-  for (int i = 0; i < 6; ++i) table['a' + i] = table['A' + i] = static_cast<std::int8_t>(10 + i);
+  for (std::uint8_t i = 0; i < 10; ++i) table['0' + i] = static_cast<std::int8_t>(i);
+  for (std::uint8_t i = 0; i < 6; ++i) table['a' + i] = table['A' + i] = static_cast<std::int8_t>(10 + i);
   return table;
 }
 inline constexpr std::array<std::int8_t, 256> HexDigitValues = HexDigitTable();

@@ -36,7 +36,7 @@ Area AreaAt(std::string_view record, std::size_t place, std::size_t size) {
 
 // The high byte tells the number of parameters; a record no longer than these paints without a bitmap.
 bool HasBitmap(std::string_view record, std::uint32_t function) {
-  return record.size() > 2 * ((function >> 8) + 3);
+  return record.size() > std::size_t{2} * ((function >> 8) + 3);
 }
 
 class Walk {
@@ -46,7 +46,7 @@ class Walk {
   Scene Read() {
     TakePlaceableHeader();
     const std::uint32_t type = UnsignedAt16(rest_, 0);
-    const bool isMetafile = (type == 1 || type == 2) && UnsignedAt16(rest_, 2) * 2 == HeaderSize;
+    const bool isMetafile = (type == 1 || type == 2) && UnsignedAt16(rest_, 2) * std::size_t{2} == HeaderSize;
     if (!isMetafile) return {};
     rest_ = BytesFrom(rest_, HeaderSize);
     while (TakeRecord()) {

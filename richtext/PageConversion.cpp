@@ -1,6 +1,7 @@
 #include "richtext/PageConversion.h"
 
 #include <array>
+#include <cstdint>
 #include <string>
 
 #include "richtext/Unicode.h"
@@ -26,8 +27,6 @@ std::string NameOf(std::int32_t page) {
   return "CP" + std::to_string(page);
 }
 
-const iconv_t Unknown = reinterpret_cast<iconv_t>(-1);
-
 }  // namespace
 
 PageConversion::PageConversion(std::int32_t page)
@@ -38,7 +37,7 @@ PageConversion::~PageConversion() {
 }
 
 bool PageConversion::IsKnown() const {
-  return conversion_ != Unknown;
+  return reinterpret_cast<std::intptr_t>(conversion_) != -1;
 }
 
 char16_t PageConversion::UnitOf(std::string_view bytes) const {

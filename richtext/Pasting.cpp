@@ -41,7 +41,7 @@ bool SaysSomething(const Document& page) {
 
 std::string OfferedRtf(const QMimeData& offered) {
   for (const QLatin1String name : RtfNames)
-    if (const std::string rtf = offered.data(name).trimmed().toStdString(); IsRtf(rtf)) return rtf;
+    if (std::string rtf = offered.data(name).trimmed().toStdString(); IsRtf(rtf)) return rtf;
   return {};
 }
 

@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "richtext/RtfHandlers.h"
+#include "richtext/RtfListHandlers.h"
 #include "richtext/Unicode.h"
 
 namespace richtext {

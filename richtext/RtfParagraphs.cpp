@@ -45,7 +45,7 @@ std::int32_t RtfListCounter::Count(std::int32_t list, std::int32_t level, std::i
 
 std::uint32_t RtfParagraphs::AddTab(std::uint32_t tabs, TabStop tab) {
   tab.position = FittingIndent(tab.position);
-  const auto place = static_cast<std::uint64_t>(tab.position + MaxIndent);
+  const auto place = static_cast<std::uint64_t>(std::int64_t{tab.position} + MaxIndent);
   const std::uint64_t key = (std::uint64_t{tabs} << 32) | (place << 8) | static_cast<std::uint64_t>(tab.kind);
   if (const auto known = tabNumbers_.find(key); known != tabNumbers_.end()) return known->second;
   if (tabs_.size() == MaxTabNodes) return tabs;

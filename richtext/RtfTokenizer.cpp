@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::array<bool, 256> SyntaxBytes() {
   std::array<bool, 256> table{};
-  for (const unsigned char byte : {'\\', '{', '}', '\r', '\n'}) table[byte] = true;
+  for (const char byte : {'\\', '{', '}', '\r', '\n'}) table[static_cast<unsigned char>(byte)] = true;
   return table;
 }
 

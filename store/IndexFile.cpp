@@ -30,7 +30,8 @@ bool IsAbsurdFileName(std::string_view name) {
   constexpr std::array<std::string_view, 9> taken = {
       ".",         "..",         "journal.tqt",    "journal.ini", "tqpics.bin",
       "jpics.bin", "thornquill", "THORNQUILL.HLP", "LICENSE"};
-  return name.size() > longestFileName || name.find_first_of(std::string_view("/\\\0", 3)) != name.npos ||
+  return name.size() > longestFileName ||
+         name.find_first_of(std::string_view("/\\\0", 3)) != std::string_view::npos ||
          name.ends_with(".damaged") || std::find(taken.begin(), taken.end(), name) != taken.end();
 }
 

@@ -171,9 +171,9 @@ std::set<std::string>& DamagedFiles() {
 }
 
 void RefuseForeignPages(const std::string& fileName) {
-  const bool areHeld = PagesJournal > 0 && std::size_t(PagesJournal) < Journals.size() &&
-                       Journals[PagesJournal].FileName == fileName && PageCount >= 0 &&
-                       Pages.size() == std::size_t(PageCount) + 1;
+  const auto row = static_cast<std::size_t>(PagesJournal);
+  const bool areHeld = PagesJournal > 0 && row < Journals.size() && Journals[row].FileName == fileName &&
+                       PageCount >= 0 && Pages.size() == static_cast<std::size_t>(PageCount) + 1;
   if (!areHeld) throw Failure(FailureKind::SubscriptOutOfRange, fileName);
 }
 

@@ -81,7 +81,7 @@ void LoadFrom(const std::string& path) {
 // The bookcase as the file holds it: without removed rows, and with scrambled copies of the names.
 store::Index IndexToSave() {
   store::Index index{MasterPassword, PageShift, {}};
-  for (std::int32_t row = 1; row <= JournalCount; ++row) {
+  for (std::size_t row = 1; row < Journals.size(); ++row) {
     if (Journals[row].Deleted != False) continue;
     index.journals.push_back(Journals[row]);
     index.journals.back().Name = ScrambleText(Journals[row].Name);
@@ -91,7 +91,7 @@ store::Index IndexToSave() {
 
 void LeaveNamesScrambled(store::Index index) {
   auto saved = index.journals.begin();
-  for (std::int32_t row = 1; row <= JournalCount; ++row) {
+  for (std::size_t row = 1; row < Journals.size(); ++row) {
     if (Journals[row].Deleted == False) Journals[row].Name = std::move((saved++)->Name);
   }
 }

@@ -39,7 +39,7 @@ bool IsBlank(const std::string& name) {
 
 void RecoverLostJournals() {
   std::unordered_set<std::string> known;
-  for (std::int32_t row = 1; row <= JournalCount; ++row) known.insert(Journals[row].FileName);
+  for (std::size_t row = 1; row < Journals.size(); ++row) known.insert(Journals[row].FileName);
   for (const std::string& fileName : platform::ListJournalFiles(platform::ProgramFolder())) {
     if (IsBlank(fileName) || known.contains(fileName)) continue;
     Journals.push_back(Recovered(fileName));

@@ -27,7 +27,7 @@ bool IsTakenOnDisk(const std::string& name) {
 // Gathered once, so that a long bookcase is not searched again for each number.
 std::unordered_set<std::string_view> NamesOfRows() {
   std::unordered_set<std::string_view> names;
-  for (std::int32_t row = 1; row <= JournalCount; ++row) names.insert(Journals[row].FileName);
+  for (std::size_t row = 1; row < Journals.size(); ++row) names.insert(Journals[row].FileName);
   return names;
 }
 
@@ -65,7 +65,7 @@ void AddJournalEntry(const std::string& name) {
   entry.PaperColor = 0xFFFFFF;
   entry.FontName = "Verdana";
   entry.FontSize = 16;
-  Journals[JournalCount] = entry;
+  Journals.back() = entry;
   if (JournalAdded) JournalAdded(JournalCount);
 }
 
@@ -89,13 +89,13 @@ void MakeFirstJournal(const std::string& name, const std::string& password) {
 
 void MakeJournal(const std::string& name) {
   ++JournalCount;
-  Journals.resize(JournalCount + 1);
+  Journals.resize(static_cast<std::size_t>(JournalCount) + 1);
   AddJournalEntry(name);
 }
 
 void RemoveJournal(std::int32_t row) {
   if (row < 1 || row > JournalCount) throw Failure(FailureKind::SubscriptOutOfRange);
-  JournalEntry& entry = Journals[row];
+  JournalEntry& entry = Journals.at(static_cast<std::size_t>(row));
   const std::string path = platform::PathOf(entry.FileName);
   if (platform::FileExists(path)) platform::DeleteFile(path);
   entry.Deleted = True;

@@ -7,7 +7,7 @@ namespace store {
 namespace {
 
 // Stays in the processor's cache, and still makes one read a matter of many pages.
-constexpr std::size_t pieceSize = 128 * 1024;
+constexpr std::size_t pieceSize = std::size_t{128} * 1024;
 
 }  // namespace
 

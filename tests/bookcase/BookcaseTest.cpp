@@ -71,8 +71,9 @@ TEST_F(BookcaseTest, OpensTheRowOfTheItemAndComesBackAtItsClosing) {
     List().setCurrentRow(row - 2);
     row == 2 ? Click(Window().cmdOpen) : QTest::keyClick(&List(), Qt::Key_Return);
     EXPECT_EQ(PagesJournal, row);
-    EXPECT_EQ(Book().windowHandle()->title().toStdString(), "Thornquill [" + Journals[row].Name + "]");
-    EXPECT_EQ(Book().face->txtM->BackColor(), Journals[row].PaperColor);
+    const JournalEntry& entry = Journals.at(static_cast<std::size_t>(row));
+    EXPECT_EQ(Book().windowHandle()->title().toStdString(), "Thornquill [" + entry.Name + "]");
+    EXPECT_EQ(Book().face->txtM->BackColor(), entry.PaperColor);
     EXPECT_EQ(Book().windowIcon().cacheKey(), JournalIcon(row == 3 ? 63 : 1).cacheKey());
     EXPECT_FALSE(Window().isVisible());
     Book().close();

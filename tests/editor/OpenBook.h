@@ -35,8 +35,8 @@ class OpenBook : public Windows {
   // The same with a file of these pages, dated from day 40000 on; an empty text is a page never stored.
   std::int32_t AddJournal(const Texts& texts) {
     std::vector<JournalPage> pages;
-    for (const std::string& text : texts) {
-      const std::string plain = text.empty() ? "" : Rtf(text);
+    for (const std::string& page : texts) {
+      const std::string plain = page.empty() ? "" : Rtf(page);
       pages.push_back({std::string(plain.size() * 2, '\0'), 40000.0 + static_cast<double>(pages.size())});
       store::Encipher(plain, PageShift, pages.back().Body.data());
     }

@@ -63,7 +63,7 @@ TEST_F(Passes, TextGoesBackOnlyToTheRowItCameFrom) {
 TEST_F(Passes, TheProgressWindowComesAboveTenThousand) {
   const auto& wait = look::The<look::frmWait>();
   Begin({"cover", "one"});
-  for (const std::size_t length : {10'000, 10'001}) {
+  for (const std::size_t length : {10'000U, 10'001U}) {
     bool shown = false, held = false;
     QObject::connect(&text(), &richtext::RichTextBox::Change, &wait, [&] {
       shown = wait.CountsAsShown();

@@ -86,7 +86,7 @@ std::string Bytes(std::size_t size) {
 }
 
 TEST_F(Sections, CopyFileWritesOverTheStartOfItsTarget) {
-  for (const std::size_t size : {0, 4096, 4097, 12288}) {
+  for (const std::size_t size : {0U, 4096U, 4097U, 12288U}) {
     folder.Write("source", Bytes(size));
     folder.Write("target", std::string(5000, '-'));
     EXPECT_TRUE(CopyFile(folder.PathOf("source"), folder.PathOf("target")));

@@ -1,5 +1,6 @@
 // Adding a picture, from the file dialog to the row, as a person clicks it.
 #include "pictures/AddPicture.h"
+#include "pictures/PictureToAdd.h"
 #include "pictures/frmAddPicture.h"
 #include "tests/pictures/PicturePage.h"
 
@@ -65,6 +66,10 @@ TEST_F(AddPicture, ListsTheFramesAfreshAtEachOpening) {
     dialog.List1->setCurrentRow(1);
     EXPECT_EQ(dialog.List1->currentItem()->text(), u"my.wood");
     EXPECT_EQ(At(dialog, 9, 9), QColor(Qt::red));
+    for (const auto& [frame, color] : {std::pair{0, Qt::blue}, {1, Qt::red}}) {
+      dialog.SetFrame(static_cast<std::int16_t>(frame));
+      EXPECT_EQ(At(dialog, 9, 9), QColor(color)) << frame;
+    }
   });
   folder.Write("frames/Note.gif", "no picture");
   Add(photo, [this](frmAddPicture& dialog) {

@@ -97,7 +97,7 @@ TEST_F(Slots, StacksPhotographFrameAndHandleOfWhatCanBeShown) {
   EXPECT_EQ(shown.pixelColor(0, 40), QColor(Qt::blue)) << "the frame begins one pixel in from the left";
   EXPECT_EQ(shown.pixelColor(1, 40), QColor(Qt::red));
   EXPECT_EQ(shown.pixelColor(50, 40), QColor(Qt::blue)) << "the photograph, through the frame";
-  for (const std::size_t slot : {1, 2, 3}) EXPECT_TRUE(pictures->imgFrame[slot]->isHidden()) << slot;
+  for (const std::size_t slot : {1U, 2U, 3U}) EXPECT_TRUE(pictures->imgFrame[slot]->isHidden()) << slot;
   EXPECT_EQ(Pictures[3].FrameFile, "") << "a frame that is gone is dropped for good";
 }
 

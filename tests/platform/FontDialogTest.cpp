@@ -37,7 +37,7 @@ TEST_F(FontDialogTest, WhatIsLeftAloneComesBackAsItWentIn) {
                               {u"dejavu sans"_qs, 7, false, true, false, true, 0xFFFFFF},
                               {QString(), 16}};
   for (const FontValues& start : cases) {
-    const FontValues back = After(start, [](FontPicker& picker) {
+    const FontValues back = After(start, [](const FontPicker& picker) {
       picker.name->list->setFocus(Qt::TabFocusReason);  // which makes an entry current, but chooses none
       picker.size->list->setFocus(Qt::TabFocusReason);
     });

@@ -46,10 +46,11 @@ TEST(Rounding, HalvesGoToTheEvenNeighbourInEveryMode) {
   EXPECT_EQ(platform::RoundHalfEven(-1e300), -9000000000000000000);
 }
 
-// What the pointer does for real, only a display system can show: see the tour.
+// What the pointer does for real, only a display system can show: see PointerTest.cpp.
 TEST(Pointer, APlaceAbove32767Overflows) {
   cMouse mouse;
   mouse.MoveTo(32767, -32768);
-  for (const auto& [x, y] : {std::pair{32768, 0}, {0, 32768}, {-32769, 0}, {0x7FFFFFFF, 0}})
-    fixture::ExpectFailure(platform::FailureKind::Overflow, "Overflow", [&] { mouse.MoveTo(x, y); });
+  for (const auto& place : {std::pair{32768, 0}, {0, 32768}, {-32769, 0}, {0x7FFFFFFF, 0}})
+    fixture::ExpectFailure(platform::FailureKind::Overflow, "Overflow",
+                           [&] { mouse.MoveTo(place.first, place.second); });
 }

@@ -39,7 +39,7 @@ TEST(PageCipherTest, ShiftsAndWrapsByTwoHundredAndFiftyFive) {
     int plain, shift, coded, back;
   } cases[] = {{'a', 0, 'a', 'a'}, {255, 0, 255, 255}, {0, 255, 255, 0},   {1, 255, 1, 1},
                {255, 255, 255, 0}, {255, 1, 1, 0},     {254, 1, 255, 254}, {200, 56, 1, 200}};
-  for (const std::size_t length : {1, 63, 64, 700})
+  for (const std::size_t length : {1U, 63U, 64U, 700U})
     for (const auto& [plain, shift, coded, back] : cases) {
       const std::string body = Enciphered(std::string(length, static_cast<char>(plain)), shift);
       EXPECT_EQ(EverySecond(body, 0), std::string(length, static_cast<char>(coded))) << plain;

@@ -23,8 +23,8 @@ class IndexTest : public fixture::Desk {
     folder.Write(name, bytes);
     LoadJournalIndex();
     std::string rows;
-    for (std::int32_t row = 1; row <= JournalCount; ++row)
-      rows += Journals.at(row).Name + ":" + Journals[row].FileName + " ";
+    for (std::size_t row = 1; row < Journals.size(); ++row)
+      rows += Journals[row].Name + ":" + Journals[row].FileName + " ";
     return rows;
   }
   void ExpectGivenUp(const std::string& bytes) {

@@ -13,10 +13,10 @@ JournalEntry NewRow(const std::string& name, const std::string& file, std::int32
 }
 
 // A row for each number below `count`, with its number's file.
-void FillRows(int count) {
+void FillRows(std::size_t count) {
   Journals.assign(count + 1, {});
-  JournalCount = count;
-  for (int i = 0; i < count; ++i)
+  JournalCount = static_cast<std::int32_t>(count);
+  for (std::size_t i = 0; i < count; ++i)
     Journals[i + 1].FileName = "j" + std::to_string(100'000 + i).substr(1) + ".tqf";
 }
 
@@ -56,7 +56,7 @@ TEST_F(NewJournalsTest, EachFileIsAdoptedThatNoRowMeansToTheLetter) {
   folder.Block("folder.tqf");
   FillRows(1);
   std::string told;
-  JournalAdded = [&](std::int32_t row) { told += Journals[row].FileName + " "; };
+  JournalAdded = [&](std::int32_t row) { told += Journals.at(static_cast<std::size_t>(row)).FileName + " "; };
   for (int round = 0; round < 2; ++round) RecoverLostJournals();
   EXPECT_EQ(told, "Caf\xE9.TQF J00000.tqf below.tqf holiday.tqf ");
   EXPECT_EQ(Journals.at(2), NewRow("Recovered Lost Journal (Caf\xE9.TQF)", "Caf\xE9.TQF", 5));

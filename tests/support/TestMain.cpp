@@ -5,7 +5,7 @@
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&argc, argv);
-  platform::Application application(argc, argv);
-  application.setQuitOnLastWindowClosed(false);
+  [[maybe_unused]] const platform::Application application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
   return RUN_ALL_TESTS();
 }

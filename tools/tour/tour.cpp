@@ -44,7 +44,7 @@ int Sit(int argc, char** argv, int number, const QString& folder, const QString&
   });
   person.detach();
   Main(instance, {});
-  return application.exec();
+  return QApplication::exec();
 }
 
 bool Play(const QString& self, int number, const QString& folder, const QString& album) {
