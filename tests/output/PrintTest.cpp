@@ -89,7 +89,10 @@ class Printed : public QPaintDevice {
     Sheet(Printed& printer, bool isWhole) : device(printer), whole(isWhole) {}
     QPaintDevice& Device() override { return device; }
     QSizeF Area() const override { return device.inches_ * 72.0; }
-    bool NextSheet() override { return ++device.engine_.sheet, true; }
+    bool NextSheet() override {
+      ++device.engine_.sheet;
+      return true;
+    }
     bool IsWhole() const override { return whole; }
 
     Printed& device;

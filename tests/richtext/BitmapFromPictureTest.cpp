@@ -141,8 +141,7 @@ TEST(BitmapFromPicture, TakesTimeByThePicturesBytesOnly) {
   const std::uint32_t small = 1 | 1 << 16, large = 100 | 100 << 16, whole = 600 | 600 << 16;
   const std::string sample =
       With(Sample("wmf-part").bytes, {{Window, whole}, {Target, whole}, {Source, small}});
-  const std::string head = sample.substr(0, Blit), dot = sample.substr(Blit, 82),
-                    end = sample.substr(Blit + 82);
+  const std::string dot = sample.substr(Blit, 82), end = sample.substr(Blit + 82);
   const std::string ground = With(
       sample, {{Blit, 15033}, {Source, large}, {Target, large}, {Dib + Width, 100}, {Dib + Height, 100}});
   std::string bytes = ground.substr(0, Dib + 40) + std::string(30000, 'x');
