@@ -25,15 +25,16 @@ void WriteHtmlLines(const std::string& path, std::initializer_list<std::string_v
 }
 
 void WriteHtmlHead(const std::string& path, const ExportSettings& settings) {
-  WriteHtmlLines(path,
-                 {
-                     "<HTML>",
-                     "<HEAD>",
-                     "<TITLE>" + settings.title + "</TITLE>",
-                     R"(<meta name="Content-Type" content="text/html; charset=iso-8859-1">)",
-                     std::string(R"(<meta name="GENERATOR" content="Thorn Quill ()") + MakersAddress + ")\">",
-                     "</HEAD>",
-                 });
+  std::string generator = R"(<meta name="GENERATOR" content="Thorn Quill ()";
+  generator.append(MakersAddress).append(")\">");
+  WriteHtmlLines(path, {
+                           "<HTML>",
+                           "<HEAD>",
+                           "<TITLE>" + settings.title + "</TITLE>",
+                           R"(<meta name="Content-Type" content="text/html; charset=iso-8859-1">)",
+                           generator,
+                           "</HEAD>",
+                       });
 }
 
 void WriteHtmlBodyStart(const std::string& path, std::int32_t page, const ExportSettings& settings) {
