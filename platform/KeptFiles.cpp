@@ -1,12 +1,14 @@
 // Files that lie beside the data files: damaged ones that are kept, and those that a killed process left.
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/Failure.h"
 #include "platform/FileNames.h"
 #include "platform/Files.h"
+#include "platform/LeftBehind.h"
 
 namespace platform {
 namespace {
@@ -50,10 +52,20 @@ std::string KeepDamaged(const std::string& path) {
   return kept;
 }
 
+bool Lock(int descriptor) {
+  return flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+void RemoveLeftBehind(const std::string& path) {
+  const int descriptor = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+  if (descriptor < 0 || Lock(descriptor)) unlink(path.c_str());
+  if (descriptor >= 0) close(descriptor);
+}
+
 void RemoveUnfinished(const std::string& folder) {
   for (const std::string& name : NamesIn(folder)) {
     const std::string path = folder + "/" + name;
-    if (name.ends_with(UnfinishedEnding) && IsOrdinaryFile(path)) unlink(path.c_str());
+    if (name.ends_with(UnfinishedEnding) && IsOrdinaryFile(path)) RemoveLeftBehind(path);
   }
 }
 

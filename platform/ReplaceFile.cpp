@@ -12,6 +12,7 @@
 
 #include "platform/Errno.h"
 #include "platform/Files.h"
+#include "platform/LeftBehind.h"
 
 namespace platform {
 namespace {
@@ -61,25 +62,37 @@ class Unfinished {
     if (!succeeded) Fail(errno, path_);
   }
   void TakePermissionsOf(const std::string& target) const;
+  bool HasTheName() const;
 
   const std::string& path_;
   const std::string& target_;
   std::string name_;
   int descriptor_;
+  int lock_ = -1;  // reads, so that it can be held beyond the closing of the other
 };
 
-// One that a killed process left is in nobody's use: there is one program for each folder.
 Unfinished::Unfinished(const std::string& path, const std::string& target)
     : path_(path), target_(target), name_(UnfinishedName(target)) {
-  unlink(name_.c_str());
+  RemoveLeftBehind(name_);
   descriptor_ = open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
   Must(descriptor_ >= 0);
+  lock_ = open(name_.c_str(), O_RDONLY | O_CLOEXEC);
+  Lock(lock_);  // who was quicker removes the file, which HasTheName tells
   TakePermissionsOf(target);
 }
 
 Unfinished::~Unfinished() {
   if (descriptor_ >= 0) close(descriptor_);
-  if (!name_.empty()) unlink(name_.c_str());
+  if (!name_.empty() && HasTheName()) unlink(name_.c_str());
+  if (lock_ >= 0) close(lock_);
+}
+
+// Not where another program took the file for a left one before it was locked.
+bool Unfinished::HasTheName() const {
+  struct stat own {};
+  struct stat entry {};
+  return lock_ < 0 || (fstat(lock_, &own) == 0 && lstat(name_.c_str(), &entry) == 0 &&
+                       own.st_dev == entry.st_dev && own.st_ino == entry.st_ino);
 }
 
 // As far as the file system knows any: a failure changes nothing of what is saved.
@@ -131,6 +144,7 @@ void Unfinished::Write(std::span<const std::string_view> pieces) {
 void Unfinished::TakeTheName() {
   Must(fsync(descriptor_) == 0 || errno == EINVAL || errno == ENOTSUP);
   Must(close(std::exchange(descriptor_, -1)) == 0 || errno == EINTR);
+  if (!HasTheName()) Fail(EBUSY, path_);
   Must(std::rename(name_.c_str(), target_.c_str()) == 0);
   name_.clear();
 }

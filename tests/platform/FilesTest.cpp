@@ -1,3 +1,5 @@
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -83,6 +85,22 @@ TEST(Files, DamagedFilesAreKeptAndNeverWrittenOver) {
   EXPECT_EQ(folder.Read("journal.tqt.damaged"), "first");
   EXPECT_EQ(folder.Read("journal.tqt.1.damaged"), "second");
   EXPECT_EQ(folder.Read("real"), "third") << "a file may be a link to another place";
+}
+
+TEST(Files, WhatAnotherProgramIsWritingIsLeftAlone) {
+  const Folder folder;
+  const std::string name = "journal.tqt", unfinished = name + std::string(platform::UnfinishedEnding);
+  folder.Write(name, "old");
+  folder.Write(unfinished, "half of the oth");
+  const int other = open(folder.PathOf(unfinished).c_str(), O_RDONLY);
+  flock(other, LOCK_EX);
+  platform::RemoveUnfinished(folder.path());
+  ExpectFailure(FailureKind::PathAccess, name, [&] { platform::ReplaceFile(folder.PathOf(name), "new"); });
+  EXPECT_EQ(folder.Read(name) + folder.Read(unfinished), "oldhalf of the oth");
+  close(other);  // as a kill does
+  platform::ReplaceFile(folder.PathOf(name), "new");
+  EXPECT_EQ(folder.Read(name), "new");
+  EXPECT_EQ(folder.Names(), Texts{name});
 }
 
 TEST(Files, OnlyUnfinishedFilesAreRemoved) {
