@@ -37,6 +37,7 @@ QImage WithPalette(const QImage& image, const QHash<QRgb, int>& numbers) {
   QList<QRgb> table(numbers.size());
   for (auto entry = numbers.begin(); entry != numbers.end(); ++entry) table[entry.value()] = entry.key();
   made.setColorTable(table);
+  made.fill(0);  // the bits behind the last pixel of a line go into the file as well
   for (int y = 0; y < image.height(); ++y)
     for (int x = 0; x < image.width(); ++x)
       made.setPixel(x, y, static_cast<uint>(numbers.value(Line(image, y)[x])));

@@ -63,8 +63,7 @@ TEST_F(Names, EveryControlOfEveryWindowAndEveryEntryHasOne) {
   PageCount = 1;
   CurrentJournal = 1;
   QDir().mkpath(QString::fromStdString(folder.PathOf("emoticons")));
-  QImage(8, 8, QImage::Format_RGB32)
-      .save(QString::fromStdString(folder.PathOf("emoticons/1-smile.gif")), "PNG");
+  folder.WritePicture("emoticons/1-smile.gif");
   ExpectNamesIn<frmPass, frmInitJournal, frmBookcase, frmNewJournal, frmJournalProp, frmAbout, frmOptions,
                 frmPassChange, frmJournal, frmIndex, frmCal, frmEmoticons, frmAddPicture, frmExport>();
   HelpWindow help(u"<h2><a name=\"a\">A chapter</a></h2>"_qs);

@@ -1,6 +1,4 @@
 // The pictures of a page and the page: what shows them, and what takes them away.
-#include <QtGui/QImage>
-
 #include "tests/editor/OpenBook.h"
 
 namespace {
@@ -9,7 +7,7 @@ class PagePictures : public fixture::OpenBook {
  protected:
   PagePictures() {
     Pictures.resize(1);
-    EXPECT_TRUE(QImage(4, 4, QImage::Format_RGB32).save(QString::fromStdString(folder.PathOf("photo.png"))));
+    folder.WritePicture("photo.png");
   }
   void Lay(std::int32_t page, const std::string& file = "photo.png") {
     ++PictureCount;

@@ -95,7 +95,7 @@ TEST_F(Export, ElevenPagesCarryTheirBarAtTheTopAndTheFirstAnIndexOfDates) {
 
 TEST_F(Export, OneFileHoldsAllPagesAndTheClosingNone) {
   Begin({"", "\\par\\par", "end\\par\\par"}, "Caf\xE9 #1%");
-  ASSERT_TRUE(QImage(4, 4, QImage::Format_RGB32).save(QString::fromStdString(folder.PathOf("a.png"))));
+  folder.WritePicture("a.png");
   PictureCount = 1;
   Pictures = {{}, {folder.PathOf("a.png"), 0, 0, 0, "", 0, "", 2, "", "j1.tqf", 0, 0, False}};
   Click(dialog().chkShowDates);

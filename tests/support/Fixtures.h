@@ -15,6 +15,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
 
 #include "platform/Dates.h"
 #include "platform/Failure.h"
@@ -50,6 +51,12 @@ class Folder {
     return file.open(QFile::ReadOnly) ? file.readAll().toStdString() : std::string();
   }
   bool Exists(std::string_view name) const { return QFile::exists(QtPath(name)); }
+  // A small white picture.
+  void WritePicture(std::string_view name) const {
+    QImage picture(4, 4, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    EXPECT_TRUE(picture.save(QtPath(name), "PNG")) << name;
+  }
   // Puts a full folder into the file's place, which can be neither written over nor deleted, and takes it
   // away.
   void Block(std::string_view name) const { EXPECT_TRUE(QDir().mkpath(QtPath(name) + u"/full"_qs)) << name; }
