@@ -67,7 +67,8 @@ TEST(Application, AFailureThatNobodyGuardsIsShownStoredAndEndsTheProcessOnce) {
 
 TEST(WayOut, EverySignalAsksAnewButNeverTwiceAtOnce) {
   int asked = 0;
-  std::signal(SIGHUP, SIG_DFL);  // one that is ignored, as under nohup, stays ignored
+  // One that is ignored, as under nohup or in the background of a script, stays ignored.
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP}) std::signal(signal, SIG_DFL);
   platform::ListenForTheWayOut([&] {
     ++asked;
     std::raise(SIGHUP);
