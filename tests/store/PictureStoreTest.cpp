@@ -58,9 +58,9 @@ TEST(PictureStoreTest, TheOlderStoreLiesInSlotsAndHasNoRowMore) {
                              {withFileOf(0, 126), "sound 0,110,"},
                              {withFileOf(0, 127), "damaged 0,110,"},
                              {withFileOf(1, 127), "damaged 0,0,"},
-                             {sample.substr(0, 24 * 128 + 4), "sound 0,110,"},
-                             {sample.substr(0, 24 * 128 + 3), "damaged 0,0,"},
-                             {sample.substr(0, 13 * 128), "damaged 0,"},
+                             {sample.substr(0, 3076), "sound 0,110,"},
+                             {sample.substr(0, 3075), "damaged 0,0,"},
+                             {sample.substr(0, 1664), "damaged 0,"},
                              {"", "damaged 0,"}};
   for (const auto& [bytes, outline] : outlines)
     EXPECT_EQ(Outline(store::DecodeOldPictureStore(bytes)), outline);

@@ -143,7 +143,8 @@ STAND_IN(int, clock_gettime, (clockid_t clock, timespec* time)) {
   *time = {1'800'000'000, 0};
   return 0;
 }
-STAND_IN(int, gettimeofday, (timeval * time, void*)) {
+extern "C" int my_gettimeofday(timeval* time, void*) asm("gettimeofday");
+int my_gettimeofday(timeval* time, void*) {
   *time = {1'800'000'000, 0};
   return 0;
 }
