@@ -8,6 +8,7 @@
 
 #include "richtext/HtmlColors.h"
 #include "richtext/HtmlTables.h"
+#include "richtext/HtmlTag.h"
 
 namespace richtext {
 namespace {
@@ -53,17 +54,15 @@ QString WithPlainColors(QStringView css) {
   return plain + Declaration(css.mid(from));
 }
 
-// " width=80" for a style of "width: 80px" and " width=0", which is its own, for every other one.
-QString SizeAttributes(const QString& css) {
+// A width of 80 for a style of "width: 80px" and one of 0, which is its own, for every other one.
+void AddSizes(HtmlTag& tag, const QString& css) {
   static const QRegularExpression size(
       QStringLiteral("(?:^|;)\\s*(width|height)\\s*:\\s*(?:(\\d{1,5})(?:\\.\\d*)?px)?"),
       QRegularExpression::CaseInsensitiveOption);
-  QString attributes;
   for (auto found = size.globalMatch(css); found.hasNext();) {
     const QRegularExpressionMatch side = found.next();
-    attributes += u' ' + side.captured(1) + QStringLiteral("=\"%1\"").arg(side.captured(2).toInt());
+    tag.attributes.push_back({side.captured(1).toLower(), QString::number(side.captured(2).toInt())});
   }
-  return attributes;
 }
 
 class Rewriting {
@@ -75,7 +74,7 @@ class Rewriting {
   QString Rewrite() {
     for (qsizetype tag = html_.indexOf(u'<'); tag >= 0; tag = html_.indexOf(u'<', at_)) {
       CopyTo(tag);
-      TakeTag();
+      TakeNext();
     }
     CopyTo(html_.size());
     return std::move(made_);
@@ -87,60 +86,35 @@ class Rewriting {
     at_ = end;
   }
 
-  void TakeTag() {
-    const bool closes = html_.mid(at_ + 1).startsWith(u'/');
-    const QString name = NameAt(at_ + (closes ? 2 : 1));
-    if (html_.mid(at_).startsWith(u"<!--")) return CopyTo(EndOf(u"-->"));
-    if (name.isEmpty()) return TakeBracket();
-    const QStringView tag = html_.mid(at_, EndOfTag() - at_);
-    at_ += tag.size();
-    if (IsDisguised(tag, name) || (!tag.endsWith(u"/>") && !Keeps(name, closes))) return;
-    if (!cells_.Take(name, closes, tag.toString())) return FlattenCell(name);
-    made_ += closes ? tag.toString() : WithPlainStyle(tag.toString(), name);
-    if (!closes && name == u"style") TakeSheet();
+  void TakeNext() {
+    const QStringView next = html_.mid(at_ + 1, 1);
+    if (next == u"!" || next == u"?") return LeaveOut();
+    if (!IsTagAt(html_, at_)) return TakeBracket();
+    HtmlTag tag = TakeTag(html_, at_);
+    if (tag.name.isEmpty() || (!tag.endsItself && !Keeps(tag.name, tag.closes))) return;
+    if (!cells_.Take(tag)) return FlattenCell(tag.name);
+    MakeStylesPlain(tag);
+    made_ += Written(tag);
+    if (!tag.closes && tag.name == u"style") TakeSheet();
   }
 
-  // No name follows, but the toolkit would look for one behind blanks and in quotes.
+  // Comments, declarations and instructions, which end elsewhere for the toolkit. An empty comment is left,
+  // behind which it skips blanks.
+  void LeaveOut() {
+    const QStringView mark = html_.mid(at_).startsWith(u"<!--") ? u"-->" : u">";
+    const qsizetype end = html_.indexOf(mark, at_ + 2);
+    at_ = end < 0 ? html_.size() : end + mark.size();
+    made_ += QStringLiteral("<!---->");
+  }
+
+  // The toolkit would look for a name behind blanks and in quotes.
   void TakeBracket() {
-    const QStringView next = html_.mid(at_ + 1, 1);
-    if (next == u"/" || next == u"!" || next == u"?") return CopyTo(at_ + 1);
     made_ += QStringLiteral("&lt;");
     ++at_;
   }
 
-  // The toolkit reads entities in the name of an element.
-  static bool IsDisguised(QStringView tag, QStringView name) {
-    return tag.left(name.size() + (tag.startsWith(u"</") ? 3 : 2)).contains(u'&');
-  }
-
   void FlattenCell(QStringView name) {
     made_ += name == u"tr" ? QStringLiteral("<br>") : QStringLiteral(" ");
-  }
-
-  QString NameAt(qsizetype from) const {
-    qsizetype end = from;
-    while (end < html_.size() && html_[end].isLetterOrNumber()) ++end;
-    return html_.mid(from, end - from).toString().toLower();
-  }
-
-  // Behind the next place of `mark`, or at the end of all.
-  qsizetype EndOf(QStringView mark) const {
-    const qsizetype found = html_.indexOf(mark, at_, Qt::CaseInsensitive);
-    return found < 0 ? html_.size() : found + mark.size();
-  }
-
-  // A bracket between quotes is no end, unless the last quote is missing.
-  qsizetype EndOfTag() const {
-    char16_t quote = 0;
-    for (qsizetype at = at_; at < html_.size(); ++at) {
-      const char16_t unit = html_[at].unicode();
-      if (quote == 0 && unit == u'>') return at + 1;
-      if (quote == unit)
-        quote = 0;
-      else if (quote == 0 && (unit == u'"' || unit == u'\''))
-        quote = unit;
-    }
-    return EndOf(u">");
   }
 
   bool Keeps(const QString& name, bool closes) {
@@ -160,19 +134,11 @@ class Rewriting {
     at_ += length;
   }
 
-  static QString WithPlainStyle(QString tag, const QString& name) {
-    static const QRegularExpression style(
-        QStringLiteral("\\sstyle\\s*=\\s*(?:\"([^\"]*)\"|'([^']*)'|([^\\s\"'>]+))"),
-        QRegularExpression::CaseInsensitiveOption);
-    if (name == u"td" || name == u"th")
-      tag.replace(u"&#"_qs, u"#"_qs);  // it reads a span's digits from these
-    const QRegularExpressionMatch found = style.match(tag);
-    if (!found.hasMatch()) return tag;
-    const int group = found.lastCapturedIndex();
-    const QString css = WithPlainColors(found.capturedView(group));
-    tag.replace(found.capturedStart(group), found.capturedLength(group), css);
-    if (name == u"img") tag.insert(tag.size() - (tag.endsWith(u"/>") ? 2 : 1), SizeAttributes(css));
-    return tag;
+  static void MakeStylesPlain(HtmlTag& tag) {
+    QString css;
+    for (HtmlAttribute& attribute : tag.attributes)
+      if (attribute.key == u"style") css = attribute.value = WithPlainColors(attribute.value);
+    if (tag.name == u"img") AddSizes(tag, css);
   }
 
   const QStringView html_;

@@ -2,37 +2,35 @@
 
 #include <algorithm>
 
-#include <QtCore/QRegularExpression>
-
 namespace richtext {
 namespace {
 
-// Of several ones all together, whichever counts.
-qint64 SpanIn(const QString& tag, const QRegularExpression& span) {
-  qint64 together = 0;
-  for (auto found = span.globalMatch(tag); found.hasNext();) together += found.next().capturedView(1).toInt();
-  return std::max<qint64>(together, 1);
-}
+constexpr int MostSpan = 999'999'999;
 
-QRegularExpression Span(const char* which) {
-  return QRegularExpression(QLatin1String(which) + QLatin1String("span\\s*=\\s*[\"']?[\\s+]*(\\d{1,9})"),
-                            QRegularExpression::CaseInsensitiveOption);
+// Of several ones the last, as for the toolkit; what is no number is 1. The tag is left to say the same.
+qint64 TakeSpan(HtmlTag& tag, QStringView key) {
+  int span = 1;
+  for (HtmlAttribute& attribute : tag.attributes) {
+    if (attribute.key != key) continue;
+    span = std::clamp(attribute.value.toInt(), 1, MostSpan);
+    attribute.value = QString::number(span);
+  }
+  return span;
 }
 
 }  // namespace
 
-bool TableCells::Take(const QString& name, bool closes, const QString& tag) {
-  static const QRegularExpression colSpan = Span("col");
-  static const QRegularExpression rowSpan = Span("row");
-  if (name == u"table") {
-    if (!closes)
+bool TableCells::Take(HtmlTag& tag) {
+  if (tag.name == u"table") {
+    if (!tag.closes)
       Begin();
     else if (open_ > 0)
       --open_;
   }
-  if (closes) return true;
-  if (name == u"tr") return TakeRow();
-  return (name != u"td" && name != u"th") || TakeCell(SpanIn(tag, colSpan), SpanIn(tag, rowSpan));
+  if (tag.closes) return true;
+  if (tag.name == u"tr") return TakeRow();
+  const bool isCell = tag.name == u"td" || tag.name == u"th";
+  return !isCell || TakeCell(TakeSpan(tag, u"colspan"), TakeSpan(tag, u"rowspan"));
 }
 
 void TableCells::Begin() {

@@ -3,7 +3,7 @@
 
 #include <map>
 
-#include <QtCore/QString>
+#include "richtext/HtmlTag.h"
 
 namespace richtext {
 
@@ -13,9 +13,9 @@ class TableCells {
  public:
   explicit TableCells(qsizetype most) : left_(most) {}
 
-  // Takes the next tag; `name` is in small letters. False where a row or a cell is one too many: it is then
-  // not counted, and must not reach the toolkit.
-  bool Take(const QString& name, bool closes, const QString& tag);
+  // Takes the next tag, and makes its spans the plain numbers that it counts. False where a row or a cell is
+  // one too many: it is then not counted, and must not reach the toolkit.
+  bool Take(HtmlTag& tag);
 
  private:
   void Begin();

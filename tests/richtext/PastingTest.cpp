@@ -86,6 +86,8 @@ TEST_F(PastingTest, HtmlBecomesWhatAPageKeeps) {
        "(s)a(u)b(s)c() (b u)d"},
       {"<a name=x>a</a><a href=y>b</a>", "a(u #0000ee -> y)b"},
       {"a < b", "a < b"},
+      {"<3 </> <a href='x?a&amp;b=\"c\"'>d</a>", "<3 </> (u #0000ee -> x?a&b=\"c\")d"},
+      {"<!DOCTYPE html>\n<html>\n<body>\n<!--StartFragment--><p>a</p><!--EndFragment-->\n</body>", "a"},
       {"<h1>big</h1>", "(b 48)big"},
       {"<p style='font-size:20px'>px</p>", "(30)px"},
       {"<p style='line-height:99999999999%; font-size:99999999999pt'>x</p>", "[lines32767](3276)x"},
@@ -172,12 +174,29 @@ TEST_F(PastingTest, DeepMarkupIsReadQuickly) {
 // The toolkit fills up every row to the longest one.
 TEST_F(PastingTest, TablesHaveNoMoreCellsThanTheirMarkupIsWorth) {
   const auto table = [](const char* start, const char* row, int rows) {
-    return Dump(Read(QLatin1String(start) + QString::fromLatin1(row).repeated(rows)));
+    return Dump(Read(QString::fromUtf8(start) + QString::fromLatin1(row).repeated(rows)));
   };
   EXPECT_EQ(table("<table><tr><td colspan=2>a<tr><td rowspan=2>b<td>c<tr><td>d</table>", "", 0), "a|b>c|d");
-  for (const char* start : {"<table><tr><td colspan=20000>", "<td colspan=' +20000'>",
-                            "<TD COLSPAN=\"&#50;0000\">", "< td colspan=20000>", "<t&#100; colspan=20000>",
-                            "<td><table><tr><td colspan=20000></table>", "<style>p{}<td colspan=20000>"})
+  for (const char* start : {"<table><tr><td colspan=20000>",
+                            "<td colspan=' +20000'>",
+                            "<TD COLSPAN=\"&#50;0000\">",
+                            "< td colspan=20000>",
+                            "<t&#100; colspan=20000>",
+                            "<td><table><tr><td colspan=20000></table>",
+                            "<style>p{}<td colspan=20000>",
+                            "<td \"colspan\"=9000>",
+                            "<td 'colspan'=9000>",
+                            "<td colspan\u00A0=9000>",
+                            "<td colspan\u3000=9000>",
+                            "<td colspan='\u00A09000'>",
+                            "<td colspan='&nbsp;9000'>",
+                            "<p a=it's><td colspan=9000 b='>",
+                            "<p a=b\"><td colspan=9000 b=\">",
+                            "</p\"><td colspan=9000 b=\">",
+                            "<td colspan=9000>a<!</table><!<table>",
+                            "<td colspan=9000>a<?</table><?<table>",
+                            "<!a<!-- ><td colspan=9000>-->",
+                            "<td colspan=9000>a<!--></table>--><!--><table>-->"})
     EXPECT_LT(table(start, "<tr><td>x", 400).size(), 50'000u) << start;
   const std::string sheet = table("<table>", "<tr><td>a</td><td>b</td><td>c</td></tr>", 5000);
   EXPECT_EQ(std::count(sheet.begin(), sheet.end(), '>'), 10'000);
