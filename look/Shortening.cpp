@@ -1,6 +1,7 @@
 #include "look/Shortening.h"
 
 #include <QtGui/QHelpEvent>
+#include <QtGui/QPainter>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
