@@ -161,9 +161,10 @@ void StoreCurrentPage() {
 }
 
 void StoreOpenPage() {
-  if (PagesJournal == 0 || TextPage < 0 || !Face().window()->isVisible()) return;
-  const std::int32_t shown = std::exchange(CurrentPage, TextPage);
+  if (PagesJournal == 0 || !Face().window()->isVisible()) return;
   if (PageDirty == False && PagesUnsaved) platform::Guarded(EncryptionError, SaveOpenJournal);
+  if (TextPage < 0) return;
+  const std::int32_t shown = std::exchange(CurrentPage, TextPage);
   StoreCurrentPage();
   CurrentPage = shown;
 }

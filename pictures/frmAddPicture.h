@@ -42,7 +42,7 @@ class frmAddPicture : public look::Form {
   // The full path of a frame file, 1 for the first.
   std::string FrameFile(std::int32_t index) const;
 
-  // StartAddPicture.
+  // What StartAddPicture tells, which is the way here from outside.
   void InsertPicture();
 
   // Sets AddWidth and AddHeight for the picture in picTemp at AddScale, and the preview. Throws

@@ -168,7 +168,7 @@ bool CanWriteTo(const std::string& folder) {
   if (nameless >= 0) return close(nameless) == 0;
   if (errno != EOPNOTSUPP && errno != EISDIR) return false;
   const std::string trial = folder + "/trial" + std::string(UnfinishedEnding);
-  const int descriptor = open(trial.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+  const int descriptor = open(trial.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
   if (descriptor < 0) return false;
   close(descriptor);
   return unlink(trial.c_str()) == 0;

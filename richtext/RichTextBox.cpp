@@ -67,8 +67,10 @@ void RichTextBox::Fill(std::string_view rtf) {
   // then twice more. So the bar of the page before stays until it is known that this one needs none.
   const bool hasBar = verticalScrollBar()->maximum() > verticalScrollBar()->minimum();
   if (hasBar || page.text.size() > LongPage) setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  FillDocument(page, *document());
-  setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  {
+    const auto asEver = qScopeGuard([this] { setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); });
+    FillDocument(page, *document());
+  }
   setTextCursor(QTextCursor(document()));
   LeaveLink();
   horizontalScrollBar()->setValue(0);
