@@ -1,0 +1,169 @@
+"""What lies in a diary's folder, and how the real program is played in one: for scripts/faults."""
+import collections, concurrent.futures, os, pathlib, re, shutil, struct, subprocess, tempfile, time
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+PROGRAM = os.environ.get("FAULTS_PROGRAM", ROOT / "build/release/thornquill")
+LIBRARY = os.environ.get("FAULTS_LIBRARY", ROOT / "build/debug/tools/libfaults.so")
+DATA = re.compile(r"(journal\.tqt|journal\.ini|tqpics\.bin|jpics\.bin|j\d{5}\.tqf)((\.\d)?\.damaged)?")
+UNFINISHED = ".thornquill-unfinished"
+HOME = tempfile.TemporaryDirectory(prefix="faults-home-")
+shutil.copy(ROOT / "assets/frames/Film strip.gif", f"{HOME.name}/photo.gif")
+
+
+def split(data, form):
+    """The fields of the form, of which s is a counted text, and the bytes behind them."""
+    fields = []
+    for field in form:
+        kind, size = ("<" + field, struct.calcsize("<" + field)) if field != "s" else ("<H", 2)
+        fields.append(struct.unpack(kind, data[:size])[0])
+        data = data[size:]
+        if field == "s":
+            fields[-1], data = data[:fields[-1]], data[fields[-1]:]
+    return fields, data
+
+def plain(scrambled): return bytes(byte - 4 for byte in scrambled[1::2]).decode("cp1252")
+def words(text): return re.findall(r"\bw\d+\b", text)
+
+def read(name, data, shift):
+    """What a person would find in a data file; an exception, if it is not whole."""
+    rows = []
+    if name == "journal.tqt":
+        assert data.startswith(b"ZANDOLK JOURNAL INDEX FILE V00003")
+        count, length = struct.unpack("<ii", data[33:41])
+        password, (_, data) = plain(data[41:41 + length]), split(data[41 + length:], "i")
+        for _ in range(count):
+            row, data = split(data, "ssishisIihhhhI")
+            rows.append((plain(row[0]), row[3].decode()))
+        rows = password, rows
+    elif name == "tqpics.bin":
+        (count,), data = split(data, "i")
+        for _ in range(count):
+            row, data = split(data, "siiisisissiih")
+            rows += [row[10:]] * any(row)
+    elif name.endswith(".tqf"):
+        assert data.startswith(b"ZANDOLK JOURNAL FILE V00001")
+        (count,), data = split(data[539:], "i")
+        for _ in range(count + 1):
+            (body, _), data = split(data, "sd")
+            rows.append(words(bytes((byte - shift) % 255 for byte in body[0::2]).decode("latin-1")))
+    else:
+        return data
+    assert not data, "longer than it should be"
+    return rows
+
+def read_all(files):
+    return {name: read(name, data, ord("7")) for name, data in files.items()}
+
+
+# The scripts; tools/faults/Player.cpp tells what a step does.
+
+def unlocked(password): return [f"type txtPass {password}", "click cmdOK"]
+def opened(row): return [f"pick ListView1 {row}", "click cmdOpen"]
+def typed(word): return [f"type txtM {word} "]
+
+BEGIN = ["type txtPass Home", "type txtNewPass Rosebud7", "type txtNewPass2 Rosebud7", "click cmdOK"]
+CLOSE, LEAVE = ["close frmJournal"], ["leave cmdClose"]
+ADD_PICTURE = ["click btnInsertPicture", "type fileNameEdit photo.gif", "enter fileNameEdit", "click cmdOK"]
+DRAG = ["click imgPhoto(0)", "drag imgController(0) 30 60"]
+NEW_JOURNAL = ["click cmdAdd", "type txtPass Second", "click cmdOK"] + opened(1) + typed("w5")
+PASSWORD = ["click cmdResetPass", *unlocked("Rosebud7")[:1], "type txtNewPass Quill7", "type txtNewPass2 Quill7", "click cmdOK"]
+OPTIONS = ["click cmdOptions", "click optColor(1)", *PASSWORD, "click cmdClose", "click cmdOptions", "click cmdClose"]
+FIRST = BEGIN + opened(0) + typed("w1") + ["click btnNewPage"] + typed("w2") + ADD_PICTURE + DRAG + CLOSE + LEAVE
+SITTING = (unlocked("Rosebud7") + opened(0) + typed("w3") + ["click btnFirstPage"] + typed("w4") + ["click btnLastPage"] + DRAG
+           + CLOSE + NEW_JOURNAL + CLOSE + OPTIONS + LEAVE)
+REMOVAL = unlocked("Quill7") + ["pick ListView1 1", "click cmdDelete"] + opened(0) + typed("w6") + ["end nothing"]
+MENDING = unlocked("Rosebud7") + opened(0) + typed("w7") + ["click btnFirstPage"] + ADD_PICTURE + CLOSE + LEAVE
+EXPORT = unlocked("Quill7") + ["pick ListView1 0", *["click cmdExport"] * 3, "close frmExport"] + LEAVE
+
+
+def furnish(folder, files):
+    for name in ("frames", "emoticons"): (folder / name).symlink_to(ROOT / "assets" / name)
+    try: os.link(f"{HOME.name}/thornquill", folder / "thornquill")  # a copy could not be started while another thread forks
+    except OSError: shutil.copy(PROGRAM, folder / "thornquill")  # on the small disk
+    for name, data in files.items(): (folder / name).write_bytes(data)
+
+def contents(folder):
+    return {path.name: path.read_bytes() for path in folder.iterdir() if path.is_file() and path.suffix}
+
+def play(folder, script, seconds=None, before=(), **faults):
+    """Plays the script in the folder, with a kill after so many seconds; how the process ended, and its log: (what, text)."""
+    with tempfile.TemporaryDirectory(prefix="faults-") as desk:
+        pathlib.Path(desk, "script").write_text("\n".join(script))
+        pathlib.Path(desk, "log").touch()
+        faults |= {"LOG": f"{desk}/log", "SCRIPT": f"{desk}/script", "FOLDER": folder}
+        variables = {f"FAULTS_{name}": str(value) for name, value in faults.items()}
+        variables |= {"QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8", "LD_PRELOAD": str(LIBRARY), "HOME": HOME.name}
+        command, limit = [*before, folder / "thornquill"], seconds or 60
+        try: code = subprocess.run(command, env=os.environ | variables, stderr=subprocess.DEVNULL, timeout=limit).returncode
+        except subprocess.TimeoutExpired: code = -9 if seconds else "no end"
+        return code, [tuple(line.split(" ", 1)) for line in pathlib.Path(desk, "log").read_text().splitlines()]
+
+def texts(log, what): return [text for kind, text in log if kind == what]
+
+
+class Scenario:
+    """What is in the folder, what is played in it, and what comes of it undisturbed: its result, and all versions of each file."""
+    def __init__(self, name, files, script, **disk):
+        self.name, self.files, self.script, self.disk = name, files, script, disk
+        begun = time.monotonic()
+        code, self.log, self.result, versions = self.play()
+        self.seconds = time.monotonic() - begun
+        assert code == 0, (name, self.log)
+        self.calls = [text.split(" ", 1) for text in texts(self.log, "call")]
+        self.versions = collections.defaultdict(lambda: [None], {file: [data] for file, data in files.items()})
+        deleted = [(pathlib.Path(path).name, None) for call, path in self.calls if call == "unlink"]
+        for file, data in versions + deleted: self.versions[file].append(data)
+
+    def play(self, **faults):
+        with tempfile.TemporaryDirectory(prefix="faults-") as top:
+            folder, kept = pathlib.Path(top, "diary"), pathlib.Path(top, "versions")
+            folder.mkdir(), kept.mkdir()
+            furnish(folder, self.files)
+            code, log = play(folder, self.script, VERSIONS=kept, **faults, **self.disk)
+            versions = [(path.name.split("@")[0], path.read_bytes()) for path in kept.iterdir()]
+            return code, log, contents(folder), versions
+
+def scenarios():
+    sample = lambda name: {path.name: path.read_bytes() for path in ROOT.glob(f"tests/samples/{name}/j*.*")}
+    yield (first := Scenario("first run", {}, FIRST))
+    yield (grown := Scenario("a sitting", first.result, SITTING))
+    assert read_all(grown.result)["j00000.tqf"] == [["w4"], ["w1"], ["w2", "w3"]], "the undisturbed run stored something else"
+    yield Scenario("a journal removed", grown.result, REMOVAL)
+    cut = {name: data + b"?" if name == "journal.tqt" else data[:len(data) * 2 // 3] for name, data in first.result.items()}
+    yield Scenario("damaged files", cut, MENDING)
+    yield Scenario("damaged files, simple disk", cut, MENDING, PLAIN=1)
+    yield Scenario("older pictures", sample("4-older-pictures"), MENDING)
+    large = sample("1-first-diary")
+    row = struct.pack("<H200sd", 200, b"\xff " * 100, 40000)
+    yield Scenario("700 pages", large | {"j00000.tqf": large["j00000.tqf"][:539] + struct.pack("<i", 699) + row * 700}, MENDING)
+    yield Scenario("export", grown.result, EXPORT)
+
+def next_start(folder):
+    """What is wrong at the next start, which must show what the files hold and clear away what is no file."""
+    if not (folder / "journal.tqt").exists(): play(folder, BEGIN + LEAVE)
+    files = contents(folder)
+    password, rows = read("journal.tqt", files["journal.tqt"].removesuffix(b"?"), 0)
+    known = {file for _, file in rows}
+    rows += [(f"Recovered Lost Journal ({file})", file) for file in sorted(files) if file.endswith(".tqf") and file not in known]
+    script, expected = [*unlocked(password), "see ListView1"], ["|".join(name for name, _ in rows)]
+    for row, (_, file) in enumerate(rows):
+        try: pages = read(file, files[file], ord("7"))[:3] if file in files else [[]]
+        except Exception: pages = []
+        turned = [step for _ in pages for step in ("see txtM", "click btnNext")][:-1]
+        script += opened(row) + ["click btnFirstPage", *turned, *CLOSE]
+        expected += pages
+    code, log = play(folder, script + LEAVE)
+    seen = texts(log, "see")[:1] + [words(text) for text in texts(log, "see")[1:]]
+    return ([f"the next start ended with {code}, {log[-1:]}"] * (code != 0)
+            + [f"{seen} is shown, not {expected}"] * (seen != expected)
+            + [f"{name} is left for good" for name in contents(folder) if not DATA.fullmatch(name)])
+
+def run_all(check, plans):
+    """The checks' answers; what is wrong is printed as it comes."""
+    answers, pool = [], concurrent.futures.ThreadPoolExecutor(os.cpu_count())
+    try:
+        for (scenario, faults), answer in zip(plans, pool.map(lambda plan: check(*plan), plans)):
+            answers.append(answer)
+            for wrong in answer[-1]: print(f"{scenario.name}, {faults}: {wrong}", flush=True)
+    finally: pool.shutdown(cancel_futures=True)  # the folders of those that still run go with them
+    return answers, sum(len(answer[-1]) for answer in answers)
