@@ -1,6 +1,7 @@
 // The thread that keeps one small file up to date, so that the window thread never waits for the disk.
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <cstdint>
 #include <functional>
@@ -23,17 +24,18 @@ class LogWriter {
   // often it comes back before a write succeeds. Not called any more once the writer is gone.
   using Told = std::function<void(std::optional<std::string> failure)>;
 
-  // `path` is a file of the program's folder. Nothing is touched before the first Put. Throws
-  // std::system_error when the system has no thread left.
-  LogWriter(std::string path, Told told);
+  // `path` is a file of the program's folder. `retryAfter` is how long what failed waits until it is tried
+  // again by itself. Nothing is touched before the first Put. Throws std::system_error when the system has no
+  // thread left.
+  LogWriter(std::string path, Told told, std::chrono::milliseconds retryAfter = std::chrono::seconds(5));
   // Ends when what was put last was written or has failed; one failure more is not told.
   ~LogWriter();
   LogWriter(const LogWriter&) = delete;
   LogWriter& operator=(const LogWriter&) = delete;
 
   // The file is to hold these bytes, or to be gone when there are none. Returns at once; what was put before
-  // and is not being written yet is never written. What fails is tried again with the next Put, and every
-  // RetryAfter by itself.
+  // and is not being written yet is never written. What fails is tried again with the next Put, and by
+  // itself after a while.
   void Put(std::string bytes);
 
   // Waits until what was put last is on the disk, or a trial of it has failed; what has failed before is
@@ -45,13 +47,14 @@ class LogWriter {
   bool IsUpToDate() const;
 
  private:
+  // On the writer's own thread:
   void Run();
-  bool HasWork() const { return isEnding_ || isAsked_; }
   void Try(std::unique_lock<std::mutex>& lock);
   void Tell(const std::optional<std::string>& failure);
 
   const std::string path_;
   const Told told_;
+  const std::chrono::milliseconds retryAfter_;
   QObject window_;  // what is queued to it goes with it
 
   mutable std::mutex mutex_;  // guards what follows

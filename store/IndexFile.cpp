@@ -25,16 +25,6 @@ bool IsNoise(std::string_view scrambled) {
   return faults > mostFaults;
 }
 
-// Whether the name leads out of the program's folder, or to a file there that is something else.
-bool IsAbsurdFileName(std::string_view name) {
-  constexpr std::array<std::string_view, 9> taken = {
-      ".",         "..",         "journal.tqt",    "journal.ini", "tqpics.bin",
-      "jpics.bin", "thornquill", "THORNQUILL.HLP", "LICENSE"};
-  return name.size() > longestFileName ||
-         name.find_first_of(std::string_view("/\\\0", 3)) != std::string_view::npos ||
-         name.ends_with(".damaged") || std::find(taken.begin(), taken.end(), name) != taken.end();
-}
-
 // A name of an odd length as long as the length field allows grows beyond it when it is scrambled again.
 bool IsAbsurd(const JournalEntry& entry) {
   return IsAbsurdFileName(entry.FileName) || entry.Name.size() == LongestCountedString || IsNoise(entry.Name);
@@ -114,6 +104,15 @@ void TakeRecords(Reader& reader, std::int32_t count, DecodedIndex& decoded) {
 }
 
 }  // namespace
+
+bool IsAbsurdFileName(std::string_view name) {
+  constexpr std::array<std::string_view, 10> taken = {
+      ".",          "..",        "journal.tqt", "journal.tql",    "journal.ini",
+      "tqpics.bin", "jpics.bin", "thornquill",  "THORNQUILL.HLP", "LICENSE"};
+  return name.size() > longestFileName ||
+         name.find_first_of(std::string_view("/\\\0", 3)) != std::string_view::npos ||
+         name.ends_with(".damaged") || std::find(taken.begin(), taken.end(), name) != taken.end();
+}
 
 DecodedIndex DecodeIndex(std::string_view bytes) {
   DecodedIndex decoded;

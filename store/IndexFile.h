@@ -28,8 +28,12 @@ struct DecodedIndex {
   std::string problem;  // the plain name of what could not be read; empty when sound
 };
 
-// The first 33 bytes are not looked at. A record that cannot be is left out: a FileName with a path separator
-// or a NUL, ".", "..", the name of another file of the program, or one longer than a folder can hold; a Name
+// Whether no journal's file can have the name: it leads out of the program's folder, to a file there that is
+// something else, or to none that a folder can hold. It has a path separator or a NUL, ends in ".damaged", is
+// ".", "..", or the name of another file of the program, or has more than 255 bytes.
+bool IsAbsurdFileName(std::string_view name);
+
+// The first 33 bytes are not looked at. A record that cannot be is left out: an absurd FileName, or a Name
 // that is noise.
 DecodedIndex DecodeIndex(std::string_view bytes);
 

@@ -55,8 +55,8 @@ struct UnstoredLog {
   bool operator==(const UnstoredLog&) const = default;
 };
 
-// Throws platform::Failure (InvalidArgument) when a part is too long for its 32-bit length. Journals without
-// pages are left out.
+// Throws platform::Failure (InvalidArgument) when a part is too long for its 32-bit length, or a FileName for
+// its 16 bits. Journals without pages are left out.
 std::string EncodeLog(const UnstoredLog& log);
 
 enum class LogHealth {
@@ -72,7 +72,7 @@ struct DecodedLog {
 };
 
 // A page of an absurd FileName (store/IndexFile.h) or a negative row counts as damaged. Of a part that is
-// there twice, the later one counts.
+// there twice, the later one counts. Journals come in the order of their names, pages in that of their rows.
 DecodedLog DecodeLog(std::string_view bytes);
 
 }  // namespace store

@@ -81,8 +81,9 @@ TEST_F(IndexTest, GivesUpOnAHeaderThatIsCutOrCannotBe) {
 
 TEST_F(IndexTest, ReadsTheWholeRecordsAroundAbsurdOnesAndKeepsTheDamagedFileOnce) {
   std::vector<JournalEntry> journals = {Entry("a.tqf")};
-  for (const std::string& absurd : {std::string("../a"), std::string("a\\b"), std::string("a\0b", 3),
-                                    std::string(".."), name, std::string(256, 'a')})
+  for (const std::string& absurd :
+       {std::string("../a"), std::string("a\\b"), std::string("a\0b", 3), std::string(".."), name,
+        std::string("journal.tql"), std::string(256, 'a')})
     journals.push_back(Entry(absurd));
   for (const std::string& noise : {std::string(65535, 'e'), std::string(100, '\1')})
     journals.push_back(Entry("b.tqf", noise));
