@@ -8,6 +8,7 @@
 #include "platform/Failure.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
+#include "platform/WayOut.h"
 
 namespace {
 
@@ -19,14 +20,15 @@ void Tell(const platform::Failure& failure) {
                          platform::BoxIcon::None, "CopyFile"});
 }
 
-// Carries out the one statement until it has not failed.
+// Carries out the one statement until it has not failed. Whoever wants to leave the program is not held up.
 template <class Statement>
 void Insist(Statement&& statement) {
   for (;;) {
     try {
       return statement();
     } catch (const platform::Failure& failure) {
-      Tell(failure);
+      if (!platform::IsLeavingWanted()) Tell(failure);
+      if (platform::IsLeavingWanted()) throw;
     }
   }
 }

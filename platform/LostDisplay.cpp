@@ -1,37 +1,136 @@
-// The toolkit tells of a broken connection to the display in a warning and calls exit() with its next
-// statement. There is no other word of it, and behind exit() the toolkit is half gone; so the warning is
-// listened for.
+// The end of a program whose display has gone.
+//
+// The toolkit tells of a broken connection to the display in a warning and ends the process with its next
+// statement; there is no other word of it. So the warning is listened for, and whoever gives it is not let go
+// before everything is saved. X11 warns on the window thread. Wayland warns there and on a thread of the
+// toolkit's own, within a millisecond of each other and in any order, and either would end the process in the
+// middle of the other one's save.
+//
+// So the save is a turn that is taken once. The window thread takes it when it gives the warning itself, or
+// when it hears from the thread that did; that one waits. Only when the window thread has not come within
+// its time (it may hang in a call to the display that no longer answers) the waiting thread takes the turn;
+// then it is the window thread that waits, if it still comes.
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstdlib>
 #include <functional>
+#include <list>
+#include <mutex>
+#include <thread>
 #include <utility>
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QMetaObject>
 #include <QtCore/QString>
+#include <QtCore/QThread>
 
 #include "platform/WayOut.h"
 
 namespace platform {
 namespace {
 
-std::function<void()>& Save() {
-  static std::function<void()> save;
-  return save;
+class SavingTurn {
+ public:
+  // True for the one thread that is to save; for good.
+  bool Take() {
+    const std::lock_guard lock(mutex_);
+    return !std::exchange(taken_, true);
+  }
+  void End() {
+    {
+      const std::lock_guard lock(mutex_);
+      ended_ = true;
+    }
+    changed_.notify_all();
+  }
+  // Waits until the save is through, at most so long for its beginning and as long again for its end. True
+  // when it has at least begun.
+  bool Wait(std::chrono::milliseconds patience) {
+    std::unique_lock lock(mutex_);
+    const auto begun = std::chrono::steady_clock::now();
+    changed_.wait_until(lock, begun + patience, [this] { return ended_; });
+    if (taken_) changed_.wait_until(lock, begun + 2 * patience, [this] { return ended_; });
+    return taken_;
+  }
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  bool taken_ = false;
+  bool ended_ = false;
+};
+
+struct Listener {
+  Listener(std::function<void()> toSave, std::chrono::milliseconds toWait)
+      : save(std::move(toSave)), patience(toWait) {}
+
+  const std::function<void()> save;
+  const std::chrono::milliseconds patience;
+  std::atomic<std::thread::id> saver;
+  SavingTurn turn;
+};
+
+// Never destroyed: a thread of the toolkit may ask for the last one at the very end.
+std::list<Listener>& Listeners() {
+  static auto* const listeners = new std::list<Listener>;
+  return *listeners;
 }
 
-QtMessageHandler& HandlerBefore() {
-  static QtMessageHandler handler = nullptr;
-  return handler;
+std::atomic<Listener*> theListener = nullptr;
+QtMessageHandler handlerBefore = nullptr;
+
+void Save(Listener& listener) {
+  if (!listener.turn.Take()) return;
+  listener.saver = std::this_thread::get_id();
+  listener.save();
+  listener.turn.End();
+}
+
+bool IsWindowThread() {
+  return qApp && QThread::currentThread() == qApp->thread();
+}
+
+// The warning may come again out of the save itself: nobody can wait for oneself.
+bool IsSaving(const Listener& listener) {
+  return listener.saver == std::this_thread::get_id();
+}
+
+void SaveOnTheWindowThread(Listener& listener) {
+  Save(listener);
+  if (!IsSaving(listener)) listener.turn.Wait(listener.patience);
+}
+
+void WaitForTheWindowThread(Listener& listener) {
+  QMetaObject::invokeMethod(
+      qApp, [&listener] { Save(listener); }, Qt::QueuedConnection);
+  if (!listener.turn.Wait(listener.patience)) Save(listener);
+}
+
+void AtTheLossOfTheDisplay() {
+  Listener* listener = theListener;
+  if (!listener || !qApp) return;
+  IsWindowThread() ? SaveOnTheWindowThread(*listener) : WaitForTheWindowThread(*listener);
+}
+
+bool TellsOfTheLoss(const QString& text) {
+  return text.contains(QLatin1String("connection broke")) ||
+         text.contains(QLatin1String("connection experienced a fatal error"));
 }
 
 void Listen(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-  if (HandlerBefore()) HandlerBefore()(type, context, text);
-  if (!text.contains(QLatin1String("connection broke"))) return;
-  if (const auto save = std::exchange(Save(), nullptr)) save();
+  if (handlerBefore) handlerBefore(type, context, text);
+  if (TellsOfTheLoss(text)) AtTheLossOfTheDisplay();
 }
 
 }  // namespace
 
-void ListenForTheLostDisplay(std::function<void()> save) {
-  const bool first = !std::exchange(Save(), std::move(save));
-  if (first) HandlerBefore() = qInstallMessageHandler(&Listen);
+void ListenForTheLostDisplay(std::function<void()> save, std::chrono::milliseconds patience) {
+  const bool first = theListener == nullptr;
+  theListener = &Listeners().emplace_back(std::move(save), patience);
+  if (!first) return;
+  handlerBefore = qInstallMessageHandler(&Listen);
+  std::atexit(&AtTheLossOfTheDisplay);  // a library of the display's that gives no warning calls exit()
 }
 
 }  // namespace platform

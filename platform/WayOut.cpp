@@ -48,17 +48,20 @@ std::function<void()>& Leave() {
   return leave;
 }
 
-// A request that comes while a box of the way out is still up adds nothing to it.
+bool leavingIsWanted = false;
+
+// A request that comes while another one is being carried out adds nothing to it.
 void LeaveOnce() {
   static bool leaving = false;
+  leavingIsWanted = true;
   if (std::exchange(leaving, true)) return;
   const auto over = qScopeGuard([] { leaving = false; });
   const std::function<void()> leave = Leave();
   if (leave) leave();
 }
 
-// The desktop waits for this. Whoever comes back from the way out could not store everything, so the session
-// is asked to stay.
+// The desktop waits for this. Whoever comes back from the way out is in the middle of a long pass, behind
+// which the program ends; so the session is asked to stay until then.
 void AtTheEndOfTheSession(QSessionManager& manager) {
   const bool mayAsk = manager.allowsInteraction();
   LeaveOnce();
@@ -77,7 +80,12 @@ void ListenToSignals() {
 
 }  // namespace
 
+bool IsLeavingWanted() {
+  return leavingIsWanted;
+}
+
 void ListenForTheWayOut(std::function<void()> leave) {
+  leavingIsWanted = false;
   const bool first = !std::exchange(Leave(), std::move(leave));
   if (!first) return;
   ListenToSignals();

@@ -1,6 +1,7 @@
 // The ways out that do not start in a window: SIGTERM, SIGINT, SIGHUP and the end of the desktop session.
 #pragma once
 
+#include <chrono>
 #include <functional>
 
 namespace platform {
@@ -10,8 +11,15 @@ namespace platform {
 // QApplication.
 void ListenForTheWayOut(std::function<void()> leave);
 
-// Calls `save` once when the display is gone, as at the end of a desktop session that has no manager. No
-// window can be shown any more and nobody can be asked; the process ends behind it.
-void ListenForTheLostDisplay(std::function<void()> save);
+// Whether such a request waits to be carried out: whoever insists on something is to give in.
+bool IsLeavingWanted();
+
+// Calls `save` once when the display is gone, as at the end of a desktop session that has no manager, and
+// lets nothing of the toolkit end the process before it is through. No window can be shown any more and
+// nobody can be asked; `save` must end the process itself, and call nothing that talks to the display. It
+// runs on the window thread; on another one only if that does not come within `patience`, which is also how
+// long a save that has begun is waited for.
+void ListenForTheLostDisplay(std::function<void()> save,
+                             std::chrono::milliseconds patience = std::chrono::seconds(20));
 
 }  // namespace platform

@@ -1,8 +1,10 @@
 #include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
 
 #include "output/CopyFile.h"
 #include "output/HtmlSections.h"
 #include "output/ReplaceText.h"
+#include "platform/WayOut.h"
 #include "platform/WebText.h"
 #include "tests/support/Fixtures.h"
 
@@ -109,6 +111,24 @@ TEST_F(Sections, CopyFileAsksUntilTheCauseIsGone) {
   EXPECT_TRUE(CopyFile(folder.PathOf("source"), target));
   EXPECT_EQ(asked, fixture::Texts(3, "CopyFile: Error: 61. The disk is full: " + target));
   EXPECT_EQ(folder.Read("target"), Bytes(10000));
+}
+
+TEST_F(Sections, CopyFileGivesInToAWishToLeave) {
+  folder.Write("source", Bytes(10000));
+  const fixture::SmallDisk disk(5000);
+  std::signal(SIGTERM, SIG_DFL);
+  platform::ListenForTheWayOut([] {});
+  int asked = 0;
+  platform::SetMessageAnswerer([&](const platform::Message&) {
+    if (++asked == 3) {
+      std::raise(SIGTERM);
+      EXPECT_TRUE(QTest::qWaitFor([] { return platform::IsLeavingWanted(); }));
+    }
+    return platform::Answer::Ok;
+  });
+  EXPECT_THROW(CopyFile(folder.PathOf("source"), folder.PathOf("target")), platform::Failure);
+  EXPECT_EQ(asked, 3);
+  platform::ListenForTheWayOut({});
 }
 
 TEST(ReplaceText, EmptiesWhatIsTheSearchTextAndSearchesReplacementsToo) {
