@@ -44,21 +44,12 @@ inline void EncipherBytes(const Byte* plain, std::size_t size, Byte shift, const
   }
 }
 
-}  // namespace
-
-void Decipher(std::string_view body, std::int32_t shift, char* plain) {
-  const auto* from = reinterpret_cast<const Byte*>(body.data());
-  auto* to = reinterpret_cast<Byte*>(plain);
-  const auto key = static_cast<Byte>(shift);
-  for (std::size_t i = 0, size = body.size() / 2; i < size; ++i) {
-    const Byte code = from[2 * i];
-    to[i] = static_cast<Byte>(code - key - (code < key));
-  }
+Generators& KeptGenerators() {
+  static Generators kept = FirstGenerators();
+  return kept;
 }
 
-void Encipher(std::string_view plain, std::int32_t shift, char* body) {
-  static Generators kept = FirstGenerators();  // goes on where the call before it stopped
-  Generators generators = kept;
+Generators EncipherFrom(Generators generators, std::string_view plain, std::int32_t shift, char* body) {
   const auto* from = reinterpret_cast<const Byte*>(plain.data());
   auto* to = reinterpret_cast<Byte*>(body);
   const auto key = static_cast<Byte>(shift);
@@ -76,7 +67,28 @@ void Encipher(std::string_view plain, std::int32_t shift, char* body) {
     to += 2 * size;
     left -= size;
   }
-  kept = generators;
+  return generators;
+}
+
+}  // namespace
+
+void Decipher(std::string_view body, std::int32_t shift, char* plain) {
+  const auto* from = reinterpret_cast<const Byte*>(body.data());
+  auto* to = reinterpret_cast<Byte*>(plain);
+  const auto key = static_cast<Byte>(shift);
+  for (std::size_t i = 0, size = body.size() / 2; i < size; ++i) {
+    const Byte code = from[2 * i];
+    to[i] = static_cast<Byte>(code - key - (code < key));
+  }
+}
+
+// Goes on where the call before it stopped.
+void Encipher(std::string_view plain, std::int32_t shift, char* body) {
+  KeptGenerators() = EncipherFrom(KeptGenerators(), plain, shift, body);
+}
+
+void EncipherAside(std::string_view plain, std::int32_t shift, char* body) {
+  EncipherFrom(KeptGenerators(), plain, shift, body);
 }
 
 }  // namespace store

@@ -16,5 +16,8 @@ void Decipher(std::string_view body, std::int32_t shift, char* plain);
 
 // Enciphers `plain` into `body`, which has room for twice as many bytes. Shift 0 to 255.
 void Encipher(std::string_view plain, std::int32_t shift, char* body);
+// The same with filler that leaves no trace: the next Encipher draws what it would have drawn without. For
+// copies that are made when the clock says so, and not when a person acts.
+void EncipherAside(std::string_view plain, std::int32_t shift, char* body);
 
 }  // namespace store

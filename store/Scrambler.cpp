@@ -9,8 +9,12 @@ namespace {
 constexpr int raise = 4;
 
 // Never seeded: the filler is never read back, so nothing depends on it.
-char NextFiller() {
+std::minstd_rand& Fillers() {
   static std::minstd_rand generator;
+  return generator;
+}
+
+char NextFiller(std::minstd_rand& generator) {
   return static_cast<char>(30 + generator() % 120);
 }
 
@@ -24,17 +28,34 @@ int CodeAt(std::string_view text, std::size_t position) {
   return static_cast<unsigned char>(text[position]);
 }
 
-}  // namespace
-
-std::string ScrambleText(std::string_view text) {
+template <class Guard>
+std::string Scrambled(std::string_view text, std::minstd_rand& fillers, Guard&& guarded) {
   std::string scrambled;
   std::string pair;  // outlives its turn: a character that cannot be formed leaves the pair before it here
   for (const char character : text) {
     const int code = static_cast<unsigned char>(character) + raise;
-    platform::Guarded("Encryption Error:", [&] { pair = {NextFiller(), CharacterOf(code)}; });
+    guarded([&] { pair = {NextFiller(fillers), CharacterOf(code)}; });
     scrambled += pair;
   }
   return scrambled;
+}
+
+}  // namespace
+
+std::string ScrambleText(std::string_view text) {
+  return Scrambled(text, Fillers(),
+                   [](auto&& statement) { platform::Guarded("Encryption Error:", statement); });
+}
+
+std::string ScrambleTextAside(std::string_view text) {
+  std::minstd_rand fillers = Fillers();
+  return Scrambled(text, fillers, [](auto&& statement) {
+    try {
+      statement();
+    } catch (const platform::Failure&) {
+      // The pair before it is repeated, as ever.
+    }
+  });
 }
 
 std::string UnscrambleText(std::string_view text) {

@@ -13,3 +13,7 @@
 // before it, a coded character of 0 to 3 is left out.
 std::string ScrambleText(std::string_view text);
 std::string UnscrambleText(std::string_view text);
+
+// What ScrambleText makes of the text, without a box and with filler that leaves no trace: the next
+// ScrambleText draws what it would have drawn without. For copies that are made when the clock says so.
+std::string ScrambleTextAside(std::string_view text);
