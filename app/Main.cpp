@@ -5,6 +5,7 @@
 
 #include "app/Help.h"
 #include "app/Settings.h"
+#include "app/WaysOut.h"
 #include "app/frmOptions.h"
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmInitJournal.h"
@@ -69,6 +70,7 @@ void StartLocked() {
   LoadJournalIndex();
   RecoverLostJournals();
   auto& lock = look::The<frmPass>();
+  QObject::connect(&lock, &frmPass::ExitRequested, &SaveAndExit);
   QObject::connect(&lock, &frmPass::Unlocked, [] {
     LoadJournalWindow();
     look::The<frmBookcase>().ShowModeless();
@@ -83,14 +85,6 @@ void StartForTheFirstTime() {
   if (JournalCount == 0) return;  // left by the exit
   LoadJournalWindow();
   NewJournalPages();
-}
-
-bool JournalStaysOpen() {
-  if (!look::IsLoaded<frmJournal>()) return false;
-  auto& window = look::The<frmJournal>();
-  if (!window.isVisible()) return false;
-  window.CloseBox();
-  return window.isVisible();
 }
 
 }  // namespace
@@ -110,36 +104,10 @@ void Main(platform::RunningInstance& instance, const platform::ActivationToken& 
   LoadSettings();
   auto& bookcase = look::The<frmBookcase>();  // it lists what the index loads
   QObject::connect(&bookcase, &frmBookcase::OptionsRequested, &ShowOptions);
+  QObject::connect(&bookcase, &frmBookcase::ExitRequested, &SaveAndExit);
   if (platform::IsMissing(platform::PathOf("journal.tqt"))) {
     StartForTheFirstTime();
   } else {
     StartLocked();
   }
-}
-
-void LeaveTheProgram() {
-  if (look::Pass::InProgress()) {
-    look::Pass::RunAfterwards(&LeaveTheProgram);
-    return;
-  }
-  const auto* application = dynamic_cast<platform::Application*>(qApp);
-  if (application && application->IsDying()) StoreOpenPage();
-  if (!BookcaseLoaded || (application && application->IsDying())) {
-    platform::EndProcess();
-    return;
-  }
-  if (!JournalStaysOpen() && SavePicturesLeftUnsaved()) SaveAndExit();
-}
-
-void SaveWithoutDisplay() {
-  if (!BookcaseLoaded) return;
-  platform::SetMessageAnswerer([](const platform::Message&) { return platform::Answer::Ok; });
-  StoreOpenPage();
-  SavePicturesLeftUnsaved();
-  try {
-    SaveJournalIndex();
-  } catch (const std::exception&) {
-    // Nobody is there to be told; the file is as it was.
-  }
-  platform::EndProcess();
 }

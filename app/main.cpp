@@ -2,6 +2,7 @@
 
 #include <QtCore/QTimer>
 
+#include "app/WaysOut.h"
 #include "editor/PagePasses.h"
 #include "platform/Application.h"
 #include "platform/WayOut.h"

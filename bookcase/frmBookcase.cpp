@@ -20,7 +20,6 @@
 #include "platform/Keystroke.h"
 #include "platform/MessageBox.h"
 #include "state/State.h"
-#include "store/JournalIndex.h"
 #include "store/NewJournals.h"
 
 namespace {
@@ -251,7 +250,7 @@ void frmBookcase::cmdHelp_Click() {
 }
 
 void frmBookcase::cmdClose_Click() {
-  if (SavePicturesLeftUnsaved()) SaveAndExit();
+  Q_EMIT ExitRequested();
 }
 
 void frmBookcase::CloseBox() {

@@ -43,8 +43,9 @@ class frmBookcase : public look::Form {
   void CloseBox() override;  // does what cmdClose does
 
  Q_SIGNALS:
-  // The options live upstairs.
+  // The options, and the way out of the program, live upstairs.
   void OptionsRequested();
+  void ExitRequested();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -13,6 +13,7 @@
 #include "platform/MessageBox.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
+#include "store/UnstoredRows.h"
 
 namespace {
 
@@ -61,6 +62,7 @@ bool TakePages(const std::string& fileName) {
   Pages = std::move(journal->pages);
   PageCount = static_cast<std::int32_t>(Pages.size()) - 1;
   PagesJournal = CurrentJournal;
+  store::RowsAreStored();
   return true;
 }
 

@@ -18,6 +18,7 @@
 #include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
+#include "store/UnstoredRows.h"
 
 namespace {
 
@@ -108,10 +109,17 @@ bool TextIsCurrentPage() {
   return PagesJournal != 0 && PagesJournal == CurrentJournal && TextPage >= 0 && TextPage == CurrentPage;
 }
 
+// A blank page counts as changed, but nobody would miss its blank document.
+bool IsBlankPage() {
+  return PageRow(TextPage).Body.empty() && Face().txtM->document()->isEmpty();
+}
+
+// What cannot be written of it is told only where a person has written something.
 void SaveOpenJournal() {
   try {
     SaveJournalFile(Journals.at(static_cast<std::size_t>(CurrentJournal)).FileName);
   } catch (const platform::Failure& failure) {
+    if (!store::AreRowsMissed()) return;
     throw std::runtime_error(
         std::string(failure.what()) +
         "\n\nNothing is lost: the page stays in the open journal, and the file is as it was. When the cause "
@@ -152,12 +160,19 @@ void StoreCurrentPage() {
   guarded([&] { AnnouncePass(QStringLiteral("Encrypting page:"), text.size()); });
   bool enciphered = false;
   guarded([&] {
-    PageRow(CurrentPage).Body = Enciphered(text);
+    std::string body = Enciphered(text);
+    store::RowWillChange(CurrentPage, !IsBlankPage());
+    PageRow(CurrentPage).Body = std::move(body);
     enciphered = true;
   });
   guarded(SaveOpenJournal);
   if (enciphered) PageDirty = False;  // otherwise the text is in the box alone, and must be stored yet
   guarded(EndProgress);
+}
+
+bool IsAnythingUnstored() {
+  if (PagesJournal == 0) return false;
+  return store::AreRowsMissed() || (PageDirty != False && TextPage >= 0 && !IsBlankPage());
 }
 
 void StoreOpenPage() {

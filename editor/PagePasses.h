@@ -12,6 +12,10 @@ void ShowCurrentPage();
 // Nothing is stored while the text box holds the text of another page or another journal.
 void StoreCurrentPage();
 
+// Whether the memory holds anything of the open journal that a person would miss in its file: text of the
+// page on show, or pages whose save failed.
+bool IsAnythingUnstored();
+
 // For the end of the program on a failure: stores the text box's text as StoreCurrentPage does, but into the
 // row that it came from, wherever the failure has left CurrentPage. What an earlier failure kept from the
 // file is written as well. Nothing is stored unless the journal window is shown with its journal.

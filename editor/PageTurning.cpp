@@ -1,6 +1,7 @@
 #include "editor/PageTurning.h"
 
 #include <limits>
+#include <set>
 #include <string>
 
 #include "editor/PageFace.h"
@@ -12,6 +13,7 @@
 #include "platform/MessageBox.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
+#include "store/UnstoredRows.h"
 
 namespace {
 
@@ -41,28 +43,65 @@ void AskAndAddPage() {
     HidePagePictures();
     Pages.resize(Pages.size() + 1);
     ++PageCount;
+    store::RowWasAdded(PageCount);
     CurrentPage = PageCount;
     StartNewPage();
   }
   ShowPageHeader();
 }
 
-std::string NotSaved(const std::string& fileName, const platform::Failure& failure) {
-  return "The journal's file " + platform::FromCodePage(fileName).toStdString() + " could not be written.\n" +
-         failure.what() +
-         "\n\nNothing is lost: the file is as it was, and the journal stays open. When the cause is removed, "
-         "close it once more, and it is saved.";
+std::string NotSaved(const platform::Failure& failure) {
+  return "The journal's file " + platform::FromCodePage(OpenEntry().FileName).toStdString() +
+         " could not be written.\n" + failure.what();
 }
 
-bool SaveOpenJournal() {
-  const std::string& fileName = OpenEntry().FileName;
-  try {
-    SaveJournalFile(fileName);
-    return true;
-  } catch (const platform::Failure& failure) {
-    platform::ShowMessage(NotSaved(fileName, failure));
-    return false;
+// "the title page, page 3, page 12", and how many more there are beyond ten.
+std::string UnstoredPages() {
+  constexpr std::size_t most = 10;
+  std::set<std::int32_t> rows;
+  for (const auto& [row, inFile] : store::UnstoredRows())
+    if (inFile.isMissed) rows.insert(row);
+  if (PageDirty != False && TextPage >= 0) rows.insert(TextPage);
+  std::string text;
+  std::size_t named = 0;
+  for (const std::int32_t row : rows) {
+    if (named++ == most) return text + " and " + std::to_string(rows.size() - most) + " more";
+    text += (text.empty() ? "" : ", ") + (row == 0 ? "the title page" : "page " + std::to_string(row));
   }
+  return text;
+}
+
+bool AsksToCloseWithout(const platform::Failure& failure) {
+  const std::string text = NotSaved(failure) +
+                           "\n\nWhat you wrote on these pages is not in the file: " + UnstoredPages() +
+                           ".\n\nClose the journal without it, so that it is lost?";
+  return platform::ShowMessage({.text = text,
+                                .buttons = platform::Buttons::YesNo,
+                                .icon = platform::BoxIcon::Stop,
+                                .prefersNo = true}) == platform::Answer::Yes;
+}
+
+bool wasRefused = false;  // the closing of the open journal, since its file could not be written
+
+// What nobody wrote is not missed, and a closing that comes again may be meant.
+bool MayCloseWithout(const platform::Failure& failure) {
+  if (!IsAnythingUnstored()) return true;
+  if (wasRefused) return AsksToCloseWithout(failure);
+  wasRefused = true;
+  platform::ShowMessage(NotSaved(failure) +
+                        "\n\nNothing is lost: the file is as it was, and the journal stays open. When the "
+                        "cause is removed, close it once more, and it is saved.");
+  return false;
+}
+
+bool MayClose() {
+  try {
+    SaveJournalFile(OpenEntry().FileName);
+  } catch (const platform::Failure& failure) {
+    if (!MayCloseWithout(failure)) return false;
+  }
+  wasRefused = false;
+  return true;
 }
 
 }  // namespace
@@ -127,6 +166,7 @@ void NewJournalPages() {
   PageCount = 1;
   CurrentPage = 0;
   Pages.resize(2);
+  for (std::int32_t row = 0; row <= PageCount; ++row) store::RowWasAdded(row, false);
   ApplyJournalFont();
   Row(0).PageDate = platform::Now();
   Row(1).PageDate = platform::Now();
@@ -138,7 +178,7 @@ void NewJournalPages() {
 
 // Where no journal is open there is nothing to write, and the window must still be able to go.
 void CloseJournal() {
-  if (PagesJournal != 0 && !SaveOpenJournal()) return;
+  if (PagesJournal != 0 && !MayClose()) return;
   PagesJournal = 0;
   Face().window()->hide();
   HidePagePictures();

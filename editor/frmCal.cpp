@@ -5,6 +5,7 @@
 #include "platform/Keystroke.h"
 #include "platform/TaskBar.h"
 #include "state/State.h"
+#include "store/UnstoredRows.h"
 
 frmCal::frmCal() : Form(Kind::Dialog, QStringLiteral("frmCal"), QStringLiteral("Select Date"), 5400, 4905) {
   // clang-format off
@@ -27,6 +28,7 @@ frmCal::frmCal() : Form(Kind::Dialog, QStringLiteral("frmCal"), QStringLiteral("
 
 // PageDirty is not touched: the date reaches the file with its next writing, at the latest at the closing.
 void frmCal::cmdSetDate_Click() {
+  store::RowWillChange(CurrentPage);
   Pages.at(static_cast<std::size_t>(CurrentPage)).PageDate = Cal1->Value();
   look::Discard(this);
   ShowPageHeader();

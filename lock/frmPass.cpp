@@ -4,7 +4,6 @@
 #include "look/Theme.h"
 #include "platform/MessageBox.h"
 #include "state/State.h"
-#include "store/JournalIndex.h"
 #include "store/Scrambler.h"
 
 frmPass::frmPass()
@@ -41,7 +40,7 @@ void frmPass::cmdOK_Click() {
 // The window is only hidden until the index is written: where that fails, the program goes on at the lock.
 void frmPass::cmdCancel_Click() {
   hide();
-  SaveAndExit();
+  Q_EMIT ExitRequested();
   ShowModeless();
 }
 

@@ -24,6 +24,8 @@ class frmPass : public look::Form {
  Q_SIGNALS:
   // The right password was given; the window is already gone.
   void Unlocked();
+  // The program is to be left. The window is hidden meanwhile; it comes back when this returns.
+  void ExitRequested();
 
  private:
   void cmdOK_Click();

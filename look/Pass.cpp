@@ -16,6 +16,7 @@ namespace {
 constexpr std::chrono::milliseconds Frame{16};
 
 int depth = 0;
+int stillness = 0;
 bool serving = false;
 std::vector<std::function<void()>> afterwards;
 
@@ -84,9 +85,17 @@ Pass::~Pass() {
   if (--depth == 0 && !afterwards.empty()) CallRunWhatWaited();
 }
 
+Pass::Stillness::Stillness() {
+  ++stillness;
+}
+
+Pass::Stillness::~Stillness() {
+  --stillness;
+}
+
 void Pass::Yield() {
   const auto now = std::chrono::steady_clock::now();
-  if (serving || now - lastServed_ < Frame) return;
+  if (serving || stillness > 0 || now - lastServed_ < Frame) return;
   serving = true;
   {
     const InputKeeper keeper;

@@ -18,6 +18,16 @@ class Pass {
   // Serves the event loop when about a frame has passed since it was served last; cheap otherwise.
   void Yield();
 
+  // While one lives, passes serve no events: the display is gone, and the toolkit would end the process at
+  // its next look at it.
+  class Stillness {
+   public:
+    Stillness();
+    ~Stillness();
+    Stillness(const Stillness&) = delete;
+    Stillness& operator=(const Stillness&) = delete;
+  };
+
   static bool InProgress();
   // Runs the action from the event loop once no pass is in progress.
   static void RunAfterwards(std::function<void()> action);

@@ -79,20 +79,14 @@ void DeleteOldStore(const std::string& path, bool keepsIt) {
   }
 }
 
-void WriteStore(const std::string& bytes) {
+void WriteStore() {
+  const std::string bytes = store::EncodePictureStore(Pictures);
   const std::string path = platform::PathOf(storeName);
   PicturesUnsaved = true;
-  try {
-    if (keepBeforeSaving && platform::FileExists(path)) platform::KeepDamaged(path);
-    keepBeforeSaving = false;  // one copy, even when the writing has to be tried again
-    platform::ReplaceFile(path, bytes);
-    PicturesUnsaved = false;
-  } catch (const Failure& failure) {
-    platform::ShowMessage(
-        "The pictures could not be saved in tqpics.bin. " + std::string(failure.what()) +
-        "\n\nNothing is lost: they stay on the pages, and the file is as it was. When the cause is removed, "
-        "the next change of a picture saves them all, or leaving the program does.");
-  }
+  if (keepBeforeSaving && platform::FileExists(path)) platform::KeepDamaged(path);
+  keepBeforeSaving = false;  // one copy, even when the writing has to be tried again
+  platform::ReplaceFile(path, bytes);
+  PicturesUnsaved = false;
 }
 
 }  // namespace
@@ -113,12 +107,21 @@ void ImportOldPictureStore() {
 
 void SavePictureStore() {
   if (Pictures.empty()) throw Failure(FailureKind::SubscriptOutOfRange);
-  WriteStore(store::EncodePictureStore(Pictures));
+  try {
+    WriteStore();
+  } catch (const Failure& failure) {
+    platform::ShowMessage(PicturesNotSaved(failure));
+  }
 }
 
-bool SavePicturesLeftUnsaved() {
-  if (PicturesUnsaved) SavePictureStore();
-  return !PicturesUnsaved;
+void WritePicturesLeftUnsaved() {
+  if (PicturesUnsaved) WriteStore();
+}
+
+std::string PicturesNotSaved(const std::exception& failure) {
+  return "The pictures could not be saved in tqpics.bin. " + std::string(failure.what()) +
+         "\n\nNothing is lost: they stay on the pages, and the file is as it was. When the cause is removed, "
+         "the next change of a picture saves them all, or leaving the program does.";
 }
 
 void RemovePicturesOf(const std::string& journalFile) {

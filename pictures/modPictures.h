@@ -1,6 +1,7 @@
 // The pictures of all journals between the disk and Pictures.
 #pragma once
 
+#include <exception>
 #include <string>
 
 // Reads jpics.bin of the program's folder, or where there is none tqpics.bin, into Pictures and PictureCount.
@@ -18,8 +19,10 @@ void ImportOldPictureStore();
 // there is no row 0: before a store was loaded or a picture was added.
 void SavePictureStore();
 
-// SavePictureStore, if the last one failed. Whether everything is in the file now.
-bool SavePicturesLeftUnsaved();
+// Writes tqpics.bin if the last SavePictureStore failed. Throws platform::Failure, with the file as it was.
+void WritePicturesLeftUnsaved();
+// What a person is told of such a failure.
+std::string PicturesNotSaved(const std::exception& failure);
 
 // Marks the rows of the journal with this FileName as removed. Saves nothing.
 void RemovePicturesOf(const std::string& journalFile);

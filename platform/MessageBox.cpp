@@ -5,6 +5,7 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
 
 #include "platform/MessageDress.h"
 
@@ -84,6 +85,7 @@ Answer AskOnTheDesktop(const Message& message) {
   // The window under the box may be destroyed while the box is up, and takes the box with it.
   QPointer<QMessageBox> box = MakeBox(message);
   AddButtons(*box, message.buttons);
+  if (message.prefersNo) box->setDefaultButton(qobject_cast<QPushButton*>(box->escapeButton()));
   GiveRoom(*box);
   const int button = box->exec();
   delete box;
@@ -95,6 +97,11 @@ Answer AskOnTheDesktop(const Message& message) {
 Answer ShowMessage(const Message& message) {
   const MessageAnswerer answerer = Answerer();  // a copy: an answer may put another one in its place
   return answerer ? answerer(message) : AskOnTheDesktop(message);
+}
+
+void DismissMessage() {
+  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  if (box && box->standardButtons() == QMessageBox::Ok) box->reject();
 }
 
 MessageAnswerer SetMessageAnswerer(MessageAnswerer answerer) {

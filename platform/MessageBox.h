@@ -15,6 +15,7 @@ struct Message {
   Buttons buttons = Buttons::Ok;
   BoxIcon icon = BoxIcon::None;
   std::string title = "Thornquill";
+  bool prefersNo = false;  // Enter declines, for what cannot be undone
 };
 
 // Shows the box over the active window and blocks until it is answered. Closing the box, or Escape, answers
@@ -23,6 +24,9 @@ Answer ShowMessage(const Message& message);
 inline Answer ShowMessage(const std::string& text, BoxIcon icon = BoxIcon::None) {
   return ShowMessage(Message{text, Buttons::Ok, icon});
 }
+
+// Answers the box that is up as Escape does, if it only tells something. For a wish to leave.
+void DismissMessage();
 
 // The seam: whoever answers instead of the desktop. An empty function gives the desktop its place back.
 // Returns the one that answered before.

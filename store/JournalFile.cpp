@@ -10,6 +10,7 @@
 #include "platform/MessageBox.h"
 #include "store/Bytes.h"
 #include "store/Scrambler.h"
+#include "store/UnstoredRows.h"
 
 namespace store {
 namespace {
@@ -245,6 +246,7 @@ void SaveJournalFile(const std::string& fileName) {
   store::KeepDamagedFile(path);
   platform::ReplaceFile(path, journal.pieces());
   PagesUnsaved = false;
+  store::RowsAreStored();
 }
 
 std::int32_t PeekJournalPageCount(std::string& fileName) {

@@ -16,16 +16,12 @@ namespace {
 // Far more than a hundred thousand journals need; a larger file is none of ours.
 constexpr std::uint64_t largestIndex = 256u << 20;
 
-// The bookcase as it was loaded, by which a save that cannot be made is known to matter or not.
+// The bookcase as the file holds it, by which a save that cannot be made is known to matter or not.
 struct LoadedBookcase {
   std::vector<JournalEntry> journals;
   std::string masterPassword;
 };
 LoadedBookcase loaded;
-
-bool HasChanged() {
-  return Journals != loaded.journals || MasterPassword != loaded.masterPassword;
-}
 
 // Whether the file on disk holds more than what was read from it.
 bool fileIsDamaged = false;
@@ -101,13 +97,12 @@ void KeepDamagedFile(const std::string& path) {
   fileIsDamaged = false;  // one copy, even when the writing has to be tried again
 }
 
-void TellNotSaved(const std::exception& failure) {
-  const char* const changed =
-      "Nothing is lost: the file is as it was, and Thornquill stays open. When the cause is removed, leave "
-      "once more, and it is saved.";
-  const char* const unchanged = "Nothing is lost: the file is as it was, and there was nothing new to save.";
-  platform::ShowMessage(std::string("The bookcase could not be saved in journal.tqt. ") + failure.what() +
-                        "\n\n" + (HasChanged() ? changed : unchanged));
+void Write(const store::Index& index) {
+  const std::string path = IndexPath();
+  const std::string bytes = store::EncodeIndex(index);
+  KeepDamagedFile(path);
+  platform::ReplaceFile(path, bytes);
+  loaded = {Journals, MasterPassword};
 }
 
 }  // namespace
@@ -124,20 +119,15 @@ void LoadJournalIndex() {
 }
 
 void SaveJournalIndex() {
-  const std::string path = IndexPath();
   store::Index index = IndexToSave();
-  const std::string bytes = store::EncodeIndex(index);
-  KeepDamagedFile(path);
-  platform::ReplaceFile(path, bytes);
+  Write(index);
   LeaveNamesScrambled(std::move(index));
 }
 
-void SaveAndExit() {
-  try {
-    SaveJournalIndex();
-  } catch (const std::exception& failure) {
-    TellNotSaved(failure);
-    if (HasChanged()) return;
-  }
-  platform::EndProcess();
+void WriteJournalIndex() {
+  Write(IndexToSave());
+}
+
+bool IsBookcaseUnsaved() {
+  return Journals != loaded.journals || MasterPassword != loaded.masterPassword;
 }

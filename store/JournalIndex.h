@@ -12,6 +12,8 @@ void LoadJournalIndex();
 // over. On failure throws platform::Failure; file and rows are then as they were.
 void SaveJournalIndex();
 
-// SaveJournalIndex, then the end of the process, whatever windows are open. When the index cannot be written,
-// a message says so, and the program goes on if the bookcase has changed since it was loaded.
-void SaveAndExit();
+// The same with the names left as they are, for a program that may go on.
+void WriteJournalIndex();
+
+// Whether the bookcase in memory has changed since it was loaded or last written.
+bool IsBookcaseUnsaved();

@@ -2,9 +2,11 @@
 #include <QtCore/QTimer>
 
 #include "app/Main.h"
+#include "app/WaysOut.h"
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmInitJournal.h"
 #include "editor/PagePasses.h"
+#include "editor/frmCal.h"
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
 #include "platform/Application.h"
@@ -165,6 +167,68 @@ TEST_F(Journey, AnUnchangedBookcaseCanBeLeftThoughItCannotBeSaved) {
   Click(Lock().cmdCancel);
   EXPECT_EQ(end.count, 1);
   EXPECT_NE(answers.last().find("nothing new to save"), std::string::npos) << answers.last();
+}
+
+// A dialog that stands over the journal while the order to end comes must find it as it was, should the end
+// not come.
+TEST_F(Journey, AnOrderToEndSavesAndForgetsNothing) {
+  StartAndWrite("Under a calendar");
+  QTimer::singleShot(0, [this] {
+    folder.Block("journal.tqt");
+    LeaveTheProgram();
+    EXPECT_EQ(end.count, 1) << "what can be saved is saved, and nobody is asked";
+    folder.Unblock("journal.tqt");
+    Click(look::The<frmCal>().cmdSetDate);
+  });
+  Click(Book().Toolbar1->Button(QStringLiteral("btnCal")));
+  EXPECT_TRUE(Book().isVisible());
+  EXPECT_EQ(Journals.at(1).Name, "My Diary") << "readable, for a program that goes on";
+  EXPECT_TRUE(answers.texts().empty());
+  LeaveTheProgram();
+  end.count = 1;
+  ExpectAtTheNextStart(QStringLiteral("Under a calendar"));
+}
+
+TEST_F(Journey, EachFileIsTriedOnItsOwnAndTheSecondRefusalAsks) {
+  StartAndWrite("");
+  Book().close();
+  Pictures.resize(2);
+  PicturesUnsaved = true;
+  folder.Block("tqpics.bin");
+  auto& bookcase = look::The<frmBookcase>();
+  Click(bookcase.cmdClose);
+  EXPECT_TRUE(folder.Exists("journal.tqt")) << "the other file keeps it from nothing";
+  ASSERT_EQ(answers.messages.size(), 1U);
+  EXPECT_NE(answers.last().find("could not be saved in tqpics.bin"), std::string::npos);
+  Click(bookcase.cmdClose);
+  EXPECT_NE(answers.last().find("Leave without it?"), std::string::npos) << answers.last();
+  EXPECT_NE(answers.last().find("tqpics.bin"), std::string::npos);
+  EXPECT_EQ(answers.last().find("journal.tqt"), std::string::npos) << "this one was saved";
+  EXPECT_TRUE(answers.messages.back().prefersNo);
+  EXPECT_EQ(end.count, 0);
+  answers.yes = 1;
+  Click(bookcase.cmdClose);
+  EXPECT_EQ(end.count, 1);
+}
+
+TEST_F(Journey, AJournalThatCannotBeWrittenClosesWhenNothingIsMissedOrOnDemand) {
+  StartAndWrite("");
+  folder.Block("j00000.tqf");
+  Book().close();
+  EXPECT_FALSE(Book().isVisible()) << "nobody has written anything";
+  EXPECT_TRUE(answers.texts().empty());
+  folder.Unblock("j00000.tqf");
+  OpenTheJournal();
+  QTest::keyClicks(Book().face->txtM, QStringLiteral("Missed"));
+  folder.Block("j00000.tqf");
+  Book().close();
+  EXPECT_NE(answers.last().find("close it once more"), std::string::npos) << answers.last();
+  Book().close();
+  EXPECT_NE(answers.last().find("not in the file: page 1."), std::string::npos) << answers.last();
+  EXPECT_TRUE(Book().isVisible());
+  answers.yes = 1;
+  Book().close();
+  EXPECT_FALSE(Book().isVisible());
 }
 
 }  // namespace

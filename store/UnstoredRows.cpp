@@ -1,0 +1,43 @@
+#include "store/UnstoredRows.h"
+
+#include <algorithm>
+
+#include "state/State.h"
+
+namespace store {
+namespace {
+
+using Rows = std::map<std::int32_t, RowInFile>;
+
+// Pages that have been forgotten are nobody's any more.
+Rows& TheRows() {
+  static Rows rows;
+  if (Pages.empty()) rows.clear();
+  return rows;
+}
+
+}  // namespace
+
+void RowWillChange(std::int32_t row, bool isMissed) {
+  const JournalPage& page = Pages.at(static_cast<std::size_t>(row));
+  if (!TheRows().contains(row)) TheRows()[row] = {true, CheckOf(page.Body), page.PageDate, false};
+  TheRows()[row].isMissed |= isMissed;
+}
+
+void RowWasAdded(std::int32_t row, bool isMissed) {
+  TheRows()[row] = {false, CheckOf({}), 0, isMissed};
+}
+
+void RowsAreStored() {
+  TheRows().clear();
+}
+
+const Rows& UnstoredRows() {
+  return TheRows();
+}
+
+bool AreRowsMissed() {
+  return std::ranges::any_of(TheRows(), [](const auto& entry) { return entry.second.isMissed; });
+}
+
+}  // namespace store
