@@ -1,17 +1,15 @@
-// All ways out of the program, and what each of them saves.
+// All ways out of the program, and what each of them saves, in this order.
 //
-// | who asks                                    | routine            | saved, in this order             |
-// when a save fails                 |
-// |---------------------------------------------|--------------------|----------------------------------|-----------------------------------|
-// | a person, at the bookcase or at the lock    | SaveAndExit        | pictures left unsaved, index     |
-// told, and the program stays; from | |                                             |                    | |
-// the second time on it asks        | |                                             |                    | |
-// whether to leave without          | | the system: SIGTERM, SIGINT, SIGHUP, or the | LeaveTheProgram    |
-// open page, its journal's file,   | said on the error output; the end | | end of the desktop's session | |
-// pictures left unsaved, index     | comes all the same                | | nobody: the display is gone |
-// SaveWithoutDisplay | the same                         | the same                          | | a failure
-// that nobody guards                | StoreOpenPage      | open page, its journal's file    | the end; the
-// index stays unsaved  |
+// A person, at the bookcase or at the lock (SaveAndExit): the pictures that were left unsaved, the index.
+// What
+//   cannot be saved is told, and the program stays; from the second time on a question names it, and the
+//   person may leave without.
+// The system, by SIGTERM, SIGINT, SIGHUP or the end of the desktop's session (LeaveTheProgram): the open
+// page,
+//   its journal's file, the pictures that were left unsaved, the index. Nobody is asked; what cannot be saved
+//   is said on the error output, and the end comes all the same.
+// Nobody: the display is gone (SaveWithoutDisplay). The same.
+// A failure that nobody guards (StoreOpenPage): the open page, its journal's file. The index stays unsaved.
 //
 // A person reaches the bookcase only by closing the journal, which stores its page and file (CloseJournal),
 // so no page is open on the first road. The exit of the first run's dialog saves nothing, for there is
