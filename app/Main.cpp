@@ -4,6 +4,8 @@
 #include <QtWidgets/QApplication>
 
 #include "app/Help.h"
+#include "app/KeptLog.h"
+#include "app/RollForward.h"
 #include "app/Settings.h"
 #include "app/WaysOut.h"
 #include "app/frmOptions.h"
@@ -32,13 +34,14 @@ namespace {
 // loaded when the first window has had the time to be drawn.
 constexpr int JournalWindowDelayMs = 250;
 
-void TellWhenTheFolderIsReadOnly() {
+bool FolderIsWritableOrTell() {
   const std::string folder = platform::ProgramFolder();
-  if (platform::CanWriteTo(folder)) return;
+  if (platform::CanWriteTo(folder)) return true;
   platform::ShowMessage("Nothing can be saved in the folder of the program:\n" + folder +
                             "\n\nWhat you write now could not be kept. Make the folder writable, or move the "
                             "program with all its files to a folder of your own, and start it again.",
                         platform::BoxIcon::Stop);
+  return false;
 }
 
 QWidget* VisibleWindow() {
@@ -66,25 +69,36 @@ void LoadJournalWindow() {
   QObject::connect(&book, &frmJournal::OptionsRequested, &ShowOptions);
 }
 
-void StartLocked() {
+// What an earlier run left unstored comes first, so that nothing new is written over it.
+void GoOnWithTheLog(bool isWritable) {
+  if (RollPagesForward()) BeginTheLog(isWritable);
+}
+
+void Unlock(bool isWritable) {
+  LoadJournalWindow();
+  GoOnWithTheLog(isWritable);
+  look::The<frmBookcase>().ShowModeless();
+  LoadPictureStore();
+  TellWhatCameBack();
+}
+
+void StartLocked(bool isWritable) {
   LoadJournalIndex();
   RecoverLostJournals();
   auto& lock = look::The<frmPass>();
   QObject::connect(&lock, &frmPass::ExitRequested, &SaveAndExit);
-  QObject::connect(&lock, &frmPass::Unlocked, [] {
-    LoadJournalWindow();
-    look::The<frmBookcase>().ShowModeless();
-    LoadPictureStore();
-  });
+  QObject::connect(&lock, &frmPass::Unlocked, [isWritable] { Unlock(isWritable); });
   lock.ShowModeless();
   QTimer::singleShot(JournalWindowDelayMs, &LoadJournalWindow);
 }
 
-void StartForTheFirstTime() {
+void StartForTheFirstTime(bool isWritable) {
   look::The<frmInitJournal>().ShowModal();
   if (JournalCount == 0) return;  // left by the exit
   LoadJournalWindow();
   NewJournalPages();
+  GoOnWithTheLog(isWritable);
+  TellWhatCameBack();
 }
 
 }  // namespace
@@ -99,15 +113,16 @@ void Main(platform::RunningInstance& instance, const platform::ActivationToken& 
   ActivatePrevInstance(instance, token);
   QObject::connect(&instance, &platform::RunningInstance::ActivationRequested, &ComeToTheFront);
   platform::RemoveUnfinished(platform::ProgramFolder());
-  TellWhenTheFolderIsReadOnly();
+  const bool isWritable = FolderIsWritableOrTell();
   AnswerF1();
   LoadSettings();
   auto& bookcase = look::The<frmBookcase>();  // it lists what the index loads
   QObject::connect(&bookcase, &frmBookcase::OptionsRequested, &ShowOptions);
   QObject::connect(&bookcase, &frmBookcase::ExitRequested, &SaveAndExit);
+  RollBookcaseForward();
   if (platform::IsMissing(platform::PathOf("journal.tqt"))) {
-    StartForTheFirstTime();
+    StartForTheFirstTime(isWritable);
   } else {
-    StartLocked();
+    StartLocked(isWritable);
   }
 }

@@ -7,6 +7,7 @@
 
 #include <QtWidgets/QApplication>
 
+#include "app/KeptLog.h"
 #include "editor/PagePasses.h"
 #include "editor/frmJournal.h"
 #include "look/Form.h"
@@ -28,10 +29,9 @@ struct Refusal {
 };
 using Refusals = std::vector<Refusal>;
 
-const char* const PicturesAsked =
-    "The pictures (tqpics.bin): new ones, and where you moved or removed one, would be lost. ";
+const char* const PicturesAsked = "The pictures (tqpics.bin): new ones, and where you moved or removed one. ";
 const char* const IndexAsked =
-    "The bookcase (journal.tqt): new journals, names, fonts and colours, and a new password would be lost. ";
+    "The bookcase (journal.tqt): new journals, names, fonts and colours, and a new password. ";
 
 std::string NotSaved(const std::exception& failure) {
   const char* const changed =
@@ -74,7 +74,9 @@ void SaveIndex(Refusals& refusals) {
 bool AsksToLeaveWithout(const Refusals& refusals) {
   std::string text = "Thornquill still cannot save everything.\n\n";
   for (const Refusal& refusal : refusals) text += refusal.asked + "\n\n";
-  text += "Leave without it?";
+  text += BringTheLogUpToDate()
+              ? "It is kept in the log journal.tql, and the next start brings it back. Leave now?"
+              : "Leave without it, so that it is lost?";
   return platform::ShowMessage({.text = text,
                                 .buttons = platform::Buttons::YesNo,
                                 .icon = platform::BoxIcon::Stop,
@@ -110,11 +112,17 @@ class NobodyThere {
   platform::MessageAnswerer before_;
 };
 
+// What could not be saved stays in the log, for the next start.
+void EndOfTheLog(const Refusals& refusals) {
+  refusals.empty() ? RemoveTheLog() : void(BringTheLogUpToDate());
+}
+
 void SaveWhatCanBeSaved() {
   Refusals refusals;
   SavePages(refusals);
   SavePictures(refusals);
   SaveIndex(refusals);
+  EndOfTheLog(refusals);
   for (const Refusal& refusal : refusals) std::fprintf(stderr, "Thornquill: %s\n", refusal.asked.c_str());
 }
 
@@ -134,7 +142,9 @@ void SaveAndExit() {
   SavePictures(refusals);
   SaveIndex(refusals);
   if (refusals.empty()) wasRefused = false;
-  if (refusals.empty() || MayLeaveWithout(refusals)) platform::EndProcess();
+  if (!refusals.empty() && !MayLeaveWithout(refusals)) return;
+  EndOfTheLog(refusals);
+  platform::EndProcess();
 }
 
 void LeaveTheProgram() {

@@ -6,6 +6,7 @@
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
+#include "editor/UnstoredPages.h"
 #include "pictures/PictureSlots.h"
 #include "platform/CodePage.h"
 #include "platform/Failure.h"
@@ -60,9 +61,10 @@ bool TakePages(const std::string& fileName) {
   }
   if (journal->health == store::JournalHealth::Damaged) TellDamaged(fileName, journal->wholePages);
   Pages = std::move(journal->pages);
-  PageCount = static_cast<std::int32_t>(Pages.size()) - 1;
   PagesJournal = CurrentJournal;
   store::RowsAreStored();
+  TakePagesBack(fileName);
+  PageCount = static_cast<std::int32_t>(Pages.size()) - 1;
   return true;
 }
 

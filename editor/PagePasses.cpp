@@ -170,9 +170,12 @@ void StoreCurrentPage() {
   guarded(EndProgress);
 }
 
+bool IsTextUnstored() {
+  return PagesJournal != 0 && PageDirty != False && TextPage >= 0 && !IsBlankPage();
+}
+
 bool IsAnythingUnstored() {
-  if (PagesJournal == 0) return false;
-  return store::AreRowsMissed() || (PageDirty != False && TextPage >= 0 && !IsBlankPage());
+  return PagesJournal != 0 && (store::AreRowsMissed() || IsTextUnstored());
 }
 
 void StoreOpenPage() {

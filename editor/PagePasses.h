@@ -12,6 +12,9 @@ void ShowCurrentPage();
 // Nothing is stored while the text box holds the text of another page or another journal.
 void StoreCurrentPage();
 
+// Whether the page on show has text that its row does not hold. A blank page counts as changed, but has none.
+bool IsTextUnstored();
+
 // Whether the memory holds anything of the open journal that a person would miss in its file: text of the
 // page on show, or pages whose save failed.
 bool IsAnythingUnstored();

@@ -6,6 +6,7 @@
 
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
+#include "editor/UnstoredPages.h"
 #include "pictures/PictureSlots.h"
 #include "platform/CodePage.h"
 #include "platform/Dates.h"
@@ -72,9 +73,13 @@ std::string UnstoredPages() {
 }
 
 bool AsksToCloseWithout(const platform::Failure& failure) {
-  const std::string text = NotSaved(failure) +
-                           "\n\nWhat you wrote on these pages is not in the file: " + UnstoredPages() +
-                           ".\n\nClose the journal without it, so that it is lost?";
+  const bool isLogged = LogThrough && LogThrough();
+  const std::string text =
+      NotSaved(failure) + "\n\nWhat you wrote on these pages is not in the file: " + UnstoredPages() +
+      ".\n\n" +
+      (isLogged ? "It is kept in the log journal.tql, and is there again when you open the "
+                  "journal the next time. Close it now?"
+                : "Close the journal without it, so that it is lost?");
   return platform::ShowMessage({.text = text,
                                 .buttons = platform::Buttons::YesNo,
                                 .icon = platform::BoxIcon::Stop,
@@ -86,7 +91,11 @@ bool wasRefused = false;  // the closing of the open journal, since its file cou
 // What nobody wrote is not missed, and a closing that comes again may be meant.
 bool MayCloseWithout(const platform::Failure& failure) {
   if (!IsAnythingUnstored()) return true;
-  if (wasRefused) return AsksToCloseWithout(failure);
+  if (wasRefused) {
+    if (!AsksToCloseWithout(failure)) return false;
+    LeavePagesBehind();
+    return true;
+  }
   wasRefused = true;
   platform::ShowMessage(NotSaved(failure) +
                         "\n\nNothing is lost: the file is as it was, and the journal stays open. When the "

@@ -19,6 +19,11 @@ const char oldStoreName[] = "jpics.bin";
 // Whether tqpics.bin may hold more than what was read from it.
 bool keepBeforeSaving = false;
 
+// What tqpics.bin holds as far as is known; none where it is not there.
+std::optional<store::FileCheck> fileCheck;
+// Whether Pictures holds the rows of an older store that is gone, and no file has them yet.
+bool areOnlyHere = false;
+
 void Take(store::DecodedPictures store) {
   Pictures = std::move(store.rows);
   PictureCount = static_cast<std::int32_t>(Pictures.size()) - 1;
@@ -39,8 +44,9 @@ void TellUnreadable(const std::string& name, const Failure& failure) {
 
 void LoadStore() {
   try {
-    store::DecodedPictures decoded =
-        store::DecodePictureStore(platform::ReadFile(platform::PathOf(storeName)));
+    const std::string bytes = platform::ReadFile(platform::PathOf(storeName));
+    fileCheck = store::CheckOf(bytes);
+    store::DecodedPictures decoded = store::DecodePictureStore(bytes);
     keepBeforeSaving = decoded.isDamaged;
     Take(std::move(decoded));
     if (keepBeforeSaving)
@@ -86,22 +92,26 @@ void WriteStore() {
   if (keepBeforeSaving && platform::FileExists(path)) platform::KeepDamaged(path);
   keepBeforeSaving = false;  // one copy, even when the writing has to be tried again
   platform::ReplaceFile(path, bytes);
-  PicturesUnsaved = false;
+  fileCheck = store::CheckOf(bytes);
+  PicturesUnsaved = areOnlyHere = false;
 }
 
 }  // namespace
 
 void LoadPictureStore() {
-  keepBeforeSaving = false;
+  keepBeforeSaving = areOnlyHere = false;
+  fileCheck.reset();
   if (platform::FileExists(platform::PathOf(oldStoreName))) return ImportOldPictureStore();
   if (!platform::IsMissing(platform::PathOf(storeName))) LoadStore();
 }
 
 // The order is meant: the older store goes as soon as its rows are in memory, whether they are ever saved or
-// not.
+// not. The log has them before.
 void ImportOldPictureStore() {
   const std::string path = platform::PathOf(oldStoreName);
   const bool keepsIt = platform::FileExists(path) && ReadOldStore(path);
+  areOnlyHere = Pictures.size() > 1;
+  if (LogThrough) LogThrough();
   DeleteOldStore(path, keepsIt);
 }
 
@@ -116,6 +126,12 @@ void SavePictureStore() {
 
 void WritePicturesLeftUnsaved() {
   if (PicturesUnsaved) WriteStore();
+}
+
+// tqpics.bin is not looked at where there is an older store.
+std::optional<store::UnstoredFile> UnstoredPictures() {
+  if (Pictures.empty() || !(PicturesUnsaved || areOnlyHere)) return std::nullopt;
+  return store::UnstoredFile{fileCheck, store::EncodePictureStore(Pictures)};
 }
 
 std::string PicturesNotSaved(const std::exception& failure) {

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <exception>
+#include <optional>
 #include <string>
+
+#include "store/UnstoredLog.h"
 
 // Reads jpics.bin of the program's folder, or where there is none tqpics.bin, into Pictures and PictureCount.
 // Without either nothing changes. A store that is damaged, or cannot be read, is told in a message that names
@@ -23,6 +26,9 @@ void SavePictureStore();
 void WritePicturesLeftUnsaved();
 // What a person is told of such a failure.
 std::string PicturesNotSaved(const std::exception& failure);
+
+// The picture store as SavePictureStore would write it now, for the log; none when the file has all of it.
+std::optional<store::UnstoredFile> UnstoredPictures();
 
 // Marks the rows of the journal with this FileName as removed. Saves nothing.
 void RemovePicturesOf(const std::string& journalFile);

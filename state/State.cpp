@@ -28,6 +28,10 @@ bool PicturesUnsaved = false;
 std::int32_t chkGotoLastPage = 1;
 std::int32_t optColor = 0;
 
+std::function<void()> JournalWillBeWritten;
+std::function<void()> SomethingWasStored;
+std::function<bool()> LogThrough;
+
 std::function<void(std::int32_t row)> JournalAdded;
 
 void ForgetPages() {
@@ -55,5 +59,8 @@ void ResetState() {
   BookcaseLoaded = false;
   chkGotoLastPage = 1;
   optColor = 0;
+  JournalWillBeWritten = nullptr;
+  SomethingWasStored = nullptr;
+  LogThrough = nullptr;
   JournalAdded = nullptr;
 }

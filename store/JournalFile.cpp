@@ -226,6 +226,14 @@ DecodedJournal ReadJournalFile(const std::string& fileName) {
   return journal;
 }
 
+void WriteJournalFile(const std::string& fileName, const std::vector<JournalPage>& pages) {
+  const std::string path = platform::PathOf(fileName);
+  const JournalPieces journal(pages, MasterPassword);
+  RefuseAlienFile(path);
+  KeepDamagedFile(path);
+  platform::ReplaceFile(path, journal.pieces());
+}
+
 }  // namespace store
 
 std::string& WithFallbackName(std::string& fileName) {
@@ -240,13 +248,11 @@ void SaveJournalFile(const std::string& fileName) {
   if (MasterPassword.empty()) platform::ShowMessage("password is null on save!");
   store::RefuseForeignPages(fileName);
   PagesUnsaved = true;
-  const std::string path = platform::PathOf(fileName);
-  const store::JournalPieces journal(Pages, MasterPassword);
-  store::RefuseAlienFile(path);
-  store::KeepDamagedFile(path);
-  platform::ReplaceFile(path, journal.pieces());
+  if (JournalWillBeWritten) JournalWillBeWritten();
+  store::WriteJournalFile(fileName, Pages);
   PagesUnsaved = false;
   store::RowsAreStored();
+  if (SomethingWasStored) SomethingWasStored();
 }
 
 std::int32_t PeekJournalPageCount(std::string& fileName) {

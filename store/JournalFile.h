@@ -32,6 +32,9 @@ std::string EncodeJournal(const std::vector<JournalPage>& pages, std::string_vie
 // one is remembered, so that SaveJournalFile keeps it beside before it writes over it.
 DecodedJournal ReadJournalFile(const std::string& fileName);
 
+// Writes these pages to that file of the program's folder. Throws as SaveJournalFile does.
+void WriteJournalFile(const std::string& fileName, const std::vector<JournalPage>& pages);
+
 }  // namespace store
 
 // The name that stands in for an empty one, after a message that says so.

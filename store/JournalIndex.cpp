@@ -17,11 +17,18 @@ namespace {
 constexpr std::uint64_t largestIndex = 256u << 20;
 
 // The bookcase as the file holds it, by which a save that cannot be made is known to matter or not.
-struct LoadedBookcase {
+struct Bookcase {
   std::vector<JournalEntry> journals;
   std::string masterPassword;
+
+  bool operator==(const Bookcase&) const = default;
 };
-LoadedBookcase loaded;
+Bookcase loaded;
+std::optional<store::FileCheck> loadedFile;  // none where there is no file
+
+Bookcase Present() {
+  return {Journals, MasterPassword};
+}
 
 // Whether the file on disk holds more than what was read from it.
 bool fileIsDamaged = false;
@@ -63,24 +70,26 @@ void TakeOver(store::Index index) {
 }
 
 void LoadFrom(const std::string& path) {
-  store::DecodedIndex decoded = store::DecodeIndex(platform::ReadFile(path, largestIndex));
+  const std::string bytes = platform::ReadFile(path, largestIndex);
+  store::DecodedIndex decoded = store::DecodeIndex(bytes);
   if (decoded.health == store::IndexHealth::Headless) {
     return GiveUp("The file journal.tqt is damaged at its start (" + decoded.problem + "): " + path);
   }
   fileIsDamaged = decoded.health == store::IndexHealth::Damaged;
   TakeOver(std::move(decoded.index));
   BookcaseLoaded = true;
-  loaded = {Journals, MasterPassword};
+  loaded = Present();
+  loadedFile = store::CheckOf(bytes);
   if (fileIsDamaged) TellDamage(decoded.problem);
 }
 
 // The bookcase as the file holds it: without removed rows, and with scrambled copies of the names.
-store::Index IndexToSave() {
+store::Index IndexToSave(std::string (*scramble)(std::string_view) = &ScrambleText) {
   store::Index index{MasterPassword, PageShift, {}};
   for (std::size_t row = 1; row < Journals.size(); ++row) {
     if (Journals[row].Deleted != False) continue;
     index.journals.push_back(Journals[row]);
-    index.journals.back().Name = ScrambleText(Journals[row].Name);
+    index.journals.back().Name = scramble(Journals[row].Name);
   }
   return index;
 }
@@ -102,7 +111,8 @@ void Write(const store::Index& index) {
   const std::string bytes = store::EncodeIndex(index);
   KeepDamagedFile(path);
   platform::ReplaceFile(path, bytes);
-  loaded = {Journals, MasterPassword};
+  loaded = Present();
+  loadedFile = store::CheckOf(bytes);
 }
 
 }  // namespace
@@ -110,6 +120,7 @@ void Write(const store::Index& index) {
 void LoadJournalIndex() {
   const std::string path = IndexPath();
   fileIsDamaged = false;
+  loadedFile.reset();
   if (platform::IsMissing(path)) return;
   try {
     LoadFrom(path);
@@ -122,6 +133,7 @@ void SaveJournalIndex() {
   store::Index index = IndexToSave();
   Write(index);
   LeaveNamesScrambled(std::move(index));
+  loaded = Present();
 }
 
 void WriteJournalIndex() {
@@ -129,5 +141,26 @@ void WriteJournalIndex() {
 }
 
 bool IsBookcaseUnsaved() {
-  return Journals != loaded.journals || MasterPassword != loaded.masterPassword;
+  return BookcaseLoaded && Present() != loaded;
+}
+
+std::optional<store::UnstoredFile> UnstoredIndex() {
+  static Bookcase made;
+  static std::string bytes;
+  if (!IsBookcaseUnsaved()) return std::nullopt;
+  if (bytes.empty() || made != Present()) {
+    bytes = store::EncodeIndex(IndexToSave(&ScrambleTextAside));
+    made = Present();
+  }
+  return store::UnstoredFile{loadedFile, bytes};
+}
+
+bool IsSameBookcase(const std::string& one, const std::string& other) {
+  store::DecodedIndex first = store::DecodeIndex(one), second = store::DecodeIndex(other);
+  const auto isSound = [](const auto& decoded) { return decoded.health == store::IndexHealth::Sound; };
+  for (store::DecodedIndex* decoded : {&first, &second})
+    for (JournalEntry& entry : decoded->index.journals) entry.Name = UnscrambleText(entry.Name);
+  return isSound(first) && isSound(second) && first.index.journals == second.index.journals &&
+         first.index.pageShift == second.index.pageShift &&
+         first.index.masterPassword == second.index.masterPassword;
 }

@@ -19,9 +19,14 @@ Rows& TheRows() {
 }  // namespace
 
 void RowWillChange(std::int32_t row, bool isMissed) {
-  const JournalPage& page = Pages.at(static_cast<std::size_t>(row));
-  if (!TheRows().contains(row)) TheRows()[row] = {true, CheckOf(page.Body), page.PageDate, false};
-  TheRows()[row].isMissed |= isMissed;
+  const bool isFirst = !TheRows().contains(row);
+  if (isFirst) RowHasChanged(row, Pages.at(static_cast<std::size_t>(row)));
+  RowInFile& inFile = TheRows()[row];
+  inFile.isMissed = isMissed || (!isFirst && inFile.isMissed);
+}
+
+void RowHasChanged(std::int32_t row, const JournalPage& before) {
+  TheRows()[row] = {true, CheckOf(before.Body), before.PageDate, true};
 }
 
 void RowWasAdded(std::int32_t row, bool isMissed) {

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <map>
 
+#include "state/State.h"
 #include "store/FileCheck.h"
 
 namespace store {
@@ -22,6 +23,9 @@ struct RowInFile {
 // To be called before Body or PageDate of a row of Pages changes. What the row held before its first change
 // counts as what the file holds; a later call adds at most that the change would be missed.
 void RowWillChange(std::int32_t row, bool isMissed = true);
+
+// The same behind the change; `before` is the row as the file holds it.
+void RowHasChanged(std::int32_t row, const JournalPage& before);
 
 // To be called when a row has been added to Pages that the file does not have.
 void RowWasAdded(std::int32_t row, bool isMissed = true);

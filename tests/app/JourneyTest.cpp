@@ -1,6 +1,7 @@
 // The program from its start to its end, and what the next start finds.
 #include <QtCore/QTimer>
 
+#include "app/KeptLog.h"
 #include "app/Main.h"
 #include "app/WaysOut.h"
 #include "bookcase/frmBookcase.h"
@@ -16,9 +17,12 @@ namespace {
 
 class Journey : public fixture::Windows {
  protected:
+  ~Journey() override { EndTheLog(); }
+
   // One run of the program, up to the first window. A first run is answered by what is given, on a timer,
   // since its dialog blocks.
   void Start(const std::function<void(frmInitJournal&)>& firstRun = {}) {
+    EndTheLog();
     look::UnloadAllForms();
     instance_.reset();
     ResetState();
@@ -130,7 +134,7 @@ TEST_F(Journey, AFailureThatNobodyGuardsStoresThePageAndNotTheIndex) {
   application.SetLastWill({});
   EXPECT_EQ(answers.texts(), fixture::Texts{"Path not found: somewhere"});
   EXPECT_EQ(end.count, 1);
-  EXPECT_EQ(folder.Names(), fixture::Texts{"j00000.tqf"});
+  EXPECT_EQ(folder.Names(), (fixture::Texts{"j00000.tqf", "journal.tql"})) << "the log has the index";
 }
 
 // A good index that could not be read must never be replaced by the empty bookcase in memory, whatever else
@@ -201,7 +205,7 @@ TEST_F(Journey, EachFileIsTriedOnItsOwnAndTheSecondRefusalAsks) {
   ASSERT_EQ(answers.messages.size(), 1U);
   EXPECT_NE(answers.last().find("could not be saved in tqpics.bin"), std::string::npos);
   Click(bookcase.cmdClose);
-  EXPECT_NE(answers.last().find("Leave without it?"), std::string::npos) << answers.last();
+  EXPECT_NE(answers.last().find("the next start brings it back. Leave now?"), std::string::npos) << answers.last();
   EXPECT_NE(answers.last().find("tqpics.bin"), std::string::npos);
   EXPECT_EQ(answers.last().find("journal.tqt"), std::string::npos) << "this one was saved";
   EXPECT_TRUE(answers.messages.back().prefersNo);
@@ -229,6 +233,51 @@ TEST_F(Journey, AJournalThatCannotBeWrittenClosesWhenNothingIsMissedOrOnDemand) 
   answers.yes = 1;
   Book().close();
   EXPECT_FALSE(Book().isVisible());
+}
+
+// As a kill does, nothing is saved between what was typed and the next start.
+TEST_F(Journey, WhatAKillLeavesInTheLogComesBack) {
+  StartAndWrite("First words");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return folder.Exists("journal.tql"); }, 3000));
+  ASSERT_TRUE(BringTheLogUpToDate());
+  EXPECT_EQ(folder.Names(), fixture::Texts{"journal.tql"});
+  end.count = 1;
+  ExpectAtTheNextStart(QStringLiteral("First words"));
+  EXPECT_NE(answers.last().find("the bookcase\nMy Diary: page 1"), std::string::npos) << answers.last();
+  EXPECT_FALSE(folder.Exists("journal.tql")) << "nothing is unstored";
+
+  QTest::keyClicks(Book().face->txtM, QStringLiteral("Second "));
+  ASSERT_TRUE(BringTheLogUpToDate());
+  end.count = 1;
+  ExpectAtTheNextStart(QStringLiteral("Second First words"));
+  Click(Book().Toolbar1->Button(QStringLiteral("btnFirstPage")));
+  LeaveTheProgram();
+  EXPECT_EQ(folder.Names(), (fixture::Texts{"j00000.tqf", "journal.tqt"})) << "a sound end leaves no log";
+}
+
+TEST_F(Journey, ALogThatIsDamagedOrComesTooLateChangesNothingAndIsKept) {
+  StartAndWrite("Mine ");
+  Click(Book().Toolbar1->Button(QStringLiteral("btnFirstPage")));
+  Click(Book().Toolbar1->Button(QStringLiteral("btnLastPage")));
+  QTest::keyClicks(Book().face->txtM, QStringLiteral("more "));
+  ASSERT_TRUE(BringTheLogUpToDate());
+  const std::string log = folder.Read("journal.tql"), index = "journal.tqt", journal = "j00000.tqf";
+  LeaveTheProgram();
+  const std::string stored = folder.Read(journal);
+  for (std::string damaged : {log.substr(0, log.size() / 2), "x" + log, std::string(40, '\0')}) {
+    folder.Write("journal.tql", damaged);
+    Start();
+    EXPECT_NE(answers.last().find("kept beside as journal.tql"), std::string::npos) << answers.last();
+    EXPECT_EQ(folder.Read(journal), stored);
+    EXPECT_FALSE(folder.Exists("journal.tql"));
+    EndTheLog();
+  }
+  answers.messages.clear();
+  folder.Write("journal.tql", log);
+  end.count = 1;
+  ExpectAtTheNextStart(QStringLiteral("more Mine "));
+  EXPECT_EQ(folder.Read(journal), stored) << "the log is older than the file, and told nothing new";
+  EXPECT_TRUE(answers.texts().empty()) << answers.last();
 }
 
 }  // namespace

@@ -1,0 +1,132 @@
+#include "app/KeptLog.h"
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QApplication>
+
+#include "editor/UnstoredPages.h"
+#include "look/Pass.h"
+#include "pictures/modPictures.h"
+#include "platform/Dates.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "state/State.h"
+#include "store/JournalIndex.h"
+
+namespace {
+
+constexpr std::chrono::milliseconds Pause{1000};
+constexpr std::chrono::milliseconds Longest{1900};  // the disk has the rest of the two seconds
+
+std::unique_ptr<KeptLog> theLog;
+
+store::UnstoredLog WhatIsUnstored() {
+  if (!BookcaseLoaded) return {};
+  return {platform::Now(), UnstoredIndex(), UnstoredPictures(), UnstoredJournals()};
+}
+
+// The moment aside.
+bool IsSame(store::UnstoredLog one, const store::UnstoredLog& other) {
+  one.when = other.when;
+  return one == other;
+}
+
+bool ChangesSomething(QEvent::Type type) {
+  switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonRelease:
+    case QEvent::Drop:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+KeptLog::KeptLog(bool tells)
+    : tells_(tells),
+      writer_(platform::PathOf("journal.tql"), [this](const auto& failure) { Tell(failure); }) {
+  for (QTimer* timer : {&pause_, &deadline_}) {
+    timer->setSingleShot(true);
+    connect(timer, &QTimer::timeout, this, &KeptLog::Look);
+  }
+  JournalWillBeWritten = [this] { BeAsNewAsTheJournal(); };
+  SomethingWasStored = [this] { QTimer::singleShot(0, this, &KeptLog::Look); };
+  LogThrough = [this] { return LookAndWait(); };
+  qApp->installEventFilter(this);
+  Look();
+}
+
+KeptLog::~KeptLog() {
+  JournalWillBeWritten = nullptr;
+  SomethingWasStored = nullptr;
+  LogThrough = nullptr;
+}
+
+bool KeptLog::eventFilter(QObject* /*watched*/, QEvent* event) {
+  if (ChangesSomething(event->type())) LookSoon();
+  return false;
+}
+
+void KeptLog::LookSoon() {
+  pause_.start(Pause);
+  if (!deadline_.isActive()) deadline_.start(Longest);
+}
+
+void KeptLog::Look() {
+  pause_.stop();
+  deadline_.stop();
+  store::UnstoredLog log = WhatIsUnstored();
+  if (IsSame(log, held_)) return;
+  held_ = std::move(log);
+  writer_.Put(held_.empty() ? std::string() : store::EncodeLog(held_));
+}
+
+bool KeptLog::LookAndWait() {
+  Look();
+  return writer_.Wait();
+}
+
+// A program that ends between the file's new name and the end of the log finds a page in both. Only when the
+// log's is the file's own is it known not to be another one's change.
+void KeptLog::BeAsNewAsTheJournal() {
+  if (!held_.journals.empty()) LookAndWait();
+}
+
+void KeptLog::Remove() {
+  pause_.stop();
+  deadline_.stop();
+  if (held_.empty()) return;
+  held_ = {};
+  writer_.Put({});
+  writer_.Wait();
+}
+
+void KeptLog::Tell(const std::optional<std::string>& failure) {
+  if (!failure || !tells_) return;
+  tells_ = false;
+  look::Pass::RunAfterwards([text = *failure] {
+    platform::ShowMessage(
+        "What is not stored yet cannot be kept in the log journal.tql. " + text +
+        "\n\nWhat you write is stored as ever when the page is turned or the journal is closed. Until the "
+        "cause "
+        "is removed, the end of the machine or of the program before that loses it. This is told once.");
+  });
+}
+
+void BeginTheLog(bool tells) {
+  if (!theLog) theLog = std::make_unique<KeptLog>(tells);
+}
+
+void EndTheLog() {
+  theLog.reset();
+}
+
+bool BringTheLogUpToDate() {
+  return theLog && theLog->LookAndWait();
+}
+
+void RemoveTheLog() {
+  if (theLog) theLog->Remove();
+}

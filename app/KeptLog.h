@@ -1,0 +1,52 @@
+// The log of what is not stored, journal.tql, while the program runs: as true as the clock allows.
+//
+// Whatever changes what is unstored comes of a key, a click or a drop, and of nothing else. So behind each of
+// them the log is looked after: at the first pause of a second, and at the latest two seconds after the first
+// of them, what stands in memory alone is gathered and handed to the writer, if it is not what the log holds
+// already. The window thread makes the bytes; a thread of its own writes them (platform/LogWriter.h). When
+// nothing is unstored the log goes.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QtCore/QObject>
+#include <QtCore/QTimer>
+
+#include "platform/LogWriter.h"
+#include "store/UnstoredLog.h"
+
+class KeptLog : public QObject {
+ public:
+  // Begins with a first look at once. Until then, and after its end, nobody touches the file. `tells`:
+  // whether a first failure is told in a message, once.
+  explicit KeptLog(bool tells);
+  ~KeptLog() override;
+
+  // Has the log hold what is unstored now. Returns at once.
+  void Look();
+  // The same, and waits. Whether the disk has it.
+  bool LookAndWait();
+  // The end of a run of which everything was saved: the log goes, and this waits for it.
+  void Remove();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void LookSoon();
+  void BeAsNewAsTheJournal();
+  void Tell(const std::optional<std::string>& failure);
+
+  bool tells_;
+  QTimer pause_, deadline_;
+  store::UnstoredLog held_;  // what the writer was given last; empty when the file is to be gone
+  platform::LogWriter writer_;
+};
+
+// The one log of the program: begun when the bookcase is open, and only once.
+void BeginTheLog(bool tells);
+void EndTheLog();
+// Both do nothing, and the first tells no, while there is none.
+bool BringTheLogUpToDate();
+void RemoveTheLog();

@@ -1,0 +1,180 @@
+#include "app/RollForward.h"
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/CodePage.h"
+#include "platform/Dates.h"
+#include "platform/Failure.h"
+#include "platform/Files.h"
+#include "platform/MessageBox.h"
+#include "state/State.h"
+#include "store/JournalFile.h"
+#include "store/JournalIndex.h"
+#include "store/LostJournals.h"
+#include "store/RollForward.h"
+#include "store/UnstoredLog.h"
+
+namespace {
+
+// What is done with the one log of the start.
+struct Work {
+  std::optional<store::UnstoredLog> log;
+  std::vector<std::string> back;   // a line for all that came back
+  std::vector<std::string> aside;  // and for all that did not, with the reason
+  std::string copy;                // the copy that holds the latter
+};
+Work work;
+
+std::string LogPath() {
+  return platform::PathOf("journal.tql");
+}
+
+std::string NameOf(const std::string& path) {
+  return path.substr(path.rfind('/') + 1);
+}
+
+std::string TextOf(const std::string& codePage) {
+  return platform::FromCodePage(codePage).toStdString();
+}
+
+// Copies the log, so that a new one may take its place, and takes it away. False when it must stay.
+bool PutLogAside() {
+  try {
+    work.copy = NameOf(platform::KeepDamaged(LogPath()));
+    platform::DeleteFile(LogPath());
+    return true;
+  } catch (const platform::Failure& failure) {
+    work.aside.push_back(failure.what());
+    return false;
+  }
+}
+
+void TellUnreadable(const std::string& problem) {
+  const bool isAside = PutLogAside();
+  platform::ShowMessage("The log of what was not stored in the last run, journal.tql, cannot be read (" +
+                        problem + "). Nothing was changed by it." +
+                        (isAside ? "\n\nIt is kept beside as " + work.copy + "." : std::string()));
+  work = {};
+}
+
+std::optional<store::FileCheck> CheckOfFile(const std::string& path) {
+  if (platform::IsMissing(path)) return std::nullopt;
+  return store::CheckOf(platform::ReadFile(path));
+}
+
+using IsSame = std::function<bool(const std::string& one, const std::string& other)>;
+
+// A file that is written whole.
+void RollFile(const char* name, const std::string& what, const store::UnstoredFile& logged,
+              const IsSame& isSame) {
+  const std::string path = platform::PathOf(name);
+  try {
+    if (CheckOfFile(path) == logged.began) {
+      platform::ReplaceFile(path, logged.bytes);
+      work.back.push_back(what);
+    } else if (platform::IsMissing(path) || !isSame(platform::ReadFile(path), logged.bytes)) {
+      work.aside.push_back(what + ": " + name + " has been changed by another program since");
+    }
+  } catch (const platform::Failure& failure) {
+    work.aside.push_back(what + ": " + failure.what());
+  }
+}
+
+std::string TitleOf(const std::string& fileName) {
+  const auto isIts = [&](const JournalEntry& entry) { return entry.FileName == fileName; };
+  const auto entry = std::find_if(Journals.begin() + 1, Journals.end(), isIts);
+  return TextOf(entry == Journals.end() ? fileName : entry->Name);
+}
+
+std::string PageName(std::int32_t row) {
+  return row == 0 ? "the title page" : "page " + std::to_string(row);
+}
+
+void Note(const std::string& title, const store::UnstoredPage& logged, const store::RolledPage& page) {
+  const bool isBlank = logged.isNew && (!logged.Body || logged.Body->empty());
+  const std::string name = title + ": " + PageName(page.logged);
+  if (page.how == store::Rolled::NoDocument)
+    work.aside.push_back(name + ", written under a password with another last letter");
+  else if (page.how == store::Rolled::AtTheEnd)
+    work.back.push_back(name + ", which is another one by now, as " + PageName(page.row));
+  else if (page.how == store::Rolled::IntoItsRow && !isBlank)
+    work.back.push_back(name);
+}
+
+std::vector<JournalPage> PagesIn(const std::string& fileName) {
+  if (platform::IsMissing(platform::PathOf(fileName))) return {};
+  store::DecodedJournal journal = store::ReadJournalFile(fileName);
+  if (journal.health == store::JournalHealth::Alien)
+    throw platform::Failure(platform::FailureKind::PermissionDenied, fileName + " (this is no journal)");
+  return std::move(journal.pages);
+}
+
+void RollJournal(const store::UnstoredJournal& journal) {
+  const std::string title = TitleOf(journal.FileName);
+  try {
+    std::vector<JournalPage> pages = PagesIn(journal.FileName);
+    const std::vector<store::RolledPage> rolled = store::RollForward(journal.pages, PageShift, pages);
+    const bool changes = std::ranges::any_of(rolled, [](const store::RolledPage& page) {
+      return page.how == store::Rolled::IntoItsRow || page.how == store::Rolled::AtTheEnd;
+    });
+    if (changes) store::WriteJournalFile(journal.FileName, pages);
+    for (std::size_t i = 0; i < rolled.size(); ++i) Note(title, journal.pages[i], rolled[i]);
+  } catch (const platform::Failure& failure) {
+    work.aside.push_back(title + ": " + failure.what());
+  }
+}
+
+// An older store that is still there is read once more, and holds what the log would bring.
+void RollPictures(const store::UnstoredFile& logged) {
+  if (platform::FileExists(platform::PathOf("jpics.bin"))) return;
+  RollFile("tqpics.bin", "the pictures on the pages", logged, std::equal_to<>());
+}
+
+std::string Lines(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += "\n" + line;
+  return text;
+}
+
+}  // namespace
+
+void RollBookcaseForward() {
+  work = {};
+  if (platform::IsMissing(LogPath())) return;
+  try {
+    store::DecodedLog decoded = store::DecodeLog(platform::ReadFile(LogPath()));
+    if (decoded.health != store::LogHealth::Sound) return TellUnreadable(decoded.problem);
+    work.log = std::move(decoded.log);
+  } catch (const platform::Failure& failure) {
+    return TellUnreadable(failure.what());
+  }
+  if (work.log->index) RollFile("journal.tqt", "the bookcase", *work.log->index, &IsSameBookcase);
+}
+
+bool RollPagesForward() {
+  if (!work.log) return platform::IsMissing(LogPath());
+  if (work.log->pictures) RollPictures(*work.log->pictures);
+  for (const store::UnstoredJournal& journal : work.log->journals) RollJournal(journal);
+  RecoverLostJournals();
+  if (!work.aside.empty()) return PutLogAside();
+  platform::DeleteFile(LogPath());
+  return true;
+}
+
+void TellWhatCameBack() {
+  const Work done = std::exchange(work, {});
+  if (done.back.empty() && done.aside.empty()) return;
+  std::string text = "Thornquill could not save everything before its last end, on " +
+                     platform::LongDate(done.log->when).toStdString() + " at " +
+                     platform::ToDateTime(done.log->when).toString(QStringLiteral("HH:mm")).toStdString() +
+                     ".";
+  if (!done.back.empty()) text += "\n\nThis has been brought back from its log:" + Lines(done.back);
+  if (!done.aside.empty()) text += "\n\nThis has not:" + Lines(done.aside);
+  if (!done.copy.empty()) text += "\n\nWhat has not is kept in " + done.copy + ".";
+  platform::ShowMessage(text);
+}

@@ -1,0 +1,19 @@
+// What the log of an earlier run holds comes back: the bookcase before it is read, the pictures and the pages
+// when the password has been given.
+//
+// A log that is damaged or alien changes nothing. What cannot be brought back, since it is of another
+// password or somebody else has changed its file, stays in a copy of the log beside it. A message tells it
+// all.
+#pragma once
+
+// Reads journal.tql, and puts the index of it in the place of journal.tqt, or of none, where that is still
+// the one that the log began from. The same holds for the others.
+void RollBookcaseForward();
+
+// Puts the pictures and the pages of the log that RollBookcaseForward read into their files, and takes the
+// log away. To be called when no journal is open and before the picture store is loaded. False when something
+// is left in the log that could not even be copied: then it must stay as it is.
+bool RollPagesForward();
+
+// Tells what came back and what did not, if there was anything.
+void TellWhatCameBack();
