@@ -42,31 +42,41 @@ class Taker {
   Taker(const QTextDocument& source, int from, int to) : source_(source), from_(from), to_(to) {}
 
   Document Take() {
-    for (QTextBlock block = source_.findBlock(from_); block.isValid() && block.position() <= to_;
-         block = block.next())
-      TakeBlock(block);
+    QTextBlock block = source_.findBlock(from_);
+    // The toolkit looks a position up in a tree, and a block or fragment begins where the one before it ends.
+    for (int at = block.position(); block.isValid() && at <= to_; at += block.length(), block = block.next())
+      TakeBlock(block, at);
     return std::move(taken_);
   }
 
  private:
-  void TakeBlock(const QTextBlock& block) {
+  void TakeBlock(const QTextBlock& block, int at) {
     const std::size_t before = taken_.text.size();
     firstRun_ = taken_.runs.size();
-    for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) TakeFragment(fragment.fragment());
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+      const QTextFragment fragment = it.fragment();
+      TakeFragment(fragment, at);
+      at += fragment.length();
+    }
     taken_.paragraphs.push_back(
         {static_cast<std::uint32_t>(taken_.text.size() - before),
          paragraphFormat_(block.blockFormatIndex(), [&] { return FromBlockFormat(block.blockFormat()); }),
          mark_(block.charFormatIndex(), [&] { return FromMarkFormat(block.charFormat()); })});
   }
 
-  void TakeFragment(const QTextFragment& fragment) {
-    const int from = std::max(from_, fragment.position());
-    const int to = std::min(to_, fragment.position() + fragment.length());
+  // `at`: where the fragment begins.
+  void TakeFragment(const QTextFragment& fragment, int at) {
+    const int from = std::max(from_, at);
+    const int to = std::min(to_, at + fragment.length());
     if (from >= to) return;
-    const QString text = fragment.text().mid(from - fragment.position(), to - from);
+    const QString whole = fragment.text();
+    const QStringView text = QStringView(whole).mid(from - at, to - from);
+    const auto shown =
+        shown_(fragment.charFormatIndex(), [&] { return FromTextFormat(fragment.charFormat()); });
+    // The toolkit takes its time to give a format, and few texts need it.
+    if (!text.contains(QChar(HiddenSign)) && !text.contains(QChar(PictureMark))) return AddPlain(text, shown);
     const QTextCharFormat format = fragment.charFormat();
     const QString hidden = text.contains(QChar(HiddenSign)) ? HiddenTextOf(format) : QString();
-    const auto shown = shown_(fragment.charFormatIndex(), [&] { return FromTextFormat(format); });
     if (hidden.isEmpty()) return AddText(text, shown, format);
     for (const QChar unit : text) {
       if (unit == QChar(HiddenSign))
@@ -82,10 +92,14 @@ class Taker {
     return numbers_(hidden);
   }
 
-  void AddText(QStringView text, std::uint32_t format, const QTextCharFormat& drawn) {
+  void AddPlain(QStringView text, std::uint32_t format) {
     AddRun(static_cast<std::uint32_t>(text.size()), format);
-    const std::size_t begin = taken_.text.size();
     taken_.text.append(text.utf16(), static_cast<std::size_t>(text.size()));
+  }
+
+  void AddText(QStringView text, std::uint32_t format, const QTextCharFormat& drawn) {
+    const std::size_t begin = taken_.text.size();
+    AddPlain(text, format);
     for (std::size_t at = taken_.text.find(PictureMark, begin); at != std::u16string::npos;
          at = taken_.text.find(PictureMark, at + 1))
       TakePicture(taken_.text[at], drawn);
