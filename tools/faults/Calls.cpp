@@ -1,5 +1,6 @@
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdarg>
 #include <cstdlib>
@@ -10,6 +11,7 @@
 #include <sys/syscall.h>
 #include <sys/time.h>
 #include <sys/uio.h>
+#include <thread>
 #include <unistd.h>
 
 #include "tools/faults/Faults.h"
@@ -25,6 +27,7 @@ struct Plan {
   const std::string folder = Setting("FAULTS_FOLDER") + "/", versions = Setting("FAULTS_VERSIONS");
   const std::string how = Setting("FAULTS_HOW");
   const int at = std::atoi(Setting("FAULTS_CALL").c_str());
+  const std::chrono::milliseconds slow{std::atoi(Setting("FAULTS_SLOW").c_str())};
   // Not by open(), which is one of ours and asks for the plan.
   const long log = syscall(SYS_open, Setting("FAULTS_LOG").c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
   int calls = 0;
@@ -62,6 +65,7 @@ auto Meet(const std::string& name, const std::string& path, Call&& call) -> decl
   plan.felt |= fails;
   errno = std::abs(error);
   if (fails && !half) return -1;
+  if (name == "fsync") std::this_thread::sleep_for(plan.slow);
   const auto result = call(half);
   if (kills) Die();
   if (name == "rename" || name == "linkat") KeepVersion(path);

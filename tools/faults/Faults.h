@@ -11,6 +11,7 @@
 //                    a number: calls fail with this errno until the disk is mended;
 //                    a negative one: the same, but a write gets half of its bytes out first
 //                    a number and "once": this call alone fails, as a device tells of a lost write
+//   FAULTS_SLOW      a slow disk: so many milliseconds for each file that is forced to it
 //   FAULTS_PLAIN     the disk knows no second names for files, as simple ones do not
 #pragma once
 

@@ -85,8 +85,9 @@ def furnish(folder, files):
 def contents(folder):
     return {path.name: path.read_bytes() for path in folder.iterdir() if path.is_file() and path.suffix}
 
-def play(folder, script, seconds=None, before=(), **faults):
-    """Plays the script in the folder, with a kill after so many seconds; how the process ended, and its log: (what, text)."""
+def play(folder, script, seconds=None, before=(), meanwhile=None, **faults):
+    """Plays the script in the folder, with a kill after so many seconds; how the process ended, and its log: (what, text).
+    Calls meanwhile(process, the log's path), if there is one, and counts the seconds from then on."""
     with tempfile.TemporaryDirectory(prefix="faults-") as desk:
         pathlib.Path(desk, "script").write_text("\n".join(script))
         pathlib.Path(desk, "log").touch()
@@ -94,8 +95,12 @@ def play(folder, script, seconds=None, before=(), **faults):
         variables = {f"FAULTS_{name}": str(value) for name, value in faults.items()}
         variables |= {"QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8", "LD_PRELOAD": str(LIBRARY), "HOME": HOME.name}
         command, limit = [*before, folder / "thornquill"], seconds or 60
-        try: code = subprocess.run(command, env=os.environ | variables, stderr=subprocess.DEVNULL, timeout=limit).returncode
+        process = subprocess.Popen(command, env=os.environ | variables, stderr=subprocess.DEVNULL)
+        try:
+            if meanwhile: meanwhile(process, pathlib.Path(desk, "log"))
+            code = process.wait(limit)
         except subprocess.TimeoutExpired: code = -9 if seconds else "no end"
+        finally: process.kill(), process.wait()
         return code, [tuple(line.split(" ", 1)) for line in pathlib.Path(desk, "log").read_text().splitlines()]
 
 def texts(log, what): return [text for kind, text in log if kind == what]
@@ -158,9 +163,9 @@ def next_start(folder):
             + [f"{seen} is shown, not {expected}"] * (seen != expected)
             + [f"{name} is left for good" for name in contents(folder) if not DATA.fullmatch(name)])
 
-def run_all(check, plans):
+def run_all(check, plans, at_once=os.cpu_count()):
     """The checks' answers; what is wrong is printed as it comes."""
-    answers, pool = [], concurrent.futures.ThreadPoolExecutor(os.cpu_count())
+    answers, pool = [], concurrent.futures.ThreadPoolExecutor(at_once)
     try:
         for (scenario, faults), answer in zip(plans, pool.map(lambda plan: check(*plan), plans)):
             answers.append(answer)
