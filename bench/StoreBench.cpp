@@ -13,10 +13,12 @@
 
 #include "bench/Beside.h"
 #include "platform/Files.h"
+#include "platform/LogWriter.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
 #include "store/Scrambler.h"
+#include "store/UnstoredLog.h"
 
 namespace {
 
@@ -147,6 +149,31 @@ void TurnChangedPage(benchmark::State& state) {
   RunBeside(state, work, [&] { return bench::WritePlain(OpenJournal::Path(), journal.bytes); });
 }
 BENCHMARK(TurnChangedPage)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(2);
+
+// What keeps a page that is not left yet from a kill: a log with its body, brought to the disk.
+void LogAPage(benchmark::State& state) {
+  const OpenJournal journal(1, 0);
+  const std::string path = platform::PathOf("journal.tql");
+  const std::string body(static_cast<std::size_t>(state.range(0)), 'q');
+  platform::LogWriter writer(path, [](const auto&) {});
+  const auto log = [&] {
+    return store::EncodeLog({45000.5, {}, {}, {{fileName, {{1, false, {}, 1, 2, body}}}}});
+  };
+  const auto work = [&] {
+    return SecondsOf([&] {
+      writer.Put(log());
+      MustBe(writer.Wait());
+    });
+  };
+  RunBeside(state, work, [&, bytes = log()] { return bench::WritePlain(path, bytes); });
+}
+BENCHMARK(LogAPage)->Arg(6 << 10)->Arg(1 << 20)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(1);
+
+void CheckTwoMegabytes(benchmark::State& state) {
+  const std::string bytes(2 * megabyte, 'q');
+  for ([[maybe_unused]] auto iteration : state) benchmark::DoNotOptimize(store::CheckOf(bytes));
+}
+BENCHMARK(CheckTwoMegabytes)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

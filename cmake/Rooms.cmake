@@ -7,9 +7,13 @@ if(THORNQUILL_WARNINGS_AS_ERRORS)
   target_compile_options(thornquill_options INTERFACE -Werror)
 endif()
 if(THORNQUILL_SANITIZE)
-  target_compile_options(thornquill_options INTERFACE -fsanitize=address,undefined
+  set(sanitizers ${THORNQUILL_SANITIZE})
+  if(sanitizers STREQUAL ON)
+    set(sanitizers address,undefined)
+  endif()
+  target_compile_options(thornquill_options INTERFACE -fsanitize=${sanitizers}
                                                       -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
-  target_link_options(thornquill_options INTERFACE -fsanitize=address,undefined)
+  target_link_options(thornquill_options INTERFACE -fsanitize=${sanitizers})
 endif()
 if(THORNQUILL_FUZZ)
   # -O1 keeps the branches that the fuzzer counts apart.

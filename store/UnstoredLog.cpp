@@ -159,7 +159,7 @@ class LogReader {
  private:
   void TakeSection(const Section& section);
   void TakePayload(std::string_view tag, std::string_view payload);
-  void MarkDamaged(const std::string& problem);
+  void MarkDamaged(std::string_view problem);
 
   std::string_view rest_;
   bool hasEnd_ = false;
@@ -168,7 +168,7 @@ class LogReader {
 };
 
 // The first damage is the one that is told.
-void LogReader::MarkDamaged(const std::string& problem) {
+void LogReader::MarkDamaged(std::string_view problem) {
   if (decoded_.health == LogHealth::Sound) decoded_.problem = problem;
   decoded_.health = LogHealth::Damaged;
 }
