@@ -152,6 +152,7 @@ void ShowCurrentPage() {
 }
 
 void StoreCurrentPage() {
+  Face().txtM->CommitComposition();
   if (PageDirty == False || !TextIsCurrentPage()) return;
   const auto guarded = [](auto&& statement) { platform::Guarded(EncryptionError, statement); };
   std::string text;
@@ -180,6 +181,7 @@ bool IsAnythingUnstored() {
 
 void StoreOpenPage() {
   if (PagesJournal == 0 || !Face().window()->isVisible()) return;
+  Face().txtM->TakeComposition();
   if (PageDirty == False && PagesUnsaved) platform::Guarded(EncryptionError, SaveOpenJournal);
   if (TextPage < 0) return;
   const std::int32_t shown = std::exchange(CurrentPage, TextPage);

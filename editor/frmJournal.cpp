@@ -114,6 +114,7 @@ void frmJournal::Toolbar1_ButtonClick(const QString& key) {
   };
   for (const Command& command : commands) {
     if (key != QStringView(command.key)) continue;
+    face->txtM->CommitComposition();
     if (command.stores) StoreCurrentPage();
     command.act(*this);
   }
