@@ -22,6 +22,7 @@ namespace {
 // the next one's pages.
 void DropFormerJournal() {
   ForgetPagePictures();
+  Face().txtM->setReadOnly(false);
   Face().txtM->SetTextRTF({});  // an empty box too may remember, for its undo, what stood in it
   ForgetPages();
 }

@@ -42,8 +42,8 @@ class RichTextBox : public QTextEdit {
   void SetSelLength(int length);
 
   // The attributes of the selection, or of what is typed next where nothing is selected. Nothing: the
-  // selection is mixed. An empty name and a size of 0 or less are passed over by the setters. Change is
-  // raised when a selection is set, never on a bare caret.
+  // selection is mixed. An empty name and a size of 0 or less are passed over by the setters, and everything
+  // is while the box is read-only. Change is raised when a selection is set, never on a bare caret.
   std::optional<QString> SelFontName() const;
   std::optional<double> SelFontSize() const;  // points
   std::optional<bool> SelBold() const;
