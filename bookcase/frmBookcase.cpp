@@ -20,6 +20,7 @@
 #include "platform/Keystroke.h"
 #include "platform/MessageBox.h"
 #include "state/State.h"
+#include "store/JournalTraces.h"
 #include "store/NewJournals.h"
 
 namespace {
@@ -54,6 +55,13 @@ void SetBold(QWidget& control) {
   QFont font = control.font();
   font.setBold(true);
   control.setFont(font);
+}
+
+void TellLeft(const std::vector<std::string>& left) {
+  if (left.empty()) return;
+  std::string text = "The journal is deleted. What it is kept in beside its own file is still there:\n";
+  for (const std::string& line : left) text += "\n" + line;
+  platform::ShowMessage(text + "\n\nDelete these yourself if nobody is to read them any more.");
 }
 
 }  // namespace
@@ -207,6 +215,7 @@ void frmBookcase::cmdDelete_Click() {
       "Are you sure you want to delete " + platform::FromCodePage(fileName).toStdString(),
       platform::Buttons::YesNo, platform::BoxIcon::Stop};
   if (platform::ShowMessage(question) != platform::Answer::Yes) return;
+  const std::vector<std::string> traces = store::TracesOf(fileName);
   try {
     RemoveJournal(row);
   } catch (const platform::Failure& failure) {
@@ -215,9 +224,11 @@ void frmBookcase::cmdDelete_Click() {
                           platform::BoxIcon::Stop);
     return;
   }
+  const std::vector<std::string> left = store::DeleteTraces(traces);
   RemovePicturesOf(fileName);
   SavePictureStore();
   RefreshBookcaseList();
+  TellLeft(left);
 }
 
 // The journal window stays invisible: the export turns its pages.

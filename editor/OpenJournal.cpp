@@ -21,7 +21,8 @@ namespace {
 // A journal may still be here that was opened without being shown. Its text and its pictures must not meet
 // the next one's pages.
 void DropFormerJournal() {
-  HidePagePictures();
+  ForgetPagePictures();
+  Face().txtM->setReadOnly(false);
   Face().txtM->SetTextRTF({});  // an empty box too may remember, for its undo, what stood in it
   ForgetPages();
 }

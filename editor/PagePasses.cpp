@@ -10,6 +10,7 @@
 #include <string_view>
 #include <utility>
 
+#include "editor/AlienPage.h"
 #include "editor/PageFace.h"
 #include "look/Pass.h"
 #include "look/frmWait.h"
@@ -92,8 +93,10 @@ std::string Enciphered(std::string_view plain) {
 void SetPageText(std::string_view rtf) {
   TextPage = -1;
   if (rtf.size() > LongLayout) look::The<look::frmWait>().ShowNow();
+  Face().txtM->setReadOnly(false);
   Face().txtM->SetTextRTF(rtf);
   TextPage = CurrentPage;
+  Face().txtM->setReadOnly(ShowsAlienPage());
 }
 
 // The pictures, the text and the header of a page come to the screen together: until this goes, the page
@@ -127,9 +130,7 @@ void SaveOpenJournal() {
   }
 }
 
-}  // namespace
-
-void ShowCurrentPage() {
+void ShowPageAndPictures() {
   const auto guarded = [](auto&& statement) { platform::Guarded(DecryptionError, statement); };
   const HeldScreen held;
   TextPage = -1;
@@ -151,8 +152,16 @@ void ShowCurrentPage() {
   guarded(EndProgress);
 }
 
+}  // namespace
+
+void ShowCurrentPage() {
+  ShowPageAndPictures();
+  TellAlienPage();
+}
+
 void StoreCurrentPage() {
-  if (PageDirty == False || !TextIsCurrentPage()) return;
+  Face().txtM->CommitComposition();
+  if (PageDirty == False || !TextIsCurrentPage() || ShowsAlienPage()) return;
   const auto guarded = [](auto&& statement) { platform::Guarded(EncryptionError, statement); };
   std::string text;
   guarded([&] { text = Face().txtM->TextRTF(); });
@@ -180,6 +189,7 @@ bool IsAnythingUnstored() {
 
 void StoreOpenPage() {
   if (PagesJournal == 0 || !Face().window()->isVisible()) return;
+  Face().txtM->TakeComposition();
   if (PageDirty == False && PagesUnsaved) platform::Guarded(EncryptionError, SaveOpenJournal);
   if (TextPage < 0) return;
   const std::int32_t shown = std::exchange(CurrentPage, TextPage);

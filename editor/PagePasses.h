@@ -1,15 +1,18 @@
 // The passes over one page's text, between its enciphered body and the text box or a string.
+//
+// An alien page (editor/AlienPage.h) is shown as it comes out, and never written over.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
 // Deciphers Pages(CurrentPage).Body into the text box. PageDirty is cleared, but not for an empty body, whose
-// page counts as changed.
+// page counts as changed. The first alien page since the journal was opened is told in a message; the text box
+// is read-only for as long as it holds one.
 void ShowCurrentPage();
 
 // Enciphers the text box into Pages(CurrentPage).Body and writes the journal's file, if PageDirty is set.
-// Nothing is stored while the text box holds the text of another page or another journal.
+// Nothing is stored while the text box holds the text of another page or another journal, or of an alien page.
 void StoreCurrentPage();
 
 // Whether the page on show has text that its row does not hold. A blank page counts as changed, but has none.

@@ -164,6 +164,7 @@ void StartNewPage() {
   richtext::RichTextBox& text = *Face().txtM;
   text.setFocus();
   TextPage = -1;
+  text.setReadOnly(false);
   text.SetTextRTF({});
   TextPage = CurrentPage;
   ApplyJournalFont();

@@ -9,6 +9,7 @@
 #include "editor/frmEmoticons.h"
 #include "editor/frmIndex.h"
 #include "pictures/AddPicture.h"
+#include "pictures/PictureSlots.h"
 #include "platform/Keystroke.h"
 #include "state/State.h"
 
@@ -72,6 +73,7 @@ void frmJournal::CloseBox() {
   StoreCurrentPage();
   CloseJournal();
   if (PagesJournal != 0) return;  // the file could not be written, and the journal is still open
+  ForgetPagePictures();
   ForgetPages();
   face->txtM->SetTextRTF({});
 }
@@ -114,6 +116,7 @@ void frmJournal::Toolbar1_ButtonClick(const QString& key) {
   };
   for (const Command& command : commands) {
     if (key != QStringView(command.key)) continue;
+    face->txtM->CommitComposition();
     if (command.stores) StoreCurrentPage();
     command.act(*this);
   }

@@ -227,7 +227,7 @@ void frmExport::ShowResult(const std::string& path) {
 // The journal was loaded for the export alone: it goes as at a closing, so that no plain page and no
 // photograph stays behind.
 void frmExport::CloseBox() {
-  HidePagePictures();
+  ForgetPagePictures();
   ForgetPages();
   Face().txtM->SetTextRTF({});
   Form::CloseBox();

@@ -1,4 +1,5 @@
-// A form that is never shown: its text box turns rich text into plain text, and prints long plain texts.
+// A form that is never shown: its text box turns rich text into plain text, and prints long plain texts. It
+// is empty again when all is printed.
 #pragma once
 
 #include "look/Form.h"

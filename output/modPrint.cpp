@@ -1,8 +1,10 @@
 #include "output/modPrint.h"
 
 #include <algorithm>
+#include <malloc.h>
 #include <optional>
 
+#include <QtCore/QScopeGuard>
 #include <QtGui/QGuiApplication>
 
 #include "editor/PageFace.h"
@@ -82,6 +84,14 @@ void PrintPages(std::int32_t first, std::int32_t last, const PrintOrder& order) 
   Guarded([&] { PrintSelectionOf(box, order); });
 }
 
+// Nobody sees the box, and the diary must not lie there in plain words when its journal is closed. The
+// allocator would keep the words too.
+void ForgetPrintedText() {
+  if (!look::IsLoaded<frmPrintRTF>()) return;
+  look::The<frmPrintRTF>().txtM->SetTextRTF({});
+  malloc_trim(0);
+}
+
 void PrintSelection(const PrintOrder& order) {
   const richtext::RichTextBox& box = *Face().txtM;
   if (box.SelLength() == 0) {
@@ -97,6 +107,7 @@ void PrintSelection(const PrintOrder& order) {
 
 // A cancelled dialog is no failure, and without a printer there is nothing to go on with.
 void PrintJournal() {
+  const auto forget = qScopeGuard(&ForgetPrintedText);
   std::optional<PrintOrder> order;
   Guarded([&] { order = ShowPrintDialog(RequestOf()); });
   if (!order) return;

@@ -233,6 +233,11 @@ void HidePagePictures() {
   theSlots->Hide();
 }
 
+void ForgetPagePictures() {
+  theSlots->Hide();
+  theSlots->ForgetImagesFrom(0);
+}
+
 int PageClientHeight() {
   return theSlots->PageHeight();
 }

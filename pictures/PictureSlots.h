@@ -46,6 +46,8 @@ class PictureSlots : public QObject {
   // it; SubscriptOutOfRange when there are more rows than slots.
   std::optional<platform::Failure> DealOut();
   void Hide();
+  // Lets go of what is on show no more, from this slot on.
+  void ForgetImagesFrom(std::size_t slot);
   void HideControllers();
   // The paper's colour, 0x00BBGGRR, which shows where a photograph is transparent.
   void SetPaper(std::uint32_t color);
@@ -66,8 +68,6 @@ class PictureSlots : public QObject {
   // Puts the row into the slot and shows it; drops a frame from the row that is not there.
   void Show(std::size_t slot, std::int32_t row);
   void ShowFrame(std::size_t slot, PagePicture& picture);
-  // Lets go of what is on show no more, from this slot on.
-  void ForgetImagesFrom(std::size_t slot);
 
   void imgPhoto_Click(std::size_t slot);
   void imgController_MouseDown(std::size_t slot);
@@ -86,6 +86,8 @@ void ShowPagePictures();
 void ShowPagePicturesOrTell();
 // Hides the slots. Their handles stay as they are.
 void HidePagePictures();
+// The same, and lets go of their pixels: for the end of a journal.
+void ForgetPagePictures();
 
 // The height of the journal window's client area, in pixels.
 int PageClientHeight();

@@ -61,6 +61,7 @@ void RichTextBox::SetTextRTF(std::string_view rtf) {
 }
 
 void RichTextBox::Fill(std::string_view rtf) {
+  DropComposition();
   const QScopedValueRollback quiet(quiet_, true);
   const Document page = rtf.empty() ? EmptyDocument() : ReadRtf(rtf);
   // With its scroll bar there beforehand, a page is laid out once, and not at the width without it first and
@@ -91,6 +92,7 @@ void RichTextBox::TellEdits() {
 }
 
 void RichTextBox::SetText(const QString& text) {
+  DropComposition();
   {
     const QScopedValueRollback quiet(quiet_, true);
     QTextCharFormat format;
@@ -169,14 +171,6 @@ void RichTextBox::InsertText(const QMimeData& source) {
 // Of letters alone: a cursor behind a picture or hidden text tells of these too.
 QTextCharFormat RichTextBox::CaretFormat() const {
   return ToTextFormat(FromTextFormat(textCursor().charFormat()));
-}
-
-// What an input method shows while a word is being composed is not yet in the text.
-void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
-  const bool composing =
-      event->commitString().isEmpty() && event->replacementLength() == 0 && !textCursor().hasSelection();
-  const QScopedValueRollback quiet(quiet_, quiet_ || composing);
-  QTextEdit::inputMethodEvent(event);
 }
 
 void RichTextBox::keyPressEvent(QKeyEvent* event) {
@@ -273,11 +267,6 @@ void RichTextBox::paintEvent(QPaintEvent* event) {
                         verticalScrollBar()->value());
   painter.translate(-scrolled);
   labelled_ = DrawLabels(painter, *document(), QRectF(event->rect().translated(scrolled)));
-}
-
-void RichTextBox::mousePressEvent(QMouseEvent* event) {
-  Q_EMIT MousePressed();
-  QTextEdit::mousePressEvent(event);
 }
 
 }  // namespace richtext

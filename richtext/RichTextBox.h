@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include <QtCore/QDeadlineTimer>
+#include <QtGui/QTextCursor>
 #include <QtWidgets/QTextEdit>
 
 namespace richtext {
@@ -40,8 +42,8 @@ class RichTextBox : public QTextEdit {
   void SetSelLength(int length);
 
   // The attributes of the selection, or of what is typed next where nothing is selected. Nothing: the
-  // selection is mixed. An empty name and a size of 0 or less are passed over by the setters. Change is
-  // raised when a selection is set, never on a bare caret.
+  // selection is mixed. An empty name and a size of 0 or less are passed over by the setters, and everything
+  // is while the box is read-only. Change is raised when a selection is set, never on a bare caret.
   std::optional<QString> SelFontName() const;
   std::optional<double> SelFontSize() const;  // points
   std::optional<bool> SelBold() const;
@@ -60,6 +62,12 @@ class RichTextBox : public QTextEdit {
   // The paper, 0x00BBGGRR.
   void SetBackColor(std::uint32_t color);
   std::uint32_t BackColor() const;
+
+  // Puts the word that an input method is composing here into the text, as a commit of its own would; nothing
+  // where none is. To be called before the text is read, stored or left. Change is raised by the word.
+  void CommitComposition();
+  // The same without asking the input method, which may be gone with the display: for the end of the program.
+  void TakeComposition();
 
   // Puts a bitmap at the caret, in the place of the selection.
   void InsertBitmap(const QImage& image);
@@ -104,12 +112,22 @@ class RichTextBox : public QTextEdit {
   void InsertParagraph();
   void CarryOn(const QTextCharFormat& format);
   void LeaveLink();
+  QString Composition() const;
+  bool InputMethodCommits();
+  void TakeWord(const QString& word);
+  void DropComposition();
+  void AwaitLateCommit(const QString& word);
+  bool IsLateCommit(const QInputMethodEvent& event);
 
   std::uint32_t backColor_ = 0xffffff;
   bool quiet_ = false;     // what happens to the document now is no edit
   bool edited_ = false;    // an edit was seen that Change has not told yet
   unsigned edits_ = 0;     // told so far
   bool labelled_ = false;  // list labels were drawn last
+  QTextCursor composing_;  // where a word was being composed last
+  unsigned commits_ = 0;   // texts that came from input methods so far
+  QString awaited_;        // a word whose commit must not come any more
+  QDeadlineTimer awaiting_;
 };
 
 }  // namespace richtext

@@ -143,7 +143,7 @@ void RichTextBox::SetSelColor(std::uint32_t color) {
 }
 
 void RichTextBox::SetAttribute(const QTextCharFormat& attribute) {
-  mergeCurrentCharFormat(attribute);
+  if (!isReadOnly()) mergeCurrentCharFormat(attribute);
 }
 
 }  // namespace richtext

@@ -22,6 +22,8 @@ std::int32_t PictureCount = 0;
 std::int32_t PagesJournal = 0;
 std::int32_t TextPage = -1;
 
+bool AlienPageTold = false;
+
 bool PagesUnsaved = false;
 bool PicturesUnsaved = false;
 
@@ -43,6 +45,7 @@ void ForgetPages() {
   PageDirty = False;
   PagesJournal = 0;
   TextPage = -1;
+  AlienPageTold = false;
   PagesUnsaved = false;
 }
 

@@ -96,6 +96,9 @@ extern bool BookcaseLoaded;
 extern std::int32_t PagesJournal;  // the row of Journals that Pages was read for; 0 while Pages is erased
 extern std::int32_t TextPage;      // the row of Pages that the text box's text came from; -1 for none
 
+// Whether it was told, since the journal was opened, that a page of it is no document (editor/AlienPage.h).
+extern bool AlienPageTold;
+
 // Whether the last try to write the open journal, or the pictures, failed: the file lacks what memory holds.
 extern bool PagesUnsaved;
 extern bool PicturesUnsaved;

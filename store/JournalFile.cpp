@@ -179,9 +179,7 @@ void RefuseForeignPages(const std::string& fileName) {
 }
 
 void RefuseAlienFile(const std::string& path) {
-  if (!platform::FileExists(path)) return;
-  platform::InputFile file(path);
-  if (StartsAsJournal(file)) return;
+  if (!platform::FileExists(path) || IsJournal(path)) return;
   throw Failure(FailureKind::PermissionDenied, path + " (this is no journal, and is never written over)");
 }
 
@@ -232,6 +230,11 @@ void WriteJournalFile(const std::string& fileName, const std::vector<JournalPage
   RefuseAlienFile(path);
   KeepDamagedFile(path);
   platform::ReplaceFile(path, journal.pieces());
+}
+
+bool IsJournal(const std::string& path) {
+  platform::InputFile file(path);
+  return StartsAsJournal(file);
 }
 
 }  // namespace store

@@ -35,6 +35,10 @@ DecodedJournal ReadJournalFile(const std::string& fileName);
 // Writes these pages to that file of the program's folder. Throws as SaveJournalFile does.
 void WriteJournalFile(const std::string& fileName, const std::vector<JournalPage>& pages);
 
+// Whether the file begins as a journal does; one that is cut within its beginning does, too. Throws as
+// platform::InputFile does.
+bool IsJournal(const std::string& path);
+
 }  // namespace store
 
 // The name that stands in for an empty one, after a message that says so.

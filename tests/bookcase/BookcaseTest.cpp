@@ -8,6 +8,7 @@
 #include "editor/frmJournal.h"
 #include "output/frmExport.h"
 #include "platform/RunUrl.h"
+#include "store/JournalFile.h"
 #include "store/NewJournals.h"
 #include "store/PictureStore.h"
 #include "store/Scrambler.h"
@@ -115,6 +116,44 @@ TEST_F(BookcaseTest, DeletesFileItemAndPicturesButNoRowAndOnlyOnYes) {
   for (auto* button : {Window().cmdOpen, Window().cmdDelete, Window().cmdExport, Window().cmdProp})
     Click(button);
   EXPECT_TRUE(answers.messages.empty()) << "an empty list does nothing";
+}
+
+TEST_F(BookcaseTest, WithAJournalGoItsCopiesAndWhereItsLinkLeadsAndWhatStaysIsTold) {
+  Show({"one", "two", "three"});
+  const std::string journal = store::EncodeJournal(std::vector<JournalPage>(2), MasterPassword);
+  const auto link = [&](const char* from, const char* to) {
+    EXPECT_TRUE(
+        QFile::link(QString::fromStdString(folder.PathOf(to)), QString::fromStdString(folder.PathOf(from))));
+  };
+  const fixture::Texts stay = {"j00000.tqf.bak", "j00000.tqf.x.damaged", "j00000.tqfx.damaged",
+                               "j00001.tqf.damaged"};
+  for (const char* copy : {"j00000.tqf.damaged", "j00000.tqf.12.damaged", "j00000.tqf.1.other", "diary"})
+    folder.Write(copy, journal);
+  for (const std::string& other : stay) folder.Write(other, journal);
+  folder.Block("j00000.tqf.3.damaged");
+  link("j00000.tqf", "diary");
+  answers.yes = 1;
+  Click(Window().cmdDelete);
+  EXPECT_NE(answers.last().find("j00000.tqf.3.damaged"), std::string::npos) << answers.last();
+  fixture::Texts left = {"j00000.tqf.3.damaged", "tqpics.bin"};
+  left.insert(left.begin() + 1, stay.begin(), stay.end());
+  std::sort(left.begin(), left.end());
+  EXPECT_EQ(folder.Names(), left);
+  folder.Write("j00002.tqf", journal);
+  link("j00001.tqf", "j00002.tqf");
+  answers.yes = 1;
+  Click(Window().cmdDelete);
+  EXPECT_NE(answers.last().find("j00002.tqf (this is another journal of the bookcase, too)"),
+            std::string::npos);
+  EXPECT_TRUE(!folder.Exists("j00001.tqf") && !folder.Exists("j00001.tqf.damaged") &&
+              folder.Exists("j00002.tqf"));
+  QFile::remove(QString::fromStdString(folder.PathOf("j00002.tqf")));
+  folder.Write("notes", "no journal");
+  link("j00002.tqf", "notes");
+  answers.yes = 1;
+  Click(Window().cmdDelete);
+  EXPECT_NE(answers.last().find("notes (this is no journal)"), std::string::npos);
+  EXPECT_TRUE(!folder.Exists("j00002.tqf") && folder.Exists("notes"));
 }
 
 // Kept so for the sake of its order: the file goes first, and the index is not saved.

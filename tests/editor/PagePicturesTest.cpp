@@ -36,6 +36,8 @@ TEST_F(PagePictures, ComeWithTheirPageAndGoWithANewOneAndWithTheJournal) {
   GoFirstPage();
   window().close();
   EXPECT_EQ(PicturesShown(), 0);
+  EXPECT_TRUE(pictures().imgPhoto[0]->Picture().isNull())
+      << "nobody can look at it behind the closed journal";
   Load(1);
   Load(AddJournal());
   EXPECT_EQ(PicturesShown(), 0) << "a journal without a file follows one that was never shown";

@@ -5,6 +5,7 @@
 #include <QtGui/QPaintEngine>
 
 #include "output/PrintRange.h"
+#include "output/frmPrintRTF.h"
 #include "output/modPrint.h"
 #include "richtext/Paper.h"
 #include "tests/editor/OpenBook.h"
@@ -116,6 +117,7 @@ class Print : public fixture::OpenBook {
   Sheets PrintOn(Printed& printer, PrintChoice choice, int from = 0, int to = 0, bool whole = true) {
     answer.emplace(PrintOrder{choice, from, to, printer.Paper(whole), "the attic's"});
     PrintJournal();
+    EXPECT_EQ(look::The<frmPrintRTF>().txtM->Text(), QString()) << "no page stays behind";
     return printer.Lines();
   }
   Texts FirstSheet(PrintChoice choice, int from = 0, int to = 0) {

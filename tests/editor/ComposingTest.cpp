@@ -1,0 +1,54 @@
+// A word that an input method is still composing when the page is read or left.
+#include "tests/editor/OpenBook.h"
+#include "tests/support/InputMethod.h"
+
+namespace {
+
+using fixture::Texts;
+
+class ComposingOnAPage : public fixture::OpenBook, public testing::WithParamInterface<fixture::Manner> {
+ protected:
+  std::int32_t Compose() {
+    const std::int32_t row = Begin({"cover", "one"});
+    method.Compose(u"word "_qs);
+    EXPECT_EQ(PageDirty, False);
+    return row;
+  }
+  fixture::InputMethod method{GetParam()};
+};
+INSTANTIATE_TEST_SUITE_P(Manners, ComposingOnAPage, testing::ValuesIn(fixture::AllManners));
+
+TEST_P(ComposingOnAPage, IsStoredWithItsPageAndWithNoOther) {
+  for (const char* key : {"btnNext", "btnLastPage", "btnNewPage"}) {
+    const auto row = Compose();
+    Press(key);
+    method.DeliverLate();
+    StoreCurrentPage();
+    EXPECT_EQ(TextsIn(row), (Texts{"word cover", "one"})) << key;
+    window().CloseBox();
+  }
+}
+
+TEST_P(ComposingOnAPage, IsStoredOnEveryWayOut) {
+  auto row = Compose();
+  StoreOpenPage();
+  EXPECT_EQ(TextsIn(row)[0], "word cover");
+  window().CloseBox();
+  row = Compose();
+  window().CloseBox();
+  method.DeliverLate();
+  EXPECT_EQ(TextsIn(row)[0], "word cover");
+  EXPECT_EQ(Text(), "");
+}
+
+TEST_P(ComposingOnAPage, IsThereForWhatReadsThePageInItsPlace) {
+  Compose();
+  std::string printed;
+  QObject::connect(&window(), &frmJournal::PrintRequested, &window(), [&] { printed = Text(); });
+  Press("btnPrint");
+  window().disconnect();
+  EXPECT_EQ(printed, "word cover");
+  EXPECT_EQ(PageDirty, True) << "printing stores nothing";
+}
+
+}  // namespace
