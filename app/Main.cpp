@@ -44,6 +44,21 @@ bool FolderIsWritableOrTell() {
   return false;
 }
 
+void TellThatTheFolderIsInUse(platform::Meeting meeting) {
+  const bool another = meeting == platform::Meeting::AnotherUser;
+  const std::string where = another ? "the Thornquill of another user of this computer"
+                                    : "another window of Thornquill, which does not answer";
+  const std::string advice =
+      another ? "Start Thornquill again when the other user has left the diary."
+              : "The other one may be busy with a slow disk: wait a while, and start Thornquill again. If it "
+                "never answers, end it with the system monitor, or log out and in.";
+  platform::ShowMessage("The diary in this folder is open in " + where + ":\n" + platform::ProgramFolder() +
+                            "\n\nTwo at once would overwrite each other's pages, so this one ends and "
+                            "changes nothing. " +
+                            advice,
+                        platform::BoxIcon::Stop);
+}
+
 QWidget* VisibleWindow() {
   if (look::IsLoaded<frmJournal>() && look::The<frmJournal>().isVisible()) return &look::The<frmJournal>();
   if (look::IsLoaded<frmExport>()) return &look::The<frmExport>();
@@ -103,14 +118,18 @@ void StartForTheFirstTime(bool isWritable) {
 
 }  // namespace
 
-void ActivatePrevInstance(const platform::RunningInstance& instance, const platform::ActivationToken& token) {
+void ActivatePrevInstance(platform::RunningInstance& instance, const platform::ActivationToken& token) {
   if (instance.IsFirst()) return;
-  if (platform::RunningInstance::HandOver(token)) platform::EndProcess();
+  const platform::Meeting meeting = instance.HandOver(token);
+  if (meeting == platform::Meeting::IsFirst) return;
+  if (meeting != platform::Meeting::HandedOver) TellThatTheFolderIsInUse(meeting);
+  platform::EndProcess();
 }
 
 void Main(platform::RunningInstance& instance, const platform::ActivationToken& token) {
   QApplication::setQuitOnLastWindowClosed(false);  // the windows hide for one another; EndProcess alone ends
   ActivatePrevInstance(instance, token);
+  if (!instance.IsFirst()) return;  // reached only where a test stands in for the end
   QObject::connect(&instance, &platform::RunningInstance::ActivationRequested, &ComeToTheFront);
   platform::RemoveUnfinished(platform::ProgramFolder());
   const bool isWritable = FolderIsWritableOrTell();

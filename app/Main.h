@@ -7,6 +7,6 @@
 // dialog, which blocks. Returns at once after handing over to a running instance.
 void Main(platform::RunningInstance& instance, const platform::ActivationToken& token);
 
-// Hands over to the instance that runs already and ends this process; returns when there is none that
-// answers.
-void ActivatePrevInstance(const platform::RunningInstance& instance, const platform::ActivationToken& token);
+// Returns when this instance is the first one, or has become it because the other one ended meanwhile. Else
+// hands over to the other one, or says in a message that it does not answer, and ends this process.
+void ActivatePrevInstance(platform::RunningInstance& instance, const platform::ActivationToken& token);

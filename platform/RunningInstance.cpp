@@ -1,11 +1,12 @@
 #include "platform/RunningInstance.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
-#include <QtCore/QCryptographicHash>
-#include <QtCore/QDeadlineTimer>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QEventLoop>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtNetwork/QLocalServer>
@@ -17,23 +18,23 @@
 namespace platform {
 namespace {
 
+using std::chrono::milliseconds;
+
 // A second start says one line: this word, the timestamp, and the startup id in hexadecimal digits. The first
 // one answers with a line of its own when its window is in front.
-constexpr char request[] = "activate";
+constexpr char activate[] = "activate";
 constexpr char done[] = "done\n";
 constexpr qint64 longestRequest = 4096;
-constexpr int patience = 2000;  // milliseconds
+constexpr milliseconds longestTalk{2000};
+constexpr milliseconds patienceWithStrangers{2000};
+constexpr milliseconds untilTheNextTry{20};
+constexpr milliseconds untilTheNameIsTriedAgain{500};
 
-// One name for a folder, however it was reached.
-QByteArray CanonicalProgramFolder() {
-  const std::string folder = ProgramFolder();
-  const std::unique_ptr<char, void (*)(void*)> canonical(realpath(folder.c_str(), nullptr), std::free);
-  return canonical ? QByteArray(canonical.get()) : QByteArray::fromStdString(folder);
-}
-
+// One name for a folder, however it was reached and whoever asks.
 QString SocketName() {
-  const QByteArray hash = QCryptographicHash::hash(CanonicalProgramFolder(), QCryptographicHash::Sha256);
-  return QStringLiteral("thornquill-%1-%2").arg(geteuid()).arg(QString::fromLatin1(hash.left(16).toHex()));
+  struct stat folder {};
+  stat(ProgramFolder().c_str(), &folder);
+  return QStringLiteral("thornquill-%1-%2").arg(folder.st_dev, 0, 16).arg(folder.st_ino, 0, 16);
 }
 
 // Names in the abstract namespace can be taken by anyone, so both sides look who the other one is.
@@ -45,14 +46,14 @@ bool IsOurs(const QLocalSocket& socket) {
 }
 
 QByteArray RequestFor(const ActivationToken& token) {
-  return QByteArray(request) + ' ' + QByteArray::number(token.timestamp) + ' ' + token.startupId.toHex() +
+  return QByteArray(activate) + ' ' + QByteArray::number(token.timestamp) + ' ' + token.startupId.toHex() +
          '\n';
 }
 
 // False for a line that no start of this program sends.
 bool ReadRequest(const QByteArray& line, ActivationToken& token) {
   const QList<QByteArray> words = line.trimmed().split(' ');
-  if (words.size() < 2 || words.size() > 3 || words[0] != request) return false;
+  if (words.size() < 2 || words.size() > 3 || words[0] != activate) return false;
   bool isNumber = false;
   token.timestamp = words[1].toUInt(&isNumber);
   if (words.size() == 3) token.startupId = QByteArray::fromHex(words[2]);
@@ -65,52 +66,109 @@ ActivationToken WithTimestamp(ActivationToken token, xcb_connection_t* x11) {
   return token;
 }
 
-bool Ask(QLocalSocket& socket, const ActivationToken& token) {
-  const QDeadlineTimer deadline(patience);
-  socket.write(RequestFor(token));
-  while (!socket.canReadLine()) {
-    const bool tooLong = socket.bytesAvailable() > qint64{sizeof done};
-    if (tooLong || !socket.waitForReadyRead(static_cast<int>(deadline.remainingTime()))) return false;
+// An order to end is heard while this start waits.
+void RunEvents(milliseconds time) {
+  QEventLoop events;
+  QTimer::singleShot(time, &events, &QEventLoop::quit);
+  events.exec();
+}
+
+// What a second start has to say to the first one. It speaks but once to one that is busy, and anew to one
+// that was not there or went away.
+class Caller {
+ public:
+  Caller(QString name, QByteArray request) : name_(std::move(name)), request_(std::move(request)) {
+    socket_.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
+    socket_.setReadBufferSize(longestRequest);
   }
-  return socket.readLine() == done;
+  // Never waits: to be called again and again until it is so.
+  bool IsAnswered();
+  bool MetAStranger() const { return metAStranger_; }
+
+ private:
+  void Connect();
+  void Speak();
+
+  const QString name_;
+  const QByteArray request_;
+  QLocalSocket socket_;
+  bool hasSpoken_ = false;
+  bool metAStranger_ = false;
+};
+
+bool Caller::IsAnswered() {
+  if (socket_.canReadLine()) return socket_.readLine() == done;  // the other end may be closed already
+  if (socket_.state() == QLocalSocket::UnconnectedState) Connect();
+  if (socket_.state() == QLocalSocket::ConnectedState && !hasSpoken_) Speak();
+  return false;
+}
+
+void Caller::Connect() {
+  hasSpoken_ = false;
+  socket_.abort();
+  socket_.connectToServer(name_);
+}
+
+void Caller::Speak() {
+  metAStranger_ = !IsOurs(socket_);
+  if (metAStranger_) return socket_.abort();
+  hasSpoken_ = socket_.write(request_) == request_.size();
 }
 
 }  // namespace
 
-RunningInstance::RunningInstance(QObject* parent)
-    : QObject(parent), server_(std::make_unique<QLocalServer>()) {
+RunningInstance::RunningInstance(milliseconds patience)
+    : patience_(patience),
+      lock_(ProgramFolder()),
+      name_(SocketName()),
+      server_(std::make_unique<QLocalServer>()) {
   server_->setSocketOptions(QLocalServer::AbstractNamespaceOption);
   connect(server_.get(), &QLocalServer::newConnection, this, &RunningInstance::Answer);
-  server_->listen(SocketName());
+  BecomeFirst();
 }
 
 RunningInstance::~RunningInstance() = default;
 
-bool RunningInstance::IsFirst() const {
-  return server_->isListening();
+bool RunningInstance::BecomeFirst() {
+  switch (lock_.Take()) {
+    case FolderLock::Reply::Ours:
+      first_ = true;
+      Listen();
+      break;
+    case FolderLock::Reply::NoLocks:
+      first_ = server_->listen(name_) || server_->serverError() != QAbstractSocket::AddressInUseError;
+      break;
+    case FolderLock::Reply::Taken:
+      break;
+  }
+  return first_;
 }
 
-QString RunningInstance::Name() const {
-  return server_->serverName();
+// The name may be a stranger's, or for a moment still that of the former first one.
+void RunningInstance::Listen() {
+  if (!server_->listen(name_)) QTimer::singleShot(untilTheNameIsTriedAgain, this, &RunningInstance::Listen);
 }
 
-bool RunningInstance::HandOver(const ActivationToken& token) {
-  QLocalSocket socket;
-  socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
-  socket.connectToServer(SocketName());
-  if (!socket.waitForConnected(patience) || !IsOurs(socket)) return false;
+Meeting RunningInstance::HandOver(const ActivationToken& token) {
   const X11Connection x11 = ConnectToX11();
-  if (!Ask(socket, WithTimestamp(token, x11.get()))) return false;
+  Caller caller(name_, RequestFor(WithTimestamp(token, x11.get())));
+  QElapsedTimer waited;
+  for (waited.start(); !caller.IsAnswered(); RunEvents(untilTheNextTry)) {
+    if (BecomeFirst()) return Meeting::IsFirst;
+    const bool stranger = caller.MetAStranger();
+    const milliseconds patience = stranger ? std::min(patience_, patienceWithStrangers) : patience_;
+    if (milliseconds(waited.elapsed()) > patience) return stranger ? Meeting::AnotherUser : Meeting::Silent;
+  }
   // No window of this start will ever come up to tell the desktop so.
   if (x11 && !token.startupId.isEmpty()) EndStartupSequence(x11.get(), token.startupId.toStdString());
-  return true;
+  return Meeting::HandedOver;
 }
 
 void RunningInstance::Answer() {
   while (QLocalSocket* socket = server_->nextPendingConnection()) {
     connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
     connect(socket, &QLocalSocket::readyRead, this, [this, socket] { Hear(*socket); });
-    QTimer::singleShot(patience, socket, [socket] { socket->abort(); });
+    QTimer::singleShot(longestTalk, socket, [socket] { socket->abort(); });
     socket->setReadBufferSize(longestRequest);
     if (IsOurs(*socket))
       Hear(*socket);
@@ -129,8 +187,11 @@ void RunningInstance::Hear(QLocalSocket& socket) {
   const QPointer<QLocalSocket> asking = &socket;  // the listeners may run events, and its patience may end
   Q_EMIT ActivationRequested(token);
   if (!asking) return;
-  asking->write(done);
-  asking->disconnectFromServer();
+  // Behind what came before the request: one that is being told to end must not send the new one away.
+  QTimer::singleShot(0, asking, [asking] {
+    asking->write(done);
+    asking->disconnectFromServer();
+  });
 }
 
 }  // namespace platform

@@ -74,6 +74,21 @@ TEST_F(Journey, AFirstRunThatIsLeftLeavesNothingBehind) {
   EXPECT_TRUE(folder.Names().empty());
 }
 
+TEST_F(Journey, AStartBesideOneThatDoesNotAnswerTellsSoAndTouchesNothing) {
+  folder.Write("j00000.tqf.thornquill-unfinished", "of the other one");
+  folder.Write("journal.tqt", "of the other one");
+  platform::FolderLock other(folder.path());
+  EXPECT_EQ(other.Take(), platform::FolderLock::Reply::Ours);
+  platform::RunningInstance second(std::chrono::milliseconds(100));
+  Main(second, {});
+  EXPECT_EQ(end.count, 1);
+  ASSERT_EQ(answers.messages.size(), 1u);
+  EXPECT_NE(answers.last().find("which does not answer:\n" + folder.path() + "\n"), std::string::npos);
+  EXPECT_EQ(folder.Names(), (fixture::Texts{"j00000.tqf.thornquill-unfinished", "journal.tqt"}));
+  EXPECT_EQ(folder.Read("journal.tqt"), "of the other one");
+  EXPECT_FALSE(look::IsLoaded<frmPass>() || look::IsLoaded<frmInitJournal>());
+}
+
 TEST_F(Journey, AFirstRunChecksItsEntriesInOrderAndChangesNothingMeanwhile) {
   const std::string longest(128, 'a'), tooLong(129, 'a');
   const struct {

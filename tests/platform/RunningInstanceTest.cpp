@@ -1,7 +1,17 @@
+#include <array>
+#include <csignal>
+#include <fcntl.h>
 #include <memory>
 #include <optional>
+#include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
+#include <QtCore/QProcess>
+#include <QtCore/QThread>
+#include <QtCore/QTimer>
+#include <QtNetwork/QLocalServer>
 #include <QtNetwork/QLocalSocket>
 #include <QtTest/QTest>
 #include <QtWidgets/QtWidgets>
@@ -9,7 +19,9 @@
 #include "platform/RunningInstance.h"
 #include "tests/support/Fixtures.h"
 
+using namespace std::chrono_literals;
 using platform::ActivationToken;
+using platform::Meeting;
 using platform::RunningInstance;
 
 namespace {
@@ -22,46 +34,143 @@ struct First : RunningInstance {
   QList<ActivationToken> asked;
 };
 
-// A second start, which waits for its answer in a thread of its own, as a process would.
-bool HandOver(const ActivationToken& token) {
-  bool done = false;
-  const std::unique_ptr<QThread> thread(QThread::create([&] { done = RunningInstance::HandOver(token); }));
-  thread->start();
-  while (!thread->isFinished()) QTest::qWait(5);
-  return done;
-}
+// A first instance in a process of its own, which is too busy to answer until it is killed.
+class BusyProcess {
+ public:
+  BusyProcess() {
+    std::array<int, 2> pipe{};
+    EXPECT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
+    id_ = fork();
+    if (id_ == 0) BeBusy(pipe[1]);
+    char first = 0;
+    EXPECT_TRUE(read(pipe[0], &first, 1) == 1 && first);
+    for (const int end : pipe) close(end);
+  }
+  ~BusyProcess() { Kill(); }
+  Q_DISABLE_COPY_MOVE(BusyProcess)
+  void Kill() {
+    if (id_ <= 0) return;
+    kill(id_, SIGKILL);
+    waitpid(std::exchange(id_, -1), nullptr, 0);
+  }
 
-// What a stranger who says `words` gets back, until it is shown the door. Only root can be another user.
-QByteArray Say(const RunningInstance& instance, const QByteArray& words, uid_t user = geteuid()) {
-  QLocalSocket stranger;
-  stranger.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
+ private:
+  [[noreturn]] static void BeBusy(int tell) {
+    const RunningInstance instance;
+    const char first = instance.IsFirst();
+    if (write(tell, &first, 1) == 1) raise(SIGSTOP);
+    _exit(1);
+  }
+  pid_t id_;
+};
+
+// What another user does, as far as root can be one: the nobody of the system.
+template <class Action>
+void AsAnotherUser(const Action& action, uid_t user = geteuid() == 0 ? 65534 : geteuid()) {
   const uid_t before = geteuid();
   EXPECT_EQ(seteuid(user), 0);
-  stranger.connectToServer(instance.Name());
+  action();
   EXPECT_EQ(seteuid(before), 0);
-  stranger.write(words);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return stranger.state() == QLocalSocket::UnconnectedState; }, 4000));
-  return stranger.readAll();
+}
+
+// What one who says `words` gets back, until it is shown the door.
+QByteArray Say(const RunningInstance& instance, const QByteArray& words, uid_t user = geteuid()) {
+  QLocalSocket socket;
+  socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
+  AsAnotherUser([&] { socket.connectToServer(instance.Name()); }, user);
+  socket.write(words);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return socket.state() == QLocalSocket::UnconnectedState; }, 4000));
+  return socket.readAll();
 }
 
 }  // namespace
 
 TEST(RunningInstance, OneForEachProgramFolder) {
   const fixture::Folder here;
-  EXPECT_FALSE(RunningInstance::HandOver({})) << "nobody is there";
   std::optional<RunningInstance> first(std::in_place);
   EXPECT_TRUE(first->IsFirst());
   EXPECT_FALSE(RunningInstance().IsFirst());
-  platform::SetProgramFolder(here.path() + "/../" + here.path().substr(here.path().rfind('/') + 1));
-  EXPECT_FALSE(RunningInstance().IsFirst()) << "another path to the same folder";
-  {
-    const fixture::Folder elsewhere;
-    EXPECT_TRUE(RunningInstance().IsFirst());
-  }
-  platform::SetProgramFolder(here.path());
+  const fixture::Folder elsewhere;
+  EXPECT_TRUE(RunningInstance().IsFirst());
+  ASSERT_EQ(symlink(here.path().c_str(), elsewhere.PathOf("link").c_str()), 0);
+  platform::SetProgramFolder(elsewhere.PathOf("link"));
+  RunningInstance second;
+  EXPECT_FALSE(second.IsFirst()) << "another path to the same folder";
+  EXPECT_EQ(second.HandOver({}), Meeting::HandedOver);
+  QProcess browser;  // outlives the program that started it
+  browser.start(QStringLiteral("sleep"), {QStringLiteral("60")});
+  ASSERT_TRUE(browser.waitForStarted());
   first.reset();
   EXPECT_TRUE(RunningInstance().IsFirst());
   EXPECT_TRUE(here.Names().empty());
+  browser.kill();
+  browser.waitForFinished();
+}
+
+TEST(RunningInstance, ABusyOneIsWaitedForAndItsPlaceTakenWhenItEnds) {
+  const fixture::Folder folder;
+  BusyProcess busy;
+  EXPECT_EQ(RunningInstance(200ms).HandOver({}), Meeting::Silent);
+  RunningInstance second;
+  EXPECT_FALSE(second.IsFirst());
+  QTimer::singleShot(300, [&] { busy.Kill(); });
+  EXPECT_EQ(second.HandOver({}), Meeting::IsFirst);
+  RunningInstance third;
+  EXPECT_FALSE(second.IsFirst() && third.IsFirst());
+  EXPECT_EQ(third.HandOver({}), Meeting::HandedOver);
+}
+
+TEST(RunningInstance, AnAnswerThatTakesLongIsWaitedForAndAskedForOnce) {
+  const fixture::Folder folder;
+  First first;
+  Meeting meeting = Meeting::Silent;
+  const std::unique_ptr<QThread> waiting(QThread::create([&] { meeting = RunningInstance().HandOver({}); }));
+  waiting->start();
+  QThread::msleep(2200);  // a slow disk
+  while (!waiting->isFinished()) QTest::qWait(5);
+  EXPECT_EQ(meeting, Meeting::HandedOver);
+  EXPECT_EQ(first.asked.size(), 1);
+}
+
+TEST(RunningInstance, WhoHasTheNameDecidesNothing) {
+  const fixture::Folder folder;
+  ASSERT_EQ(chmod(folder.path().c_str(), 0755), 0);
+  const QString name = RunningInstance().Name();
+  std::optional<QLocalServer> stranger(std::in_place);
+  stranger->setSocketOptions(QLocalServer::AbstractNamespaceOption);
+  AsAnotherUser([&] { ASSERT_TRUE(stranger->listen(name)); });
+  const RunningInstance first;
+  EXPECT_TRUE(first.IsFirst());
+  EXPECT_FALSE(RunningInstance().IsFirst());
+  EXPECT_EQ(RunningInstance(200ms).HandOver({}), geteuid() ? Meeting::Silent : Meeting::AnotherUser);
+  stranger.reset();
+  EXPECT_EQ(RunningInstance().HandOver({}), Meeting::HandedOver) << "it takes the name as soon as it can";
+}
+
+TEST(RunningInstance, AnotherUserIsNotFirstEither) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can be two users";
+  const fixture::Folder folder;
+  ASSERT_EQ(chmod(folder.path().c_str(), 0755), 0);
+  First first;
+  AsAnotherUser([] {
+    RunningInstance other(200ms);
+    EXPECT_FALSE(other.IsFirst());
+    EXPECT_EQ(other.HandOver({}), Meeting::AnotherUser);
+  });
+  EXPECT_TRUE(first.asked.empty());
+}
+
+TEST(RunningInstance, TheNameDecidesWhereTheDiskKnowsNoLocks) {
+  const fixture::Folder folder;
+  folder.Write("file", "");
+  platform::SetProgramFolder(folder.PathOf("file"));  // what is no folder is not locked
+  std::optional<RunningInstance> first(std::in_place);
+  EXPECT_TRUE(first->IsFirst());
+  RunningInstance second;
+  EXPECT_FALSE(second.IsFirst());
+  EXPECT_EQ(second.HandOver({}), Meeting::HandedOver);
+  first.reset();
+  EXPECT_EQ(second.HandOver({}), Meeting::IsFirst);
 }
 
 TEST(RunningInstance, TheTokenIsHandedOverAndStrangeWordsAreShownTheDoor) {
@@ -73,7 +182,7 @@ TEST(RunningInstance, TheTokenIsHandedOverAndStrangeWordsAreShownTheDoor) {
     EXPECT_EQ(Say(first, words), "") << words.left(30).toStdString();
   if (geteuid() == 0) Say(first, "activate 1 \n", 65534);
   EXPECT_TRUE(first.asked.empty());
-  EXPECT_TRUE(HandOver({"launcher-1 \"x\"\n_TIME77", 77}));
+  EXPECT_EQ(RunningInstance().HandOver({"launcher-1 \"x\"\n_TIME77", 77}), Meeting::HandedOver);
   ASSERT_EQ(first.asked.size(), 1);
   EXPECT_EQ(first.asked[0].startupId, "launcher-1 \"x\"\n_TIME77");
   EXPECT_EQ(first.asked[0].timestamp, 77u);
