@@ -15,6 +15,7 @@
 #include "look/frmWait.h"
 #include "pictures/PictureSlots.h"
 #include "platform/Failure.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
@@ -113,9 +114,10 @@ void SaveOpenJournal() {
     SaveJournalFile(Journals.at(static_cast<std::size_t>(CurrentJournal)).FileName);
   } catch (const platform::Failure& failure) {
     throw std::runtime_error(
-        std::string(failure.what()) +
-        "\n\nNothing is lost: the page stays in the open journal, and the file is as it was. When the cause "
-        "is removed, the next page that you change saves it too, or closing the journal does.");
+        std::string(failure.what()) + "\n\nNothing is lost: the page stays in the open journal, and " +
+        platform::FileAfter(failure) +
+        ". When the cause is removed, the next page that you change saves it too, or closing the journal "
+        "does.");
   }
 }
 

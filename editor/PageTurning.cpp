@@ -10,6 +10,7 @@
 #include "platform/Dates.h"
 #include "platform/Failure.h"
 #include "platform/MessageBox.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 
@@ -49,9 +50,8 @@ void AskAndAddPage() {
 
 std::string NotSaved(const std::string& fileName, const platform::Failure& failure) {
   return "The journal's file " + platform::FromCodePage(fileName).toStdString() + " could not be written.\n" +
-         failure.what() +
-         "\n\nNothing is lost: the file is as it was, and the journal stays open. When the cause is removed, "
-         "close it once more, and it is saved.";
+         failure.what() + "\n\nNothing is lost: " + platform::FileAfter(failure) +
+         ", and the journal stays open. When the cause is removed, close it once more, and it is saved.";
 }
 
 bool SaveOpenJournal() {

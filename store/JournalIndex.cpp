@@ -7,6 +7,7 @@
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
 #include "platform/Process.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/IndexFile.h"
 #include "store/Scrambler.h"
@@ -103,11 +104,11 @@ void KeepDamagedFile(const std::string& path) {
 
 void TellNotSaved(const std::exception& failure) {
   const char* const changed =
-      "Nothing is lost: the file is as it was, and Thornquill stays open. When the cause is removed, leave "
-      "once more, and it is saved.";
-  const char* const unchanged = "Nothing is lost: the file is as it was, and there was nothing new to save.";
+      ", and Thornquill stays open. When the cause is removed, leave once more, and it is saved.";
+  const char* const unchanged = ", and there was nothing new to save.";
   platform::ShowMessage(std::string("The bookcase could not be saved in journal.tqt. ") + failure.what() +
-                        "\n\n" + (HasChanged() ? changed : unchanged));
+                        "\n\nNothing is lost: " + platform::FileAfter(failure) +
+                        (HasChanged() ? changed : unchanged));
 }
 
 }  // namespace
