@@ -4,6 +4,7 @@
 
 #include "platform/Failure.h"
 #include "platform/Files.h"
+#include "platform/KnownFiles.h"
 #include "platform/MessageBox.h"
 #include "platform/SyncFolder.h"
 #include "state/State.h"
@@ -41,13 +42,14 @@ void TellUnreadable(const std::string& name, const Failure& failure) {
 void LoadStore() {
   try {
     store::DecodedPictures decoded =
-        store::DecodePictureStore(platform::ReadFile(platform::PathOf(storeName)));
+        store::DecodePictureStore(platform::ReadDataFile(platform::PathOf(storeName)));
     keepBeforeSaving = decoded.isDamaged;
     Take(std::move(decoded));
     if (keepBeforeSaving)
       TellDamaged(storeName, "The damaged file is kept beside before it is written over.");
   } catch (const Failure& failure) {
     keepBeforeSaving = true;
+    platform::AcceptUnread(platform::PathOf(storeName));
     Take({{{}}, true});
     TellUnreadable(storeName, failure);
   }
@@ -85,10 +87,12 @@ void WriteStore(const std::string& bytes) {
   const std::string path = platform::PathOf(storeName);
   PicturesUnsaved = true;
   try {
-    if (keepBeforeSaving && platform::FileExists(path)) platform::KeepDamaged(path);
+    const bool isChanged = platform::KeepChanged(path);
+    if (keepBeforeSaving && !isChanged && platform::FileExists(path)) platform::KeepDamaged(path);
     keepBeforeSaving = false;  // one copy, even when the writing has to be tried again
     platform::ReplaceFile(path, bytes);
     PicturesUnsaved = false;
+    platform::TellKept(path);
   } catch (const Failure& failure) {
     platform::ShowMessage(
         "The pictures could not be saved in tqpics.bin. " + std::string(failure.what()) +
@@ -107,8 +111,9 @@ void LoadPictureStore() {
 }
 
 // The order is meant: the older store goes as soon as its rows are in memory, whether they are ever saved or
-// not.
+// not. The newer store, which nobody reads then, is written over.
 void ImportOldPictureStore() {
+  platform::AcceptUnread(platform::PathOf(storeName));
   const std::string path = platform::PathOf(oldStoreName);
   const bool keepsIt = platform::FileExists(path) && ReadOldStore(path);
   DeleteOldStore(path, keepsIt);

@@ -10,9 +10,11 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/Checksum.h"
 #include "platform/Errno.h"
 #include "platform/Files.h"
 #include "platform/LeftBehind.h"
+#include "platform/Remembered.h"
 #include "platform/SyncFolder.h"
 
 namespace platform {
@@ -57,6 +59,8 @@ class Unfinished {
 
   void Write(std::span<const std::string_view> pieces);
   void TakeTheName();
+  // The one that has the name now is known, so that no other that takes its place is taken for it.
+  void BeRemembered() const;
 
  private:
   void Must(bool succeeded) const {
@@ -70,6 +74,7 @@ class Unfinished {
   std::string name_;
   int descriptor_;
   int lock_ = -1;  // reads, so that it can be held beyond the closing of the other
+  Checksum checksum_;
 };
 
 Unfinished::Unfinished(const std::string& path, const std::string& target)
@@ -136,6 +141,7 @@ void WriteBatch(int descriptor, std::span<iovec> left, const std::string& path) 
 void Unfinished::Write(std::span<const std::string_view> pieces) {
   while (!pieces.empty()) {
     Batch batch = BatchOf(pieces);
+    for (const std::string_view piece : pieces.first(batch.size())) checksum_.Add(piece);
     pieces = pieces.subspan(batch.size());
     WriteBatch(descriptor_, batch, path_);
   }
@@ -151,6 +157,11 @@ void Unfinished::TakeTheName() {
   name_.clear();
 }
 
+void Unfinished::BeRemembered() const {
+  struct stat entry {};
+  if (lock_ >= 0 && fstat(lock_, &entry) == 0) Remember(path_, entry, checksum_.value());
+}
+
 }  // namespace
 
 void ReplaceFile(const std::string& path, std::string_view bytes) {
@@ -163,6 +174,7 @@ void ReplaceFile(const std::string& path, std::span<const std::string_view> piec
   Unfinished file(path, target);
   file.Write(pieces);
   file.TakeTheName();
+  file.BeRemembered();
   SyncFolderOf(target);
 }
 

@@ -5,6 +5,7 @@
 
 #include "platform/Failure.h"
 #include "platform/Files.h"
+#include "platform/KnownFiles.h"
 #include "platform/MessageBox.h"
 #include "platform/Process.h"
 #include "platform/SyncFolder.h"
@@ -68,7 +69,7 @@ void TakeOver(store::Index index) {
 }
 
 void LoadFrom(const std::string& path) {
-  store::DecodedIndex decoded = store::DecodeIndex(platform::ReadFile(path, largestIndex));
+  store::DecodedIndex decoded = store::DecodeIndex(platform::ReadDataFile(path, largestIndex));
   if (decoded.health == store::IndexHealth::Headless) {
     return GiveUp("The file journal.tqt is damaged at its start (" + decoded.problem + "): " + path);
   }
@@ -98,7 +99,8 @@ void LeaveNamesScrambled(store::Index index) {
 }
 
 void KeepDamagedFile(const std::string& path) {
-  if (fileIsDamaged && platform::FileExists(path)) platform::KeepDamaged(path);
+  const bool isChanged = platform::KeepChanged(path);
+  if (fileIsDamaged && !isChanged && platform::FileExists(path)) platform::KeepDamaged(path);
   fileIsDamaged = false;  // one copy, even when the writing has to be tried again
 }
 
@@ -130,6 +132,7 @@ void SaveJournalIndex() {
   const std::string bytes = store::EncodeIndex(index);
   KeepDamagedFile(path);
   platform::ReplaceFile(path, bytes);
+  platform::TellKept(path);
   LeaveNamesScrambled(std::move(index));
 }
 
