@@ -59,6 +59,7 @@ KeptLog::KeptLog(bool tells)
 }
 
 KeptLog::~KeptLog() {
+  ForgetPagesLeftBehind();
   JournalWillBeWritten = nullptr;
   SomethingWasStored = nullptr;
   LogThrough = nullptr;

@@ -7,12 +7,13 @@
 #include <string>
 
 // Deciphers Pages(CurrentPage).Body into the text box. PageDirty is cleared, but not for an empty body, whose
-// page counts as changed. The first alien page since the journal was opened is told in a message; the text box
-// is read-only for as long as it holds one.
+// page counts as changed. The first alien page since the journal was opened is told in a message; the text
+// box is read-only for as long as it holds one.
 void ShowCurrentPage();
 
 // Enciphers the text box into Pages(CurrentPage).Body and writes the journal's file, if PageDirty is set.
-// Nothing is stored while the text box holds the text of another page or another journal, or of an alien page.
+// Nothing is stored while the text box holds the text of another page or another journal, or of an alien
+// page.
 void StoreCurrentPage();
 
 // Whether the page on show has text that its row does not hold. A blank page counts as changed, but has none.

@@ -68,6 +68,10 @@ void LeavePagesBehind() {
   if (IsAnythingUnstored()) LeftBehind().push_back(OpenJournal());
 }
 
+void ForgetPagesLeftBehind() {
+  LeftBehind().clear();
+}
+
 // The file may have been replaced meanwhile: what no longer fits its row becomes a page of its own.
 void TakePagesBack(const std::string& fileName) {
   const auto isIts = [&](const store::UnstoredJournal& journal) { return journal.FileName == fileName; };

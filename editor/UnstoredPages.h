@@ -15,6 +15,9 @@ std::vector<store::UnstoredJournal> UnstoredJournals();
 // journal is opened again, in this run or the next.
 void LeavePagesBehind();
 
+// The log ends, and with it what is left behind in this run.
+void ForgetPagesLeftBehind();
+
 // Puts the pages that were left behind into the journal that has just been read into Pages, and counts them
 // as unstored.
 void TakePagesBack(const std::string& fileName);

@@ -4,7 +4,9 @@
 
 #include "platform/Failure.h"
 #include "platform/Files.h"
+#include "platform/KnownFiles.h"
 #include "platform/MessageBox.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/PictureStore.h"
 
@@ -19,7 +21,7 @@ const char oldStoreName[] = "jpics.bin";
 // Whether tqpics.bin may hold more than what was read from it.
 bool keepBeforeSaving = false;
 
-// What tqpics.bin holds as far as is known; none where it is not there.
+// What tqpics.bin holds, as far as it was read or written.
 std::optional<store::FileCheck> fileCheck;
 // Whether Pictures holds the rows of an older store that is gone, and no file has them yet.
 bool areOnlyHere = false;
@@ -44,7 +46,7 @@ void TellUnreadable(const std::string& name, const Failure& failure) {
 
 void LoadStore() {
   try {
-    const std::string bytes = platform::ReadFile(platform::PathOf(storeName));
+    const std::string bytes = platform::ReadDataFile(platform::PathOf(storeName));
     fileCheck = store::CheckOf(bytes);
     store::DecodedPictures decoded = store::DecodePictureStore(bytes);
     keepBeforeSaving = decoded.isDamaged;
@@ -53,6 +55,7 @@ void LoadStore() {
       TellDamaged(storeName, "The damaged file is kept beside before it is written over.");
   } catch (const Failure& failure) {
     keepBeforeSaving = true;
+    platform::AcceptUnread(platform::PathOf(storeName));
     Take({{{}}, true});
     TellUnreadable(storeName, failure);
   }
@@ -78,6 +81,7 @@ void DeleteOldStore(const std::string& path, bool keepsIt) {
   try {
     if (keepsIt) platform::KeepDamaged(path);
     platform::DeleteFile(path);
+    platform::SyncFolderOf(path);  // what is added from now on would not show if it came back
   } catch (const Failure& failure) {
     platform::ShowMessage("The older file jpics.bin could not be removed. " + std::string(failure.what()) +
                           "\n\nAs long as it is there, each start takes the pictures from it, and those that "
@@ -89,11 +93,13 @@ void WriteStore() {
   const std::string bytes = store::EncodePictureStore(Pictures);
   const std::string path = platform::PathOf(storeName);
   PicturesUnsaved = true;
-  if (keepBeforeSaving && platform::FileExists(path)) platform::KeepDamaged(path);
+  const bool isChanged = platform::KeepChanged(path);
+  if (keepBeforeSaving && !isChanged && platform::FileExists(path)) platform::KeepDamaged(path);
   keepBeforeSaving = false;  // one copy, even when the writing has to be tried again
   platform::ReplaceFile(path, bytes);
   fileCheck = store::CheckOf(bytes);
   PicturesUnsaved = areOnlyHere = false;
+  platform::TellKept(path);
 }
 
 }  // namespace
@@ -106,8 +112,9 @@ void LoadPictureStore() {
 }
 
 // The order is meant: the older store goes as soon as its rows are in memory, whether they are ever saved or
-// not. The log has them before.
+// not. The log has them before, and the newer store, which nobody reads then, is written over.
 void ImportOldPictureStore() {
+  platform::AcceptUnread(platform::PathOf(storeName));
   const std::string path = platform::PathOf(oldStoreName);
   const bool keepsIt = platform::FileExists(path) && ReadOldStore(path);
   areOnlyHere = Pictures.size() > 1;
@@ -131,13 +138,15 @@ void WritePicturesLeftUnsaved() {
 // tqpics.bin is not looked at where there is an older store.
 std::optional<store::UnstoredFile> UnstoredPictures() {
   if (Pictures.empty() || !(PicturesUnsaved || areOnlyHere)) return std::nullopt;
-  return store::UnstoredFile{fileCheck, store::EncodePictureStore(Pictures)};
+  const bool isMissing = platform::IsMissing(platform::PathOf(storeName));
+  return store::UnstoredFile{isMissing ? std::nullopt : fileCheck, store::EncodePictureStore(Pictures)};
 }
 
 std::string PicturesNotSaved(const std::exception& failure) {
   return "The pictures could not be saved in tqpics.bin. " + std::string(failure.what()) +
-         "\n\nNothing is lost: they stay on the pages, and the file is as it was. When the cause is removed, "
-         "the next change of a picture saves them all, or leaving the program does.";
+         "\n\nNothing is lost: they stay on the pages, and " + platform::FileAfter(failure) +
+         ". When the cause is removed, the next change of a picture saves them all, or leaving the program "
+         "does.";
 }
 
 void RemovePicturesOf(const std::string& journalFile) {

@@ -10,7 +10,10 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <sys/stat.h>
 #include <vector>
+
+#include "platform/Checksum.h"
 
 namespace platform {
 
@@ -46,23 +49,36 @@ class InputFile {
   // The same from the byte at `offset` on, wherever Read has come to.
   std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size);
   // The file's length in bytes when it was opened.
-  std::uint64_t size() const { return size_; }
+  std::uint64_t size() const { return static_cast<std::uint64_t>(entry_.st_size); }
+  // The system's entry of the file when it was opened.
+  const struct stat& entry() const { return entry_; }
   // For a reader of its own; it stays open as long as this object lives.
   int descriptor() const { return descriptor_; }
 
+  // Reads on to the end, and gives the checksum of all that Read has ever read. Throws DeviceError.
+  std::uint64_t ChecksumToTheEnd();
+  // The same, and makes the file known (platform/KnownFiles.h).
+  void Remember();
+
  private:
   int descriptor_;
-  std::uint64_t size_;
+  struct stat entry_ {};
+  Checksum checksum_;
   std::string path_;
 };
 
 // The whole file. Throws as InputFile does, and OutOfMemory when it is longer than `most` bytes.
 std::string ReadFile(const std::string& path, std::uint64_t most = std::uint64_t{1} << 30);
+// The same, and makes the file known (platform/KnownFiles.h).
+std::string ReadDataFile(const std::string& path, std::uint64_t most = std::uint64_t{1} << 30);
 
 // The one way a data file is written: the file holds `bytes` afterwards, or, on failure, what it held before.
-// The new bytes are on the disk before they take the name in one step. Throws DiskFull, PermissionDenied,
-// PathNotFound, DeviceError or PathAccess. A process that is killed meanwhile can leave one file beside it
-// that is called as UnfinishedEnding tells.
+// The new bytes are on the disk before they take the name in one step, and the name is on the disk at the
+// end. A new file is for its owner alone, whatever the umask; one that is replaced keeps its permissions.
+// Throws DiskFull, PermissionDenied, PathNotFound, DeviceError or PathAccess; and NotYetOnDisk
+// (platform/SyncFolder.h) when the file holds `bytes`, but may lose them in a power cut: it is to be written
+// once more. A process that is killed
+// meanwhile can leave one file beside it that is called as UnfinishedEnding tells.
 void ReplaceFile(const std::string& path, std::string_view bytes);
 // The same with the bytes in pieces, one behind the other, so that they need not be brought together first.
 void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces);
@@ -97,12 +113,14 @@ class OutputFile {
 // Makes the folder. Throws when something has that name already, or as AppendToFile does.
 void MakeFolder(const std::string& path);
 
-// Throws when the file exists and cannot be deleted; a missing file is no failure.
+// Throws when the file exists and cannot be deleted; a missing file is no failure. A power cut can bring it
+// back until its folder is synced (platform/SyncFolder.h).
 void DeleteFile(const std::string& path);
 
 // Keeps a copy of the file beside it, under its name with ".damaged" behind it, or with ".1.damaged" and so
 // on where that name is taken. A file that was kept and has not been replaced since is not kept twice.
-// Returns the copy's path; throws FileNotFound, or as ReplaceFile does when there can be no copy.
+// Returns the copy's path, when that is on the disk; throws FileNotFound, or as ReplaceFile does when there
+// can be no copy.
 std::string KeepDamaged(const std::string& path);
 
 // What the name of a file that is being written has behind the name that it will take.

@@ -1,5 +1,5 @@
 // Writing a file in one step: the bytes go into a file of their own beside it, and when they are on the disk
-// that file takes the old one's name.
+// that file takes the old one's name, and the name is brought to the disk too.
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -10,9 +10,12 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/Checksum.h"
 #include "platform/Errno.h"
 #include "platform/Files.h"
 #include "platform/LeftBehind.h"
+#include "platform/Remembered.h"
+#include "platform/SyncFolder.h"
 
 namespace platform {
 namespace {
@@ -56,6 +59,8 @@ class Unfinished {
 
   void Write(std::span<const std::string_view> pieces);
   void TakeTheName();
+  // The one that has the name now is known, so that no other that takes its place is taken for it.
+  void BeRemembered() const;
 
  private:
   void Must(bool succeeded) const {
@@ -69,12 +74,13 @@ class Unfinished {
   std::string name_;
   int descriptor_;
   int lock_ = -1;  // reads, so that it can be held beyond the closing of the other
+  Checksum checksum_;
 };
 
 Unfinished::Unfinished(const std::string& path, const std::string& target)
     : path_(path), target_(target), name_(UnfinishedName(target)) {
   RemoveLeftBehind(name_);
-  descriptor_ = open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  descriptor_ = open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
   Must(descriptor_ >= 0);
   lock_ = open(name_.c_str(), O_RDONLY | O_CLOEXEC);
   Lock(lock_);  // who was quicker removes the file, which HasTheName tells
@@ -95,7 +101,8 @@ bool Unfinished::HasTheName() const {
                        own.st_dev == entry.st_dev && own.st_ino == entry.st_ino);
 }
 
-// As far as the file system knows any: a failure changes nothing of what is saved.
+// Until here nobody else could open it, and of a new file nobody else ever can. As far as the file system
+// knows any permissions: a failure changes nothing of what is saved.
 void Unfinished::TakePermissionsOf(const std::string& target) const {
   struct stat entry {};
   if (stat(target.c_str(), &entry) != 0) return;
@@ -134,6 +141,7 @@ void WriteBatch(int descriptor, std::span<iovec> left, const std::string& path) 
 void Unfinished::Write(std::span<const std::string_view> pieces) {
   while (!pieces.empty()) {
     Batch batch = BatchOf(pieces);
+    for (const std::string_view piece : pieces.first(batch.size())) checksum_.Add(piece);
     pieces = pieces.subspan(batch.size());
     WriteBatch(descriptor_, batch, path_);
   }
@@ -149,6 +157,11 @@ void Unfinished::TakeTheName() {
   name_.clear();
 }
 
+void Unfinished::BeRemembered() const {
+  struct stat entry {};
+  if (lock_ >= 0 && fstat(lock_, &entry) == 0) Remember(path_, entry, checksum_.value());
+}
+
 }  // namespace
 
 void ReplaceFile(const std::string& path, std::string_view bytes) {
@@ -161,6 +174,8 @@ void ReplaceFile(const std::string& path, std::span<const std::string_view> piec
   Unfinished file(path, target);
   file.Write(pieces);
   file.TakeTheName();
+  file.BeRemembered();
+  SyncFolderOf(target);
 }
 
 bool CanWriteTo(const std::string& folder) {

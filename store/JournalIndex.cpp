@@ -5,8 +5,10 @@
 
 #include "platform/Failure.h"
 #include "platform/Files.h"
+#include "platform/KnownFiles.h"
 #include "platform/MessageBox.h"
 #include "platform/Process.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/IndexFile.h"
 #include "store/Scrambler.h"
@@ -24,7 +26,7 @@ struct Bookcase {
   bool operator==(const Bookcase&) const = default;
 };
 Bookcase loaded;
-std::optional<store::FileCheck> loadedFile;  // none where there is no file
+std::optional<store::FileCheck> loadedFile;
 
 Bookcase Present() {
   return {Journals, MasterPassword};
@@ -70,7 +72,7 @@ void TakeOver(store::Index index) {
 }
 
 void LoadFrom(const std::string& path) {
-  const std::string bytes = platform::ReadFile(path, largestIndex);
+  const std::string bytes = platform::ReadDataFile(path, largestIndex);
   store::DecodedIndex decoded = store::DecodeIndex(bytes);
   if (decoded.health == store::IndexHealth::Headless) {
     return GiveUp("The file journal.tqt is damaged at its start (" + decoded.problem + "): " + path);
@@ -102,7 +104,8 @@ void LeaveNamesScrambled(store::Index index) {
 }
 
 void KeepDamagedFile(const std::string& path) {
-  if (fileIsDamaged && platform::FileExists(path)) platform::KeepDamaged(path);
+  const bool isChanged = platform::KeepChanged(path);
+  if (fileIsDamaged && !isChanged && platform::FileExists(path)) platform::KeepDamaged(path);
   fileIsDamaged = false;  // one copy, even when the writing has to be tried again
 }
 
@@ -113,6 +116,7 @@ void Write(const store::Index& index) {
   platform::ReplaceFile(path, bytes);
   loaded = Present();
   loadedFile = store::CheckOf(bytes);
+  platform::TellKept(path);
 }
 
 }  // namespace
@@ -152,7 +156,7 @@ std::optional<store::UnstoredFile> UnstoredIndex() {
     bytes = store::EncodeIndex(IndexToSave(&ScrambleTextAside));
     made = Present();
   }
-  return store::UnstoredFile{loadedFile, bytes};
+  return store::UnstoredFile{platform::IsMissing(IndexPath()) ? std::nullopt : loadedFile, bytes};
 }
 
 bool IsSameBookcase(const std::string& one, const std::string& other) {

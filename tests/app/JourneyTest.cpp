@@ -41,7 +41,7 @@ class Journey : public fixture::Windows {
   // A first run that has been filled in, with the first journal open and something typed.
   void StartAndWrite(const char* text) {
     Start([](frmInitJournal& dialog) { Fill(dialog, "My Diary", "Rosebud7", "Rosebud7"); });
-    EXPECT_TRUE(folder.Names().empty());
+    EXPECT_FALSE(folder.Exists("journal.tqt"));
     OpenTheJournal();
     QTest::keyClicks(Book().face->txtM, QString::fromUtf8(text));
   }
@@ -220,7 +220,8 @@ TEST_F(Journey, EachFileIsTriedOnItsOwnAndTheSecondRefusalAsks) {
   ASSERT_EQ(answers.messages.size(), 1U);
   EXPECT_NE(answers.last().find("could not be saved in tqpics.bin"), std::string::npos);
   Click(bookcase.cmdClose);
-  EXPECT_NE(answers.last().find("the next start brings it back. Leave now?"), std::string::npos) << answers.last();
+  EXPECT_NE(answers.last().find("the next start brings it back. Leave now?"), std::string::npos)
+      << answers.last();
   EXPECT_NE(answers.last().find("tqpics.bin"), std::string::npos);
   EXPECT_EQ(answers.last().find("journal.tqt"), std::string::npos) << "this one was saved";
   EXPECT_TRUE(answers.messages.back().prefersNo);
@@ -290,7 +291,7 @@ TEST_F(Journey, ALogThatIsDamagedOrComesTooLateChangesNothingAndIsKept) {
   answers.messages.clear();
   folder.Write("journal.tql", log);
   end.count = 1;
-  ExpectAtTheNextStart(QStringLiteral("more Mine "));
+  ExpectAtTheNextStart(QStringLiteral("Mine more "));
   EXPECT_EQ(folder.Read(journal), stored) << "the log is older than the file, and told nothing new";
   EXPECT_TRUE(answers.texts().empty()) << answers.last();
 }

@@ -1,8 +1,13 @@
 #include <fcntl.h>
+#include <set>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include "platform/Checksum.h"
+#include "platform/KnownFiles.h"
+#include "platform/SyncFolder.h"
 #include "tests/support/Fixtures.h"
 
 using fixture::ExpectFailure;
@@ -11,6 +16,13 @@ using fixture::Texts;
 using platform::FailureKind;
 
 namespace {
+
+// What the calls below saw, each of which stands in for the C library's function of its name.
+struct {
+  Texts synced;           // the names of the folders that were synced
+  int folderError = 0;    // what they answer
+  mode_t modeBefore = 0;  // of a file whose mode is set: the one that it was made with
+} calls;
 
 // As somebody whom the permissions of files bind; root is bound by none.
 void RunPowerless(const Folder& folder, const std::function<void()>& routine) {
@@ -22,7 +34,30 @@ void RunPowerless(const Folder& folder, const std::function<void()>& routine) {
   EXPECT_EQ(seteuid(before), 0);
 }
 
+struct stat EntryOf(const std::string& path) {
+  struct stat entry {};
+  EXPECT_EQ(lstat(path.c_str(), &entry), 0) << path;
+  return entry;
+}
+
 }  // namespace
+
+extern "C" int fsync(int descriptor) {
+  struct stat entry {};
+  if (fstat(descriptor, &entry) == 0 && S_ISDIR(entry.st_mode)) {
+    const auto link = "/proc/self/fd/" + std::to_string(descriptor);
+    calls.synced.push_back(QFile::symLinkTarget(QString::fromStdString(link)).toStdString());
+    if ((errno = calls.folderError) != 0) return -1;
+  }
+  return static_cast<int>(syscall(SYS_fsync, descriptor));
+}
+
+extern "C" int fchmod(int descriptor, mode_t mode) noexcept {
+  struct stat entry {};
+  fstat(descriptor, &entry);
+  calls.modeBefore = entry.st_mode & 0777;
+  return static_cast<int>(syscall(SYS_fchmod, descriptor, mode));
+}
 
 TEST(Files, AFileIsReplacedWholeWhateverItsFolderIsCalled) {
   const Folder folder;
@@ -34,11 +69,52 @@ TEST(Files, AFileIsReplacedWholeWhateverItsFolderIsCalled) {
   ASSERT_EQ(chmod(path.c_str(), 0640), 0);
   platform::ReplaceFile(path, bytes);
   EXPECT_EQ(platform::ReadFile(path), bytes);
-  struct stat entry {};
-  stat(path.c_str(), &entry);
-  EXPECT_EQ(entry.st_mode & 0777, 0640u);
+  EXPECT_EQ(EntryOf(path).st_mode & 0777, 0640u);
   platform::DeleteFile(path);
   EXPECT_EQ(rmdir(odd.c_str()), 0) << "something else was left";
+}
+
+TEST(Files, ATakenNameIsBroughtToTheDiskWhereTheFileLies) {
+  const Folder folder;
+  const std::string there = folder.PathOf("there"), path = folder.PathOf("journal.tqt");
+  ASSERT_EQ(mkdir(there.c_str(), 0700), 0);
+  ASSERT_EQ(symlink("there/real", path.c_str()), 0);
+  calls = {};
+  platform::ReplaceFile(path, "old");
+  EXPECT_EQ(calls.synced, Texts{there});
+  platform::KeepDamaged(path);
+  EXPECT_EQ(calls.synced, (Texts{there, folder.path()})) << "a second name lies beside the link";
+  for (const int error : {EINVAL, ENOTSUP, EBADF}) {
+    calls.folderError = error;
+    EXPECT_NO_THROW(platform::ReplaceFile(path, "old")) << "a file system that knows no such thing";
+  }
+  calls.folderError = EIO;
+  try {
+    platform::ReplaceFile(path, "new");
+    ADD_FAILURE() << "nothing is told";
+  } catch (const platform::NotYetOnDisk& failure) {
+    EXPECT_EQ(failure.kind(), FailureKind::DeviceError);
+    EXPECT_NE(std::string(platform::FileAfter(failure)).find("is the new one"), std::string::npos);
+  }
+  EXPECT_EQ(folder.Read("journal.tqt"), "new");
+  calls.folderError = 0;
+  EXPECT_NO_THROW(platform::ReplaceFile(path, "newer")) << "and it can be written again";
+}
+
+TEST(Files, NobodyElseCanReadAFileThatIsBeingWrittenOrThatIsNew) {
+  const Folder folder;
+  const std::string path = folder.PathOf("j00000.tqf");
+  const mode_t before = umask(0);
+  platform::ReplaceFile(path, "new");
+  EXPECT_EQ(EntryOf(path).st_mode & 0777, 0600u);
+  EXPECT_EQ(EntryOf(platform::KeepDamaged(path)).st_mode & 0777, 0600u);
+  chmod(path.c_str(), 0664);
+  platform::ReplaceFile(path, "newer");
+  EXPECT_EQ(calls.modeBefore, 0600u);
+  EXPECT_EQ(EntryOf(path).st_mode & 0777, 0664u) << "what is there keeps its mode";
+  platform::AppendToFile(folder.PathOf("page.html"), "an export");
+  EXPECT_EQ(EntryOf(folder.PathOf("page.html")).st_mode & 0777, 0666u) << "is for whom the user likes";
+  umask(before);
 }
 
 TEST(Files, AReadOnlyFileOrFolderLeavesTheOldFile) {
@@ -85,6 +161,91 @@ TEST(Files, DamagedFilesAreKeptAndNeverWrittenOver) {
   EXPECT_EQ(folder.Read("journal.tqt.damaged"), "first");
   EXPECT_EQ(folder.Read("journal.tqt.1.damaged"), "second");
   EXPECT_EQ(folder.Read("real"), "third") << "a file may be a link to another place";
+}
+
+TEST(Files, WhatAnotherProgramPutThereIsKeptAndToldOnce) {
+  const Folder folder;
+  fixture::Answers answers;
+  const std::string name = "journal.tqt", path = folder.PathOf(name);
+  const auto save = [&](const std::string& bytes) {
+    const bool isChanged = platform::KeepChanged(path);
+    platform::ReplaceFile(path, bytes);
+    platform::TellKept(path);
+    return isChanged;
+  };
+  EXPECT_FALSE(save("first")) << "a missing file";
+  EXPECT_FALSE(save("our own"));
+  folder.Write("copy", "our own");
+  utimensat(AT_FDCWD, path.c_str(), nullptr, 0);
+  EXPECT_FALSE(platform::KeepChanged(path)) << "its time alone";
+  rename(folder.PathOf("copy").c_str(), path.c_str());
+  EXPECT_FALSE(platform::KeepChanged(path)) << "the same bytes in another file";
+  folder.Write(name, "another's");
+  EXPECT_TRUE(platform::KeepChanged(path));
+  EXPECT_FALSE(platform::KeepChanged(path)) << "kept already, for a save that failed";
+  EXPECT_FALSE(save("ours again"));
+  folder.Write(name, "OURS again");
+  EXPECT_EQ(platform::ReadDataFile(path), "OURS again");
+  EXPECT_FALSE(save("ours")) << "what was read is known";
+  platform::DeleteFile(path);
+  EXPECT_FALSE(save("ours")) << "what is gone is written";
+  folder.Write(name, "one more");
+  EXPECT_TRUE(save("ours at last"));
+  EXPECT_EQ(folder.Read(name + ".1.other"), "another's");
+  EXPECT_EQ(folder.Read(name + ".2.other"), "one more");
+  EXPECT_EQ(folder.Names(), (Texts{name, name + ".1.other", name + ".2.other"}));
+  ASSERT_EQ(answers.messages.size(), 2u);
+  EXPECT_NE(answers.last().find(name + ".2.other"), std::string::npos);
+}
+
+TEST(Files, AnotherProgramsFileThatCannotBeKeptIsNotWrittenOver) {
+  const Folder folder;
+  const std::string path = folder.PathOf("journal.tqt");
+  folder.Write("journal.tqt", "another's, that was never read");
+  RunPowerless(folder, [&] {
+    chmod(path.c_str(), 0200);
+    ExpectFailure(FailureKind::PermissionDenied, path, [&] { platform::KeepChanged(path); });
+    chmod(path.c_str(), 0600);
+    chmod(folder.path().c_str(), 0500);
+    ExpectFailure(FailureKind::PermissionDenied, path, [&] { platform::KeepChanged(path); });
+    chmod(folder.path().c_str(), 0700);
+    EXPECT_EQ(folder.Names(), Texts{"journal.tqt"});
+    calls = {.synced = {}, .folderError = EIO};
+    try {
+      platform::KeepChanged(path);
+      ADD_FAILURE() << "nothing is told";
+    } catch (const platform::Failure& failure) {
+      EXPECT_EQ(std::string(platform::FileAfter(failure)), "the file is as it was");
+    }
+    calls.folderError = 0;
+    EXPECT_TRUE(platform::KeepChanged(path)) << "and it is tried again";
+  });
+  EXPECT_EQ(folder.Names(), (Texts{"journal.tqt", "journal.tqt.1.other"})) << "one copy";
+}
+
+TEST(Files, AChecksumTellsEachByteAndNoPieces) {
+  std::string bytes(200, '\0');
+  for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * 7);
+  const auto checksumOf = [](std::string_view text, std::size_t piece) {
+    platform::Checksum checksum;
+    for (; text.size() > piece; text.remove_prefix(piece)) checksum.Add(text.substr(0, piece));
+    checksum.Add(text);
+    return checksum.value();
+  };
+  std::set<std::uint64_t> values;
+  for (std::size_t size = 0; size <= bytes.size(); ++size) {
+    values.insert(checksumOf(bytes.substr(0, size), 1000));
+    for (const std::size_t piece : {1u, 31u, 32u, 33u})
+      values.insert(checksumOf(bytes.substr(0, size), piece));
+  }
+  for (char& byte : bytes) {
+    byte ^= 1;
+    values.insert(checksumOf(bytes, 1000));
+    byte ^= 1;
+  }
+  values.insert(checksumOf(std::string(64, '\0'), 64));
+  values.insert(checksumOf(std::string(65, '\0'), 65));
+  EXPECT_EQ(values.size(), 201u + 200u + 2u);
 }
 
 TEST(Files, WhatAnotherProgramIsWritingIsLeftAlone) {
