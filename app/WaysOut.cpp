@@ -16,6 +16,7 @@
 #include "platform/Application.h"
 #include "platform/MessageBox.h"
 #include "platform/Process.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/JournalIndex.h"
@@ -35,11 +36,10 @@ const char* const IndexAsked =
 
 std::string NotSaved(const std::exception& failure) {
   const char* const changed =
-      "Nothing is lost: the file is as it was, and Thornquill stays open. When the cause is removed, leave "
-      "once more, and it is saved.";
-  const char* const unchanged = "Nothing is lost: the file is as it was, and there was nothing new to save.";
-  return std::string("The bookcase could not be saved in journal.tqt. ") + failure.what() + "\n\n" +
-         (IsBookcaseUnsaved() ? changed : unchanged);
+      ", and Thornquill stays open. When the cause is removed, leave once more, and it is saved.";
+  const char* const unchanged = ", and there was nothing new to save.";
+  return std::string("The bookcase could not be saved in journal.tqt. ") + failure.what() +
+         "\n\nNothing is lost: " + platform::FileAfter(failure) + (IsBookcaseUnsaved() ? changed : unchanged);
 }
 
 void SavePages(Refusals& refusals) {

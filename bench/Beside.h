@@ -43,7 +43,8 @@ void RunBeside(benchmark::State& state, Work&& work, Floor&& floor) {
   state.counters["times_floor"] = MedianOf(multiples);
 }
 
-// Writes the bytes beside the file, brings them to the disk and gives them a name: the floor of every save.
+// Writes the bytes beside the file, brings them to the disk, gives them a name and brings that to the disk:
+// the floor of every save.
 // Returns the seconds.
 inline double WritePlain(const std::string& path, const std::string& bytes) {
   const std::string plain = path + ".plain";
@@ -53,6 +54,8 @@ inline double WritePlain(const std::string& path, const std::string& bytes) {
     const bool written = write(file, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
     if (!written || fsync(file) != 0 || close(file) != 0) std::abort();
     if (rename(temporary.c_str(), plain.c_str()) != 0) std::abort();
+    const int folder = open(plain.substr(0, plain.rfind('/')).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fsync(folder) != 0 || close(folder) != 0) std::abort();
   });
 }
 

@@ -19,6 +19,7 @@
 #include "platform/Failure.h"
 #include "platform/Keystroke.h"
 #include "platform/MessageBox.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/JournalTraces.h"
 #include "store/NewJournals.h"
@@ -50,6 +51,23 @@ class PictureThatIsClicked : public QPushButton {
     look::DrawFocusLine(painter, rect(), palette().color(QPalette::WindowText));
   }
 };
+
+// Tells where the file could not be deleted, or may not stay so.
+bool HasRemoved(int row) {
+  try {
+    RemoveJournal(row);
+  } catch (const platform::NotYetOnDisk& failure) {
+    platform::ShowMessage("The journal is deleted. " + std::string(failure.what()) +
+                          "\n\nA power cut could still bring it back, as a recovered lost journal. It can be "
+                          "deleted once more then.");
+  } catch (const platform::Failure& failure) {
+    platform::ShowMessage("The journal could not be deleted. " + std::string(failure.what()) +
+                              "\n\nIt is still in the bookcase, as it was.",
+                          platform::BoxIcon::Stop);
+    return false;
+  }
+  return true;
+}
 
 void SetBold(QWidget& control) {
   QFont font = control.font();
@@ -216,14 +234,7 @@ void frmBookcase::cmdDelete_Click() {
       platform::Buttons::YesNo, platform::BoxIcon::Stop};
   if (platform::ShowMessage(question) != platform::Answer::Yes) return;
   const std::vector<std::string> traces = store::TracesOf(fileName);
-  try {
-    RemoveJournal(row);
-  } catch (const platform::Failure& failure) {
-    platform::ShowMessage("The journal could not be deleted. " + std::string(failure.what()) +
-                              "\n\nIt is still in the bookcase, as it was.",
-                          platform::BoxIcon::Stop);
-    return;
-  }
+  if (!HasRemoved(row)) return;
   const std::vector<std::string> left = store::DeleteTraces(traces);
   RemovePicturesOf(fileName);
   SavePictureStore();

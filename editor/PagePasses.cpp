@@ -16,6 +16,7 @@
 #include "look/frmWait.h"
 #include "pictures/PictureSlots.h"
 #include "platform/Failure.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
@@ -124,9 +125,10 @@ void SaveOpenJournal() {
   } catch (const platform::Failure& failure) {
     if (!store::AreRowsMissed()) return;
     throw std::runtime_error(
-        std::string(failure.what()) +
-        "\n\nNothing is lost: the page stays in the open journal, and the file is as it was. When the cause "
-        "is removed, the next page that you change saves it too, or closing the journal does.");
+        std::string(failure.what()) + "\n\nNothing is lost: the page stays in the open journal, and " +
+        platform::FileAfter(failure) +
+        ". When the cause is removed, the next page that you change saves it too, or closing the journal "
+        "does.");
   }
 }
 

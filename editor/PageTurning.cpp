@@ -12,6 +12,7 @@
 #include "platform/Dates.h"
 #include "platform/Failure.h"
 #include "platform/MessageBox.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/UnstoredRows.h"
@@ -97,9 +98,9 @@ bool MayCloseWithout(const platform::Failure& failure) {
     return true;
   }
   wasRefused = true;
-  platform::ShowMessage(NotSaved(failure) +
-                        "\n\nNothing is lost: the file is as it was, and the journal stays open. When the "
-                        "cause is removed, close it once more, and it is saved.");
+  platform::ShowMessage(NotSaved(failure) + "\n\nNothing is lost: " + platform::FileAfter(failure) +
+                        ", and the journal stays open. When the cause is removed, close it once more, and it "
+                        "is saved.");
   return false;
 }
 

@@ -5,6 +5,7 @@
 #include "platform/Failure.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/PictureStore.h"
 
@@ -78,6 +79,7 @@ void DeleteOldStore(const std::string& path, bool keepsIt) {
   try {
     if (keepsIt) platform::KeepDamaged(path);
     platform::DeleteFile(path);
+    platform::SyncFolderOf(path);  // what is added from now on would not show if it came back
   } catch (const Failure& failure) {
     platform::ShowMessage("The older file jpics.bin could not be removed. " + std::string(failure.what()) +
                           "\n\nAs long as it is there, each start takes the pictures from it, and those that "
@@ -136,8 +138,9 @@ std::optional<store::UnstoredFile> UnstoredPictures() {
 
 std::string PicturesNotSaved(const std::exception& failure) {
   return "The pictures could not be saved in tqpics.bin. " + std::string(failure.what()) +
-         "\n\nNothing is lost: they stay on the pages, and the file is as it was. When the cause is removed, "
-         "the next change of a picture saves them all, or leaving the program does.";
+         "\n\nNothing is lost: they stay on the pages, and " + platform::FileAfter(failure) +
+         ". When the cause is removed, the next change of a picture saves them all, or leaving the program "
+         "does.";
 }
 
 void RemovePicturesOf(const std::string& journalFile) {

@@ -60,9 +60,12 @@ class InputFile {
 std::string ReadFile(const std::string& path, std::uint64_t most = std::uint64_t{1} << 30);
 
 // The one way a data file is written: the file holds `bytes` afterwards, or, on failure, what it held before.
-// The new bytes are on the disk before they take the name in one step. Throws DiskFull, PermissionDenied,
-// PathNotFound, DeviceError or PathAccess. A process that is killed meanwhile can leave one file beside it
-// that is called as UnfinishedEnding tells.
+// The new bytes are on the disk before they take the name in one step, and the name is on the disk at the
+// end. A new file is for its owner alone, whatever the umask; one that is replaced keeps its permissions.
+// Throws DiskFull, PermissionDenied, PathNotFound, DeviceError or PathAccess; and NotYetOnDisk
+// (platform/SyncFolder.h) when the file holds `bytes`, but may lose them in a power cut: it is to be written
+// once more. A process that is killed
+// meanwhile can leave one file beside it that is called as UnfinishedEnding tells.
 void ReplaceFile(const std::string& path, std::string_view bytes);
 // The same with the bytes in pieces, one behind the other, so that they need not be brought together first.
 void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces);
@@ -97,12 +100,14 @@ class OutputFile {
 // Makes the folder. Throws when something has that name already, or as AppendToFile does.
 void MakeFolder(const std::string& path);
 
-// Throws when the file exists and cannot be deleted; a missing file is no failure.
+// Throws when the file exists and cannot be deleted; a missing file is no failure. A power cut can bring it
+// back until its folder is synced (platform/SyncFolder.h).
 void DeleteFile(const std::string& path);
 
 // Keeps a copy of the file beside it, under its name with ".damaged" behind it, or with ".1.damaged" and so
 // on where that name is taken. A file that was kept and has not been replaced since is not kept twice.
-// Returns the copy's path; throws FileNotFound, or as ReplaceFile does when there can be no copy.
+// Returns the copy's path, when that is on the disk; throws FileNotFound, or as ReplaceFile does when there
+// can be no copy.
 std::string KeepDamaged(const std::string& path);
 
 // What the name of a file that is being written has behind the name that it will take.

@@ -9,6 +9,7 @@
 #include "platform/FileNames.h"
 #include "platform/Files.h"
 #include "platform/LeftBehind.h"
+#include "platform/SyncFolder.h"
 
 namespace platform {
 namespace {
@@ -49,6 +50,7 @@ std::string KeepDamaged(const std::string& path) {
     if (SameFile(path, kept)) break;  // kept already, at a save that failed
     kept = path + "." + std::to_string(number) + ".damaged";
   }
+  SyncFolderOf(kept);  // the one name is on the disk before the other is given away
   return kept;
 }
 

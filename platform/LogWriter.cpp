@@ -2,11 +2,10 @@
 
 #include <csignal>
 #include <exception>
-#include <fcntl.h>
-#include <unistd.h>
 #include <utility>
 
 #include "platform/Files.h"
+#include "platform/SyncFolder.h"
 
 namespace platform {
 namespace {
@@ -27,20 +26,9 @@ class SignalsBlocked {
   sigset_t before_;
 };
 
-// A name that came or went is on the disk when its folder is. Some disks know no such thing.
-void SyncFolderOf(const std::string& path) {
-  const std::string folder = path.substr(0, path.rfind('/') + 1);
-  const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  [[maybe_unused]] const int ignored = fsync(descriptor);
-  close(descriptor);
-}
-
 void Write(const std::string& path, const std::string& bytes) {
-  if (bytes.empty())
-    DeleteFile(path);
-  else
-    ReplaceFile(path, bytes);
+  if (!bytes.empty()) return ReplaceFile(path, bytes);
+  DeleteFile(path);
   SyncFolderOf(path);
 }
 

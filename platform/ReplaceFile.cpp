@@ -1,5 +1,5 @@
 // Writing a file in one step: the bytes go into a file of their own beside it, and when they are on the disk
-// that file takes the old one's name.
+// that file takes the old one's name, and the name is brought to the disk too.
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -13,6 +13,7 @@
 #include "platform/Errno.h"
 #include "platform/Files.h"
 #include "platform/LeftBehind.h"
+#include "platform/SyncFolder.h"
 
 namespace platform {
 namespace {
@@ -161,6 +162,7 @@ void ReplaceFile(const std::string& path, std::span<const std::string_view> piec
   Unfinished file(path, target);
   file.Write(pieces);
   file.TakeTheName();
+  SyncFolderOf(target);
 }
 
 bool CanWriteTo(const std::string& folder) {

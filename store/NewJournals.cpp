@@ -8,6 +8,7 @@
 #include "platform/Failure.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/Scrambler.h"
 
@@ -97,6 +98,8 @@ void RemoveJournal(std::int32_t row) {
   if (row < 1 || row > JournalCount) throw Failure(FailureKind::SubscriptOutOfRange);
   JournalEntry& entry = Journals.at(static_cast<std::size_t>(row));
   const std::string path = platform::PathOf(entry.FileName);
-  if (platform::FileExists(path)) platform::DeleteFile(path);
+  const bool hasFile = platform::FileExists(path);
+  if (hasFile) platform::DeleteFile(path);
   entry.Deleted = True;
+  if (hasFile) platform::SyncFolderOf(path);
 }

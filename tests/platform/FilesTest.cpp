@@ -1,8 +1,10 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include "platform/SyncFolder.h"
 #include "tests/support/Fixtures.h"
 
 using fixture::ExpectFailure;
@@ -11,6 +13,12 @@ using fixture::Texts;
 using platform::FailureKind;
 
 namespace {
+
+// What the calls below saw, each of which stands in for the C library's function of its name.
+struct {
+  Texts synced;           // the names of the folders that were synced
+  int folderError = 0;    // what they answer
+} calls;
 
 // As somebody whom the permissions of files bind; root is bound by none.
 void RunPowerless(const Folder& folder, const std::function<void()>& routine) {
@@ -22,7 +30,23 @@ void RunPowerless(const Folder& folder, const std::function<void()>& routine) {
   EXPECT_EQ(seteuid(before), 0);
 }
 
+struct stat EntryOf(const std::string& path) {
+  struct stat entry {};
+  EXPECT_EQ(lstat(path.c_str(), &entry), 0) << path;
+  return entry;
+}
+
 }  // namespace
+
+extern "C" int fsync(int descriptor) {
+  struct stat entry {};
+  if (fstat(descriptor, &entry) == 0 && S_ISDIR(entry.st_mode)) {
+    const auto link = "/proc/self/fd/" + std::to_string(descriptor);
+    calls.synced.push_back(QFile::symLinkTarget(QString::fromStdString(link)).toStdString());
+    if ((errno = calls.folderError) != 0) return -1;
+  }
+  return static_cast<int>(syscall(SYS_fsync, descriptor));
+}
 
 TEST(Files, AFileIsReplacedWholeWhateverItsFolderIsCalled) {
   const Folder folder;
@@ -34,11 +58,36 @@ TEST(Files, AFileIsReplacedWholeWhateverItsFolderIsCalled) {
   ASSERT_EQ(chmod(path.c_str(), 0640), 0);
   platform::ReplaceFile(path, bytes);
   EXPECT_EQ(platform::ReadFile(path), bytes);
-  struct stat entry {};
-  stat(path.c_str(), &entry);
-  EXPECT_EQ(entry.st_mode & 0777, 0640u);
+  EXPECT_EQ(EntryOf(path).st_mode & 0777, 0640u);
   platform::DeleteFile(path);
   EXPECT_EQ(rmdir(odd.c_str()), 0) << "something else was left";
+}
+
+TEST(Files, ATakenNameIsBroughtToTheDiskWhereTheFileLies) {
+  const Folder folder;
+  const std::string there = folder.PathOf("there"), path = folder.PathOf("journal.tqt");
+  ASSERT_EQ(mkdir(there.c_str(), 0700), 0);
+  ASSERT_EQ(symlink("there/real", path.c_str()), 0);
+  calls = {};
+  platform::ReplaceFile(path, "old");
+  EXPECT_EQ(calls.synced, Texts{there});
+  platform::KeepDamaged(path);
+  EXPECT_EQ(calls.synced, (Texts{there, folder.path()})) << "a second name lies beside the link";
+  for (const int error : {EINVAL, ENOTSUP, EBADF}) {
+    calls.folderError = error;
+    EXPECT_NO_THROW(platform::ReplaceFile(path, "old")) << "a file system that knows no such thing";
+  }
+  calls.folderError = EIO;
+  try {
+    platform::ReplaceFile(path, "new");
+    ADD_FAILURE() << "nothing is told";
+  } catch (const platform::NotYetOnDisk& failure) {
+    EXPECT_EQ(failure.kind(), FailureKind::DeviceError);
+    EXPECT_NE(std::string(platform::FileAfter(failure)).find("is the new one"), std::string::npos);
+  }
+  EXPECT_EQ(folder.Read("journal.tqt"), "new");
+  calls.folderError = 0;
+  EXPECT_NO_THROW(platform::ReplaceFile(path, "newer")) << "and it can be written again";
 }
 
 TEST(Files, AReadOnlyFileOrFolderLeavesTheOldFile) {

@@ -72,12 +72,12 @@ auto Meet(const std::string& name, const std::string& path, Call&& call) -> decl
   return result;
 }
 
-// Empty for one that is only read from.
-std::string PathOf(int descriptor) {
+// Empty for one that is only read from, where such ones do not count.
+std::string PathOf(int descriptor, bool readToo = false) {
   std::array<char, 4096> path{};
   const auto link = "/proc/self/fd/" + std::to_string(descriptor);
-  const bool isWritten = (fcntl(descriptor, F_GETFL) & O_ACCMODE) != O_RDONLY;
-  return isWritten && readlink(link.c_str(), path.data(), path.size() - 1) > 0 ? path.data() : "";
+  const bool counts = readToo || (fcntl(descriptor, F_GETFL) & O_ACCMODE) != O_RDONLY;
+  return counts && readlink(link.c_str(), path.data(), path.size() - 1) > 0 ? path.data() : "";
 }
 
 const iovec* HalfOf(iovec piece) {
@@ -118,7 +118,7 @@ void faults::Mend() {
 PASS_ON(int, mkdir, (const char* path, mode_t mode), path, path, mode)
 PASS_ON(int, unlink, (const char* path), path, path)
 PASS_ON(int, rename, (const char* from, const char* to), to, from, to)
-PASS_ON(int, fsync, (int fd), PathOf(fd), fd)
+PASS_ON(int, fsync, (int fd), PathOf(fd, true), fd)
 PASS_ON(int, fchmod, (int fd, mode_t mode), PathOf(fd), fd, mode)
 PASS_ON(int, close, (int fd), PathOf(fd), fd)
 PASS_ON(ssize_t, write, (int fd, const void* bytes, size_t n), PathOf(fd), fd, bytes, half ? n / 2 : n)
