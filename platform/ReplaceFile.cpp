@@ -75,7 +75,7 @@ class Unfinished {
 Unfinished::Unfinished(const std::string& path, const std::string& target)
     : path_(path), target_(target), name_(UnfinishedName(target)) {
   RemoveLeftBehind(name_);
-  descriptor_ = open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  descriptor_ = open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
   Must(descriptor_ >= 0);
   lock_ = open(name_.c_str(), O_RDONLY | O_CLOEXEC);
   Lock(lock_);  // who was quicker removes the file, which HasTheName tells
@@ -96,7 +96,8 @@ bool Unfinished::HasTheName() const {
                        own.st_dev == entry.st_dev && own.st_ino == entry.st_ino);
 }
 
-// As far as the file system knows any: a failure changes nothing of what is saved.
+// Until here nobody else could open it, and of a new file nobody else ever can. As far as the file system
+// knows any permissions: a failure changes nothing of what is saved.
 void Unfinished::TakePermissionsOf(const std::string& target) const {
   struct stat entry {};
   if (stat(target.c_str(), &entry) != 0) return;

@@ -18,6 +18,7 @@ namespace {
 struct {
   Texts synced;           // the names of the folders that were synced
   int folderError = 0;    // what they answer
+  mode_t modeBefore = 0;  // of a file whose mode is set: the one that it was made with
 } calls;
 
 // As somebody whom the permissions of files bind; root is bound by none.
@@ -46,6 +47,13 @@ extern "C" int fsync(int descriptor) {
     if ((errno = calls.folderError) != 0) return -1;
   }
   return static_cast<int>(syscall(SYS_fsync, descriptor));
+}
+
+extern "C" int fchmod(int descriptor, mode_t mode) noexcept {
+  struct stat entry {};
+  fstat(descriptor, &entry);
+  calls.modeBefore = entry.st_mode & 0777;
+  return static_cast<int>(syscall(SYS_fchmod, descriptor, mode));
 }
 
 TEST(Files, AFileIsReplacedWholeWhateverItsFolderIsCalled) {
@@ -88,6 +96,22 @@ TEST(Files, ATakenNameIsBroughtToTheDiskWhereTheFileLies) {
   EXPECT_EQ(folder.Read("journal.tqt"), "new");
   calls.folderError = 0;
   EXPECT_NO_THROW(platform::ReplaceFile(path, "newer")) << "and it can be written again";
+}
+
+TEST(Files, NobodyElseCanReadAFileThatIsBeingWrittenOrThatIsNew) {
+  const Folder folder;
+  const std::string path = folder.PathOf("j00000.tqf");
+  const mode_t before = umask(0);
+  platform::ReplaceFile(path, "new");
+  EXPECT_EQ(EntryOf(path).st_mode & 0777, 0600u);
+  EXPECT_EQ(EntryOf(platform::KeepDamaged(path)).st_mode & 0777, 0600u);
+  chmod(path.c_str(), 0664);
+  platform::ReplaceFile(path, "newer");
+  EXPECT_EQ(calls.modeBefore, 0600u);
+  EXPECT_EQ(EntryOf(path).st_mode & 0777, 0664u) << "what is there keeps its mode";
+  platform::AppendToFile(folder.PathOf("page.html"), "an export");
+  EXPECT_EQ(EntryOf(folder.PathOf("page.html")).st_mode & 0777, 0666u) << "is for whom the user likes";
+  umask(before);
 }
 
 TEST(Files, AReadOnlyFileOrFolderLeavesTheOldFile) {
