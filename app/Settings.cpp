@@ -11,6 +11,7 @@
 #include "look/Theme.h"
 #include "platform/Failure.h"
 #include "platform/Files.h"
+#include "platform/KnownFiles.h"
 #include "platform/ProfileFile.h"
 #include "state/State.h"
 
@@ -79,10 +80,13 @@ void LoadSettings() {
 }
 
 void SaveSettings() {
+  const std::string path = platform::PathOf(FileName);
+  platform::KeepChanged(path);
   std::string text = FileText();
   text = platform::WithProfileValue(text, Section, "chkGotoLastPage", std::to_string(chkGotoLastPage));
   text = platform::WithProfileValue(text, Section, "optColor", std::to_string(optColor));
-  platform::ReplaceFile(platform::PathOf(FileName), text);
+  platform::ReplaceDataFile(path, text);
+  platform::TellKept(path);
 }
 
 void ApplyColorTheme(std::int16_t index) {

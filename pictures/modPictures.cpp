@@ -4,6 +4,7 @@
 
 #include "platform/Failure.h"
 #include "platform/Files.h"
+#include "platform/KnownFiles.h"
 #include "platform/MessageBox.h"
 #include "platform/SyncFolder.h"
 #include "state/State.h"
@@ -45,7 +46,7 @@ void TellUnreadable(const std::string& name, const Failure& failure) {
 
 void LoadStore() {
   try {
-    const std::string bytes = platform::ReadFile(platform::PathOf(storeName));
+    const std::string bytes = platform::ReadDataFile(platform::PathOf(storeName));
     fileCheck = store::CheckOf(bytes);
     store::DecodedPictures decoded = store::DecodePictureStore(bytes);
     keepBeforeSaving = decoded.isDamaged;
@@ -54,6 +55,7 @@ void LoadStore() {
       TellDamaged(storeName, "The damaged file is kept beside before it is written over.");
   } catch (const Failure& failure) {
     keepBeforeSaving = true;
+    platform::AcceptUnread(platform::PathOf(storeName));
     Take({{{}}, true});
     TellUnreadable(storeName, failure);
   }
@@ -91,11 +93,13 @@ void WriteStore() {
   const std::string bytes = store::EncodePictureStore(Pictures);
   const std::string path = platform::PathOf(storeName);
   PicturesUnsaved = true;
-  if (keepBeforeSaving && platform::FileExists(path)) platform::KeepDamaged(path);
+  const bool isChanged = platform::KeepChanged(path);
+  if (keepBeforeSaving && !isChanged && platform::FileExists(path)) platform::KeepDamaged(path);
   keepBeforeSaving = false;  // one copy, even when the writing has to be tried again
-  platform::ReplaceFile(path, bytes);
+  platform::ReplaceDataFile(path, bytes);
   fileCheck = store::CheckOf(bytes);
   PicturesUnsaved = areOnlyHere = false;
+  platform::TellKept(path);
 }
 
 }  // namespace
@@ -108,8 +112,9 @@ void LoadPictureStore() {
 }
 
 // The order is meant: the older store goes as soon as its rows are in memory, whether they are ever saved or
-// not. The log has them before.
+// not. The log has them before. The newer store, which nobody reads then, is written over.
 void ImportOldPictureStore() {
+  platform::AcceptUnread(platform::PathOf(storeName));
   const std::string path = platform::PathOf(oldStoreName);
   const bool keepsIt = platform::FileExists(path) && ReadOldStore(path);
   areOnlyHere = Pictures.size() > 1;

@@ -10,7 +10,10 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <sys/stat.h>
 #include <vector>
+
+#include "platform/Checksum.h"
 
 namespace platform {
 
@@ -46,18 +49,28 @@ class InputFile {
   // The same from the byte at `offset` on, wherever Read has come to.
   std::size_t ReadAt(std::uint64_t offset, char* buffer, std::size_t size);
   // The file's length in bytes when it was opened.
-  std::uint64_t size() const { return size_; }
+  std::uint64_t size() const { return static_cast<std::uint64_t>(entry_.st_size); }
+  // The system's entry of the file when it was opened.
+  const struct stat& entry() const { return entry_; }
   // For a reader of its own; it stays open as long as this object lives.
   int descriptor() const { return descriptor_; }
 
+  // Reads on to the end, and gives the checksum of all that Read has ever read. Throws DeviceError.
+  std::uint64_t ChecksumToTheEnd();
+  // The same, and makes the file known (platform/KnownFiles.h).
+  void Remember();
+
  private:
   int descriptor_;
-  std::uint64_t size_;
+  struct stat entry_ {};
+  Checksum checksum_;
   std::string path_;
 };
 
 // The whole file. Throws as InputFile does, and OutOfMemory when it is longer than `most` bytes.
 std::string ReadFile(const std::string& path, std::uint64_t most = std::uint64_t{1} << 30);
+// The same, and makes the file known (platform/KnownFiles.h).
+std::string ReadDataFile(const std::string& path, std::uint64_t most = std::uint64_t{1} << 30);
 
 // The one way a data file is written: the file holds `bytes` afterwards, or, on failure, what it held before.
 // The new bytes are on the disk before they take the name in one step, and the name is on the disk at the
@@ -69,6 +82,9 @@ std::string ReadFile(const std::string& path, std::uint64_t most = std::uint64_t
 void ReplaceFile(const std::string& path, std::string_view bytes);
 // The same with the bytes in pieces, one behind the other, so that they need not be brought together first.
 void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces);
+// The same, and makes the file known (platform/KnownFiles.h), after NotYetOnDisk too. In the window's thread.
+void ReplaceDataFile(const std::string& path, std::string_view bytes);
+void ReplaceDataFile(const std::string& path, std::span<const std::string_view> pieces);
 
 // Opens the file, which is created where it is missing, writes the bytes behind its end, and closes it.
 // Throws BadFileName, DiskFull, PermissionDenied, PathNotFound, DeviceError or PathAccess; a failed write can

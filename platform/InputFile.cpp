@@ -1,3 +1,4 @@
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -5,6 +6,7 @@
 
 #include "platform/Errno.h"
 #include "platform/Files.h"
+#include "platform/Remembered.h"
 
 namespace platform {
 namespace {
@@ -16,15 +18,20 @@ int OpenForReading(const std::string& path) {
   return descriptor;
 }
 
+std::string AllOf(InputFile& file, const std::string& path, std::uint64_t most) {
+  if (file.size() > most) throw Failure(FailureKind::OutOfMemory, path);
+  std::string bytes(file.size(), '\0');
+  bytes.resize(file.Read(bytes.data(), bytes.size()));
+  return bytes;
+}
+
 }  // namespace
 
-InputFile::InputFile(const std::string& path) : descriptor_(OpenForReading(path)), size_(0), path_(path) {
-  struct stat entry {};
-  if (fstat(descriptor_, &entry) != 0 || !S_ISREG(entry.st_mode)) {
+InputFile::InputFile(const std::string& path) : descriptor_(OpenForReading(path)), path_(path) {
+  if (fstat(descriptor_, &entry_) != 0 || !S_ISREG(entry_.st_mode)) {
     close(descriptor_);
     throw Failure(FailureKind::PathAccess, path);
   }
-  size_ = static_cast<std::uint64_t>(entry.st_size);
 }
 
 InputFile::~InputFile() {
@@ -39,6 +46,7 @@ std::size_t InputFile::Read(char* buffer, std::size_t size) {
     if (got < 0 && errno != EINTR) throw Failure(FailureKind::DeviceError, path_);
     if (got > 0) done += static_cast<std::size_t>(got);
   }
+  checksum_.Add({buffer, done});
   return done;
 }
 
@@ -53,11 +61,27 @@ std::size_t InputFile::ReadAt(std::uint64_t offset, char* buffer, std::size_t si
   return done;
 }
 
+std::uint64_t InputFile::ChecksumToTheEnd() {
+  std::array<char, std::size_t{64} * 1024> rest;
+  while (Read(rest.data(), rest.size()) == rest.size()) {
+  }
+  return checksum_.value();
+}
+
+void InputFile::Remember() {
+  const std::uint64_t checksum = ChecksumToTheEnd();
+  platform::Remember(path_, entry_, checksum);
+}
+
 std::string ReadFile(const std::string& path, std::uint64_t most) {
   InputFile file(path);
-  if (file.size() > most) throw Failure(FailureKind::OutOfMemory, path);
-  std::string bytes(file.size(), '\0');
-  bytes.resize(file.Read(bytes.data(), bytes.size()));
+  return AllOf(file, path, most);
+}
+
+std::string ReadDataFile(const std::string& path, std::uint64_t most) {
+  InputFile file(path);
+  std::string bytes = AllOf(file, path, most);
+  file.Remember();
   return bytes;
 }
 

@@ -1,4 +1,5 @@
-// Files that lie beside the data files: damaged ones that are kept, and those that a killed process left.
+// Files that lie beside the data files: damaged or changed ones that are kept, and those that a killed
+// process left.
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -20,7 +21,7 @@ bool IsTaken(const std::string& name) {
 }
 
 // A second name needs no room on a full disk. The file itself is never changed afterwards, since writing
-// replaces it, so the kept name keeps the damaged bytes. Some disks know no second names, and get a copy.
+// replaces it, so the kept name keeps the bytes. Some disks know no second names, and get a copy.
 // False when the name is taken.
 bool Keep(const std::string& path, const std::string& kept) {
   if (linkat(AT_FDCWD, path.c_str(), AT_FDCWD, kept.c_str(), AT_SYMLINK_FOLLOW) == 0) return true;
@@ -41,17 +42,25 @@ bool IsOrdinaryFile(const std::string& path) {
   return lstat(path.c_str(), &entry) == 0 && S_ISREG(entry.st_mode);
 }
 
+// Kept already where the two are the same file, at a save that failed.
+bool IsOrWasKept(const std::string& path, const std::string& kept) {
+  return Keep(path, kept) || SameFile(path, kept);
+}
+
 }  // namespace
+
+std::string KeepBeside(const std::string& path, const std::string& ending, int number) try {
+  const auto name = [&] { return path + (number > 0 ? "." + std::to_string(number) : "") + ending; };
+  while (!IsOrWasKept(path, name())) ++number;
+  SyncFolderOf(name());  // the one name is on the disk before the other is given away
+  return name();
+} catch (const NotYetOnDisk& failure) {
+  throw Failure(failure);  // of the copy: the file itself is as it was
+}
 
 std::string KeepDamaged(const std::string& path) {
   if (!FileExists(path)) throw Failure(FailureKind::FileNotFound, path);
-  std::string kept = path + ".damaged";
-  for (int number = 1; !Keep(path, kept); ++number) {
-    if (SameFile(path, kept)) break;  // kept already, at a save that failed
-    kept = path + "." + std::to_string(number) + ".damaged";
-  }
-  SyncFolderOf(kept);  // the one name is on the disk before the other is given away
-  return kept;
+  return KeepBeside(path, ".damaged", 0);
 }
 
 bool Lock(int descriptor) {

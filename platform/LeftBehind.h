@@ -1,4 +1,5 @@
-// The files that are being written, and those that a killed process left, for the routines of this room.
+// The files that are being written, those that a killed process left, and those that are kept beside others,
+// for the routines of this room.
 #pragma once
 
 #include <string>
@@ -12,5 +13,10 @@ bool Lock(int descriptor);
 
 // Removes the entry unless it is locked. Failures are ignored.
 void RemoveLeftBehind(const std::string& path);
+
+// Keeps a copy of the file beside it, under its name with a number and the ending behind it; the number 0 is
+// left out. The first number is the one from which on no such name is taken, or is taken by this very file.
+// Returns the copy's path, when that is on the disk; throws as ReplaceFile does when there can be no copy.
+std::string KeepBeside(const std::string& path, const std::string& ending, int number);
 
 }  // namespace platform

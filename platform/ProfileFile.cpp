@@ -128,7 +128,7 @@ std::string WithProfileValue(std::string_view text, std::string_view section, st
 
 std::string ReadProfile(const std::string& path) {
   if (IsMissing(path)) return {};
-  return ReadFile(path, LongestProfile);
+  return ReadDataFile(path, LongestProfile);
 }
 
 }  // namespace platform

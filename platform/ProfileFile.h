@@ -27,8 +27,8 @@ std::string ProfileValue(std::string_view text, std::string_view section, std::s
 std::string WithProfileValue(std::string_view text, std::string_view section, std::string_view key,
                              std::string_view value);
 
-// The text of a profile file; empty when there is no such file. Throws platform::Failure when it cannot be
-// read.
+// The text of a profile file, which is known then (platform/KnownFiles.h); empty when there is no such file.
+// Throws platform::Failure when it cannot be read.
 std::string ReadProfile(const std::string& path);
 
 }  // namespace platform

@@ -10,9 +10,11 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/Checksum.h"
 #include "platform/Errno.h"
 #include "platform/Files.h"
 #include "platform/LeftBehind.h"
+#include "platform/Remembered.h"
 #include "platform/SyncFolder.h"
 
 namespace platform {
@@ -57,6 +59,8 @@ class Unfinished {
 
   void Write(std::span<const std::string_view> pieces);
   void TakeTheName();
+  // The one that has the name now is known, so that no other that takes its place is taken for it.
+  void BeRemembered() const;
 
  private:
   void Must(bool succeeded) const {
@@ -70,6 +74,7 @@ class Unfinished {
   std::string name_;
   int descriptor_;
   int lock_ = -1;  // reads, so that it can be held beyond the closing of the other
+  Checksum checksum_;
 };
 
 Unfinished::Unfinished(const std::string& path, const std::string& target)
@@ -136,6 +141,7 @@ void WriteBatch(int descriptor, std::span<iovec> left, const std::string& path) 
 void Unfinished::Write(std::span<const std::string_view> pieces) {
   while (!pieces.empty()) {
     Batch batch = BatchOf(pieces);
+    for (const std::string_view piece : pieces.first(batch.size())) checksum_.Add(piece);
     pieces = pieces.subspan(batch.size());
     WriteBatch(descriptor_, batch, path_);
   }
@@ -151,19 +157,37 @@ void Unfinished::TakeTheName() {
   name_.clear();
 }
 
-}  // namespace
-
-void ReplaceFile(const std::string& path, std::string_view bytes) {
-  ReplaceFile(path, std::span(&bytes, 1));
+void Unfinished::BeRemembered() const {
+  struct stat entry {};
+  if (lock_ >= 0 && fstat(lock_, &entry) == 0) Remember(path_, entry, checksum_.value());
 }
 
-void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces) {
+void Replace(const std::string& path, std::span<const std::string_view> pieces, bool isKnownThen) {
   RefuseUnchangeable(path);
   const std::string target = RealPath(path);
   Unfinished file(path, target);
   file.Write(pieces);
   file.TakeTheName();
+  if (isKnownThen) file.BeRemembered();
   SyncFolderOf(target);
+}
+
+}  // namespace
+
+void ReplaceFile(const std::string& path, std::string_view bytes) {
+  Replace(path, std::span(&bytes, 1), false);
+}
+
+void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces) {
+  Replace(path, pieces, false);
+}
+
+void ReplaceDataFile(const std::string& path, std::string_view bytes) {
+  Replace(path, std::span(&bytes, 1), true);
+}
+
+void ReplaceDataFile(const std::string& path, std::span<const std::string_view> pieces) {
+  Replace(path, pieces, true);
 }
 
 bool CanWriteTo(const std::string& folder) {

@@ -111,7 +111,8 @@ bool IsAbsurdFileName(std::string_view name) {
       "tqpics.bin", "jpics.bin", "thornquill",  "THORNQUILL.HLP", "LICENSE"};
   return name.size() > longestFileName ||
          name.find_first_of(std::string_view("/\\\0", 3)) != std::string_view::npos ||
-         name.ends_with(".damaged") || std::find(taken.begin(), taken.end(), name) != taken.end();
+         name.ends_with(".damaged") || name.ends_with(".other") ||
+         std::find(taken.begin(), taken.end(), name) != taken.end();
 }
 
 DecodedIndex DecodeIndex(std::string_view bytes) {

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <limits>
 #include <set>
 
 #include "platform/Failure.h"
 #include "platform/Files.h"
+#include "platform/KnownFiles.h"
 #include "platform/MessageBox.h"
 #include "store/Bytes.h"
 #include "store/Scrambler.h"
@@ -183,11 +185,28 @@ void RefuseAlienFile(const std::string& path) {
   throw Failure(FailureKind::PermissionDenied, path + " (this is no journal, and is never written over)");
 }
 
-// One copy, even when the writing has to be tried again.
-void KeepDamagedFile(const std::string& path) {
+// One copy, even when the writing has to be tried again. A damaged file that another program has replaced is
+// kept as the other's.
+void KeepFile(const std::string& path) {
+  if (platform::KeepChanged(path)) DamagedFiles().erase(path);
   if (!DamagedFiles().contains(path)) return;
   if (platform::FileExists(path)) platform::KeepDamaged(path);
   DamagedFiles().erase(path);
+}
+
+std::string Compared(std::int32_t more) {
+  if (more == 0) return "as many as";
+  return std::to_string(std::abs(more)) + (more > 0 ? " more than" : " fewer than");
+}
+
+std::string DescribeKept(const std::string& path) {
+  const std::int32_t pages = PeekCount(path);
+  if (pages < 1) return {};
+  return "It has " + std::to_string(pages) + (pages == 1 ? " page, " : " pages, ") +
+         Compared(pages - PageCount) +
+         " the open journal. To read it, leave Thornquill and give a copy of it a name that ends in .tqf, "
+         "such "
+         "as other.tqf: the next start shows it as a recovered journal.";
 }
 
 }  // namespace
@@ -216,6 +235,7 @@ DecodedJournal ReadJournalFile(const std::string& fileName) {
   platform::InputFile file(path);
   const auto source = [&file](char* buffer, std::size_t size) { return file.Read(buffer, size); };
   DecodedJournal journal = DecodeJournal(source, file.size());
+  file.Remember();
   if (journal.health == JournalHealth::Damaged) {
     DamagedFiles().insert(path);
   } else {
@@ -228,8 +248,8 @@ void WriteJournalFile(const std::string& fileName, const std::vector<JournalPage
   const std::string path = platform::PathOf(fileName);
   const JournalPieces journal(pages, MasterPassword);
   RefuseAlienFile(path);
-  KeepDamagedFile(path);
-  platform::ReplaceFile(path, journal.pieces());
+  KeepFile(path);
+  platform::ReplaceDataFile(path, journal.pieces());
 }
 
 bool IsJournal(const std::string& path) {
@@ -256,6 +276,7 @@ void SaveJournalFile(const std::string& fileName) {
   PagesUnsaved = false;
   store::RowsAreStored();
   if (SomethingWasStored) SomethingWasStored();
+  platform::TellKept(platform::PathOf(fileName), store::DescribeKept);
 }
 
 std::int32_t PeekJournalPageCount(std::string& fileName) {

@@ -45,10 +45,11 @@ bool IsJournal(const std::string& path);
 std::string& WithFallbackName(std::string& fileName);
 
 // Writes Pages, PageCount and the password block to that file of the program's folder; says so first when
-// there is no password. Nothing on disk is touched before all bytes are there. Throws platform::Failure, with
-// the file as it was, when Pages does not belong to the journal of that file (SubscriptOutOfRange), when the
-// password is too long for the block (InvalidArgument), when the file is alien (PermissionDenied), and on a
-// disk that cannot be written.
+// there is no password. Nothing on disk is touched before all bytes are there. A file that another program
+// has put there since it was last read or written is kept beside first, and a message tells so afterwards.
+// Throws platform::Failure, with the file as it was, when Pages does not belong to the journal of that file
+// (SubscriptOutOfRange), when the password is too long for the block (InvalidArgument), when the file is
+// alien (PermissionDenied), and on a disk that cannot be written.
 void SaveJournalFile(const std::string& fileName);
 
 // The file's PageCount; 0 when it is missing or no journal, or when its count is negative. Overwrites

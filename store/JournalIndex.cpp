@@ -5,6 +5,7 @@
 
 #include "platform/Failure.h"
 #include "platform/Files.h"
+#include "platform/KnownFiles.h"
 #include "platform/MessageBox.h"
 #include "platform/Process.h"
 #include "state/State.h"
@@ -70,7 +71,7 @@ void TakeOver(store::Index index) {
 }
 
 void LoadFrom(const std::string& path) {
-  const std::string bytes = platform::ReadFile(path, largestIndex);
+  const std::string bytes = platform::ReadDataFile(path, largestIndex);
   store::DecodedIndex decoded = store::DecodeIndex(bytes);
   if (decoded.health == store::IndexHealth::Headless) {
     return GiveUp("The file journal.tqt is damaged at its start (" + decoded.problem + "): " + path);
@@ -102,7 +103,8 @@ void LeaveNamesScrambled(store::Index index) {
 }
 
 void KeepDamagedFile(const std::string& path) {
-  if (fileIsDamaged && platform::FileExists(path)) platform::KeepDamaged(path);
+  const bool isChanged = platform::KeepChanged(path);
+  if (fileIsDamaged && !isChanged && platform::FileExists(path)) platform::KeepDamaged(path);
   fileIsDamaged = false;  // one copy, even when the writing has to be tried again
 }
 
@@ -110,9 +112,10 @@ void Write(const store::Index& index) {
   const std::string path = IndexPath();
   const std::string bytes = store::EncodeIndex(index);
   KeepDamagedFile(path);
-  platform::ReplaceFile(path, bytes);
+  platform::ReplaceDataFile(path, bytes);
   loaded = Present();
   loadedFile = store::CheckOf(bytes);
+  platform::TellKept(path);
 }
 
 }  // namespace

@@ -92,6 +92,16 @@ TEST_F(OptionsTest, TheCloseBoxBringsTheDesignValuesBack) {
   EXPECT_EQ(folder.Read("journal.ini"), "[Options]\r\nchkGotoLastPage=1\r\noptColor=0\r\n");
 }
 
+TEST_F(OptionsTest, KeepsAFileThatAnotherProgramPutThere) {
+  folder.Write("journal.ini", "[Options]\n");
+  LoadSettings();
+  folder.Write("journal.ini", "[Others]\nkey=1\n");
+  SaveSettings();
+  EXPECT_EQ(folder.Read("journal.ini.1.other"), "[Others]\nkey=1\n");
+  EXPECT_NE(folder.Read("journal.ini").find("key=1"), std::string::npos) << "and its lines stay";
+  EXPECT_EQ(answers.messages.size(), 1u);
+}
+
 TEST_F(OptionsTest, TellsOfAFileThatCannotBeRead) {
   folder.Block("journal.ini");
   LoadSettings();

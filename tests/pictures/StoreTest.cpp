@@ -56,6 +56,15 @@ TEST_F(PictureStores, ADamagedStoreIsToldAndKeptBeside) {
   EXPECT_EQ(folder.Names(), (Texts{"jpics.bin.damaged", store, "tqpics.bin.damaged"}));
 }
 
+TEST_F(PictureStores, AStoreThatAnotherProgramPutThereIsKeptBeside) {
+  EXPECT_EQ(Loaded(), "3 /a,/b,,");
+  folder.Write(store, "another's");
+  for (int round = 0; round < 2; ++round) SavePictureStore();
+  EXPECT_EQ(folder.Read("tqpics.bin.1.other"), "another's");
+  EXPECT_EQ(answers.messages.size(), 1u);
+  EXPECT_EQ(folder.Names(), (Texts{store, "tqpics.bin.1.other"}));
+}
+
 TEST_F(PictureStores, WhatIsMissingOrCannotBeReadIsNoneAndTheProgramGoesOn) {
   platform::DeleteFile(folder.PathOf(store));
   EXPECT_EQ(Loaded(), "0 ") << "a missing store is none";

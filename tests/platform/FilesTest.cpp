@@ -1,9 +1,12 @@
 #include <fcntl.h>
+#include <set>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include "platform/Checksum.h"
+#include "platform/KnownFiles.h"
 #include "platform/SyncFolder.h"
 #include "tests/support/Fixtures.h"
 
@@ -158,6 +161,91 @@ TEST(Files, DamagedFilesAreKeptAndNeverWrittenOver) {
   EXPECT_EQ(folder.Read("journal.tqt.damaged"), "first");
   EXPECT_EQ(folder.Read("journal.tqt.1.damaged"), "second");
   EXPECT_EQ(folder.Read("real"), "third") << "a file may be a link to another place";
+}
+
+TEST(Files, WhatAnotherProgramPutThereIsKeptAndToldOnce) {
+  const Folder folder;
+  fixture::Answers answers;
+  const std::string name = "journal.tqt", path = folder.PathOf(name);
+  const auto save = [&](const std::string& bytes) {
+    const bool isChanged = platform::KeepChanged(path);
+    platform::ReplaceDataFile(path, bytes);
+    platform::TellKept(path);
+    return isChanged;
+  };
+  EXPECT_FALSE(save("first")) << "a missing file";
+  EXPECT_FALSE(save("our own"));
+  folder.Write("copy", "our own");
+  utimensat(AT_FDCWD, path.c_str(), nullptr, 0);
+  EXPECT_FALSE(platform::KeepChanged(path)) << "its time alone";
+  rename(folder.PathOf("copy").c_str(), path.c_str());
+  EXPECT_FALSE(platform::KeepChanged(path)) << "the same bytes in another file";
+  folder.Write(name, "another's");
+  EXPECT_TRUE(platform::KeepChanged(path));
+  EXPECT_FALSE(platform::KeepChanged(path)) << "kept already, for a save that failed";
+  EXPECT_FALSE(save("ours again"));
+  folder.Write(name, "OURS again");
+  EXPECT_EQ(platform::ReadDataFile(path), "OURS again");
+  EXPECT_FALSE(save("ours")) << "what was read is known";
+  platform::DeleteFile(path);
+  EXPECT_FALSE(save("ours")) << "what is gone is written";
+  folder.Write(name, "one more");
+  EXPECT_TRUE(save("ours at last"));
+  EXPECT_EQ(folder.Read(name + ".1.other"), "another's");
+  EXPECT_EQ(folder.Read(name + ".2.other"), "one more");
+  EXPECT_EQ(folder.Names(), (Texts{name, name + ".1.other", name + ".2.other"}));
+  ASSERT_EQ(answers.messages.size(), 2u);
+  EXPECT_NE(answers.last().find(name + ".2.other"), std::string::npos);
+}
+
+TEST(Files, AnotherProgramsFileThatCannotBeKeptIsNotWrittenOver) {
+  const Folder folder;
+  const std::string path = folder.PathOf("journal.tqt");
+  folder.Write("journal.tqt", "another's, that was never read");
+  RunPowerless(folder, [&] {
+    chmod(path.c_str(), 0200);
+    ExpectFailure(FailureKind::PermissionDenied, path, [&] { platform::KeepChanged(path); });
+    chmod(path.c_str(), 0600);
+    chmod(folder.path().c_str(), 0500);
+    ExpectFailure(FailureKind::PermissionDenied, path, [&] { platform::KeepChanged(path); });
+    chmod(folder.path().c_str(), 0700);
+    EXPECT_EQ(folder.Names(), Texts{"journal.tqt"});
+    calls = {.synced = {}, .folderError = EIO};
+    try {
+      platform::KeepChanged(path);
+      ADD_FAILURE() << "nothing is told";
+    } catch (const platform::Failure& failure) {
+      EXPECT_EQ(std::string(platform::FileAfter(failure)), "the file is as it was");
+    }
+    calls.folderError = 0;
+    EXPECT_TRUE(platform::KeepChanged(path)) << "and it is tried again";
+  });
+  EXPECT_EQ(folder.Names(), (Texts{"journal.tqt", "journal.tqt.1.other"})) << "one copy";
+}
+
+TEST(Files, AChecksumTellsEachByteAndNoPieces) {
+  std::string bytes(200, '\0');
+  for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * 7);
+  const auto checksumOf = [](std::string_view text, std::size_t piece) {
+    platform::Checksum checksum;
+    for (; text.size() > piece; text.remove_prefix(piece)) checksum.Add(text.substr(0, piece));
+    checksum.Add(text);
+    return checksum.value();
+  };
+  std::set<std::uint64_t> values;
+  for (std::size_t size = 0; size <= bytes.size(); ++size) {
+    values.insert(checksumOf(bytes.substr(0, size), 1000));
+    for (const std::size_t piece : {1u, 31u, 32u, 33u})
+      values.insert(checksumOf(bytes.substr(0, size), piece));
+  }
+  for (char& byte : bytes) {
+    byte ^= 1;
+    values.insert(checksumOf(bytes, 1000));
+    byte ^= 1;
+  }
+  values.insert(checksumOf(std::string(64, '\0'), 64));
+  values.insert(checksumOf(std::string(65, '\0'), 65));
+  EXPECT_EQ(values.size(), 201u + 200u + 2u);
 }
 
 TEST(Files, WhatAnotherProgramIsWritingIsLeftAlone) {

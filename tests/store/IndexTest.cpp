@@ -86,7 +86,7 @@ TEST_F(IndexTest, ReadsTheWholeRecordsAroundAbsurdOnesAndKeepsTheDamagedFileOnce
   std::vector<JournalEntry> journals = {Entry("a.tqf")};
   for (const std::string& absurd :
        {std::string("../a"), std::string("a\\b"), std::string("a\0b", 3), std::string(".."), name,
-        std::string("journal.tql"), std::string(256, 'a')})
+        std::string("journal.tql"), std::string(256, 'a'), std::string("a.tqf.1.other")})
     journals.push_back(Entry(absurd));
   for (const std::string& noise : {std::string(65535, 'e'), std::string(100, '\1')})
     journals.push_back(Entry("b.tqf", noise));
@@ -102,6 +102,17 @@ TEST_F(IndexTest, ReadsTheWholeRecordsAroundAbsurdOnesAndKeepsTheDamagedFileOnce
   EXPECT_EQ(folder.Names().size(), 2u);
   Load(folder.Read(name));
   EXPECT_TRUE(answers.messages.empty());
+}
+
+TEST_F(IndexTest, KeepsAnIndexThatAnotherProgramPutThere) {
+  Load(Bytes({Entry("a.tqf")}));
+  const std::string others = Bytes({Entry("a.tqf"), Entry("b.tqf")});
+  folder.Write(name, others);
+  SaveJournalIndex();
+  EXPECT_EQ(folder.Read(name + ".1.other"), others);
+  EXPECT_EQ(answers.messages.size(), 1u);
+  ResetState();
+  EXPECT_EQ(Load(folder.Read(name)), "a:a.tqf ");
 }
 
 }  // namespace

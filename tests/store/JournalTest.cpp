@@ -96,6 +96,25 @@ TEST_F(JournalTest, KeepsADamagedFileBesideBeforeTheFirstWriteAndAnAlienOneForGo
   }
 }
 
+TEST_F(JournalTest, KeepsWhatAnotherProgramPutThereAndTellsItsPages) {
+  Open(Decode(store::EncodeJournal({{"ab", 1.5}, {"ab", 1.5}}, "?e")).pages);
+  folder.Write(fileName, threePages);
+  for (int round = 0; round < 2; ++round) SaveJournalFile(fileName);
+  EXPECT_EQ(folder.Read(fileName + ".1.other"), threePages);
+  EXPECT_EQ(Outline(folder.Read(fileName)), "sound 2/2");
+  ASSERT_EQ(answers.messages.size(), 1u);
+  EXPECT_NE(answers.last().find("2 pages, 1 more than the open journal"), std::string::npos)
+      << answers.last();
+  Decode(threePages.substr(0, headerSize + 16));
+  folder.Write(fileName, threePages);
+  SaveJournalFile(fileName);
+  EXPECT_EQ(folder.Names(), (fixture::Texts{fileName, fileName + ".1.other", fileName + ".2.other"}))
+      << "the damaged one is gone, and nothing is kept as it";
+  Decode("no journal at first");
+  folder.Write(fileName, "nor what took its place");
+  ExpectRefused(FailureKind::PermissionDenied);
+}
+
 TEST_F(JournalTest, SavesPagesOnlyToTheirOwnJournal) {
   Open({{}, {"mine", 0}});
   ExpectRefused(FailureKind::SubscriptOutOfRange, "j00001.tqf");

@@ -4,7 +4,7 @@ import collections, concurrent.futures, os, pathlib, re, shutil, struct, subproc
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PROGRAM = os.environ.get("FAULTS_PROGRAM", ROOT / "build/release/thornquill")
 LIBRARY = os.environ.get("FAULTS_LIBRARY", ROOT / "build/debug/tools/libfaults.so")
-DATA = re.compile(r"(journal\.tqt|journal\.ini|tqpics\.bin|jpics\.bin|j\d{5}\.tqf)((\.\d)?\.damaged)?")
+DATA = re.compile(r"(journal\.tqt|journal\.ini|tqpics\.bin|jpics\.bin|j\d{5}\.tqf)((\.\d)?\.damaged|\.\d\.other)?")
 UNFINISHED = ".thornquill-unfinished"
 HOME = tempfile.TemporaryDirectory(prefix="faults-home-")
 shutil.copy(ROOT / "assets/frames/Film strip.gif", f"{HOME.name}/photo.gif")
