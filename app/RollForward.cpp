@@ -75,7 +75,7 @@ void RollFile(const char* name, const std::string& what, const store::UnstoredFi
   const std::string path = platform::PathOf(name);
   try {
     if (CheckOfFile(path) == logged.began) {
-      platform::ReplaceFile(path, logged.bytes);
+      platform::ReplaceDataFile(path, logged.bytes);
       work.back.push_back(what);
     } else if (platform::IsMissing(path) || !isSame(platform::ReadFile(path), logged.bytes)) {
       work.aside.push_back(what + ": " + name + " has been changed by another program since");

@@ -85,7 +85,7 @@ void SaveSettings() {
   std::string text = FileText();
   text = platform::WithProfileValue(text, Section, "chkGotoLastPage", std::to_string(chkGotoLastPage));
   text = platform::WithProfileValue(text, Section, "optColor", std::to_string(optColor));
-  platform::ReplaceFile(path, text);
+  platform::ReplaceDataFile(path, text);
   platform::TellKept(path);
 }
 

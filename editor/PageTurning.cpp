@@ -98,10 +98,9 @@ bool MayCloseWithout(const platform::Failure& failure) {
     return true;
   }
   wasRefused = true;
-  platform::ShowMessage(
-      NotSaved(failure) + "\n\nNothing is lost: " + platform::FileAfter(failure) +
-      ", and the journal stays open. When the cause is removed, close it once more, and it is "
-      "saved.");
+  platform::ShowMessage(NotSaved(failure) + "\n\nNothing is lost: " + platform::FileAfter(failure) +
+                        ", and the journal stays open. When the cause is removed, close it once more, and it "
+                        "is saved.");
   return false;
 }
 

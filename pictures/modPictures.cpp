@@ -96,7 +96,7 @@ void WriteStore() {
   const bool isChanged = platform::KeepChanged(path);
   if (keepBeforeSaving && !isChanged && platform::FileExists(path)) platform::KeepDamaged(path);
   keepBeforeSaving = false;  // one copy, even when the writing has to be tried again
-  platform::ReplaceFile(path, bytes);
+  platform::ReplaceDataFile(path, bytes);
   fileCheck = store::CheckOf(bytes);
   PicturesUnsaved = areOnlyHere = false;
   platform::TellKept(path);
@@ -112,7 +112,7 @@ void LoadPictureStore() {
 }
 
 // The order is meant: the older store goes as soon as its rows are in memory, whether they are ever saved or
-// not. The log has them before, and the newer store, which nobody reads then, is written over.
+// not. The log has them before. The newer store, which nobody reads then, is written over.
 void ImportOldPictureStore() {
   platform::AcceptUnread(platform::PathOf(storeName));
   const std::string path = platform::PathOf(oldStoreName);

@@ -82,6 +82,9 @@ std::string ReadDataFile(const std::string& path, std::uint64_t most = std::uint
 void ReplaceFile(const std::string& path, std::string_view bytes);
 // The same with the bytes in pieces, one behind the other, so that they need not be brought together first.
 void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces);
+// The same, and makes the file known (platform/KnownFiles.h), after NotYetOnDisk too. In the window's thread.
+void ReplaceDataFile(const std::string& path, std::string_view bytes);
+void ReplaceDataFile(const std::string& path, std::span<const std::string_view> pieces);
 
 // Opens the file, which is created where it is missing, writes the bytes behind its end, and closes it.
 // Throws BadFileName, DiskFull, PermissionDenied, PathNotFound, DeviceError or PathAccess; a failed write can

@@ -2,8 +2,6 @@
 
 #include <array>
 #include <map>
-#include <mutex>
-#include <optional>
 #include <utility>
 
 #include "platform/Files.h"
@@ -32,26 +30,9 @@ struct KnownFile {
   std::optional<std::uint64_t> checksum;
 };
 
-// The log's writer makes its file known from a thread of its own.
-std::mutex& Guard() {
-  static std::mutex guard;
-  return guard;
-}
-
 std::map<std::string, KnownFile>& KnownFiles() {
   static std::map<std::string, KnownFile> files;
   return files;
-}
-
-std::optional<KnownFile> Known(const std::string& path) {
-  const std::lock_guard lock(Guard());
-  const auto found = KnownFiles().find(path);
-  return found == KnownFiles().end() ? std::nullopt : std::optional(found->second);
-}
-
-void Learn(const std::string& path, const KnownFile& file) {
-  const std::lock_guard lock(Guard());
-  KnownFiles().insert_or_assign(path, file);
 }
 
 // The copies that were made and not told of, by the paths of the files.
@@ -71,7 +52,7 @@ std::string NameIn(const std::string& path) {
 }  // namespace
 
 void Remember(const std::string& path, const struct stat& entry, std::optional<std::uint64_t> checksum) {
-  Learn(path, {IdentityOf(entry), checksum});
+  KnownFiles().insert_or_assign(path, KnownFile{IdentityOf(entry), checksum});
 }
 
 void AcceptUnread(const std::string& path) {
@@ -82,13 +63,15 @@ void AcceptUnread(const std::string& path) {
 bool KeepChanged(const std::string& path) {
   struct stat entry {};
   if (stat(path.c_str(), &entry) != 0 || S_ISDIR(entry.st_mode)) return false;
-  const std::optional<KnownFile> before = Known(path);
-  if (before && before->identity == IdentityOf(entry)) return false;
+  const auto found = KnownFiles().find(path);
+  if (found != KnownFiles().end() && found->second.identity == IdentityOf(entry)) return false;
+  const std::optional<KnownFile> before =
+      found != KnownFiles().end() ? std::optional(found->second) : std::nullopt;
   InputFile file(path);
   const KnownFile now{IdentityOf(file.entry()), file.ChecksumToTheEnd()};
   const bool isChanged = !before || !IsTheSame(*before, now);
   if (isChanged) Untold()[path] = KeepBeside(path, ".other", 1);
-  Learn(path, now);
+  KnownFiles()[path] = now;
   return isChanged;
 }
 

@@ -1,8 +1,9 @@
 // The data files as this program last read or wrote them, so that what another program has put in their place
 // meanwhile, as those do that keep a folder the same on two machines, is never written over unseen.
 //
-// InputFile::Remember and ReplaceFile make a file known. It stays so through a change of its times or a copy
-// of the same bytes in its place: where the system's entry has changed, what the file holds is compared.
+// InputFile::Remember, ReadDataFile and ReplaceDataFile make a file known, all in the window's thread. It
+// stays so through a change of its times or a copy of the same bytes in its place: where the system's entry
+// has changed, what the file holds is compared.
 #pragma once
 
 #include <string>

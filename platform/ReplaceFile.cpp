@@ -162,20 +162,32 @@ void Unfinished::BeRemembered() const {
   if (lock_ >= 0 && fstat(lock_, &entry) == 0) Remember(path_, entry, checksum_.value());
 }
 
-}  // namespace
-
-void ReplaceFile(const std::string& path, std::string_view bytes) {
-  ReplaceFile(path, std::span(&bytes, 1));
-}
-
-void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces) {
+void Replace(const std::string& path, std::span<const std::string_view> pieces, bool isKnownThen) {
   RefuseUnchangeable(path);
   const std::string target = RealPath(path);
   Unfinished file(path, target);
   file.Write(pieces);
   file.TakeTheName();
-  file.BeRemembered();
+  if (isKnownThen) file.BeRemembered();
   SyncFolderOf(target);
+}
+
+}  // namespace
+
+void ReplaceFile(const std::string& path, std::string_view bytes) {
+  Replace(path, std::span(&bytes, 1), false);
+}
+
+void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces) {
+  Replace(path, pieces, false);
+}
+
+void ReplaceDataFile(const std::string& path, std::string_view bytes) {
+  Replace(path, std::span(&bytes, 1), true);
+}
+
+void ReplaceDataFile(const std::string& path, std::span<const std::string_view> pieces) {
+  Replace(path, pieces, true);
 }
 
 bool CanWriteTo(const std::string& folder) {

@@ -249,7 +249,7 @@ void WriteJournalFile(const std::string& fileName, const std::vector<JournalPage
   const JournalPieces journal(pages, MasterPassword);
   RefuseAlienFile(path);
   KeepFile(path);
-  platform::ReplaceFile(path, journal.pieces());
+  platform::ReplaceDataFile(path, journal.pieces());
 }
 
 bool IsJournal(const std::string& path) {

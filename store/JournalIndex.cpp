@@ -113,7 +113,7 @@ void Write(const store::Index& index) {
   const std::string path = IndexPath();
   const std::string bytes = store::EncodeIndex(index);
   KeepDamagedFile(path);
-  platform::ReplaceFile(path, bytes);
+  platform::ReplaceDataFile(path, bytes);
   loaded = Present();
   loadedFile = store::CheckOf(bytes);
   platform::TellKept(path);

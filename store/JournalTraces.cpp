@@ -7,6 +7,7 @@
 
 #include "platform/Failure.h"
 #include "platform/Files.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 
@@ -64,6 +65,7 @@ std::optional<std::string> DeleteTrace(const std::string& path) {
     if (IsJournalOfTheBookcase(path)) return path + " (this is another journal of the bookcase, too)";
     if (!IsJournal(path)) return path + " (this is no journal)";
     platform::DeleteFile(path);
+    platform::SyncFolderOf(path);
     return std::nullopt;
   } catch (const platform::Failure& failure) {
     return failure.what();

@@ -169,7 +169,7 @@ TEST(Files, WhatAnotherProgramPutThereIsKeptAndToldOnce) {
   const std::string name = "journal.tqt", path = folder.PathOf(name);
   const auto save = [&](const std::string& bytes) {
     const bool isChanged = platform::KeepChanged(path);
-    platform::ReplaceFile(path, bytes);
+    platform::ReplaceDataFile(path, bytes);
     platform::TellKept(path);
     return isChanged;
   };

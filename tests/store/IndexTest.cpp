@@ -109,10 +109,12 @@ TEST_F(IndexTest, KeepsAnIndexThatAnotherProgramPutThere) {
   const std::string others = Bytes({Entry("a.tqf"), Entry("b.tqf")});
   folder.Write(name, others);
   SaveJournalIndex();
-  EXPECT_TRUE(IsSameBookcase(folder.Read(name), Bytes({Entry("a.tqf")})));
-  EXPECT_FALSE(IsSameBookcase(folder.Read(name), others));
   EXPECT_EQ(folder.Read(name + ".1.other"), others);
+  EXPECT_FALSE(IsSameBookcase(folder.Read(name), others));
+  EXPECT_TRUE(IsSameBookcase(folder.Read(name), Bytes({Entry("a.tqf")})));
   EXPECT_EQ(answers.messages.size(), 1u);
+  ResetState();
+  EXPECT_EQ(Load(folder.Read(name)), "a:a.tqf ");
 }
 
 }  // namespace
