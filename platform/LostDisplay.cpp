@@ -13,6 +13,7 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <csignal>
 #include <cstdlib>
 #include <functional>
 #include <list>
@@ -123,12 +124,22 @@ void Listen(QtMsgType type, const QMessageLogContext& context, const QString& te
   if (TellsOfTheLoss(text)) AtTheLossOfTheDisplay();
 }
 
+// What is drawn for an X server that died a moment ago would end the process before there is any warning.
+// Being ignored would be passed on to the programs that this one starts; a handler is not.
+void OutliveTheBrokenPipe() {
+  struct sigaction nothing {};
+  nothing.sa_handler = [](int) {};
+  nothing.sa_flags = SA_RESTART;
+  sigaction(SIGPIPE, &nothing, nullptr);
+}
+
 }  // namespace
 
 void ListenForTheLostDisplay(std::function<void()> save, std::chrono::milliseconds patience) {
   const bool first = theListener == nullptr;
   theListener = &Listeners().emplace_back(std::move(save), patience);
   if (!first) return;
+  OutliveTheBrokenPipe();
   handlerBefore = qInstallMessageHandler(&Listen);
   std::atexit(&AtTheLossOfTheDisplay);  // a library of the display's that gives no warning calls exit()
 }

@@ -1,9 +1,11 @@
 // Which thread saves when the display has gone, and who waits for whom. The toolkit's warnings are given by
 // the tests, on the threads that the toolkit gives them on; each lets its thread end the process when it
 // returns.
+#include <array>
 #include <atomic>
 #include <chrono>
 #include <thread>
+#include <unistd.h>
 
 #include <QtTest/QTest>
 
@@ -97,6 +99,15 @@ TEST(LostDisplay, AWindowThreadThatHangsIsNotWaitedForAndThenWaitsItself) {
   EXPECT_EQ(saves.count, 1);
   QCoreApplication::processEvents();
   EXPECT_EQ(saves.count, 1);
+}
+
+TEST(LostDisplay, AWriteToADeadServerEndsNothing) {
+  platform::ListenForTheLostDisplay([] {});
+  std::array<int, 2> ends{};
+  ASSERT_EQ(pipe(ends.data()), 0);
+  close(ends[0]);
+  EXPECT_EQ(write(ends[1], "x", 1), -1);
+  close(ends[1]);
 }
 
 }  // namespace
