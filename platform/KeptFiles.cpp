@@ -47,13 +47,19 @@ bool IsOrWasKept(const std::string& path, const std::string& kept) {
   return Keep(path, kept) || SameFile(path, kept);
 }
 
+std::string KeptName(const std::string& path, const std::string& ending, int number) {
+  std::string name = path;
+  if (number > 0) name.append(1, '.').append(std::to_string(number));
+  return name + ending;
+}
+
 }  // namespace
 
 std::string KeepBeside(const std::string& path, const std::string& ending, int number) try {
-  const auto name = [&] { return path + (number > 0 ? "." + std::to_string(number) : "") + ending; };
-  while (!IsOrWasKept(path, name())) ++number;
-  SyncFolderOf(name());  // the one name is on the disk before the other is given away
-  return name();
+  std::string name = KeptName(path, ending, number);
+  while (!IsOrWasKept(path, name)) name = KeptName(path, ending, ++number);
+  SyncFolderOf(name);  // the one name is on the disk before the other is given away
+  return name;
 } catch (const NotYetOnDisk& failure) {
   throw Failure(failure);  // of the copy: the file itself is as it was
 }

@@ -50,11 +50,17 @@ void KeepVersion(const std::filesystem::path& path) {
   copy_file(path, plan.versions + "/" + version, std::filesystem::copy_options::overwrite_existing);
 }
 
+// The log of what is not stored is written when the clock says so, by a thread of its own: its calls have no
+// number that a second run would give them again.
+bool IsOfTheLog(const std::string& path) {
+  return path.starts_with(ThePlan().folder + "journal.tql") || syscall(SYS_gettid) != getpid();
+}
+
 // Carries out `call(half)`, lets it fail, or ends the process in it, as the plan says.
 template <class Call>
 auto Meet(const std::string& name, const std::string& path, Call&& call) -> decltype(call(false)) {
   Plan& plan = ThePlan();
-  if (!(path + "/").starts_with(plan.folder)) return call(false);
+  if (!(path + "/").starts_with(plan.folder) || IsOfTheLog(path)) return call(false);
   const bool isOver = plan.mended || (plan.felt && plan.how.ends_with("once"));
   const bool isDue = ++plan.calls >= plan.at && plan.at > 0 && !isOver;
   const int error = isDue ? std::atoi(plan.how.c_str()) : 0;
