@@ -7,6 +7,7 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <filesystem>
+#include <mutex>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/time.h>
@@ -25,11 +26,12 @@ std::string Setting(const char* name) {
 
 struct Plan {
   const std::string folder = Setting("FAULTS_FOLDER") + "/", versions = Setting("FAULTS_VERSIONS");
-  const std::string how = Setting("FAULTS_HOW");
+  const std::string how = Setting("FAULTS_HOW"), record = Setting("FAULTS_RECORD");
   const int at = std::atoi(Setting("FAULTS_CALL").c_str());
   const std::chrono::milliseconds slow{std::atoi(Setting("FAULTS_SLOW").c_str())};
   // Not by open(), which is one of ours and asks for the plan.
   const long log = syscall(SYS_open, Setting("FAULTS_LOG").c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
+  std::mutex mutex;  // one call at a time: its number, what it did and its line in the log belong together
   int calls = 0;
   bool felt = false, mended = false;
 };
@@ -50,11 +52,30 @@ void KeepVersion(const std::filesystem::path& path) {
   copy_file(path, plan.versions + "/" + version, std::filesystem::copy_options::overwrite_existing);
 }
 
+// The time, the call, what it was for ("." is the folder), and all names in the folder, each with its file's
+// number, between strokes, since no name has any; and a copy of what the file holds now. What the call has
+// changed is the difference.
+void Record(const std::string& name, const std::filesystem::path& path) {
+  const Plan& plan = ThePlan();
+  if (plan.record.empty()) return;
+  const std::string call = std::to_string(plan.calls);
+  const std::string changed = path / "" == plan.folder ? "." : path.filename().string();
+  std::string line = faults::Milliseconds() + "/" + call + "/" + name + "/" + changed;
+  for (const auto& entry : std::filesystem::directory_iterator(plan.folder)) {
+    struct stat file {};
+    if (stat(entry.path().c_str(), &file) != 0 || !S_ISREG(file.st_mode)) continue;
+    line += "/" + entry.path().filename().string() + "/" + std::to_string(file.st_ino);
+  }
+  faults::Log("disk " + line);
+  if (is_regular_file(path)) copy_file(path, plan.record + "/" + call);
+}
+
 // Carries out `call(half)`, lets it fail, or ends the process in it, as the plan says.
 template <class Call>
 auto Meet(const std::string& name, const std::string& path, Call&& call) -> decltype(call(false)) {
   Plan& plan = ThePlan();
   if (!(path + "/").starts_with(plan.folder)) return call(false);
+  const std::lock_guard lock(plan.mutex);
   const bool isOver = plan.mended || (plan.felt && plan.how.ends_with("once"));
   const bool isDue = ++plan.calls >= plan.at && plan.at > 0 && !isOver;
   const int error = isDue ? std::atoi(plan.how.c_str()) : 0;
@@ -69,15 +90,16 @@ auto Meet(const std::string& name, const std::string& path, Call&& call) -> decl
   const auto result = call(half);
   if (kills) Die();
   if (name == "rename" || name == "linkat") KeepVersion(path);
+  if (result >= 0) Record(name, path);
   return result;
 }
 
-// Empty for one that is only read from.
-std::string PathOf(int descriptor) {
+// Empty for one that is only read from, where such ones do not count.
+std::string PathOf(int descriptor, bool readToo = false) {
   std::array<char, 4096> path{};
   const auto link = "/proc/self/fd/" + std::to_string(descriptor);
-  const bool isWritten = (fcntl(descriptor, F_GETFL) & O_ACCMODE) != O_RDONLY;
-  return isWritten && readlink(link.c_str(), path.data(), path.size() - 1) > 0 ? path.data() : "";
+  const bool counts = readToo || (fcntl(descriptor, F_GETFL) & O_ACCMODE) != O_RDONLY;
+  return counts && readlink(link.c_str(), path.data(), path.size() - 1) > 0 ? path.data() : "";
 }
 
 const iovec* HalfOf(iovec piece) {
@@ -90,6 +112,11 @@ const iovec* HalfOf(iovec piece) {
 
 void faults::Log(const std::string& line) {
   syscall(SYS_write, ThePlan().log, (line + "\n").data(), line.size() + 1);
+}
+
+std::string faults::Milliseconds() {
+  const auto since = std::chrono::steady_clock::now().time_since_epoch();
+  return std::to_string(std::chrono::duration_cast<std::chrono::milliseconds>(since).count());
 }
 
 bool faults::IsBroken() {
@@ -118,7 +145,7 @@ void faults::Mend() {
 PASS_ON(int, mkdir, (const char* path, mode_t mode), path, path, mode)
 PASS_ON(int, unlink, (const char* path), path, path)
 PASS_ON(int, rename, (const char* from, const char* to), to, from, to)
-PASS_ON(int, fsync, (int fd), PathOf(fd), fd)
+PASS_ON(int, fsync, (int fd), PathOf(fd, true), fd)
 PASS_ON(int, fchmod, (int fd, mode_t mode), PathOf(fd), fd, mode)
 PASS_ON(int, close, (int fd), PathOf(fd), fd)
 PASS_ON(ssize_t, write, (int fd, const void* bytes, size_t n), PathOf(fd), fd, bytes, half ? n / 2 : n)

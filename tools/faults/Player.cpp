@@ -104,13 +104,16 @@ void Do(const QString& verb, QWidget* control, const QStringList& words) {
 
 // A step is over before it is carried out, since that may open a window that waits for the next ones.
 void TakeStep() {
-  const QStringList words = script.constFirst().split(u' ');
+  const QString line = script.constFirst();
+  const QStringList words = line.split(u' ');
   const QString& verb = words[0];
   QWidget* control = Find(words[1]);
   const bool needsNone = verb == u"end" || verb == u"run", untilItGoes = verb == u"close" || verb == u"enter";
   if (untilItGoes ? !control : (control || needsNone) && verb != u"leave" && verb != u"end")
     script.removeFirst();
-  if (control || needsNone) Do(verb, control, words);
+  if (!control && !needsNone) return;
+  LogText("step ", QString::fromStdString(faults::Milliseconds()) + u' ' + line);
+  Do(verb, control, words);
 }
 
 void Tick() {
