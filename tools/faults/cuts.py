@@ -25,6 +25,7 @@ import collections, functools, itertools, math, pathlib, random, tempfile
 
 from diary import DATA, UNFINISHED, furnish, next_start, read, run_all, scenarios
 
+LOG = "journal.tql"  # a thread of its own writes it while the player goes on, so nothing is shown as done of it
 SECTOR, ENUMERATED = 512, 64  # so many disks before a call, or contents of a file, are all looked at; of more, some by chance
 
 
@@ -122,15 +123,18 @@ def is_whole(name, data):
     except Exception: return False
     return True
 
+def is_shown(name): return DATA.fullmatch(name) and name != LOG
+def is_ours(name): return DATA.fullmatch(name) or name == LOG
+
 # What a disk must hold: functions of its files and of the promise at the time of the cut, of which another one, for a file with
 # rules of its own, takes its place in CHECKS. What the next start must show is told by diary.next_start.
 
 def not_whole(files, promise):
-    return [f"{name} is not whole" for name, data in files.items() if DATA.fullmatch(name)
+    return [f"{name} is not whole" for name, data in files.items() if is_ours(name)
             and (data not in promise.whole[name] or not (is_whole(name, data) or data == promise.scenario.files.get(name)))]
 
 def not_there(files, promise):
-    for name in filter(DATA.fullmatch, files.keys() | promise.shown.keys()):
+    for name in filter(is_shown, files.keys() | promise.shown.keys()):
         found, shown = files.get(name), promise.shown[name]
         if found in promise.whole[name] - shown:
             yield f"{name} is " + ("gone" if found is None else "there again" if shown == {None} else "older than was shown")
@@ -139,8 +143,8 @@ def not_kept(files, promise):
     return ["a damaged file's bytes are lost"] * (not set(promise.damaged) <= set(files.values()))
 
 def left_behind(files, promise):
-    left = [name for name in files if not DATA.fullmatch(name)]
-    alien = [name for name in left if not DATA.fullmatch(name.removesuffix(UNFINISHED))]
+    left = [name for name in files if not is_ours(name) and name != LOG + UNFINISHED]
+    alien = [name for name in left if not is_ours(name.removesuffix(UNFINISHED))]
     return [f"{len(left)} unfinished files are left"] * (len(left) > 1) + [f"{name} is no file of ours" for name in alien]
 
 CHECKS = [not_whole, not_there, not_kept, left_behind]
