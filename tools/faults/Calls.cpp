@@ -7,6 +7,7 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <filesystem>
+#include <mutex>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/time.h>
@@ -25,11 +26,12 @@ std::string Setting(const char* name) {
 
 struct Plan {
   const std::string folder = Setting("FAULTS_FOLDER") + "/", versions = Setting("FAULTS_VERSIONS");
-  const std::string how = Setting("FAULTS_HOW");
+  const std::string how = Setting("FAULTS_HOW"), record = Setting("FAULTS_RECORD");
   const int at = std::atoi(Setting("FAULTS_CALL").c_str());
   const std::chrono::milliseconds slow{std::atoi(Setting("FAULTS_SLOW").c_str())};
   // Not by open(), which is one of ours and asks for the plan.
   const long log = syscall(SYS_open, Setting("FAULTS_LOG").c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
+  std::mutex mutex;
   int calls = 0;
   bool felt = false, mended = false;
 };
@@ -51,9 +53,28 @@ void KeepVersion(const std::filesystem::path& path) {
 }
 
 // The log of what is not stored is written when the clock says so, by a thread of its own: its calls have no
-// number that a second run would give them again.
+// number that a second run would give them again. A record has them all.
 bool IsOfTheLog(const std::string& path) {
-  return path.starts_with(ThePlan().folder + "journal.tql") || syscall(SYS_gettid) != getpid();
+  return ThePlan().record.empty() &&
+         (path.starts_with(ThePlan().folder + "journal.tql") || syscall(SYS_gettid) != getpid());
+}
+
+// The time, the call, what it was for ("." is the folder), and all names in the folder, each with its file's
+// number, between strokes, since no name has any; and a copy of what the file holds now. What the call has
+// changed is the difference.
+void Record(const std::string& name, const std::filesystem::path& path) {
+  const Plan& plan = ThePlan();
+  if (plan.record.empty()) return;
+  const std::string call = std::to_string(plan.calls);
+  const std::string changed = path / "" == plan.folder ? "." : path.filename().string();
+  std::string line = faults::Milliseconds() + "/" + call + "/" + name + "/" + changed;
+  for (const auto& entry : std::filesystem::directory_iterator(plan.folder)) {
+    struct stat file {};
+    if (stat(entry.path().c_str(), &file) != 0 || !S_ISREG(file.st_mode)) continue;
+    line += "/" + entry.path().filename().string() + "/" + std::to_string(file.st_ino);
+  }
+  faults::Log("disk " + line);
+  if (is_regular_file(path)) copy_file(path, plan.record + "/" + call);
 }
 
 // Carries out `call(half)`, lets it fail, or ends the process in it, as the plan says.
@@ -61,6 +82,8 @@ template <class Call>
 auto Meet(const std::string& name, const std::string& path, Call&& call) -> decltype(call(false)) {
   Plan& plan = ThePlan();
   if (!(path + "/").starts_with(plan.folder) || IsOfTheLog(path)) return call(false);
+  std::unique_lock lock(plan.mutex, std::defer_lock);
+  if (!plan.record.empty()) lock.lock();  // a call, what it did and its line in the log belong together
   const bool isOver = plan.mended || (plan.felt && plan.how.ends_with("once"));
   const bool isDue = ++plan.calls >= plan.at && plan.at > 0 && !isOver;
   const int error = isDue ? std::atoi(plan.how.c_str()) : 0;
@@ -75,6 +98,7 @@ auto Meet(const std::string& name, const std::string& path, Call&& call) -> decl
   const auto result = call(half);
   if (kills) Die();
   if (name == "rename" || name == "linkat") KeepVersion(path);
+  if (result >= 0) Record(name, path);
   return result;
 }
 
@@ -96,6 +120,11 @@ const iovec* HalfOf(iovec piece) {
 
 void faults::Log(const std::string& line) {
   syscall(SYS_write, ThePlan().log, (line + "\n").data(), line.size() + 1);
+}
+
+std::string faults::Milliseconds() {
+  const auto since = std::chrono::steady_clock::now().time_since_epoch();
+  return std::to_string(std::chrono::duration_cast<std::chrono::milliseconds>(since).count());
 }
 
 bool faults::IsBroken() {

@@ -6,6 +6,7 @@
 //   FAULTS_LOG       the file that gets a line for all that happens
 //   FAULTS_FOLDER    calls that change what lies in this folder are counted, from 1 on
 //   FAULTS_VERSIONS  a folder for copies of files when they are renamed or the disk is mended: "name@call"
+//   FAULTS_RECORD    a folder for a copy of the file after each call; the log tells what the call changed
 //   FAULTS_CALL      the call that it begins with
 //   FAULTS_HOW       before, half, after: a kill before, in the middle of (a write) or after the call;
 //                    a number: calls fail with this errno until the disk is mended;
@@ -20,6 +21,8 @@
 namespace faults {
 
 void Log(const std::string& line);
+// By a clock that runs on, unlike the one that the program is shown.
+std::string Milliseconds();
 // Whether calls have failed and the cause has not been mended.
 bool IsBroken();
 void Mend();

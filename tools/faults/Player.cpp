@@ -10,11 +10,13 @@
 //   leave CONTROL        clicks it until the process ends
 //   end NOTHING          sends the signal that asks the program to end, until it does
 //   run COMMAND          in the shell
+//   rest MS              lets so many milliseconds go by
 // Message boxes are answered with their default button, and their texts go to the log. A broken disk is
 // mended when the command is over, or after its third box; the page's text goes to the log before that.
 #include <csignal>
 #include <cstdlib>
 
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QFile>
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
@@ -31,6 +33,7 @@ constexpr int TickMs = 2;
 
 QStringList script;
 int boxesOnBrokenDisk = 0;
+QDeadlineTimer resting(0);
 
 QWidget* Find(const QString& name) {
   const QWidget* modal = QApplication::activeModalWidget();
@@ -98,26 +101,31 @@ void Do(const QString& verb, QWidget* control, const QStringList& words) {
   if (verb == u"close" || verb == u"shut") control->close();
   if (verb == u"shut") LogText("still ", PageOnScreen());
   if (verb == u"end") std::raise(SIGTERM);
+  if (verb == u"rest") resting.setRemainingTime(words[1].toInt());
   if (verb == u"run") [[maybe_unused]]
     const int code = std::system(qPrintable(words.mid(1).join(u' ')));
 }
 
 // A step is over before it is carried out, since that may open a window that waits for the next ones.
 void TakeStep() {
-  const QStringList words = script.constFirst().split(u' ');
+  const QString line = script.constFirst();
+  const QStringList words = line.split(u' ');
   const QString& verb = words[0];
   QWidget* control = Find(words[1]);
-  const bool needsNone = verb == u"end" || verb == u"run", untilItGoes = verb == u"close" || verb == u"enter";
+  const bool needsNone = verb == u"end" || verb == u"run" || verb == u"rest";
+  const bool untilItGoes = verb == u"close" || verb == u"enter";
   if (untilItGoes ? !control : (control || needsNone) && verb != u"leave" && verb != u"end")
     script.removeFirst();
-  if (control || needsNone) Do(verb, control, words);
+  if (!control && !needsNone) return;
+  LogText("step ", QString::fromStdString(faults::Milliseconds()) + u' ' + line);
+  Do(verb, control, words);
 }
 
 void Tick() {
   QTimer::singleShot(TickMs, qApp, &Tick);
   if (AnswerBox()) return;
   if (faults::IsBroken()) return Mend();
-  if (!script.empty()) TakeStep();
+  if (!script.empty() && resting.hasExpired()) TakeStep();
 }
 
 void Begin() {
