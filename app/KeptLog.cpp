@@ -51,7 +51,7 @@ KeptLog::KeptLog(bool tells)
     timer->setSingleShot(true);
     connect(timer, &QTimer::timeout, this, &KeptLog::Look);
   }
-  JournalWillBeWritten = [this] { BeAsNewAsTheJournal(); };
+  FileWillBeWritten = [this](DataFile file) { BeAsNewAs(file); };
   SomethingWasStored = [this] { QTimer::singleShot(0, this, &KeptLog::Look); };
   LogThrough = [this] { return LookAndWait(); };
   qApp->installEventFilter(this);
@@ -60,7 +60,7 @@ KeptLog::KeptLog(bool tells)
 
 KeptLog::~KeptLog() {
   ForgetPagesLeftBehind();
-  JournalWillBeWritten = nullptr;
+  FileWillBeWritten = nullptr;
   SomethingWasStored = nullptr;
   LogThrough = nullptr;
 }
@@ -89,10 +89,13 @@ bool KeptLog::LookAndWait() {
   return writer_.Wait();
 }
 
-// A program that ends between the file's new name and the end of the log finds a page in both. Only when the
-// log's is the file's own is it known not to be another one's change.
-void KeptLog::BeAsNewAsTheJournal() {
-  if (!held_.journals.empty()) LookAndWait();
+// A program that is killed between the file's new name and the end of the log leaves the same in both. Only
+// when the log's is the file's own is it known not to be another program's change.
+void KeptLog::BeAsNewAs(DataFile file) {
+  const bool holdsIt = file == DataFile::TheIndex   ? held_.index.has_value()
+                       : file == DataFile::AJournal ? !held_.journals.empty()
+                                                    : held_.pictures.has_value();
+  if (holdsIt) LookAndWait();
 }
 
 void KeptLog::Remove() {

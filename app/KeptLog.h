@@ -14,6 +14,7 @@
 #include <QtCore/QTimer>
 
 #include "platform/LogWriter.h"
+#include "state/State.h"
 #include "store/UnstoredLog.h"
 
 class KeptLog : public QObject {
@@ -35,7 +36,7 @@ class KeptLog : public QObject {
 
  private:
   void LookSoon();
-  void BeAsNewAsTheJournal();
+  void BeAsNewAs(DataFile file);
   void Tell(const std::optional<std::string>& failure);
 
   bool tells_;

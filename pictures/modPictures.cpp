@@ -93,12 +93,14 @@ void WriteStore() {
   const std::string bytes = store::EncodePictureStore(Pictures);
   const std::string path = platform::PathOf(storeName);
   PicturesUnsaved = true;
+  if (FileWillBeWritten) FileWillBeWritten(DataFile::ThePictures);
   const bool isChanged = platform::KeepChanged(path);
   if (keepBeforeSaving && !isChanged && platform::FileExists(path)) platform::KeepDamaged(path);
   keepBeforeSaving = false;  // one copy, even when the writing has to be tried again
   platform::ReplaceDataFile(path, bytes);
   fileCheck = store::CheckOf(bytes);
   PicturesUnsaved = areOnlyHere = false;
+  if (SomethingWasStored) SomethingWasStored();
   platform::TellKept(path);
 }
 

@@ -30,7 +30,7 @@ bool PicturesUnsaved = false;
 std::int32_t chkGotoLastPage = 1;
 std::int32_t optColor = 0;
 
-std::function<void()> JournalWillBeWritten;
+std::function<void(DataFile)> FileWillBeWritten;
 std::function<void()> SomethingWasStored;
 std::function<bool()> LogThrough;
 
@@ -62,7 +62,7 @@ void ResetState() {
   BookcaseLoaded = false;
   chkGotoLastPage = 1;
   optColor = 0;
-  JournalWillBeWritten = nullptr;
+  FileWillBeWritten = nullptr;
   SomethingWasStored = nullptr;
   LogThrough = nullptr;
   JournalAdded = nullptr;

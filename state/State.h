@@ -107,11 +107,12 @@ extern bool PicturesUnsaved;
 extern std::int32_t chkGotoLastPage;  // 1: a journal opens on its last page; 0: on its title page
 extern std::int32_t optColor;         // the theme: 0 blue, 1 pink, 2 purple
 
-// Heard by who keeps the log of what is not stored; each may be empty. The first is told before a journal's
-// file takes the place of the old one, so that the log is not older than the file; the second when something
-// has been stored; the third has everything that is unstored written and waits for it, and returns whether
-// the disk has it.
-extern std::function<void()> JournalWillBeWritten;
+// Heard by who keeps the log of what is not stored; each may be empty. The first is told before a file takes
+// the place of the old one, so that the log is not older than the file; the second when something has been
+// stored; the third has everything that is unstored written and waits for it, and returns whether the disk
+// has it.
+enum class DataFile { TheIndex, AJournal, ThePictures };
+extern std::function<void(DataFile)> FileWillBeWritten;
 extern std::function<void()> SomethingWasStored;
 extern std::function<bool()> LogThrough;
 

@@ -271,7 +271,7 @@ void SaveJournalFile(const std::string& fileName) {
   if (MasterPassword.empty()) platform::ShowMessage("password is null on save!");
   store::RefuseForeignPages(fileName);
   PagesUnsaved = true;
-  if (JournalWillBeWritten) JournalWillBeWritten();
+  if (FileWillBeWritten) FileWillBeWritten(DataFile::AJournal);
   store::WriteJournalFile(fileName, Pages);
   PagesUnsaved = false;
   store::RowsAreStored();

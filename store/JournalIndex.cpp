@@ -112,6 +112,7 @@ void KeepDamagedFile(const std::string& path) {
 void Write(const store::Index& index) {
   const std::string path = IndexPath();
   const std::string bytes = store::EncodeIndex(index);
+  if (FileWillBeWritten) FileWillBeWritten(DataFile::TheIndex);
   KeepDamagedFile(path);
   platform::ReplaceDataFile(path, bytes);
   loaded = Present();
