@@ -77,6 +77,22 @@ TEST_F(LogWriterTest, NothingComesBehindWhatIsNewer) {
   EXPECT_EQ(folder.Names(), fixture::Texts{});
 }
 
+TEST_F(LogWriterTest, WhatFailedNeverComesBackOverWhatIsNewer) {
+  LogWriter writer = Writer();
+  for (unsigned i = 0; i < 100; ++i) {
+    writer.Put("");
+    EXPECT_TRUE(writer.Wait());
+    folder.Block(name);
+    writer.Put("older");
+    usleep(i);  // into the midst of its failing
+    writer.Put(std::to_string(i));
+    folder.Unblock(name);
+    writer.Wait();  // for a trial that may have begun before
+    EXPECT_TRUE(writer.Wait());
+    EXPECT_EQ(folder.Read(name), std::to_string(i));
+  }
+}
+
 TEST_F(LogWriterTest, AFailureIsToldOnceAndItsEndToo) {
   LogWriter writer = Writer();
   folder.Block(name);
