@@ -42,9 +42,13 @@ bool IsOrdinaryFile(const std::string& path) {
   return lstat(path.c_str(), &entry) == 0 && S_ISREG(entry.st_mode);
 }
 
-// Kept already where the two are the same file, at a save that failed.
+// Kept already, at a save that failed: under a second name, or in a copy.
+bool WasKept(const std::string& path, const std::string& kept) {
+  return SameFile(path, kept) || (IsOrdinaryFile(kept) && ReadFile(path) == ReadFile(kept));
+}
+
 bool IsOrWasKept(const std::string& path, const std::string& kept) {
-  return Keep(path, kept) || SameFile(path, kept);
+  return Keep(path, kept) || WasKept(path, kept);
 }
 
 std::string KeptName(const std::string& path, const std::string& ending, int number) {
