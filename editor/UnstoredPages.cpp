@@ -19,6 +19,13 @@ std::vector<store::UnstoredJournal>& LeftBehind() {
   return journals;
 }
 
+// A deleted journal takes what was left behind of it along.
+bool IsInTheBookcase(const std::string& fileName) {
+  return std::any_of(Journals.begin() + 1, Journals.end(), [&](const JournalEntry& entry) {
+    return entry.FileName == fileName && entry.Deleted == False;
+  });
+}
+
 // The text of the page on show, enciphered; made anew only when it has changed.
 const std::string& TextBody() {
   using Key = std::tuple<std::int32_t, std::int32_t, const QTextDocument*, int>;
@@ -59,6 +66,7 @@ store::UnstoredJournal OpenJournal() {
 }  // namespace
 
 std::vector<store::UnstoredJournal> UnstoredJournals() {
+  std::erase_if(LeftBehind(), [](const auto& journal) { return !IsInTheBookcase(journal.FileName); });
   std::vector<store::UnstoredJournal> journals = LeftBehind();
   if (IsAnythingUnstored()) journals.push_back(OpenJournal());
   return journals;
