@@ -1,6 +1,6 @@
 #include "app/KeptLog.h"
 
-#include <QtCore/QEvent>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 
 #include "editor/UnstoredPages.h"
@@ -42,6 +42,12 @@ bool ChangesSomething(QEvent::Type type) {
   }
 }
 
+bool MayEndADialog(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return event.type() == QEvent::MouseButtonRelease;
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+}
+
 }  // namespace
 
 KeptLog::KeptLog(bool tells)
@@ -66,8 +72,15 @@ KeptLog::~KeptLog() {
 }
 
 bool KeptLog::eventFilter(QObject* /*watched*/, QEvent* event) {
-  if (ChangesSomething(event->type())) LookSoon();
+  if (!ChangesSomething(event->type())) return false;
+  LookSoon();
+  if (MayEndADialog(*event)) QTimer::singleShot(0, this, &KeptLog::LookAtTheBookcase);
   return false;
+}
+
+// A journal or a password is no typing of two seconds.
+void KeptLog::LookAtTheBookcase() {
+  if (UnstoredIndex() != held_.index) Look();
 }
 
 void KeptLog::LookSoon() {
@@ -78,10 +91,17 @@ void KeptLog::LookSoon() {
 void KeptLog::Look() {
   pause_.stop();
   deadline_.stop();
-  store::UnstoredLog log = WhatIsUnstored();
+  try {
+    HandOver(WhatIsUnstored());
+  } catch (const std::exception& failure) {  // no copy is worth the program's end
+    Tell(failure.what());
+  }
+}
+
+void KeptLog::HandOver(store::UnstoredLog log) {
   if (IsSame(log, held_)) return;
+  writer_.Put(log.empty() ? std::string() : store::EncodeLog(log));
   held_ = std::move(log);
-  writer_.Put(held_.empty() ? std::string() : store::EncodeLog(held_));
 }
 
 bool KeptLog::LookAndWait() {
@@ -101,7 +121,7 @@ void KeptLog::BeAsNewAs(DataFile file) {
 void KeptLog::Remove() {
   pause_.stop();
   deadline_.stop();
-  if (held_.empty()) return;
+  if (held_.empty() && writer_.IsUpToDate()) return;
   held_ = {};
   writer_.Put({});
   writer_.Wait();

@@ -36,6 +36,8 @@ class KeptLog : public QObject {
 
  private:
   void LookSoon();
+  void LookAtTheBookcase();
+  void HandOver(store::UnstoredLog log);
   void BeAsNewAs(DataFile file);
   void Tell(const std::optional<std::string>& failure);
 

@@ -1,7 +1,6 @@
 #include "app/RollForward.h"
 
 #include <algorithm>
-#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -12,10 +11,13 @@
 #include "platform/Failure.h"
 #include "platform/Files.h"
 #include "platform/MessageBox.h"
+#include "platform/SyncFolder.h"
 #include "state/State.h"
+#include "store/IndexFile.h"
 #include "store/JournalFile.h"
 #include "store/JournalIndex.h"
 #include "store/LostJournals.h"
+#include "store/PictureStore.h"
 #include "store/RollForward.h"
 #include "store/UnstoredLog.h"
 
@@ -42,12 +44,22 @@ std::string TextOf(const std::string& codePage) {
   return platform::FromCodePage(codePage).toStdString();
 }
 
+// False when it must stay, and would come back as it is at the next start: all of it is where it belongs.
+bool TakeLogAway() {
+  try {
+    platform::DeleteFile(LogPath());
+    platform::SyncFolderOf(LogPath());
+    return true;
+  } catch (const platform::Failure&) {
+    return platform::IsMissing(LogPath());
+  }
+}
+
 // Copies the log, so that a new one may take its place, and takes it away. False when it must stay.
 bool PutLogAside() {
   try {
     work.copy = NameOf(platform::KeepDamaged(LogPath()));
-    platform::DeleteFile(LogPath());
-    return true;
+    return TakeLogAway();
   } catch (const platform::Failure& failure) {
     work.aside.push_back(failure.what());
     return false;
@@ -67,17 +79,34 @@ std::optional<store::FileCheck> CheckOfFile(const std::string& path) {
   return store::CheckOf(platform::ReadFile(path));
 }
 
-using IsSame = std::function<bool(const std::string& one, const std::string& other)>;
+// What is asked of the files that are written whole.
+struct Kind {
+  const char* name;
+  const char* what;
+  bool (*isSame)(const std::string& one, const std::string& other);
+  bool (*isWhole)(const std::string& bytes);
+};
 
-// A file that is written whole.
-void RollFile(const char* name, const std::string& what, const store::UnstoredFile& logged,
-              const IsSame& isSame) {
-  const std::string path = platform::PathOf(name);
+constexpr Kind IndexKind = {"journal.tqt", "the bookcase", &IsSameBookcase, [](const std::string& bytes) {
+                              return store::DecodeIndex(bytes).health == store::IndexHealth::Sound;
+                            }};
+constexpr Kind PicturesKind = {
+    "tqpics.bin", "the pictures on the pages",
+    [](const std::string& one, const std::string& other) { return one == other; },
+    [](const std::string& bytes) { return !store::DecodePictureStore(bytes).isDamaged; }};
+
+void KeepWhereDamaged(const Kind& kind, const std::string& path) {
+  if (platform::FileExists(path) && !kind.isWhole(platform::ReadFile(path))) platform::KeepDamaged(path);
+}
+
+void RollFile(const Kind& kind, const store::UnstoredFile& logged) {
+  const std::string path = platform::PathOf(kind.name), what = kind.what, name = kind.name;
   try {
-    if (CheckOfFile(path) == logged.began) {
+    if (platform::IsMissing(path) || CheckOfFile(path) == logged.began) {
+      KeepWhereDamaged(kind, path);
       platform::ReplaceDataFile(path, logged.bytes);
       work.back.push_back(what);
-    } else if (platform::IsMissing(path) || !isSame(platform::ReadFile(path), logged.bytes)) {
+    } else if (!kind.isSame(platform::ReadFile(path), logged.bytes)) {
       work.aside.push_back(what + ": " + name + " has been changed by another program since");
     }
   } catch (const platform::Failure& failure) {
@@ -129,10 +158,23 @@ void RollJournal(const store::UnstoredJournal& journal) {
   }
 }
 
+// From here on the file may change again, by the exit at the lock for one, before the rest of the log is
+// used.
+void TakeIndexOutOfTheLog() {
+  store::UnstoredLog rest = *work.log;
+  rest.index.reset();
+  try {
+    if (!rest.empty()) return platform::ReplaceFile(LogPath(), store::EncodeLog(rest));
+    TakeLogAway();
+  } catch (const platform::Failure&) {
+    // It is found where it belongs at the next start.
+  }
+}
+
 // An older store that is still there is read once more, and holds what the log would bring.
 void RollPictures(const store::UnstoredFile& logged) {
   if (platform::FileExists(platform::PathOf("jpics.bin"))) return;
-  RollFile("tqpics.bin", "the pictures on the pages", logged, std::equal_to<>());
+  RollFile(PicturesKind, logged);
 }
 
 std::string Lines(const std::vector<std::string>& lines) {
@@ -153,7 +195,9 @@ void RollBookcaseForward() {
   } catch (const platform::Failure& failure) {
     return TellUnreadable(failure.what());
   }
-  if (work.log->index) RollFile("journal.tqt", "the bookcase", *work.log->index, &IsSameBookcase);
+  if (!work.log->index) return;
+  RollFile(IndexKind, *work.log->index);
+  if (work.aside.empty()) TakeIndexOutOfTheLog();
 }
 
 bool RollPagesForward() {
@@ -161,9 +205,7 @@ bool RollPagesForward() {
   if (work.log->pictures) RollPictures(*work.log->pictures);
   for (const store::UnstoredJournal& journal : work.log->journals) RollJournal(journal);
   RecoverLostJournals();
-  if (!work.aside.empty()) return PutLogAside();
-  platform::DeleteFile(LogPath());
-  return true;
+  return work.aside.empty() ? TakeLogAway() : PutLogAside();
 }
 
 void TellWhatCameBack() {

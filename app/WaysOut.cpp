@@ -9,11 +9,13 @@
 
 #include "app/KeptLog.h"
 #include "editor/PagePasses.h"
+#include "editor/UnstoredPages.h"
 #include "editor/frmJournal.h"
 #include "look/Form.h"
 #include "look/Pass.h"
 #include "pictures/modPictures.h"
 #include "platform/Application.h"
+#include "platform/CodePage.h"
 #include "platform/MessageBox.h"
 #include "platform/Process.h"
 #include "platform/SyncFolder.h"
@@ -43,7 +45,7 @@ std::string NotSaved(const std::exception& failure) {
 }
 
 void SavePages(Refusals& refusals) {
-  if (PagesJournal == 0 || !look::The<frmJournal>().isVisible()) return;
+  if (PagesJournal == 0 || !(look::The<frmJournal>().isVisible() || IsAnythingUnstored())) return;
   const std::string& fileName = Journals.at(static_cast<std::size_t>(PagesJournal)).FileName;
   StoreOpenPage();
   try {
@@ -71,9 +73,21 @@ void SaveIndex(Refusals& refusals) {
   }
 }
 
+// The pages that only the log holds, by their journals.
+std::string LoggedPages() {
+  std::string text;
+  for (const store::UnstoredJournal& journal : UnstoredJournals()) {
+    text += "Pages of " + platform::FromCodePage(journal.FileName).toStdString() + ":";
+    for (const store::UnstoredPage& page : journal.pages) text += " " + std::to_string(page.row);
+    text += "\n\n";
+  }
+  return text;
+}
+
 bool AsksToLeaveWithout(const Refusals& refusals) {
   std::string text = "Thornquill still cannot save everything.\n\n";
   for (const Refusal& refusal : refusals) text += refusal.asked + "\n\n";
+  text += LoggedPages();
   text += BringTheLogUpToDate()
               ? "It is kept in the log journal.tql, and the next start brings it back. Leave now?"
               : "Leave without it, so that it is lost?";
@@ -98,11 +112,12 @@ bool IsDying() {
   return application && application->IsDying();
 }
 
-// Nobody can answer a box any more.
+// Nobody can answer a box any more. What it would say goes to the error output.
 class NobodyThere {
  public:
   NobodyThere()
       : before_(platform::SetMessageAnswerer([](const platform::Message& message) {
+          std::fprintf(stderr, "Thornquill: %s\n", message.text.c_str());
           return message.buttons == platform::Buttons::Ok ? platform::Answer::Ok : platform::Answer::No;
         })) {}
   ~NobodyThere() { platform::SetMessageAnswerer(std::move(before_)); }
@@ -112,9 +127,10 @@ class NobodyThere {
   platform::MessageAnswerer before_;
 };
 
-// What could not be saved stays in the log, for the next start.
+// What could not be saved stays in the log, for the next start, and so do pages that a closing left behind.
 void EndOfTheLog(const Refusals& refusals) {
-  refusals.empty() ? RemoveTheLog() : void(BringTheLogUpToDate());
+  const bool isAllStored = refusals.empty() && UnstoredJournals().empty();
+  isAllStored ? RemoveTheLog() : void(BringTheLogUpToDate());
 }
 
 void SaveWhatCanBeSaved() {
@@ -129,7 +145,7 @@ void SaveWhatCanBeSaved() {
 void EndWithoutAsking() {
   const NobodyThere nobody;
   if (IsDying())
-    StoreOpenPage();
+    StoreOnFailure();
   else if (BookcaseLoaded)
     SaveWhatCanBeSaved();
   platform::EndProcess();
@@ -145,6 +161,11 @@ void SaveAndExit() {
   if (!refusals.empty() && !MayLeaveWithout(refusals)) return;
   EndOfTheLog(refusals);
   platform::EndProcess();
+}
+
+void StoreOnFailure() {
+  StoreOpenPage();
+  BringTheLogUpToDate();
 }
 
 void LeaveTheProgram() {

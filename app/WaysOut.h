@@ -1,19 +1,24 @@
 // All ways out of the program, and what each of them saves, in this order.
 //
 // A person, at the bookcase or at the lock (SaveAndExit): the pictures that were left unsaved, the index.
-// What
-//   cannot be saved is told, and the program stays; from the second time on a question names it, and the
-//   person may leave without.
-// The system, by SIGTERM, SIGINT, SIGHUP or the end of the desktop's session (LeaveTheProgram): the open
-// page,
-//   its journal's file, the pictures that were left unsaved, the index. Nobody is asked; what cannot be saved
-//   is said on the error output, and the end comes all the same.
-// Nobody: the display is gone (SaveWithoutDisplay). The same.
-// A failure that nobody guards (StoreOpenPage): the open page, its journal's file. The index stays unsaved.
+//   What cannot be saved is told, and the program stays; from the second time on a question names it, and
+//   the person may leave without.
 //
-// A person reaches the bookcase only by closing the journal, which stores its page and file (CloseJournal),
-// so no page is open on the first road. The exit of the first run's dialog saves nothing, for there is
-// nothing yet.
+// The system, by SIGTERM, SIGINT, SIGHUP or the end of the desktop's session (LeaveTheProgram): the open
+//   page, its journal's file, the pictures that were left unsaved, the index. Nobody is asked, and the end
+//   comes whatever could not be saved; the error output has it.
+//
+// Nobody: the display is gone (SaveWithoutDisplay). The same.
+//
+// A failure that nobody guards (StoreOnFailure): the open page, its journal's file. The index stays unsaved.
+//
+// On each road the log of what is not stored comes last: it goes when nothing is left for it, and is brought
+// up to date and waited for otherwise. So what could not be saved is there again at the next start, and so is
+// the index after a failure.
+//
+// A person reaches the bookcase only by closing the journal, which stores its page and file (frmJournal's
+// CloseBox), or leaves its pages to the log. Nothing is saved, for there is nothing, at the exit of the first
+// run's dialog, at a start that finds the diary open or its index unreadable.
 //
 // On every road each file is tried on its own: one that cannot be written keeps none of the others from it.
 // Nothing is forgotten on the way: until the end is certain, windows, dialogs, pages and names stay as they
@@ -31,3 +36,6 @@ void LeaveTheProgram();
 
 // The same at once, and without any call to the display.
 void SaveWithoutDisplay();
+
+// Stores the open page and brings the log up to date: the last will of a program that a failure ends.
+void StoreOnFailure();

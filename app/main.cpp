@@ -3,7 +3,6 @@
 #include <QtCore/QTimer>
 
 #include "app/WaysOut.h"
-#include "editor/PagePasses.h"
 #include "platform/Application.h"
 #include "platform/WayOut.h"
 
@@ -12,7 +11,7 @@ int main(int argc, char** argv) {
   platform::Application application(argc, argv);
   QGuiApplication::setDesktopFileName(
       QStringLiteral("thornquill"));  // whose icon and entry the desktop shows
-  application.SetLastWill(&StoreOpenPage);
+  application.SetLastWill(&StoreOnFailure);
   platform::RunningInstance instance;
   platform::ListenForTheWayOut(&LeaveTheProgram);
   platform::ListenForTheLostDisplay(&SaveWithoutDisplay);

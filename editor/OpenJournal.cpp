@@ -21,10 +21,12 @@ namespace {
 // A journal may still be here that was opened without being shown. Its text and its pictures must not meet
 // the next one's pages.
 void DropFormerJournal() {
+  LeavePagesBehind();
   ForgetPagePictures();
   Face().txtM->setReadOnly(false);
   Face().txtM->SetTextRTF({});  // an empty box too may remember, for its undo, what stood in it
   ForgetPages();
+  store::RowsAreStored();
 }
 
 QString Shown(const std::string& fileName) {
@@ -64,9 +66,15 @@ bool TakePages(const std::string& fileName) {
   Pages = std::move(journal->pages);
   PagesJournal = CurrentJournal;
   store::RowsAreStored();
-  TakePagesBack(fileName);
   PageCount = static_cast<std::int32_t>(Pages.size()) - 1;
+  TakePagesBack(fileName);
   return true;
+}
+
+void ShowFirstPage() {
+  CurrentPage = chkGotoLastPage == 1 ? PageCount : 0;
+  ShowPageHeader();
+  ShowCurrentPage();
 }
 
 }  // namespace
@@ -76,11 +84,10 @@ void LoadJournalFile(std::string& fileName) {
   DropFormerJournal();
   if (platform::IsMissing(platform::PathOf(fileName))) {
     NewJournalPages();
+    if (TakePagesBack(fileName)) ShowFirstPage();
     return;
   }
   if (!TakePages(fileName)) return;
-  CurrentPage = chkGotoLastPage == 1 ? PageCount : 0;
   Journals.at(static_cast<std::size_t>(CurrentJournal)).PageCount = PageCount;
-  ShowPageHeader();
-  ShowCurrentPage();
+  ShowFirstPage();
 }

@@ -182,7 +182,7 @@ void StoreCurrentPage() {
 }
 
 bool IsTextUnstored() {
-  return PagesJournal != 0 && PageDirty != False && TextPage >= 0 && !IsBlankPage();
+  return PagesJournal != 0 && PageDirty != False && TextPage >= 0 && !IsBlankPage() && !ShowsAlienPage();
 }
 
 bool IsAnythingUnstored() {

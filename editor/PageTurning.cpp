@@ -63,7 +63,7 @@ std::string UnstoredPages() {
   std::set<std::int32_t> rows;
   for (const auto& [row, inFile] : store::UnstoredRows())
     if (inFile.isMissed) rows.insert(row);
-  if (PageDirty != False && TextPage >= 0) rows.insert(TextPage);
+  if (IsTextUnstored()) rows.insert(TextPage);
   std::string text;
   std::size_t named = 0;
   for (const std::int32_t row : rows) {
@@ -177,6 +177,7 @@ void NewJournalPages() {
   PageCount = 1;
   CurrentPage = 0;
   Pages.resize(2);
+  store::RowsAreStored();
   for (std::int32_t row = 0; row <= PageCount; ++row) store::RowWasAdded(row, false);
   ApplyJournalFont();
   Row(0).PageDate = platform::Now();

@@ -81,10 +81,10 @@ void ForgetPagesLeftBehind() {
 }
 
 // The file may have been replaced meanwhile: what no longer fits its row becomes a page of its own.
-void TakePagesBack(const std::string& fileName) {
+bool TakePagesBack(const std::string& fileName) {
   const auto isIts = [&](const store::UnstoredJournal& journal) { return journal.FileName == fileName; };
   const auto journal = std::ranges::find_if(LeftBehind(), isIts);
-  if (journal == LeftBehind().end()) return;
+  if (journal == LeftBehind().end()) return false;
   const std::vector<JournalPage> read = Pages;
   for (const store::RolledPage& page : store::RollForward(journal->pages, PageShift, Pages)) {
     const auto row = static_cast<std::size_t>(page.row);
@@ -94,4 +94,6 @@ void TakePagesBack(const std::string& fileName) {
       store::RowHasChanged(page.row, read[row]);
   }
   LeftBehind().erase(journal);
+  PageCount = static_cast<std::int32_t>(Pages.size()) - 1;
+  return true;
 }

@@ -18,6 +18,7 @@ void LeavePagesBehind();
 // The log ends, and with it what is left behind in this run.
 void ForgetPagesLeftBehind();
 
-// Puts the pages that were left behind into the journal that has just been read into Pages, and counts them
-// as unstored.
-void TakePagesBack(const std::string& fileName);
+// Puts the pages that were left behind into the journal whose rows have just come into Pages, and counts them
+// as unstored. Whether there were any; then PageCount tells of Pages again, and the page on show must be
+// shown anew.
+bool TakePagesBack(const std::string& fileName);

@@ -6,6 +6,7 @@
 #include <QtCore/QFile>
 
 #include "editor/PageFace.h"
+#include "editor/UnstoredPages.h"
 #include "output/PageLines.h"
 #include "pictures/PictureSlots.h"
 #include "platform/CodePage.h"
@@ -225,8 +226,9 @@ void frmExport::ShowResult(const std::string& path) {
 }
 
 // The journal was loaded for the export alone: it goes as at a closing, so that no plain page and no
-// photograph stays behind.
+// photograph stays behind. Pages that an earlier closing left unstored go back to the log.
 void frmExport::CloseBox() {
+  LeavePagesBehind();
   ForgetPagePictures();
   ForgetPages();
   Face().txtM->SetTextRTF({});

@@ -89,6 +89,15 @@ void DeleteOldStore(const std::string& path, bool keepsIt) {
   }
 }
 
+// The newer store is not looked at where there is an older one; but the log must know what it goes over.
+void NoteNewerStore() {
+  try {
+    fileCheck = store::CheckOf(platform::ReadFile(platform::PathOf(storeName)));
+  } catch (const Failure&) {
+    fileCheck.reset();
+  }
+}
+
 void WriteStore() {
   const std::string bytes = store::EncodePictureStore(Pictures);
   const std::string path = platform::PathOf(storeName);
@@ -119,6 +128,7 @@ void ImportOldPictureStore() {
   platform::AcceptUnread(platform::PathOf(storeName));
   const std::string path = platform::PathOf(oldStoreName);
   const bool keepsIt = platform::FileExists(path) && ReadOldStore(path);
+  NoteNewerStore();
   areOnlyHere = Pictures.size() > 1;
   if (LogThrough) LogThrough();
   DeleteOldStore(path, keepsIt);
@@ -137,7 +147,6 @@ void WritePicturesLeftUnsaved() {
   if (PicturesUnsaved) WriteStore();
 }
 
-// tqpics.bin is not looked at where there is an older store.
 std::optional<store::UnstoredFile> UnstoredPictures() {
   if (Pictures.empty() || !(PicturesUnsaved || areOnlyHere)) return std::nullopt;
   const bool isMissing = platform::IsMissing(platform::PathOf(storeName));

@@ -27,6 +27,7 @@
 #include <QtCore/QThread>
 
 #include "platform/WayOut.h"
+#include "platform/Writing.h"
 
 namespace platform {
 namespace {
@@ -102,10 +103,20 @@ void SaveOnTheWindowThread(Listener& listener) {
   if (!IsSaving(listener)) listener.turn.Wait(listener.patience);
 }
 
+// The window thread may be slow, and not hang: a file in its hands is not to be cut off, nor written beside
+// it.
+void WaitForTheFileInHand(std::chrono::milliseconds patience) {
+  const auto begun = std::chrono::steady_clock::now();
+  while (IsFileBeingWritten() && std::chrono::steady_clock::now() - begun < 6 * patience)
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+}
+
 void WaitForTheWindowThread(Listener& listener) {
   QMetaObject::invokeMethod(
       qApp, [&listener] { Save(listener); }, Qt::QueuedConnection);
-  if (!listener.turn.Wait(listener.patience)) Save(listener);
+  if (listener.turn.Wait(listener.patience)) return;
+  WaitForTheFileInHand(listener.patience);
+  Save(listener);
 }
 
 void AtTheLossOfTheDisplay() {

@@ -1,6 +1,7 @@
 // Writing a file in one step: the bytes go into a file of their own beside it, and when they are on the disk
 // that file takes the old one's name, and the name is brought to the disk too.
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -16,6 +17,7 @@
 #include "platform/LeftBehind.h"
 #include "platform/Remembered.h"
 #include "platform/SyncFolder.h"
+#include "platform/Writing.h"
 
 namespace platform {
 namespace {
@@ -46,6 +48,16 @@ std::string RealPath(const std::string& path) {
     real = real.parent_path() / std::filesystem::read_symlink(real, error);
   return real.string();
 }
+
+std::atomic<int> filesBeingWritten = 0;
+
+class BeingWritten {
+ public:
+  BeingWritten() { ++filesBeingWritten; }
+  ~BeingWritten() { --filesBeingWritten; }
+  BeingWritten(const BeingWritten&) = delete;
+  BeingWritten& operator=(const BeingWritten&) = delete;
+};
 
 // The file that is written, under a name of its own until it is whole. It goes again unless it took the
 // other's name.
@@ -163,6 +175,7 @@ void Unfinished::BeRemembered() const {
 }
 
 void Replace(const std::string& path, std::span<const std::string_view> pieces, bool isKnownThen) {
+  const BeingWritten beingWritten;
   RefuseUnchangeable(path);
   const std::string target = RealPath(path);
   Unfinished file(path, target);
@@ -173,6 +186,10 @@ void Replace(const std::string& path, std::span<const std::string_view> pieces, 
 }
 
 }  // namespace
+
+bool IsFileBeingWritten() {
+  return filesBeingWritten > 0;
+}
 
 void ReplaceFile(const std::string& path, std::string_view bytes) {
   Replace(path, std::span(&bytes, 1), false);

@@ -125,7 +125,7 @@ bool RichTextBox::PrintSelection(Paper& paper) const {
 }
 
 void RichTextBox::InsertBitmap(const QImage& image) {
-  if (image.isNull()) return;
+  if (image.isNull() || isReadOnly()) return;
   QTextCursor cursor = textCursor();
   cursor.insertText(QString(QChar::ObjectReplacementCharacter),
                     KeepPicture(FromImage(image), CaretFormat(), *document()));

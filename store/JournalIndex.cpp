@@ -28,8 +28,11 @@ struct Bookcase {
 Bookcase loaded;
 std::optional<store::FileCheck> loadedFile;
 
+// Without the counts of pages as last seen, which each opening finds again.
 Bookcase Present() {
-  return {Journals, MasterPassword};
+  Bookcase bookcase{Journals, MasterPassword};
+  for (JournalEntry& entry : bookcase.journals) entry.PageCount = 0;
+  return bookcase;
 }
 
 // Whether the file on disk holds more than what was read from it.

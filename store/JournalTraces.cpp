@@ -62,11 +62,14 @@ bool IsJournalOfTheBookcase(const std::string& path) {
 // Why the file is still there; nothing when it is not.
 std::optional<std::string> DeleteTrace(const std::string& path) {
   try {
+    if (platform::IsMissing(path)) return std::nullopt;
     if (IsJournalOfTheBookcase(path)) return path + " (this is another journal of the bookcase, too)";
     if (!IsJournal(path)) return path + " (this is no journal)";
     platform::DeleteFile(path);
     platform::SyncFolderOf(path);
     return std::nullopt;
+  } catch (const platform::NotYetOnDisk&) {
+    return std::nullopt;  // it is gone as long as the machine runs
   } catch (const platform::Failure& failure) {
     return failure.what();
   }

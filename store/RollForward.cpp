@@ -37,7 +37,7 @@ class Roller {
     if (!IsDocument(BodyOf(page), shift_)) return {page.row, page.row, Rolled::NoDocument};
     if (row < pages_.size()) return RollInto(pages_[row], page);
     if (row == pages_.size() && page.isNew) return Append(page, Rolled::IntoItsRow);
-    return page.Body ? Append(page, Rolled::AtTheEnd) : RolledPage{page.row, page.row, Rolled::IsThere};
+    return page.Body ? AppendOnce(page) : RolledPage{page.row, page.row, Rolled::IsThere};
   }
 
  private:
@@ -45,7 +45,7 @@ class Roller {
     const bool isAsItWas = CheckOf(there.Body) == page.began;
     if (page.Body && IsSameText(there.Body, *page.Body, shift_)) return TakeDate(there, page, true);
     if (!page.Body || page.Body->empty()) return TakeDate(there, page, isAsItWas);
-    if (!isAsItWas) return Append(page, Rolled::AtTheEnd);
+    if (!isAsItWas) return AppendOnce(page);
     there.Body = *page.Body;
     there.PageDate = page.PageDate;
     return {page.row, page.row, Rolled::IntoItsRow};
@@ -56,6 +56,14 @@ class Roller {
     if (!mayTake || !differs) return {page.row, page.row, Rolled::IsThere};
     there.PageDate = page.PageDate;
     return {page.row, page.row, Rolled::IntoItsRow};
+  }
+
+  // A kill may have come between an earlier roll and the end of its log.
+  RolledPage AppendOnce(const UnstoredPage& page) const {
+    for (std::size_t row = 0; row < pages_.size(); ++row)
+      if (pages_[row].PageDate == page.PageDate && IsSameText(pages_[row].Body, BodyOf(page), shift_))
+        return {page.row, static_cast<std::int32_t>(row), Rolled::IsThere};
+    return Append(page, Rolled::AtTheEnd);
   }
 
   // A journal whose file has gone gets its title page back.
@@ -76,6 +84,7 @@ std::vector<RolledPage> RollForward(const std::vector<UnstoredPage>& logged, std
   const Roller roller(shift, pages);
   std::vector<RolledPage> rolled;
   for (const UnstoredPage& page : logged) rolled.push_back(roller.Roll(page));
+  if (pages.size() == 1) pages.push_back({{}, pages.front().PageDate});  // no journal is a title page alone
   return rolled;
 }
 

@@ -249,6 +249,9 @@ TEST_F(Journey, AJournalThatCannotBeWrittenClosesWhenNothingIsMissedOrOnDemand) 
   answers.yes = 1;
   Book().close();
   EXPECT_FALSE(Book().isVisible());
+  folder.Unblock("j00000.tqf");
+  Click(look::The<frmBookcase>().cmdClose);
+  ExpectAtTheNextStart(QStringLiteral("Missed"));
 }
 
 // As a kill does, nothing is saved between what was typed and the next start.

@@ -68,6 +68,8 @@ TEST_F(RollForwardTest, MakesAPageAtTheEndOfWhatHasChangedSince) {
   pages[1].Body = Body("yours");
   pages.push_back({Body("your new"), 5});
   EXPECT_EQ(Roll(log), "E4E5: title@1 yours@2 @3 your new@5 mine@2 new@4 ");
+  EXPECT_EQ(Roll(log), "T4T5: title@1 yours@2 @3 your new@5 mine@2 new@4 ")
+      << "a kill came before the log was gone";
   const std::vector<UnstoredPage> late = {Logged(2, Body("second"), 3)};
   pages.clear();
   EXPECT_EQ(Roll(late), "E1: @3 second@3 ") << "the file has gone";

@@ -13,7 +13,6 @@
 
 #include "app/Main.h"
 #include "app/WaysOut.h"
-#include "editor/PagePasses.h"
 #include "platform/Application.h"
 #include "platform/Files.h"
 #include "platform/WayOut.h"
@@ -28,7 +27,7 @@ constexpr int SittingLimitMs = 180000;
 int Sit(int argc, char** argv, int number, const QString& folder, const QString& album) {
   const Sitting& sitting = Sittings().at(static_cast<std::size_t>(number));
   platform::Application application(argc, argv);
-  application.SetLastWill(&StoreOpenPage);
+  application.SetLastWill(&StoreOnFailure);
   platform::SetProgramFolder(folder.toStdString());
   if (sitting.stage) sitting.stage();
   ResetState();
