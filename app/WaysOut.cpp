@@ -77,9 +77,9 @@ void SaveIndex(Refusals& refusals) {
 std::string LoggedPages() {
   std::string text;
   for (const store::UnstoredJournal& journal : UnstoredJournals()) {
-    text += "Pages of " + platform::FromCodePage(journal.FileName).toStdString() + ":";
-    for (const store::UnstoredPage& page : journal.pages) text += " " + std::to_string(page.row);
-    text += "\n\n";
+    text.append("Pages of ").append(platform::FromCodePage(journal.FileName).toStdString()).append(":");
+    for (const store::UnstoredPage& page : journal.pages) text.append(" ").append(std::to_string(page.row));
+    text.append("\n\n");
   }
   return text;
 }
