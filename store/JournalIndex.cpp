@@ -83,7 +83,7 @@ void LoadFrom(const std::string& path) {
   fileIsDamaged = decoded.health == store::IndexHealth::Damaged;
   TakeOver(std::move(decoded.index));
   BookcaseLoaded = true;
-  loaded = Present();
+  loaded = fileIsDamaged ? Bookcase{} : Present();  // a damaged file is to be mended
   loadedFile = store::CheckOf(bytes);
   if (fileIsDamaged) TellDamage(decoded.problem);
 }
