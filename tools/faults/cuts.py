@@ -19,13 +19,14 @@ file that was renamed too early is empty. FAT keeps no order at all. Left out: a
 sector, and permissions.
 
 What has been shown as done must be on every such disk: when the player takes its next step, the window is there again, and
-whatever the calls before have made of the data files was shown as done. It may be as it was then, or newer.
+whatever the calls before have made of the data files was shown as done. It may be as it was then, or newer. What was typed
+two seconds before the cut, and is in no data file yet, must be there after the next start.
 """
 import collections, functools, itertools, math, pathlib, random, tempfile
 
-from diary import DATA, UNFINISHED, furnish, next_start, read, run_all, scenarios
+from diary import DATA, KEPT_OPEN, LOG, UNFINISHED, Scenario, furnish, next_start, read, run_all, scenarios
+from kills import not_kept
 
-LOG = "journal.tql"  # a thread of its own writes it while the player goes on, so nothing is shown as done of it
 SECTOR, ENUMERATED = 512, 64  # so many disks before a call, or contents of a file, are all looked at; of more, some by chance
 
 
@@ -123,23 +124,22 @@ def is_whole(name, data):
     except Exception: return False
     return True
 
-def is_shown(name): return DATA.fullmatch(name) and name != LOG
 def is_ours(name): return DATA.fullmatch(name) or name == LOG
 
-# What a disk must hold: functions of its files and of the promise at the time of the cut, of which another one, for a file with
-# rules of its own, takes its place in CHECKS. What the next start must show is told by diary.next_start.
+# What a disk must hold: functions of its files and of the promise at the time of the cut. Nothing is shown as done of the log,
+# which a thread of its own writes while the player goes on; what it is for, not_kept asks after the next start.
 
 def not_whole(files, promise):
     return [f"{name} is not whole" for name, data in files.items() if is_ours(name)
             and (data not in promise.whole[name] or not (is_whole(name, data) or data == promise.scenario.files.get(name)))]
 
 def not_there(files, promise):
-    for name in filter(is_shown, files.keys() | promise.shown.keys()):
+    for name in filter(DATA.fullmatch, files.keys() | promise.shown.keys()):
         found, shown = files.get(name), promise.shown[name]
         if found in promise.whole[name] - shown:
             yield f"{name} is " + ("gone" if found is None else "there again" if shown == {None} else "older than was shown")
 
-def not_kept(files, promise):
+def not_set_aside(files, promise):
     return ["a damaged file's bytes are lost"] * (not set(promise.damaged) <= set(files.values()))
 
 def left_behind(files, promise):
@@ -147,7 +147,7 @@ def left_behind(files, promise):
     alien = [name for name in left if not is_ours(name.removesuffix(UNFINISHED))]
     return [f"{len(left)} unfinished files are left"] * (len(left) > 1) + [f"{name} is no file of ours" for name in alien]
 
-CHECKS = [not_whole, not_there, not_kept, left_behind]
+CHECKS = [not_whole, not_there, not_set_aside, left_behind]
 
 
 def record(scenario):
@@ -176,7 +176,7 @@ def cut(scenario, events, most, chance):
         if kind == "step": promise.steps.append((promise.now, details))
         else:
             for files in disk.remains(chance, most):
-                yield promise.when(), files, [wrong for check in CHECKS for wrong in check(files, promise)]
+                yield promise, files, [wrong for check in CHECKS for wrong in check(files, promise)]
         if kind == "end": assert disk.contents() == scenario.result, "the model does not hold what the real folder holds"
         if kind != "disk": continue
         before = set(disk.names.values())
@@ -184,25 +184,28 @@ def cut(scenario, events, most, chance):
 
 
 class Left(dict):
-    """A disk's files; when the power went; and whether each is whole."""
+    """A disk's files, the last time that a cut may leave them, what was done before it, and whether each is whole."""
     def __str__(self): return f"{self.when}: " + ", ".join(f"{name} with {len(data)} bytes" for name, data in sorted(self.items()))
 
 def start(scenario, left):
     with tempfile.TemporaryDirectory(prefix="faults-") as top:
         furnish(pathlib.Path(top), left)
-        return left, next_start(pathlib.Path(top))
+        log = [("step", f"{when} {what}") for when, what in left.steps]
+        return left, next_start(pathlib.Path(top)) + not_kept(pathlib.Path(top), log, left.now)
 
 def cuts(number=5000):
     stage, chance = [scenario for scenario in scenarios() if scenario.name != "export"], random.Random(number)
+    if number >= 5000: stage.append(Scenario("a page that stays open", {}, KEPT_OPEN))  # which takes its time
     records = [record(scenario) for scenario in stage]
     most = max(ENUMERATED, number // sum(kind == "disk" for events in records for kind, *_ in events))
     startable, findings, looked = [], collections.Counter(), 0
     for scenario, events in zip(stage, records):
         distinct, told, states = {}, collections.Counter(), 0
-        for when, files, wrong in cut(scenario, events, most, chance):
+        for promise, files, wrong in cut(scenario, events, most, chance):
             states += 1
             left = distinct.setdefault(frozenset(files.items()), Left(files))
-            left.when, left.whole = when, not any("not whole" in text for text in wrong)
+            left.when, left.steps, left.now = promise.when(), list(promise.steps), promise.now
+            left.whole = not any("not whole" in text for text in wrong)
             for text in wrong:
                 if not told[text]: print(f"{scenario.name}, {left}: {text}", flush=True)
                 told[text] += 1
