@@ -167,7 +167,10 @@ bool IsSameBookcase(const std::string& one, const std::string& other) {
   store::DecodedIndex first = store::DecodeIndex(one), second = store::DecodeIndex(other);
   const auto isSound = [](const auto& decoded) { return decoded.health == store::IndexHealth::Sound; };
   for (store::DecodedIndex* decoded : {&first, &second})
-    for (JournalEntry& entry : decoded->index.journals) entry.Name = UnscrambleText(entry.Name);
+    for (JournalEntry& entry : decoded->index.journals) {
+      entry.Name = UnscrambleText(entry.Name);
+      entry.PageCount = 0;
+    }
   return isSound(first) && isSound(second) && first.index.journals == second.index.journals &&
          first.index.pageShift == second.index.pageShift &&
          first.index.masterPassword == second.index.masterPassword;

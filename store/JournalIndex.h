@@ -27,6 +27,7 @@ bool IsBookcaseUnsaved();
 // in the same bytes until the bookcase changes.
 std::optional<store::UnstoredFile> UnstoredIndex();
 
-// Whether the bytes of two index files tell of the same bookcase: their filler aside, and never when one of
+// Whether the bytes of two index files tell of the same bookcase: their filler and
+// the counts of pages as last seen aside, and never when one of
 // them cannot be read whole.
 bool IsSameBookcase(const std::string& one, const std::string& other);
