@@ -29,12 +29,16 @@ def started(*command, pass_fds=(), **variables):
     try: yield server
     finally: server.kill(), server.wait()
 
+def listens(path):
+    """A compositor makes its socket a moment before it takes anybody."""
+    with socket.socket(socket.AF_UNIX) as trial: return path.is_socket() and trial.connect_ex(str(path)) == 0
+
 @contextlib.contextmanager
 def sway(run):
     (run / "config").write_text("xwayland disable\n")
     settings = {"WLR_BACKENDS": "headless", "WLR_LIBINPUT_NO_DEVICES": "1", "WLR_RENDERER": "pixman"}
     with started("sway", "--config", run / "config", XDG_RUNTIME_DIR=run, SWAYSOCK=run / "orders", **settings) as server:
-        name = wait_for(lambda: [path.name for path in run.glob("wayland-*") if path.is_socket()])[0]
+        name = wait_for(lambda: [path.name for path in run.glob("wayland-*") if listens(path)])[0]
         yield Display({"QT_QPA_PLATFORM": "wayland", "XDG_RUNTIME_DIR": run, "WAYLAND_DISPLAY": name}, server)
 
 @contextlib.contextmanager
