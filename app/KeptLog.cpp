@@ -88,13 +88,15 @@ void KeptLog::LookSoon() {
   if (!deadline_.isActive()) deadline_.start(Longest);
 }
 
-void KeptLog::Look() {
+bool KeptLog::Look() {
   pause_.stop();
   deadline_.stop();
   try {
     HandOver(WhatIsUnstored());
+    return true;
   } catch (const std::exception& failure) {  // no copy is worth the program's end
     Tell(failure.what());
+    return false;
   }
 }
 
@@ -105,8 +107,7 @@ void KeptLog::HandOver(store::UnstoredLog log) {
 }
 
 bool KeptLog::LookAndWait() {
-  Look();
-  return writer_.Wait();
+  return Look() && writer_.Wait();
 }
 
 // A program that is killed between the file's new name and the end of the log leaves the same in both. Only
@@ -134,8 +135,8 @@ void KeptLog::Tell(const std::optional<std::string>& failure) {
     platform::ShowMessage(
         "What is not stored yet cannot be kept in the log journal.tql. " + text +
         "\n\nWhat you write is stored as ever when the page is turned or the journal is closed. Until the "
-        "cause "
-        "is removed, the end of the machine or of the program before that loses it. This is told once.");
+        "cause is removed, the end of the machine or of the program before that loses it. This is told "
+        "once.");
   });
 }
 

@@ -24,8 +24,8 @@ class KeptLog : public QObject {
   explicit KeptLog(bool tells);
   ~KeptLog() override;
 
-  // Has the log hold what is unstored now. Returns at once.
-  void Look();
+  // Has the log hold what is unstored now. Returns at once; false when it could not be gathered.
+  bool Look();
   // The same, and waits. Whether the disk has it.
   bool LookAndWait();
   // The end of a run of which everything was saved: the log goes, and this waits for it.

@@ -32,6 +32,9 @@
 namespace platform {
 namespace {
 
+// How many times as long as for its beginning the end of a save is waited for.
+constexpr int LongestSave = 12;
+
 class SavingTurn {
  public:
   // True for the one thread that is to save; for good.
@@ -46,13 +49,12 @@ class SavingTurn {
     }
     changed_.notify_all();
   }
-  // Waits until the save is through, at most so long for its beginning and as long again for its end. True
-  // when it has at least begun.
+  // Waits until the save is through, at most so long for its beginning, and many times as long for its end: a
+  // slow disk takes its time. True when it has at least begun.
   bool Wait(std::chrono::milliseconds patience) {
     std::unique_lock lock(mutex_);
-    const auto begun = std::chrono::steady_clock::now();
-    changed_.wait_until(lock, begun + patience, [this] { return ended_; });
-    if (taken_) changed_.wait_until(lock, begun + 2 * patience, [this] { return ended_; });
+    changed_.wait_for(lock, patience, [this] { return ended_; });
+    if (taken_) changed_.wait_for(lock, LongestSave * patience, [this] { return ended_; });
     return taken_;
   }
 
@@ -107,7 +109,7 @@ void SaveOnTheWindowThread(Listener& listener) {
 // it.
 void WaitForTheFileInHand(std::chrono::milliseconds patience) {
   const auto begun = std::chrono::steady_clock::now();
-  while (IsFileBeingWritten() && std::chrono::steady_clock::now() - begun < 6 * patience)
+  while (IsFileBeingWritten() && std::chrono::steady_clock::now() - begun < LongestSave * patience)
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
 }
 

@@ -17,9 +17,9 @@ bool IsLeavingWanted();
 // Calls `save` once when the display is gone, as at the end of a desktop session that has no manager, and
 // lets nothing of the toolkit end the process before it is through. No window can be shown any more and
 // nobody can be asked; `save` must end the process itself, and call nothing that talks to the display. It
-// runs on the window thread; on another one only if that does not come within `patience`, which is also how
-// long a save that has begun is waited for.
+// runs on the window thread; on another one only if that does not come within `patience` and has no file in
+// its hands. A save that has begun is waited for twelve times as long.
 void ListenForTheLostDisplay(std::function<void()> save,
-                             std::chrono::milliseconds patience = std::chrono::seconds(20));
+                             std::chrono::milliseconds patience = std::chrono::seconds(5));
 
 }  // namespace platform

@@ -155,10 +155,11 @@ bool IsBookcaseUnsaved() {
 std::optional<store::UnstoredFile> UnstoredIndex() {
   static Bookcase made;
   static std::string bytes;
-  if (!IsBookcaseUnsaved()) return std::nullopt;
-  if (bytes.empty() || made != Present()) {
+  Bookcase present = Present();
+  if (!BookcaseLoaded || present == loaded) return std::nullopt;
+  if (bytes.empty() || made != present) {
     bytes = store::EncodeIndex(IndexToSave(&ScrambleTextAside));
-    made = Present();
+    made = std::move(present);
   }
   return store::UnstoredFile{platform::IsMissing(IndexPath()) ? std::nullopt : loadedFile, bytes};
 }
