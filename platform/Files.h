@@ -77,8 +77,8 @@ std::string ReadDataFile(const std::string& path, std::uint64_t most = std::uint
 // end. A new file is for its owner alone, whatever the umask; one that is replaced keeps its permissions.
 // Throws DiskFull, PermissionDenied, PathNotFound, DeviceError or PathAccess; and NotYetOnDisk
 // (platform/SyncFolder.h) when the file holds `bytes`, but may lose them in a power cut: it is to be written
-// once more. A process that is killed
-// meanwhile can leave one file beside it that is called as UnfinishedEnding tells.
+// once more. A process that is killed meanwhile can leave one file beside it that is called as
+// UnfinishedEnding tells.
 void ReplaceFile(const std::string& path, std::string_view bytes);
 // The same with the bytes in pieces, one behind the other, so that they need not be brought together first.
 void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces);

@@ -6,7 +6,6 @@
 #include "app/WaysOut.h"
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmInitJournal.h"
-#include "editor/PagePasses.h"
 #include "editor/frmCal.h"
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
