@@ -6,8 +6,8 @@
 
 #include "app/HelpWindow.h"
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/MessageBox.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/Files.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include "look/Pass.h"
 #include "pictures/modPictures.h"
 #include "platform/Dates.h"
-#include "platform/Files.h"
-#include "platform/MessageBox.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 #include "store/JournalIndex.h"
 

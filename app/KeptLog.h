@@ -3,8 +3,8 @@
 // Whatever changes what is unstored comes of a key, a click or a drop, and of nothing else. So behind each of
 // them the log is looked after: at the first pause of a second, and at the latest two seconds after the first
 // of them, what stands in memory alone is gathered and handed to the writer, if it is not what the log holds
-// already. The window thread makes the bytes; a thread of its own writes them (platform/LogWriter.h). When
-// nothing is unstored the log goes.
+// already. The window thread makes the bytes; a thread of its own writes them (platform/files/LogWriter.h).
+// When nothing is unstored the log goes.
 #pragma once
 
 #include <memory>
@@ -13,7 +13,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QTimer>
 
-#include "platform/LogWriter.h"
+#include "platform/files/LogWriter.h"
 #include "state/State.h"
 #include "store/UnstoredLog.h"
 

@@ -1,7 +1,7 @@
 // The start of the program.
 #pragma once
 
-#include "platform/RunningInstance.h"
+#include "platform/desktop/RunningInstance.h"
 
 // Starts the program up to its first window: the lock screen where there is a bookcase, else the first-run
 // dialog, which blocks. Returns at once after handing over to a running instance.

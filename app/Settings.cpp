@@ -10,9 +10,9 @@
 #include "editor/frmJournal.h"
 #include "look/Theme.h"
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/KnownFiles.h"
-#include "platform/ProfileFile.h"
+#include "platform/files/Files.h"
+#include "platform/files/KnownFiles.h"
+#include "platform/files/ProfileFile.h"
 #include "state/State.h"
 
 namespace {

@@ -4,8 +4,8 @@
 #include "lock/frmPassChange.h"
 #include "look/Theme.h"
 #include "platform/Failure.h"
-#include "platform/Keystroke.h"
-#include "platform/MessageBox.h"
+#include "platform/desktop/Keystroke.h"
+#include "platform/dialogs/MessageBox.h"
 #include "state/State.h"
 
 namespace {

@@ -3,8 +3,8 @@
 #include <QtCore/QTimer>
 
 #include "app/WaysOut.h"
-#include "platform/Application.h"
-#include "platform/WayOut.h"
+#include "platform/desktop/Application.h"
+#include "platform/desktop/WayOut.h"
 
 int main(int argc, char** argv) {
   const platform::ActivationToken token = platform::RunningInstance::TokenOfThisStart();

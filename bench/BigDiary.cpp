@@ -1,7 +1,7 @@
 #include "bench/BigDiary.h"
 
 #include "platform/Dates.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"

@@ -15,7 +15,7 @@
 #include "editor/PageTurning.h"
 #include "editor/frmIndex.h"
 #include "editor/frmJournal.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 #include "output/HtmlSections.h"
 #include "output/ReplaceText.h"
 #include "output/modExport.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
 

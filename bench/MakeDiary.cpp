@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "bench/BigDiary.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "store/JournalIndex.h"
 
 int main(int argc, char** argv) {

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "bench/Beside.h"
-#include "richtext/RtfReader.h"
-#include "richtext/RtfWriter.h"
+#include "richtext/rtf/Reader.h"
+#include "richtext/rtf/Writer.h"
 
 namespace {
 

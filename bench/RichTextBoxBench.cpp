@@ -10,13 +10,13 @@
 #include <QtWidgets/QApplication>
 
 #include "bench/Beside.h"
-#include "richtext/BoxDocument.h"
-#include "richtext/BoxFormats.h"
-#include "richtext/BoxParagraphs.h"
-#include "richtext/BoxPictures.h"
-#include "richtext/RichTextBox.h"
-#include "richtext/RtfReader.h"
-#include "richtext/RtfWriter.h"
+#include "richtext/box/RichTextBox.h"
+#include "richtext/rtf/Reader.h"
+#include "richtext/rtf/Writer.h"
+#include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/Paragraphs.h"
+#include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/TextDocument.h"
 
 namespace {
 

@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "bench/Beside.h"
-#include "platform/Files.h"
-#include "platform/LogWriter.h"
+#include "platform/files/Files.h"
+#include "platform/files/LogWriter.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"

@@ -2,7 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include "look/Form.h"
-#include "platform/Application.h"
+#include "platform/desktop/Application.h"
 
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);

@@ -2,7 +2,7 @@
 
 #include "look/Emblem.h"
 #include "look/Theme.h"
-#include "platform/RunUrl.h"
+#include "platform/desktop/RunUrl.h"
 #include "state/Maker.h"
 
 namespace {

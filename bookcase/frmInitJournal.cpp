@@ -3,9 +3,9 @@
 #include "bookcase/frmBookcase.h"
 #include "look/Emblem.h"
 #include "look/Theme.h"
-#include "platform/Keystroke.h"
-#include "platform/MessageBox.h"
 #include "platform/Process.h"
+#include "platform/desktop/Keystroke.h"
+#include "platform/dialogs/MessageBox.h"
 #include "store/NewJournals.h"
 
 frmInitJournal::frmInitJournal()

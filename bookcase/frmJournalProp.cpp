@@ -11,13 +11,13 @@
 #include "editor/frmJournal.h"
 #include "look/Theme.h"
 #include "platform/CodePage.h"
-#include "platform/ColorDialog.h"
 #include "platform/Colors.h"
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/FontDialog.h"
-#include "platform/Keystroke.h"
 #include "platform/Rounding.h"
+#include "platform/desktop/Keystroke.h"
+#include "platform/dialogs/ColorDialog.h"
+#include "platform/dialogs/FontDialog.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 
 namespace {

@@ -1,8 +1,8 @@
 #include "bookcase/frmNewJournal.h"
 
 #include "look/Theme.h"
-#include "platform/Keystroke.h"
-#include "platform/MessageBox.h"
+#include "platform/desktop/Keystroke.h"
+#include "platform/dialogs/MessageBox.h"
 #include "store/NewJournals.h"
 
 frmNewJournal::frmNewJournal()

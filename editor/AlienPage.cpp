@@ -6,8 +6,8 @@
 
 #include "look/Pass.h"
 #include "platform/CodePage.h"
-#include "platform/MessageBox.h"
-#include "richtext/RtfReader.h"
+#include "platform/dialogs/MessageBox.h"
+#include "richtext/rtf/Reader.h"
 #include "state/State.h"
 #include "store/PageCipher.h"
 

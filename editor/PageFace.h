@@ -8,7 +8,7 @@
 
 #include "look/PictureBox.h"
 #include "pictures/PictureSlots.h"
-#include "richtext/RichTextBox.h"
+#include "richtext/box/RichTextBox.h"
 
 class PageFace : public QWidget {
   Q_OBJECT

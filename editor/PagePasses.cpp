@@ -16,7 +16,7 @@
 #include "look/frmWait.h"
 #include "pictures/PictureSlots.h"
 #include "platform/Failure.h"
-#include "platform/SyncFolder.h"
+#include "platform/files/SyncFolder.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"

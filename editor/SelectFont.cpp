@@ -1,7 +1,7 @@
 #include "editor/SelectFont.h"
 
 #include "editor/PageFace.h"
-#include "platform/FontDialog.h"
+#include "platform/dialogs/FontDialog.h"
 
 namespace {
 

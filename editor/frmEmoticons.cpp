@@ -13,11 +13,11 @@
 #include "editor/PageFace.h"
 #include "platform/Colors.h"
 #include "platform/Failure.h"
-#include "platform/FileList.h"
-#include "platform/Files.h"
-#include "platform/Keystroke.h"
-#include "platform/MessageBox.h"
-#include "platform/TaskBar.h"
+#include "platform/desktop/Keystroke.h"
+#include "platform/desktop/TaskBar.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/FileList.h"
+#include "platform/files/Files.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include "editor/PageTurning.h"
 #include "look/AiryRows.h"
 #include "look/Theme.h"
-#include "platform/Keystroke.h"
-#include "platform/TaskBar.h"
+#include "platform/desktop/Keystroke.h"
+#include "platform/desktop/TaskBar.h"
 #include "state/State.h"
 
 namespace {

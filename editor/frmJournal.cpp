@@ -10,7 +10,7 @@
 #include "editor/frmIndex.h"
 #include "pictures/AddPicture.h"
 #include "pictures/PictureSlots.h"
-#include "platform/Keystroke.h"
+#include "platform/desktop/Keystroke.h"
 #include "state/State.h"
 
 frmJournal::frmJournal()

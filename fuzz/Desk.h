@@ -9,9 +9,9 @@
 #include <QtCore/QTemporaryDir>
 
 #include "fuzz/Require.h"
-#include "platform/Files.h"
-#include "platform/MessageBox.h"
 #include "platform/Process.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 
 class Desk {

@@ -5,8 +5,8 @@
 #include <QtWidgets/QApplication>
 
 #include "fuzz/SoundDocument.h"
-#include "richtext/BoxDocument.h"
-#include "richtext/RichTextBox.h"
+#include "richtext/box/RichTextBox.h"
+#include "richtext/textdocument/TextDocument.h"
 
 namespace {
 

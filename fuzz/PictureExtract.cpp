@@ -1,7 +1,7 @@
 // The first byte chooses the picture's kind, the others are its bytes.
 
 #include "fuzz/Require.h"
-#include "richtext/BitmapFromPicture.h"
+#include "richtext/bitmaps/BitmapFromPicture.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // A key that is set reads as what it was set to, and whatever else stands in the file stays as it is.
-#include "platform/ProfileFile.h"
+#include "platform/files/ProfileFile.h"
 
 #include <algorithm>
 #include <sstream>

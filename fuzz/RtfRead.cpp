@@ -1,7 +1,7 @@
 // Every input is a document, and a sound one, of no more text than the input has bytes.
 
 #include "fuzz/SoundDocument.h"
-#include "richtext/RtfReader.h"
+#include "richtext/rtf/Reader.h"
 
 void Try(std::string_view input) {
   const richtext::Document document = richtext::ReadRtf(input);

@@ -2,9 +2,9 @@
 #include <algorithm>
 
 #include "fuzz/Require.h"
-#include "richtext/Limits.h"
-#include "richtext/RtfReader.h"
-#include "richtext/RtfWriter.h"
+#include "richtext/document/Limits.h"
+#include "richtext/rtf/Reader.h"
+#include "richtext/rtf/Writer.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-// The promises of richtext/Document.h, checked.
+// The promises of richtext/document/Document.h, checked.
 #pragma once
 
 #include <algorithm>
@@ -6,9 +6,9 @@
 #include <numeric>
 
 #include "fuzz/Require.h"
-#include "richtext/Document.h"
-#include "richtext/Limits.h"
-#include "richtext/Unicode.h"
+#include "richtext/characters/Unicode.h"
+#include "richtext/document/Document.h"
+#include "richtext/document/Limits.h"
 
 inline void RequireSoundText(const std::u16string& text) {
   using namespace richtext;

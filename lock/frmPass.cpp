@@ -2,7 +2,7 @@
 
 #include "look/Emblem.h"
 #include "look/Theme.h"
-#include "platform/MessageBox.h"
+#include "platform/dialogs/MessageBox.h"
 #include "state/State.h"
 #include "store/Scrambler.h"
 

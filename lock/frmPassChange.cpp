@@ -1,8 +1,8 @@
 #include "lock/frmPassChange.h"
 
 #include "look/Theme.h"
-#include "platform/Keystroke.h"
-#include "platform/MessageBox.h"
+#include "platform/desktop/Keystroke.h"
+#include "platform/dialogs/MessageBox.h"
 #include "state/State.h"
 #include "store/NewJournals.h"
 #include "store/Scrambler.h"

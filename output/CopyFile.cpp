@@ -6,9 +6,9 @@
 #include <optional>
 
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/MessageBox.h"
-#include "platform/WayOut.h"
+#include "platform/desktop/WayOut.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/Files.h"
 
 namespace {
 

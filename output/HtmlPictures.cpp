@@ -1,8 +1,8 @@
 // The pictures of a page go into the export as files beside it, without their places and frames.
 #include "output/CopyFile.h"
 #include "output/HtmlSections.h"
-#include "platform/Files.h"
-#include "platform/WebText.h"
+#include "output/WebText.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "output/HtmlSections.h"
 
-#include "platform/Files.h"
-#include "platform/WebText.h"
+#include "output/WebText.h"
+#include "platform/files/Files.h"
 #include "state/Maker.h"
 #include "state/State.h"
 

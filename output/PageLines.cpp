@@ -1,6 +1,6 @@
 #include "output/PageLines.h"
 
-#include "platform/WebText.h"
+#include "output/WebText.h"
 
 std::string WebLines(QString text) {
   text.remove(QChar(QChar::ObjectReplacementCharacter)).replace(u'\n', QStringLiteral("\r\n"));

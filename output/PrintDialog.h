@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "richtext/Paper.h"
+#include "richtext/box/Paper.h"
 
 enum class PrintChoice { All, Selection, Pages };
 

@@ -10,9 +10,9 @@
 #include "output/PageLines.h"
 #include "pictures/PictureSlots.h"
 #include "platform/CodePage.h"
-#include "platform/Keystroke.h"
-#include "platform/MessageBox.h"
-#include "platform/RunUrl.h"
+#include "platform/desktop/Keystroke.h"
+#include "platform/desktop/RunUrl.h"
+#include "platform/dialogs/MessageBox.h"
 #include "state/State.h"
 
 namespace {

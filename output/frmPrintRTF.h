@@ -3,7 +3,7 @@
 #pragma once
 
 #include "look/Form.h"
-#include "richtext/RichTextBox.h"
+#include "richtext/box/RichTextBox.h"
 
 class frmPrintRTF : public look::Form {
   Q_OBJECT

@@ -13,8 +13,8 @@
 #include "output/ReplaceText.h"
 #include "platform/CodePage.h"
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/MessageBox.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 
 std::string ExportTarget;

@@ -14,7 +14,7 @@
 #include "output/frmPrintRTF.h"
 #include "platform/CodePage.h"
 #include "platform/Failure.h"
-#include "platform/MessageBox.h"
+#include "platform/dialogs/MessageBox.h"
 #include "state/State.h"
 
 namespace {

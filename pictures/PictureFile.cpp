@@ -7,7 +7,7 @@
 #include <QtGui/QImageReader>
 
 #include "platform/Failure.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 
 namespace pictures {
 namespace {

@@ -9,8 +9,8 @@
 #include "pictures/PictureFile.h"
 #include "pictures/modPictures.h"
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/MessageBox.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 
 // Must stand outside of any namespace: the linker drops a library's resources unless something asks for them.

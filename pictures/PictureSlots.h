@@ -14,7 +14,7 @@
 #include "look/PictureBox.h"
 #include "pictures/StretchedImage.h"
 #include "platform/Failure.h"
-#include "platform/cMouse.h"
+#include "platform/desktop/cMouse.h"
 
 class QWheelEvent;
 struct PagePicture;

@@ -12,11 +12,11 @@
 #include "pictures/PictureToAdd.h"
 #include "pictures/modPictures.h"
 #include "platform/Failure.h"
-#include "platform/FileList.h"
-#include "platform/Files.h"
-#include "platform/Keystroke.h"
-#include "platform/MessageBox.h"
-#include "platform/OpenFileDialog.h"
+#include "platform/desktop/Keystroke.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/dialogs/OpenFileDialog.h"
+#include "platform/files/FileList.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 
 namespace {

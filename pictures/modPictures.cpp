@@ -3,10 +3,10 @@
 #include <utility>
 
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/KnownFiles.h"
-#include "platform/MessageBox.h"
-#include "platform/SyncFolder.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/Files.h"
+#include "platform/files/KnownFiles.h"
+#include "platform/files/SyncFolder.h"
 #include "state/State.h"
 #include "store/PictureStore.h"
 

@@ -1,6 +1,6 @@
 #include "platform/Failure.h"
 
-#include "platform/MessageBox.h"
+#include "platform/dialogs/MessageBox.h"
 
 namespace platform {
 namespace {

@@ -7,9 +7,9 @@
 #include <set>
 
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/KnownFiles.h"
-#include "platform/MessageBox.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/Files.h"
+#include "platform/files/KnownFiles.h"
 #include "store/Bytes.h"
 #include "store/Scrambler.h"
 #include "store/UnstoredRows.h"

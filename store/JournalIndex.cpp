@@ -4,11 +4,11 @@
 #include <utility>
 
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/KnownFiles.h"
-#include "platform/MessageBox.h"
 #include "platform/Process.h"
-#include "platform/SyncFolder.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/Files.h"
+#include "platform/files/KnownFiles.h"
+#include "platform/files/SyncFolder.h"
 #include "state/State.h"
 #include "store/IndexFile.h"
 #include "store/Scrambler.h"

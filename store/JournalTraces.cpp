@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/SyncFolder.h"
+#include "platform/files/Files.h"
+#include "platform/files/SyncFolder.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 

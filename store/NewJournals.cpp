@@ -6,9 +6,9 @@
 #include <unordered_set>
 
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/MessageBox.h"
-#include "platform/SyncFolder.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/Files.h"
+#include "platform/files/SyncFolder.h"
 #include "state/State.h"
 #include "store/Scrambler.h"
 

@@ -17,10 +17,10 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QTextDocument>
 
-#include "richtext/BoxDocument.h"
-#include "richtext/PlainText.h"
-#include "richtext/RtfReader.h"
-#include "richtext/RtfWriter.h"
+#include "richtext/document/PlainText.h"
+#include "richtext/rtf/Reader.h"
+#include "richtext/rtf/Writer.h"
+#include "richtext/textdocument/TextDocument.h"
 
 namespace {
 

@@ -16,7 +16,7 @@
 #include "lock/frmPassChange.h"
 #include "output/frmExport.h"
 #include "pictures/frmAddPicture.h"
-#include "platform/FontPicker.h"
+#include "platform/dialogs/FontPicker.h"
 #include "store/NewJournals.h"
 #include "tests/support/Windows.h"
 

@@ -7,7 +7,7 @@
 #include "bookcase/frmNewJournal.h"
 #include "editor/frmJournal.h"
 #include "output/frmExport.h"
-#include "platform/RunUrl.h"
+#include "platform/desktop/RunUrl.h"
 #include "store/JournalFile.h"
 #include "store/NewJournals.h"
 #include "store/PictureStore.h"

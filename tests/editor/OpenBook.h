@@ -5,7 +5,7 @@
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
 #include "editor/frmJournal.h"
-#include "platform/FontDialog.h"
+#include "platform/dialogs/FontDialog.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
 #include "tests/support/Windows.h"

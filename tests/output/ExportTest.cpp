@@ -1,5 +1,5 @@
 #include "output/frmExport.h"
-#include "platform/RunUrl.h"
+#include "platform/desktop/RunUrl.h"
 #include "tests/editor/OpenBook.h"
 
 namespace {

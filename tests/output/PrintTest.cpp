@@ -7,7 +7,7 @@
 #include "output/PrintRange.h"
 #include "output/frmPrintRTF.h"
 #include "output/modPrint.h"
-#include "richtext/Paper.h"
+#include "richtext/box/Paper.h"
 #include "tests/editor/OpenBook.h"
 
 namespace {

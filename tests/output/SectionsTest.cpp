@@ -4,8 +4,8 @@
 #include "output/CopyFile.h"
 #include "output/HtmlSections.h"
 #include "output/ReplaceText.h"
-#include "platform/WayOut.h"
-#include "platform/WebText.h"
+#include "output/WebText.h"
+#include "platform/desktop/WayOut.h"
 #include "tests/support/Fixtures.h"
 
 namespace {

@@ -5,8 +5,8 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QtWidgets>
 
-#include "platform/Application.h"
-#include "platform/WayOut.h"
+#include "platform/desktop/Application.h"
+#include "platform/desktop/WayOut.h"
 #include "tests/support/Fixtures.h"
 
 using platform::Answer;

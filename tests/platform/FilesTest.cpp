@@ -5,9 +5,9 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-#include "platform/Checksum.h"
-#include "platform/KnownFiles.h"
-#include "platform/SyncFolder.h"
+#include "platform/files/Checksum.h"
+#include "platform/files/KnownFiles.h"
+#include "platform/files/SyncFolder.h"
 #include "tests/support/Fixtures.h"
 
 using fixture::ExpectFailure;

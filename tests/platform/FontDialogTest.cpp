@@ -2,8 +2,8 @@
 #include <QtGui/QFontDatabase>
 #include <QtTest/QTest>
 
-#include "platform/ColorDialog.h"
-#include "platform/FontPicker.h"
+#include "platform/dialogs/ColorDialog.h"
+#include "platform/dialogs/FontPicker.h"
 #include "tests/support/Fixtures.h"
 
 namespace {

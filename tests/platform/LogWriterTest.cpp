@@ -4,7 +4,7 @@
 
 #include <QtTest/QTest>
 
-#include "platform/LogWriter.h"
+#include "platform/files/LogWriter.h"
 #include "tests/support/Fixtures.h"
 
 using platform::LogWriter;

@@ -9,7 +9,7 @@
 
 #include <QtTest/QTest>
 
-#include "platform/WayOut.h"
+#include "platform/desktop/WayOut.h"
 #include "tests/support/Fixtures.h"
 
 namespace {

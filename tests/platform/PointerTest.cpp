@@ -4,7 +4,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QWidget>
 
-#include "platform/cMouse.h"
+#include "platform/desktop/cMouse.h"
 #include "tests/support/Fixtures.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/ProfileFile.h"
+#include "platform/files/ProfileFile.h"
 
 namespace {
 

@@ -16,7 +16,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QtWidgets>
 
-#include "platform/RunningInstance.h"
+#include "platform/desktop/RunningInstance.h"
 #include "tests/support/Fixtures.h"
 
 using namespace std::chrono_literals;

@@ -4,7 +4,7 @@
 
 #include "platform/CodePage.h"
 #include "platform/Rounding.h"
-#include "platform/cMouse.h"
+#include "platform/desktop/cMouse.h"
 #include "tests/support/Fixtures.h"
 
 TEST(CodePage, EveryByteComesBackAndNoCharacterBecomesAQuestionMark) {

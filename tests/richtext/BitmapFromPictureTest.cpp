@@ -2,8 +2,8 @@
 #include <ctime>
 #include <gtest/gtest.h>
 
-#include "platform/Files.h"
-#include "richtext/BitmapFromPicture.h"
+#include "platform/files/Files.h"
+#include "richtext/bitmaps/BitmapFromPicture.h"
 
 using namespace richtext;
 

@@ -6,9 +6,9 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 
-#include "platform/Files.h"
-#include "richtext/BoxDocument.h"
-#include "richtext/RichTextBox.h"
+#include "platform/files/Files.h"
+#include "richtext/box/RichTextBox.h"
+#include "richtext/textdocument/TextDocument.h"
 #include "tests/richtext/RtfDump.h"
 
 namespace richtext {

@@ -1,6 +1,6 @@
 // Every format of a page through the text box's document and back.
-#include "richtext/BoxLabels.h"
-#include "richtext/Limits.h"
+#include "richtext/document/Limits.h"
+#include "richtext/textdocument/Labels.h"
 #include "tests/richtext/BoxFixture.h"
 
 namespace richtext {

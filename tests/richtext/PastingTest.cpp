@@ -3,7 +3,7 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QMenu>
 
-#include "richtext/HtmlReader.h"
+#include "richtext/html/Reader.h"
 #include "tests/richtext/BoxFixture.h"
 
 namespace richtext {

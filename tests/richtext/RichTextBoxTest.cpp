@@ -4,8 +4,8 @@
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtWidgets/QScrollBar>
 
-#include "richtext/BoxPictures.h"
-#include "richtext/SmallPng.h"
+#include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/SmallPng.h"
 #include "tests/richtext/BoxFixture.h"
 
 namespace richtext {

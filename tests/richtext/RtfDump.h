@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "richtext/RtfReader.h"
-#include "richtext/RtfWriter.h"
-#include "richtext/Unicode.h"
+#include "richtext/characters/Unicode.h"
+#include "richtext/rtf/Reader.h"
+#include "richtext/rtf/Writer.h"
 
 // "[center li720](b 40 Arial #ff0000)red() plain|next": paragraphs are parted by '|', a paragraph's format
 // stands in brackets, a character format in parentheses where it changes, and what is the default is left

@@ -1,6 +1,6 @@
-#include "richtext/Limits.h"
-#include "richtext/ListLabel.h"
-#include "richtext/PlainText.h"
+#include "richtext/document/Limits.h"
+#include "richtext/document/ListLabel.h"
+#include "richtext/document/PlainText.h"
 #include "tests/richtext/RtfDump.h"
 
 using namespace richtext;

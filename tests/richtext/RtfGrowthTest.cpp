@@ -1,7 +1,7 @@
 // What a document may cost: time by its length, bytes by its length, and depth nothing at all.
 #include <ctime>
 
-#include "richtext/Limits.h"
+#include "richtext/document/Limits.h"
 #include "tests/richtext/RtfDump.h"
 
 using namespace richtext;

@@ -19,10 +19,10 @@
 
 #include "platform/Dates.h"
 #include "platform/Failure.h"
-#include "platform/Files.h"
-#include "platform/MessageBox.h"
-#include "platform/OpenFileDialog.h"
 #include "platform/Process.h"
+#include "platform/dialogs/MessageBox.h"
+#include "platform/dialogs/OpenFileDialog.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 
 namespace fixture {

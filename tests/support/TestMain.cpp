@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/Application.h"
+#include "platform/desktop/Application.h"
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -2,8 +2,8 @@
 #include <QtCore/QFile>
 
 #include "editor/frmJournal.h"
-#include "platform/Files.h"
-#include "platform/OpenFileDialog.h"
+#include "platform/dialogs/OpenFileDialog.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 #include "store/PictureStore.h"
 #include "tools/tour/Steps.h"

@@ -7,7 +7,7 @@
 #include "bookcase/frmBookcase.h"
 #include "editor/frmJournal.h"
 #include "output/frmExport.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 #include "tools/tour/Steps.h"
 

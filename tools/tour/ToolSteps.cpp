@@ -5,7 +5,7 @@
 #include "editor/frmIndex.h"
 #include "editor/frmJournal.h"
 #include "platform/Dates.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 #include "tools/tour/Steps.h"
 

@@ -1,5 +1,5 @@
 #include "pictures/modPictures.h"
-#include "platform/Files.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/JournalIndex.h"

@@ -13,9 +13,9 @@
 
 #include "app/Main.h"
 #include "app/WaysOut.h"
-#include "platform/Application.h"
-#include "platform/Files.h"
-#include "platform/WayOut.h"
+#include "platform/desktop/Application.h"
+#include "platform/desktop/WayOut.h"
+#include "platform/files/Files.h"
 #include "state/State.h"
 #include "tools/tour/Sittings.h"
 

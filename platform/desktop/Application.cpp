@@ -1,0 +1,48 @@
+#include "platform/desktop/Application.h"
+
+#include <utility>
+
+#include "platform/Failure.h"
+#include "platform/Process.h"
+#include "platform/dialogs/MessageBox.h"
+
+namespace platform {
+namespace {
+
+const char unknownFailure[] = "Unknown failure";
+
+// A step on the way to the end: whatever becomes of it, the end must come.
+template <class Step>
+void Quietly(Step&& step) {
+  try {
+    step();
+  } catch (...) {
+    // There is nobody left to be told.
+  }
+}
+
+}  // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+  try {
+    return QApplication::notify(receiver, event);
+  } catch (const std::exception& failure) {
+    DieOf(failure.what());
+  } catch (...) {
+    DieOf(unknownFailure);
+  }
+  return true;
+}
+
+void Application::DieOf(const std::string& text) {
+  // The box and the last will run events of their own. A failure in one of these is part of the same death.
+  if (std::exchange(dying_, true)) return;
+  Quietly([&] { ShowMessage(text, BoxIcon::Stop); });
+  if (lastWill_) Quietly(lastWill_);
+  EndProcess();
+  dying_ = false;  // reached only where a test stands in for the end
+}
+
+}  // namespace platform

@@ -1,0 +1,93 @@
+// Files that lie beside the data files: damaged or changed ones that are kept, and those that a killed
+// process left.
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/Failure.h"
+#include "platform/files/FileNames.h"
+#include "platform/files/Files.h"
+#include "platform/files/LeftBehind.h"
+#include "platform/files/SyncFolder.h"
+
+namespace platform {
+namespace {
+
+bool IsTaken(const std::string& name) {
+  struct stat entry {};
+  return lstat(name.c_str(), &entry) == 0;
+}
+
+// A second name needs no room on a full disk. The file itself is never changed afterwards, since writing
+// replaces it, so the kept name keeps the bytes. Some disks know no second names, and get a copy.
+// False when the name is taken.
+bool Keep(const std::string& path, const std::string& kept) {
+  if (linkat(AT_FDCWD, path.c_str(), AT_FDCWD, kept.c_str(), AT_SYMLINK_FOLLOW) == 0) return true;
+  if (errno == EEXIST || IsTaken(kept)) return false;
+  ReplaceFile(kept, ReadFile(path));
+  return true;
+}
+
+bool SameFile(const std::string& one, const std::string& other) {
+  struct stat first {};
+  struct stat second {};
+  return stat(one.c_str(), &first) == 0 && stat(other.c_str(), &second) == 0 &&
+         first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
+bool IsOrdinaryFile(const std::string& path) {
+  struct stat entry {};
+  return lstat(path.c_str(), &entry) == 0 && S_ISREG(entry.st_mode);
+}
+
+// Kept already, at a save that failed: under a second name, or in a copy.
+bool WasKept(const std::string& path, const std::string& kept) {
+  return SameFile(path, kept) || (IsOrdinaryFile(kept) && ReadFile(path) == ReadFile(kept));
+}
+
+bool IsOrWasKept(const std::string& path, const std::string& kept) {
+  return Keep(path, kept) || WasKept(path, kept);
+}
+
+std::string KeptName(const std::string& path, const std::string& ending, int number) {
+  std::string name = path;
+  if (number > 0) name.append(1, '.').append(std::to_string(number));
+  return name + ending;
+}
+
+}  // namespace
+
+std::string KeepBeside(const std::string& path, const std::string& ending, int number) try {
+  std::string name = KeptName(path, ending, number);
+  while (!IsOrWasKept(path, name)) name = KeptName(path, ending, ++number);
+  SyncFolderOf(name);  // the one name is on the disk before the other is given away
+  return name;
+} catch (const NotYetOnDisk& failure) {
+  throw Failure(failure);  // of the copy: the file itself is as it was
+}
+
+std::string KeepDamaged(const std::string& path) {
+  if (!FileExists(path)) throw Failure(FailureKind::FileNotFound, path);
+  return KeepBeside(path, ".damaged", 0);
+}
+
+bool Lock(int descriptor) {
+  return flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+void RemoveLeftBehind(const std::string& path) {
+  const int descriptor = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+  if (descriptor < 0 || Lock(descriptor)) unlink(path.c_str());
+  if (descriptor >= 0) close(descriptor);
+}
+
+void RemoveUnfinished(const std::string& folder) {
+  for (const std::string& name : NamesIn(folder)) {
+    const std::string path = folder + "/" + name;
+    if (name.ends_with(UnfinishedEnding) && IsOrdinaryFile(path)) RemoveLeftBehind(path);
+  }
+}
+
+}  // namespace platform

@@ -1,0 +1,90 @@
+#include "platform/files/KnownFiles.h"
+
+#include <array>
+#include <map>
+#include <utility>
+
+#include "platform/dialogs/MessageBox.h"
+#include "platform/files/Files.h"
+#include "platform/files/LeftBehind.h"
+#include "platform/files/Remembered.h"
+
+namespace platform {
+namespace {
+
+// What tells a file from each that another program puts in its place, and from itself when it is changed.
+using Identity = std::array<std::int64_t, 7>;
+
+Identity IdentityOf(const struct stat& entry) {
+  return {static_cast<std::int64_t>(entry.st_dev),
+          static_cast<std::int64_t>(entry.st_ino),
+          entry.st_size,
+          entry.st_mtim.tv_sec,
+          entry.st_mtim.tv_nsec,
+          entry.st_ctim.tv_sec,
+          entry.st_ctim.tv_nsec};
+}
+
+struct KnownFile {
+  Identity identity;
+  std::optional<std::uint64_t> checksum;
+};
+
+std::map<std::string, KnownFile>& KnownFiles() {
+  static std::map<std::string, KnownFile> files;
+  return files;
+}
+
+// The copies that were made and not told of, by the paths of the files.
+std::map<std::string, std::string>& Untold() {
+  static std::map<std::string, std::string> copies;
+  return copies;
+}
+
+bool IsTheSame(const KnownFile& one, const KnownFile& other) {
+  return one.identity == other.identity || (one.checksum && one.checksum == other.checksum);
+}
+
+std::string NameIn(const std::string& path) {
+  return path.substr(path.rfind('/') + 1);
+}
+
+}  // namespace
+
+void Remember(const std::string& path, const struct stat& entry, std::optional<std::uint64_t> checksum) {
+  KnownFiles().insert_or_assign(path, KnownFile{IdentityOf(entry), checksum});
+}
+
+void AcceptUnread(const std::string& path) {
+  struct stat entry {};
+  if (stat(path.c_str(), &entry) == 0) Remember(path, entry, std::nullopt);
+}
+
+bool KeepChanged(const std::string& path) {
+  struct stat entry {};
+  if (stat(path.c_str(), &entry) != 0 || S_ISDIR(entry.st_mode)) return false;
+  const auto found = KnownFiles().find(path);
+  if (found != KnownFiles().end() && found->second.identity == IdentityOf(entry)) return false;
+  const std::optional<KnownFile> before =
+      found != KnownFiles().end() ? std::optional(found->second) : std::nullopt;
+  InputFile file(path);
+  const KnownFile now{IdentityOf(file.entry()), file.ChecksumToTheEnd()};
+  const bool isChanged = !before || !IsTheSame(*before, now);
+  if (isChanged) Untold()[path] = KeepBeside(path, ".other", 1);
+  KnownFiles()[path] = now;
+  return isChanged;
+}
+
+void TellKept(const std::string& path, std::string (*describe)(const std::string& kept)) {
+  const auto copy = Untold().extract(path);
+  if (copy.empty()) return;
+  const std::string name = NameIn(path), description = describe ? describe(copy.mapped()) : std::string();
+  ShowMessage(
+      "The file " + name +
+      " was changed by another program while the diary was open, perhaps by one that keeps the folder "
+      "the same on two machines. The changed file is kept beside it as " +
+      NameIn(copy.mapped()) + (description.empty() ? "." : ". " + description) +
+      "\n\nNothing is lost: " + name + " now holds what is in the open diary.");
+}
+
+}  // namespace platform

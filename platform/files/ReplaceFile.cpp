@@ -1,0 +1,221 @@
+// Writing a file in one step: the bytes go into a file of their own beside it, and when they are on the disk
+// that file takes the old one's name, and the name is brought to the disk too.
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <sys/uio.h>
+#include <unistd.h>
+#include <utility>
+
+#include "platform/Errno.h"
+#include "platform/files/Checksum.h"
+#include "platform/files/Files.h"
+#include "platform/files/LeftBehind.h"
+#include "platform/files/Remembered.h"
+#include "platform/files/SyncFolder.h"
+#include "platform/files/Writing.h"
+
+namespace platform {
+namespace {
+
+[[noreturn]] void Fail(int error, const std::string& path) {
+  throw FailureOf(error, path, FailureKind::PathNotFound);
+}
+
+// A file that is kept from being changed is not to be replaced either, though the folder would allow it.
+void RefuseUnchangeable(const std::string& path) {
+  if (faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0 && errno != ENOENT) Fail(errno, path);
+}
+
+// The longest name that file systems take, in bytes.
+constexpr std::size_t LongestName = 255;
+
+std::string UnfinishedName(const std::string& target) {
+  const std::size_t name = target.rfind('/') + 1;
+  return target.substr(0, name + std::min(target.size() - name, LongestName - UnfinishedEnding.size())) +
+         std::string(UnfinishedEnding);
+}
+
+// Where the file itself lies, or would lie: a link to another place stays a link.
+std::string RealPath(const std::string& path) {
+  std::error_code error;
+  std::filesystem::path real(path);
+  for (int links = 0; links < 40 && std::filesystem::is_symlink(real, error); ++links)
+    real = real.parent_path() / std::filesystem::read_symlink(real, error);
+  return real.string();
+}
+
+std::atomic<int> filesBeingWritten = 0;
+
+class BeingWritten {
+ public:
+  BeingWritten() { ++filesBeingWritten; }
+  ~BeingWritten() { --filesBeingWritten; }
+  BeingWritten(const BeingWritten&) = delete;
+  BeingWritten& operator=(const BeingWritten&) = delete;
+};
+
+// The file that is written, under a name of its own until it is whole. It goes again unless it took the
+// other's name.
+class Unfinished {
+ public:
+  // `path` is named in failures; `target` is where the file itself lies.
+  Unfinished(const std::string& path, const std::string& target);
+  ~Unfinished();
+  Unfinished(const Unfinished&) = delete;
+  Unfinished& operator=(const Unfinished&) = delete;
+
+  void Write(std::span<const std::string_view> pieces);
+  void TakeTheName();
+  // The one that has the name now is known, so that no other that takes its place is taken for it.
+  void BeRemembered() const;
+
+ private:
+  void Must(bool succeeded) const {
+    if (!succeeded) Fail(errno, path_);
+  }
+  void TakePermissionsOf(const std::string& target) const;
+  bool HasTheName() const;
+
+  const std::string& path_;
+  const std::string& target_;
+  std::string name_;
+  int descriptor_;
+  int lock_ = -1;  // reads, so that it can be held beyond the closing of the other
+  Checksum checksum_;
+};
+
+Unfinished::Unfinished(const std::string& path, const std::string& target)
+    : path_(path), target_(target), name_(UnfinishedName(target)) {
+  RemoveLeftBehind(name_);
+  descriptor_ = open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+  Must(descriptor_ >= 0);
+  lock_ = open(name_.c_str(), O_RDONLY | O_CLOEXEC);
+  Lock(lock_);  // who was quicker removes the file, which HasTheName tells
+  TakePermissionsOf(target);
+}
+
+Unfinished::~Unfinished() {
+  if (descriptor_ >= 0) close(descriptor_);
+  if (!name_.empty() && HasTheName()) unlink(name_.c_str());
+  if (lock_ >= 0) close(lock_);
+}
+
+// Not where another program took the file for a left one before it was locked.
+bool Unfinished::HasTheName() const {
+  struct stat own {};
+  struct stat entry {};
+  return lock_ < 0 || (fstat(lock_, &own) == 0 && lstat(name_.c_str(), &entry) == 0 &&
+                       own.st_dev == entry.st_dev && own.st_ino == entry.st_ino);
+}
+
+// Until here nobody else could open it, and of a new file nobody else ever can. As far as the file system
+// knows any permissions: a failure changes nothing of what is saved.
+void Unfinished::TakePermissionsOf(const std::string& target) const {
+  struct stat entry {};
+  if (stat(target.c_str(), &entry) != 0) return;
+  [[maybe_unused]] const int ignored = fchmod(descriptor_, entry.st_mode & 0777);
+}
+
+// How many pieces one call to the system takes.
+constexpr std::size_t BatchSize = 1024;
+
+using Batch = std::vector<iovec>;
+
+Batch BatchOf(std::span<const std::string_view> pieces) {
+  Batch batch;
+  for (const std::string_view piece : pieces.first(std::min(BatchSize, pieces.size())))
+    batch.push_back({const_cast<char*>(piece.data()), piece.size()});
+  return batch;
+}
+
+// Moves the start of `left` on by so many bytes, and over pieces that are empty.
+void Advance(std::span<iovec>& left, std::size_t done) {
+  for (; !left.empty() && done >= left.front().iov_len; left = left.subspan(1)) done -= left.front().iov_len;
+  if (left.empty()) return;
+  left.front().iov_base = static_cast<char*>(left.front().iov_base) + done;
+  left.front().iov_len -= done;
+}
+
+// The system may take fewer bytes than it was given.
+void WriteBatch(int descriptor, std::span<iovec> left, const std::string& path) {
+  for (Advance(left, 0); !left.empty();) {
+    const ssize_t written = writev(descriptor, left.data(), static_cast<int>(left.size()));
+    if (written == 0 || (written < 0 && errno != EINTR)) Fail(written == 0 ? EIO : errno, path);
+    if (written > 0) Advance(left, static_cast<std::size_t>(written));
+  }
+}
+
+void Unfinished::Write(std::span<const std::string_view> pieces) {
+  while (!pieces.empty()) {
+    Batch batch = BatchOf(pieces);
+    for (const std::string_view piece : pieces.first(batch.size())) checksum_.Add(piece);
+    pieces = pieces.subspan(batch.size());
+    WriteBatch(descriptor_, batch, path_);
+  }
+}
+
+// A write that the system accepted may still fail on its way to the disk. This must be known before the old
+// file is given up; a disk behind a network tells when the file is closed.
+void Unfinished::TakeTheName() {
+  Must(fsync(descriptor_) == 0 || errno == EINVAL || errno == ENOTSUP);
+  Must(close(std::exchange(descriptor_, -1)) == 0 || errno == EINTR);
+  if (!HasTheName()) Fail(EBUSY, path_);
+  Must(std::rename(name_.c_str(), target_.c_str()) == 0);
+  name_.clear();
+}
+
+void Unfinished::BeRemembered() const {
+  struct stat entry {};
+  if (lock_ >= 0 && fstat(lock_, &entry) == 0) Remember(path_, entry, checksum_.value());
+}
+
+void Replace(const std::string& path, std::span<const std::string_view> pieces, bool isKnownThen) {
+  const BeingWritten beingWritten;
+  RefuseUnchangeable(path);
+  const std::string target = RealPath(path);
+  Unfinished file(path, target);
+  file.Write(pieces);
+  file.TakeTheName();
+  if (isKnownThen) file.BeRemembered();
+  SyncFolderOf(target);
+}
+
+}  // namespace
+
+bool IsFileBeingWritten() {
+  return filesBeingWritten > 0;
+}
+
+void ReplaceFile(const std::string& path, std::string_view bytes) {
+  Replace(path, std::span(&bytes, 1), false);
+}
+
+void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces) {
+  Replace(path, pieces, false);
+}
+
+void ReplaceDataFile(const std::string& path, std::string_view bytes) {
+  Replace(path, std::span(&bytes, 1), true);
+}
+
+void ReplaceDataFile(const std::string& path, std::span<const std::string_view> pieces) {
+  Replace(path, pieces, true);
+}
+
+bool CanWriteTo(const std::string& folder) {
+  const int nameless = open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
+  if (nameless >= 0) return close(nameless) == 0;
+  if (errno != EOPNOTSUPP && errno != EISDIR) return false;
+  const std::string trial = folder + "/trial" + std::string(UnfinishedEnding);
+  const int descriptor = open(trial.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
+  if (descriptor < 0) return false;
+  close(descriptor);
+  return unlink(trial.c_str()) == 0;
+}
+
+}  // namespace platform

@@ -1,0 +1,31 @@
+// What other programs offer on the clipboard or by dragging, and what a selection offers to them.
+#pragma once
+
+#include <optional>
+
+#include <QtCore/QMimeData>
+#include <QtGui/QImage>
+
+#include "richtext/document/Document.h"
+
+class QTextCursor;
+
+namespace richtext {
+
+bool CanBePasted(const QMimeData& offered);
+
+// The offer as a page, from RTF, else from HTML: nothing but what the writer of pages keeps, so that it comes
+// back when the page is stored. What names no format is `caret`'s. Nothing where neither says anything.
+// Nothing that the offer names is fetched.
+std::optional<Document> OfferedPage(const QMimeData& offered, const CharacterFormat& caret);
+
+// A null image where there is none.
+QImage OfferedBitmap(const QMimeData& offered);
+
+// The offer as plain text, without what a page cannot keep. Markup and addresses become their text.
+QString OfferedText(const QMimeData& offered);
+
+// The selection as RTF, as HTML and as plain text. The caller owns it.
+QMimeData* Offer(const QTextCursor& selection);
+
+}  // namespace richtext

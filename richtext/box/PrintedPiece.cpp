@@ -1,0 +1,84 @@
+#include "richtext/box/PrintedPiece.h"
+
+#include <algorithm>
+
+#include <QtCore/QUrl>
+#include <QtGui/QAbstractTextDocumentLayout>
+#include <QtGui/QTextCursor>
+
+#include "richtext/textdocument/PageHeight.h"
+#include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/TextDocument.h"
+
+namespace richtext {
+namespace {
+
+constexpr double TallestPiece = 5'000'000;  // well below what the toolkit can lay out
+constexpr double TallestPicture = 0.95;     // of the sheet: letters may hang below it in its line
+
+}  // namespace
+
+PrintedPiece::PrintedPiece(const QTextDocument& source, int from, int to, const QSizeF& sheet)
+    : source_(source), sheet_(sheet) {
+  setUndoRedoEnabled(false);
+  setDocumentMargin(0);
+  setUseDesignMetrics(true);  // letters stand where they stand on the paper, and not on the screen's grid
+  QTextOption option = source.defaultTextOption();
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  setDefaultTextOption(option);
+  Copy(from, to);
+}
+
+void PrintedPiece::Copy(int from, int to) {
+  QTextCursor cursor(this);
+  cursor.beginEditBlock();
+  const QTextBlock first = source_.findBlock(from);
+  QTextBlockFormat format = first.blockFormat();
+  if (from > first.position()) format.setTextIndent(0);
+  cursor.setBlockFormat(format);
+  cursor.setBlockCharFormat(first.charFormat());
+  for (QTextBlock block = first; block.isValid() && block.position() < to; block = block.next()) {
+    if (block != first) cursor.insertBlock(block.blockFormat(), block.charFormat());
+    CopyText(block, from, to, cursor);
+  }
+  cursor.endEditBlock();
+}
+
+void PrintedPiece::CopyText(const QTextBlock& block, int from, int to, QTextCursor& cursor) const {
+  for (auto part = block.begin(); !part.atEnd(); ++part) {
+    const QTextFragment fragment = part.fragment();
+    const int begin = std::max(from, fragment.position());
+    const int end = std::min(to, fragment.position() + fragment.length());
+    if (begin < end)
+      cursor.insertText(fragment.text().mid(begin - fragment.position(), end - begin),
+                        Fitting(fragment.charFormat(), block.blockFormat()));
+  }
+}
+
+// On the screen one scrolls to see the rest of a large picture. On paper it is made as small as need be.
+QTextCharFormat PrintedPiece::Fitting(const QTextCharFormat& format,
+                                      const QTextBlockFormat& paragraph) const {
+  if (!format.isImageFormat()) return format;
+  QTextImageFormat image = format.toImageFormat();
+  const double room = std::max(1.0, sheet_.width() - paragraph.leftMargin() - paragraph.rightMargin());
+  const double share =
+      std::min({1.0, room / image.width(), TallestPicture * sheet_.height() / image.height()});
+  image.setWidth(image.width() * share);
+  image.setHeight(image.height() * share);
+  return image;
+}
+
+bool PrintedPiece::CanBeLaidOut() const {
+  return EstimatedHeight(TakeDocument(*this)) < TallestPiece;
+}
+
+void PrintedPiece::LayOut() {
+  setTextWidth(sheet_.width());
+  documentLayout()->documentSize();  // which is known when all of it is laid out
+}
+
+QVariant PrintedPiece::loadResource(int, const QUrl& name) {
+  return DrawnPicture(source_, name);
+}
+
+}  // namespace richtext

@@ -1,0 +1,272 @@
+#include "richtext/box/RichTextBox.h"
+
+#include <algorithm>
+#include <memory>
+
+#include <QtCore/QScopedValueRollback>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QPainter>
+#include <QtGui/QTextBlock>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QScrollBar>
+
+#include "richtext/box/Pasting.h"
+#include "richtext/box/Printing.h"
+#include "richtext/rtf/Reader.h"
+#include "richtext/rtf/Writer.h"
+#include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/HiddenText.h"
+#include "richtext/textdocument/Labels.h"
+#include "richtext/textdocument/Links.h"
+#include "richtext/textdocument/Paragraphs.h"
+#include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/TextDocument.h"
+
+namespace richtext {
+namespace {
+
+constexpr double DocumentMargin = 4;  // pixels
+constexpr std::uint32_t White = 0xffffff;
+constexpr QKeyCombination PlainPasteKey = Qt::CTRL | Qt::SHIFT | Qt::Key_V;
+constexpr std::size_t LongPage = 10000;  // UTF-16 units; more than any window shows at once
+
+// A letter with Alt or the logo key is a command of somebody else's. AltGr is neither: it types.
+bool IsCommandOfOthers(const QKeyEvent& event) {
+  const bool withCommandKey =
+      event.modifiers().testFlag(Qt::AltModifier) || event.modifiers().testFlag(Qt::MetaModifier);
+  return withCommandKey && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+}  // namespace
+
+RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
+  setAcceptRichText(true);
+  setTabChangesFocus(false);
+  document()->setDocumentMargin(DocumentMargin);
+  connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::NoteEdit);
+  connect(document(), &QTextDocument::contentsChanged, this, &RichTextBox::TellEdits);
+  connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextBox::LeaveLink);
+  SetBackColor(White);
+  Fill({});
+}
+
+std::string RichTextBox::TextRTF() const {
+  return WriteRtf(TakeDocument(*document()));
+}
+
+void RichTextBox::SetTextRTF(std::string_view rtf) {
+  Fill(rtf);
+  Q_EMIT Change();
+}
+
+void RichTextBox::Fill(std::string_view rtf) {
+  DropComposition();
+  const QScopedValueRollback quiet(quiet_, true);
+  const Document page = rtf.empty() ? EmptyDocument() : ReadRtf(rtf);
+  // With its scroll bar there beforehand, a page is laid out once, and not at the width without it first and
+  // then twice more. So the bar of the page before stays until it is known that this one needs none.
+  const bool hasBar = verticalScrollBar()->maximum() > verticalScrollBar()->minimum();
+  if (hasBar || page.text.size() > LongPage) setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  {
+    const auto asEver = qScopeGuard([this] { setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); });
+    FillDocument(page, *document());
+  }
+  setTextCursor(QTextCursor(document()));
+  LeaveLink();
+  horizontalScrollBar()->setValue(0);
+}
+
+// The document tells that contents have changed at the end of every bracket of steps, also of one in which
+// nothing was done; that something was done, and where, it tells before. Both together are an edit.
+void RichTextBox::NoteEdit() {
+  edited_ = edited_ || !quiet_;
+}
+
+void RichTextBox::TellEdits() {
+  if (!edited_) return;
+  edited_ = false;
+  ++edits_;
+  if (labelled_) viewport()->update();  // an edit can change the numbers of items far from it
+  Q_EMIT Change();
+}
+
+void RichTextBox::SetText(const QString& text) {
+  DropComposition();
+  {
+    const QScopedValueRollback quiet(quiet_, true);
+    QTextCharFormat format;
+    SetFontName(format, font().family());
+    SetFontSize(format, font().pointSizeF());
+    FillPlain(text, format, *document());
+    setTextCursor(QTextCursor(document()));
+  }
+  Q_EMIT Change();
+}
+
+// Paper and ink are the journal's and not the desktop's: on a dark desktop the page stays what it is.
+void RichTextBox::SetBackColor(std::uint32_t color) {
+  backColor_ = color & White;
+  QPalette paper;
+  paper.setColor(QPalette::Base, ToColor(backColor_));
+  paper.setColor(QPalette::Text, Qt::black);
+  paper.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+  paper.setColor(QPalette::Highlight, QColor(0x30, 0x60, 0xa8));
+  paper.setColor(QPalette::HighlightedText, Qt::white);
+  setPalette(paper);
+}
+
+std::uint32_t RichTextBox::BackColor() const {
+  return backColor_;
+}
+
+bool RichTextBox::PrintSelection(Paper& paper) const {
+  return richtext::PrintSelection(textCursor(), paper);
+}
+
+void RichTextBox::InsertBitmap(const QImage& image) {
+  if (image.isNull() || isReadOnly()) return;
+  QTextCursor cursor = textCursor();
+  cursor.insertText(QString(QChar::ObjectReplacementCharacter),
+                    KeepPicture(FromImage(image), CaretFormat(), *document()));
+  ensureCursorVisible();
+}
+
+QVariant RichTextBox::loadResource(int, const QUrl& name) {
+  return DrawnPicture(*document(), name);
+}
+
+bool RichTextBox::canInsertFromMimeData(const QMimeData* source) const {
+  return CanBePasted(*source);
+}
+
+QMimeData* RichTextBox::createMimeDataFromSelection() const {
+  return Offer(textCursor());
+}
+
+void RichTextBox::insertFromMimeData(const QMimeData* source) {
+  if (isReadOnly()) return;
+  QTextCursor cursor = textCursor();
+  if (const auto page = OfferedPage(*source, FromTextFormat(cursor.charFormat())))
+    InsertDocument(*page, cursor);
+  else if (const QImage bitmap = OfferedBitmap(*source); !bitmap.isNull())
+    InsertBitmap(bitmap);
+  else
+    InsertText(*source);
+  ensureCursorVisible();
+}
+
+void RichTextBox::PasteWithoutFormatting() {
+  if (const QMimeData* offered = QGuiApplication::clipboard()->mimeData(); offered && !isReadOnly())
+    InsertText(*offered);
+  ensureCursorVisible();
+}
+
+// In the format that letters typed here have.
+void RichTextBox::InsertText(const QMimeData& source) {
+  QTextCursor cursor = textCursor();
+  cursor.insertText(OfferedText(source), CaretFormat());
+}
+
+// Of letters alone: a cursor behind a picture or hidden text tells of these too.
+QTextCharFormat RichTextBox::CaretFormat() const {
+  return ToTextFormat(FromTextFormat(textCursor().charFormat()));
+}
+
+void RichTextBox::keyPressEvent(QKeyEvent* event) {
+  if (IsCommandOfOthers(*event)) return event->ignore();
+  const unsigned before = edits_;
+  const QTextCharFormat format = textCursor().charFormat();
+  if (isReadOnly())
+    QTextEdit::keyPressEvent(event);
+  else
+    PressKey(*event);
+  if (edits_ != before) CarryOn(format);
+  LeaveLink();
+}
+
+void RichTextBox::PressKey(QKeyEvent& event) {
+  const bool bare = !textCursor().hasSelection() && event.modifiers() == Qt::NoModifier;
+  if (event.keyCombination() == PlainPasteKey) return PasteWithoutFormatting();
+  if (event.matches(QKeySequence::InsertParagraphSeparator)) return InsertParagraph();
+  if (bare && event.key() == Qt::Key_Backspace) return DeleteBack(event);
+  if (bare && event.key() == Qt::Key_Delete) return DeleteNext(event);
+  QTextEdit::keyPressEvent(&event);
+}
+
+// At the start of an item the key takes away its label and nothing more. Hidden text stays: what a person
+// cannot see she does not mean to delete.
+void RichTextBox::DeleteBack(QKeyEvent& event) {
+  QTextCursor cursor = textCursor();
+  PassBack(cursor);
+  setTextCursor(cursor);
+  if (cursor.atBlockStart() && LeaveList()) return;
+  QTextEdit::keyPressEvent(&event);
+}
+
+void RichTextBox::DeleteNext(QKeyEvent& event) {
+  QTextCursor cursor = textCursor();
+  SelectNextLetter(cursor);
+  setTextCursor(cursor);
+  QTextEdit::keyPressEvent(&event);
+}
+
+bool RichTextBox::LeaveList() {
+  QTextCursor cursor = textCursor();
+  const QTextBlockFormat format = cursor.blockFormat();
+  if (!IsListItem(format)) return false;
+  cursor.setBlockFormat(WithoutList(format));
+  return true;
+}
+
+// The toolkit's own Enter drops all formats after an empty paragraph, and now and then makes no paragraph. An
+// empty list item is where a list ends.
+void RichTextBox::InsertParagraph() {
+  const bool isEmpty = textCursor().block().length() <= 1;
+  if (!(isEmpty && LeaveList())) textCursor().insertBlock();
+  ensureCursorVisible();
+}
+
+// A paragraph whose last letter was deleted would fall back to the format of its end; who goes on typing
+// there means the format in hand.
+void RichTextBox::CarryOn(const QTextCharFormat& format) {
+  const QTextCursor cursor = textCursor();
+  if (cursor.hasSelection() || cursor.block().length() > 1) return;
+  setCurrentCharFormat(ToTextFormat(FromTextFormat(format)));
+}
+
+// What is typed before or behind a link is no part of it.
+void RichTextBox::LeaveLink() {
+  if (const std::optional<QTextCharFormat> beside = FormatBesideLink(textCursor()))
+    setCurrentCharFormat(*beside);
+}
+
+// What is cut from the menu is an edit like one from the keyboard.
+void RichTextBox::contextMenuEvent(QContextMenuEvent* event) {
+  const unsigned before = edits_;
+  const QTextCharFormat format = textCursor().charFormat();
+  const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
+  auto* plain = new QAction(tr("Paste without formatting"), menu.get());
+  plain->setShortcut(PlainPasteKey);
+  plain->setEnabled(canPaste());
+  connect(plain, &QAction::triggered, this, &RichTextBox::PasteWithoutFormatting);
+  const QList<QAction*> actions = menu->actions();
+  const auto paste = std::find_if(actions.begin(), actions.end(), [](const QAction* action) {
+    return action->objectName() == QLatin1String("edit-paste");
+  });
+  menu->insertAction(paste == actions.end() || paste + 1 == actions.end() ? nullptr : *(paste + 1), plain);
+  menu->exec(event->globalPos());
+  if (edits_ != before) CarryOn(format);
+}
+
+void RichTextBox::paintEvent(QPaintEvent* event) {
+  QTextEdit::paintEvent(event);
+  QPainter painter(viewport());
+  const QScrollBar& across = *horizontalScrollBar();
+  const QPoint scrolled(isRightToLeft() ? across.maximum() - across.value() : across.value(),
+                        verticalScrollBar()->value());
+  painter.translate(-scrolled);
+  labelled_ = DrawLabels(painter, *document(), QRectF(event->rect().translated(scrolled)));
+}
+
+}  // namespace richtext

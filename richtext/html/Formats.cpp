@@ -1,0 +1,124 @@
+#include "richtext/html/Formats.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QtGui/QFontDatabase>
+#include <QtGui/QTextList>
+
+#include "richtext/document/Limits.h"
+#include "richtext/document/ListLabel.h"
+#include "richtext/document/Twips.h"
+#include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/Paragraphs.h"
+
+namespace richtext {
+namespace {
+
+constexpr double HalfPointsPerPixel = 1.5;  // 96 pixels to the inch
+constexpr int ListStep = 720;               // twips that each level of a list goes in
+constexpr int LabelWidth = 360;             // twips
+
+// The first one that is there; a page keeps one name, and one that is nowhere would look like anything.
+std::string FontName(const QTextCharFormat& format, const CharacterFormat& caret) {
+  for (const QString& family : format.fontFamilies().toStringList()) {
+    if (family.startsWith(QLatin1String("monospace"))) return "Courier New";
+    if (QFontDatabase::hasFamily(family)) return family.toStdString();
+  }
+  return caret.fontName;
+}
+
+std::int32_t HalfPoints(const QTextCharFormat& format, const CharacterFormat& caret) {
+  constexpr double Steps[] = {0.7, 0.8, 1, 1.2, 1.5, 2, 2.4};
+  double size = caret.halfPoints;
+  if (format.hasProperty(QTextFormat::FontPointSize)) size = format.fontPointSize() * 2;
+  if (format.hasProperty(QTextFormat::FontPixelSize))
+    size = format.intProperty(QTextFormat::FontPixelSize) * HalfPointsPerPixel;
+  size *= Steps[std::clamp(format.intProperty(QTextFormat::FontSizeAdjustment) + 2, 0, 6)];
+  return static_cast<std::int32_t>(std::lround(std::clamp<double>(size, 1, MaxHalfPoints)));
+}
+
+std::u16string Bullet(QTextListFormat::Style style) {
+  if (style == QTextListFormat::ListCircle) return u"\u25e6";
+  return style == QTextListFormat::ListSquare ? u"\u25aa" : u"\u2022";
+}
+
+ListKind KindOf(QTextListFormat::Style style) {
+  switch (style) {
+    case QTextListFormat::ListDecimal:
+      return ListKind::Decimal;
+    case QTextListFormat::ListLowerAlpha:
+      return ListKind::LowerLetter;
+    case QTextListFormat::ListUpperAlpha:
+      return ListKind::UpperLetter;
+    case QTextListFormat::ListLowerRoman:
+      return ListKind::LowerRoman;
+    case QTextListFormat::ListUpperRoman:
+      return ListKind::UpperRoman;
+    case QTextListFormat::ListStyleUndefined:
+      return ListKind::None;
+    default:
+      return ListKind::Bullet;
+  }
+}
+
+void SetList(ParagraphFormat& made, const QTextListFormat& format) {
+  made.list.kind = KindOf(format.style());
+  if (made.list.kind == ListKind::None) return;
+  made.list.level = std::max(format.indent() - 1, 0);
+  if (made.list.kind == ListKind::Bullet)
+    made.list.before = Bullet(format.style());
+  else
+    made.list.after.assign(1, u'.');
+  made.leftIndent = FittingIndent(made.leftIndent + (made.list.level + 1) * ListStep);
+  made.firstLineIndent = -LabelWidth;
+  made.list = FittingList(made.list);
+}
+
+// The rule and the measure are set in a form that the box's own formats share.
+void SetLineHeight(ParagraphFormat& made, const QTextBlockFormat& format) {
+  if (format.lineHeightType() == QTextBlockFormat::LineDistanceHeight || !(format.lineHeight() > 0)) return;
+  const bool isShare = made.lineSpacingRule == LineSpacingRule::Multiple;
+  const double height = format.lineHeight() * (isShare ? 2.4 : TwipsPerPixel);
+  made.lineSpacing = static_cast<std::int32_t>(std::min<double>(height, MaxIndent));
+}
+
+}  // namespace
+
+CharacterFormat FromHtmlFormat(const QTextCharFormat& format, const CharacterFormat& caret) {
+  CharacterFormat made = FromTextFormat(format);
+  made.fontName = FontName(format, caret);
+  made.halfPoints = HalfPoints(format, caret);
+  if (!made.color || !format.foreground().color().isValid()) made.color = caret.color;
+  made.highlight.reset();
+  return made;
+}
+
+ParagraphFormat FromHtmlBlock(const QTextBlock& block) {
+  const QTextBlockFormat format = block.blockFormat();
+  ParagraphFormat made = FromBlockFormat(format);
+  for (std::int32_t* measure : {&made.leftIndent, &made.rightIndent, &made.firstLineIndent})
+    *measure = FittingIndent(*measure);
+  made.spaceBefore = std::clamp(made.spaceBefore, 0, MaxIndent);
+  made.spaceAfter = std::clamp(made.spaceAfter, 0, MaxIndent);
+  made.tabs.clear();
+  SetLineHeight(made, format);
+  made.leftIndent = FittingIndent(made.leftIndent + format.indent() * ListStep);
+  if (const QTextList* list = block.textList()) SetList(made, list->format());
+  return made;
+}
+
+bool IsLightInk(const QColor& color) {
+  return qGray(color.rgb()) > 180 && color.hsvSaturation() < 64;
+}
+
+bool IsLikePaper(const QColor& color) {
+  const auto [least, most] = std::minmax({color.red(), color.green(), color.blue()});
+  return least >= 240 || (least >= 224 && most - least <= 16);
+}
+
+bool IsMarkersColor(const QColor& color) {
+  return color.hsvSaturation() >= 64 && color.value() >= 160;
+}
+
+}  // namespace richtext

@@ -1,0 +1,45 @@
+#include "richtext/html/Lists.h"
+
+#include <algorithm>
+
+#include <QtCore/QRegularExpression>
+#include <QtGui/QTextList>
+
+namespace richtext {
+
+// The toolkit passes over `start`, but keeps a text that stands before the numbers.
+QString WithListStarts(QString html) {
+  static const QRegularExpression start(
+      QStringLiteral("<ol\\b(?=[^<>]{0,500}\\bstart\\s*=\\s*[\"']?\\s*(\\d{1,5})\\b)"),
+      QRegularExpression::CaseInsensitiveOption);
+  return html.replace(start, QStringLiteral("<ol style=\"-qt-list-number-prefix:'\\1'\""));
+}
+
+std::int32_t HtmlLists::NextOf(const QTextList& list) {
+  const auto [found, isNew] = next_.try_emplace(&list, 1);
+  if (isNew) {
+    bool isTold = false;
+    const int told = list.format().numberPrefix().toInt(&isTold);
+    if (isTold) found->second = std::clamp(told, 0, MaxListNumber);
+  }
+  const std::int32_t next = found->second;
+  found->second = std::min(next + 1, MaxListNumber);
+  return next;
+}
+
+void HtmlLists::Number(const QTextBlock& block, ListFormat& list) {
+  if (list.kind == ListKind::None || block.textList() == nullptr) {
+    open_ = {};
+    return;
+  }
+  const auto level = static_cast<std::size_t>(list.level);
+  for (std::size_t deeper = level + 1; deeper < open_.size(); ++deeper) open_[deeper] = {};
+  const std::int32_t number = NextOf(*block.textList());
+  Items& items = open_[level];
+  list.start = items.list.start;
+  const bool goesOn = items.list == list && items.next == number;
+  if (!goesOn) list.start = list.kind == ListKind::Bullet ? 1 : number;
+  items = {list, number + 1};
+}
+
+}  // namespace richtext

@@ -1,0 +1,234 @@
+#include "richtext/html/Reader.h"
+
+#include <map>
+#include <utility>
+
+#include <QtCore/QBuffer>
+#include <QtCore/QUrl>
+#include <QtGui/QImageReader>
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
+#include <QtGui/QTextTable>
+
+#include "richtext/characters/Unicode.h"
+#include "richtext/document/FormatNumbers.h"
+#include "richtext/document/Limits.h"
+#include "richtext/document/Twips.h"
+#include "richtext/html/Formats.h"
+#include "richtext/html/Lists.h"
+#include "richtext/html/Markup.h"
+#include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/SmallPng.h"
+
+namespace richtext {
+namespace {
+
+// What the toolkit's own knowledge of HTML lacks or would take from the desktop's colours.
+const QLatin1String HouseStyle(
+    "mark { background-color: #ffff00; } a[href] { color: #0000ee; } ins { text-decoration: underline; }"
+    "del, strike { text-decoration: line-through; }");
+
+// Fetches nothing, whatever the markup names.
+class InertDocument : public QTextDocument {
+ protected:
+  QVariant loadResource(int, const QUrl&) override { return {}; }
+};
+
+std::optional<QColor> Background(const QTextFormat& format) {
+  const QBrush brush = format.background();
+  if (brush.style() == Qt::NoBrush || !brush.color().isValid() || brush.color().alpha() == 0)
+    return std::nullopt;
+  return brush.color();
+}
+
+QTextTableCell CellOf(const QTextBlock& block) {
+  const QTextTable* table = QTextCursor(block).currentTable();
+  return table == nullptr ? QTextTableCell() : table->cellAt(block.position());
+}
+
+// The toolkit puts an empty paragraph before and behind a table.
+bool IsEdgeOfTable(const QTextBlock& block) {
+  if (block.length() > 1 || CellOf(block).isValid()) return false;
+  return (block.previous().isValid() && CellOf(block.previous()).isValid()) ||
+         (block.next().isValid() && CellOf(block.next()).isValid());
+}
+
+bool IsRuler(const QTextBlock& block) {
+  return block.length() <= 1 &&
+         block.blockFormat().hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth);
+}
+
+// The bytes of a picture that the markup holds, "data:image/png;base64,...".
+QByteArray DataOf(const QString& address) {
+  if (!address.startsWith(QLatin1String("data:"), Qt::CaseInsensitive)) return {};
+  const qsizetype comma = address.indexOf(u',');
+  const QByteArray data = QByteArray::fromPercentEncoding(address.mid(comma + 1).toLatin1());
+  const bool isBase64 = address.left(comma).endsWith(QLatin1String(";base64"), Qt::CaseInsensitive);
+  return isBase64 ? QByteArray::fromBase64(data) : data;
+}
+
+// PNG and JPEG files stay what they are, other pictures become PNG.
+Picture FromFile(QByteArray file) {
+  Picture picture;
+  QBuffer buffer(&file);
+  buffer.open(QIODevice::ReadOnly);
+  const QByteArray kind = QImageReader::imageFormat(&buffer);
+  if (kind == "png" || kind == "jpeg") {
+    picture.kind = kind == "png" ? PictureKind::Png : PictureKind::Jpeg;
+    picture.bytes = file.toStdString();
+  } else if (kind == "gif" || kind == "bmp" || kind == "webp") {
+    picture.bytes = SmallestPng(DecodedFile(file));
+  }
+  return picture;
+}
+
+// The background that most letters have is the page's own, unless one marks words with it.
+class Backgrounds {
+ public:
+  explicit Backgrounds(const QTextDocument& html) {
+    std::map<QRgb, int> letters;
+    for (QTextBlock block = html.begin(); block.isValid(); block = block.next())
+      for (auto part = block.begin(); !part.atEnd(); ++part) {
+        all_ += part.fragment().length();
+        if (const auto color = Background(part.fragment().charFormat()))
+          letters[color->rgb()] += part.fragment().length();
+      }
+    for (const auto& [color, count] : letters)
+      if (2 * count > all_ && !IsMarkersColor(QColor(color))) page_ = color;
+  }
+
+  std::optional<std::uint32_t> HighlightOf(const QTextCharFormat& format, const QTextBlock& block) const {
+    const std::optional<QColor> color = Background(format);
+    if (!color || color == Background(block.blockFormat())) return std::nullopt;
+    const QTextTableCell cell = CellOf(block);
+    if (cell.isValid() && color == Background(cell.format())) return std::nullopt;
+    if (color->rgb() == page_) return std::nullopt;
+    return IsLikePaper(*color) ? std::nullopt : std::optional(FromColor(*color));
+  }
+
+ private:
+  int all_ = 0;
+  std::optional<QRgb> page_;
+};
+
+class Reader {
+ public:
+  Reader(const QTextDocument& html, const CharacterFormat& caret, const QImage& carried)
+      : html_(html), caret_(caret), carried_(carried), backgrounds_(html) {}
+
+  Document Read() {
+    for (QTextBlock block = html_.begin(); block.isValid(); block = block.next())
+      if (!IsEdgeOfTable(block) && !IsRuler(block)) TakeBlock(block);
+    DropLastBreak();
+    EndParagraph();
+    return std::move(page_);
+  }
+
+ private:
+  void TakeBlock(const QTextBlock& block) {
+    const QTextTableCell cell = CellOf(block);
+    const bool besideLast =
+        cell.isValid() && last_.isValid() && cell.row() == last_.row() && cell.column() != last_.column();
+    if (besideLast)
+      AddText(u"\t", format_);
+    else
+      BeginParagraph(block);
+    last_ = cell;
+    for (auto part = block.begin(); !part.atEnd(); ++part) TakeFragment(part.fragment(), block);
+  }
+
+  void BeginParagraph(const QTextBlock& block) {
+    if (begun_) EndParagraph();
+    begun_ = true;
+    paragraph_ = FromHtmlBlock(block);
+    lists_.Number(block, paragraph_.list);
+    format_ = FromHtmlFormat(block.charFormat(), caret_);
+  }
+
+  // Browsers end what was copied with a line break of their own.
+  void DropLastBreak() {
+    if (page_.runs.size() <= firstRun_ || page_.text.back() != LineBreak) return;
+    page_.text.pop_back();
+    if (--page_.runs.back().length == 0) page_.runs.pop_back();
+  }
+
+  void EndParagraph() {
+    const std::uint32_t mark = numbers_(format_);
+    const auto length = static_cast<std::uint32_t>(page_.text.size() - paragraphStart_);
+    page_.paragraphs.push_back({length, paragraphNumbers_(paragraph_), mark});
+    paragraphStart_ = page_.text.size();
+    firstRun_ = page_.runs.size();
+  }
+
+  void TakeFragment(const QTextFragment& fragment, const QTextBlock& block) {
+    const QTextCharFormat format = fragment.charFormat();
+    format_ = FromHtmlFormat(format, caret_);
+    format_.highlight = backgrounds_.HighlightOf(format, block);
+    if (!format_.highlight && IsLightInk(format.foreground().color())) format_.color = caret_.color;
+    if (!format.isImageFormat()) return AddText(fragment.text().toStdU16String(), format_);
+    for (int i = 0; i < fragment.length(); ++i) TakePicture(format.toImageFormat());
+  }
+
+  void TakePicture(const QTextImageFormat& format) {
+    Picture picture = FromFile(DataOf(format.name()));
+    if (picture.bytes.empty() && !carried_.isNull()) picture = FromImage(std::exchange(carried_, {}));
+    if (picture.bytes.empty())
+      return AddText(format.stringProperty(QTextFormat::ImageAltText).toStdU16String(), format_);
+    if (format.width() > 0 || format.height() > 0) {
+      picture.widthTwips = FittingPictureSize(std::lround(format.width() * TwipsPerPixel));
+      picture.heightTwips = FittingPictureSize(std::lround(format.height() * TwipsPerPixel));
+    }
+    page_.pictures.push_back(std::move(picture));
+    Append(std::u16string(1, PictureMark), format_);
+  }
+
+  // What stands for pictures and hidden text in a page is nothing that comes along.
+  void AddText(std::u16string text, const CharacterFormat& format) {
+    std::erase(text, PictureMark);
+    Append(text, format);
+  }
+
+  void Append(const std::u16string& text, const CharacterFormat& format) {
+    if (text.empty()) return;
+    const std::uint32_t number = numbers_(format);
+    const auto length = static_cast<std::uint32_t>(text.size());
+    page_.text += text;
+    if (page_.runs.size() > firstRun_ && page_.runs.back().format == number)
+      page_.runs.back().length += length;
+    else
+      page_.runs.push_back({length, number});
+  }
+
+  const QTextDocument& html_;
+  const CharacterFormat caret_;
+  QImage carried_;
+  const Backgrounds backgrounds_;
+  Document page_;
+  FormatNumbers<CharacterFormat> numbers_{page_.formats};
+  FormatNumbers<ParagraphFormat> paragraphNumbers_{page_.paragraphFormats};
+  CharacterFormat format_;
+  ParagraphFormat paragraph_;
+  QTextTableCell last_;
+  HtmlLists lists_;
+  bool begun_ = false;
+  std::size_t paragraphStart_ = 0;
+  std::size_t firstRun_ = 0;  // of the paragraph in hand
+};
+
+}  // namespace
+
+Document ReadHtml(const QString& html, const CharacterFormat& caret, const QImage& carried) {
+  InertDocument document;
+  document.setUndoRedoEnabled(false);
+  document.setDefaultStyleSheet(HouseStyle);
+  document.setHtml(
+      WithListStarts(WithPlainWords(html.left(html.indexOf(QLatin1String("<!--EndFragment-->"))))));
+  CharacterFormat plain;
+  plain.fontName = caret.fontName;
+  plain.halfPoints = caret.halfPoints;
+  plain.color = caret.color;
+  return Reader(document, plain, carried).Read();
+}
+
+}  // namespace richtext

@@ -1,0 +1,243 @@
+// What the control words do: one handler for each, or for each family of them. A handler's numbers are the
+// argument that its word has in the table, and the parameter.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+#include "richtext/rtf/Context.h"
+
+namespace richtext::handlers {
+
+using Context = RtfContext;
+using Number = std::int32_t;
+
+// Characters and paragraph ends.
+
+inline void Character(Context& context, Number character, Number) {
+  context.PutCharacter(static_cast<char16_t>(character));
+}
+
+inline void CellEnd(Context& context, Number, Number) {
+  context.EndCell();
+}
+
+inline void ParagraphEnd(Context& context, Number, Number) {
+  context.EndParagraph();
+}
+
+inline void Unicode(Context& context, Number, Number number) {
+  context.PutUnicode(number);
+}
+
+inline void TabDistance(Context& context, Number, Number twips) {
+  context.SetTabDistance(twips);
+}
+
+inline void FallbackLength(Context& context, Number, Number length) {
+  context.State().fallbackLength = std::max(length, 0);
+}
+
+// The document's code page.
+
+inline void CharacterSet(Context& context, Number page, Number) {
+  context.SetCharacterSetPage(page);
+}
+inline void AnsiCodePage(Context& context, Number, Number page) {
+  context.SetAnsiPage(page);
+}
+
+// The font table, and the choice of a font.
+
+inline void DefaultFont(Context& context, Number, Number number) {
+  context.Fonts().SetDefault(number);
+  context.ChangeCharacter();
+}
+
+inline void Font(Context& context, Number, Number number) {
+  if (context.State().destination == Destination::FontTable) {
+    context.Fonts().BeginEntry(number, context.Depth());
+  } else {
+    context.SetFont(number);
+  }
+}
+
+inline void FontCharset(Context& context, Number, Number charset) {
+  if (context.State().destination == Destination::FontTable) context.Fonts().SetCharset(charset);
+}
+
+inline void FontCodePage(Context& context, Number, Number page) {
+  if (context.State().destination == Destination::FontTable) context.Fonts().SetCodePage(page);
+}
+
+// The colour table, and the choice of a colour.
+
+template <void (RtfColorTable::*Set)(Number)>
+inline void Component(Context& context, Number, Number value) {
+  if (context.State().destination == Destination::ColorTable) (context.Colors().*Set)(value);
+}
+
+inline void Color(Context& context, Number, Number index) {
+  context.ChangeCharacter().color = context.Colors().Find(index);
+}
+
+// Number 0 is no colour here, whatever the table begins with.
+inline void Highlight(Context& context, Number, Number index) {
+  context.ChangeCharacter().highlight = index == 0 ? AutomaticColor : context.Colors().Find(index);
+}
+
+// White is what some programs write for none; on coloured paper it would stand out.
+inline void Background(Context& context, Number, Number index) {
+  constexpr std::int32_t White = 0xFFFFFF;
+  const std::int32_t color = index == 0 ? AutomaticColor : context.Colors().Find(index);
+  context.ChangeCharacter().background = color == White ? AutomaticColor : color;
+}
+
+// Characters' looks.
+
+inline void Plain(Context& context, Number, Number) {
+  context.ResetCharacter();
+}
+
+inline void FontSize(Context& context, Number, Number halfPoints) {
+  if (halfPoints > 0) context.ChangeCharacter().halfPoints = std::min(halfPoints, MaxHalfPoints);
+}
+
+template <bool CharacterState::*Flag>
+inline void Toggle(Context& context, Number, Number on) {
+  context.ChangeCharacter().*Flag = on != 0;
+}
+
+inline void Underline(Context& context, Number kind, Number on) {
+  context.ChangeCharacter().underline = on != 0 ? static_cast<UnderlineKind>(kind) : UnderlineKind::None;
+}
+
+// What one word turned on, another does not turn off.
+inline void Capital(Context& context, Number kind, Number on) {
+  Capitals& capitals = context.ChangeCharacter().capitals;
+  if (on != 0)
+    capitals = static_cast<Capitals>(kind);
+  else if (capitals == static_cast<Capitals>(kind))
+    capitals = Capitals::AsWritten;
+}
+
+inline void Place(Context& context, Number place, Number on) {
+  context.ChangeCharacter().place = on != 0 ? static_cast<VerticalPlace>(place) : VerticalPlace::Baseline;
+}
+
+// Half points up, or times -1 down.
+inline void Shift(Context& context, Number sign, Number halfPoints) {
+  const bool up = (halfPoints > 0) == (sign > 0);
+  const VerticalPlace shifted = up ? VerticalPlace::Superscript : VerticalPlace::Subscript;
+  context.ChangeCharacter().place = halfPoints == 0 ? VerticalPlace::Baseline : shifted;
+}
+
+// Paragraphs' looks.
+
+inline void ParagraphDefault(Context& context, Number, Number) {
+  context.ChangeParagraph() = ParagraphState();
+}
+
+inline void Align(Context& context, Number alignment, Number) {
+  context.ChangeParagraph().alignment = static_cast<Alignment>(alignment);
+}
+
+inline void Flow(Context& context, Number direction, Number) {
+  context.ChangeParagraph().direction = static_cast<Direction>(direction);
+}
+
+template <Number ParagraphState::*Measure>
+inline void Indent(Context& context, Number, Number twips) {
+  context.ChangeParagraph().*Measure = FittingIndent(twips);
+}
+
+template <Number ParagraphState::*Measure>
+inline void Space(Context& context, Number, Number twips) {
+  context.ChangeParagraph().*Measure = FittingSpace(twips);
+}
+
+inline void MultipleSpacing(Context& context, Number, Number on) {
+  context.ChangeParagraph().multipleSpacing = on != 0;
+}
+
+inline void NextTab(Context& context, Number kind, Number) {
+  context.ChangeParagraph().nextTab = static_cast<TabKind>(kind);
+}
+
+inline void Tab(Context& context, Number, Number position) {
+  ParagraphState& paragraph = context.ChangeParagraph();
+  paragraph.tabs = context.Paragraphs().AddTab(paragraph.tabs, {position, paragraph.nextTab});
+  paragraph.nextTab = TabKind::Left;
+}
+
+// Fields.
+
+inline void Field(Context& context, Number, Number) {
+  context.State().fieldLink = 0;
+}
+
+inline void FieldResult(Context& context, Number, Number) {
+  if (const std::uint32_t link = context.State().fieldLink) context.ChangeCharacter().link = link;
+}
+
+// Destinations.
+
+inline void Skip(Context& context, Number, Number) {
+  context.SkipGroup();
+}
+
+inline void Transparent(Context&, Number, Number) {}
+
+inline void SendTo(Context& context, Number destination, Number) {
+  context.SendTextTo(static_cast<Destination>(destination));
+}
+
+inline void SetAside(Context& context, Number destination, Number) {
+  context.SetAside(static_cast<Destination>(destination));
+}
+
+// Shapes: their text, and the picture that one is.
+
+inline void Shape(Context& context, Number, Number) {
+  context.BeginShape();
+}
+
+inline void ShapeProperty(Context& context, Number, Number) {
+  context.BeginShapeProperty();
+}
+
+inline void ShapeValue(Context& context, Number, Number) {
+  context.BeginShapeValue();
+}
+
+// The same shape again, for older readers.
+inline void ShapeResult(Context& context, Number, Number) {
+  context.BeginShapeResult();
+}
+
+inline void ShapeText(Context& context, Number, Number) {
+  context.BeginShapeText();
+}
+
+// \upr says the same twice: in bytes, which are passed over, and after \ud in Unicode.
+inline void UnicodeTwin(Context& context, Number, Number) {
+  if (context.State().destination == Destination::Discard) context.SendTextTo(context.State().around);
+}
+
+inline void ModernPicture(Context& context, Number, Number) {
+  context.ModernPicture() = false;
+}
+
+// The same picture again, for older readers.
+inline void OlderPicture(Context& context, Number, Number) {
+  if (std::exchange(context.ModernPicture(), false)) context.SkipGroup();
+}
+
+inline void PictureGroup(Context& context, Number, Number) {
+  if (context.Depth() <= 1) return;
+  context.SendTextTo(Destination::Picture);
+  context.PictureInHand().Begin();
+}
+
+}  // namespace richtext::handlers

@@ -1,0 +1,118 @@
+#include "richtext/rtf/ParagraphWriter.h"
+
+#include <string_view>
+
+#include "richtext/document/Limits.h"
+#include "richtext/document/ListLabel.h"
+
+namespace richtext {
+namespace {
+
+std::string_view WordOf(Alignment alignment) {
+  constexpr std::string_view Words[] = {"ql", "qr", "qc", "qj"};
+  return Words[static_cast<std::size_t>(alignment)];
+}
+
+std::string_view WordOf(TabKind kind) {
+  constexpr std::string_view Words[] = {"tql", "tqr", "tqc", "tqdec"};
+  return Words[static_cast<std::size_t>(kind)];
+}
+
+std::string_view WordOf(ListKind kind) {
+  constexpr std::string_view Words[] = {"", "", "pndec", "pnlcltr", "pnucltr", "pnlcrm", "pnucrm"};
+  return Words[static_cast<std::size_t>(kind)];
+}
+
+}  // namespace
+
+void RtfParagraphWriter::Begin(const ParagraphFormat& format) {
+  const bool changes = format_ != format;
+  if (changes) {
+    format_ = format;
+    list_ = FittingList(format.list);
+    out_.Word("pard");
+  }
+  if (list_.kind == ListKind::None)
+    items_ = {};
+  else
+    WriteLabel(list_);
+  if (changes) WriteFormat(format);
+}
+
+void RtfParagraphWriter::WriteFormat(const ParagraphFormat& format) {
+  if (list_.kind != ListKind::None) WriteList(list_);
+  if (format.direction == Direction::RightToLeft) out_.Word("rtlpar");
+  out_.Measure("fi", FittingIndent(format.firstLineIndent));
+  out_.Measure("li", FittingIndent(format.leftIndent));
+  out_.Measure("ri", FittingIndent(format.rightIndent));
+  out_.Measure("sb", FittingSpace(format.spaceBefore));
+  out_.Measure("sa", FittingSpace(format.spaceAfter));
+  WriteSpacing(format);
+  WriteTabs(format);
+  if (format.alignment != Alignment::Left) out_.Word(WordOf(format.alignment));
+}
+
+void RtfParagraphWriter::WriteSpacing(const ParagraphFormat& format) {
+  const std::int32_t spacing = FittingSpace(format.lineSpacing);
+  if (format.lineSpacingRule == LineSpacingRule::Single || spacing == 0) return;
+  out_.Word("sl", format.lineSpacingRule == LineSpacingRule::Exact ? -spacing : spacing);
+  out_.Word("slmult", format.lineSpacingRule == LineSpacingRule::Multiple ? 1 : 0);
+}
+
+void RtfParagraphWriter::WriteTabs(const ParagraphFormat& format) {
+  for (const TabStop& tab : format.tabs) {
+    if (tab.kind != TabKind::Left) out_.Word(WordOf(tab.kind));
+    out_.Word("tx", FittingIndent(tab.position));
+  }
+}
+
+// What the classic edit controls write: bullets are a symbol font's, whatever sign they are.
+void RtfParagraphWriter::WriteList(const ListFormat& list) {
+  const bool bullet = list.kind == ListKind::Bullet;
+  out_.BeginIgnorableGroup("pn");
+  out_.Word(bullet ? "pnlvlblt" : "pnlvlbody");
+  if (bullet && list.before[0] == Bullet) out_.Word("pnf", symbolFont_);
+  out_.Word("pnindent", 0);
+  if (!bullet) {
+    out_.Word("pnstart", list.start);
+    out_.Word(WordOf(list.kind));
+  }
+  if (!list.before.empty()) {
+    out_.BeginGroup("pntxtb");
+    if (!WriteSymbol(list)) out_.Text(list.before);
+    out_.Raw("}");
+  }
+  if (!list.after.empty()) {
+    out_.BeginGroup("pntxta");
+    out_.Text(list.after);
+    out_.Raw("}");
+  }
+  out_.Raw("}");
+  out_.Measure("ilvl", list.level);
+}
+
+void RtfParagraphWriter::WriteLabel(const ListFormat& list) {
+  const std::int32_t number = NextNumber(list);
+  out_.BeginGroup("pntext");
+  if (list.kind == ListKind::Bullet && list.before[0] == Bullet) out_.Word("f", symbolFont_);
+  if (!WriteSymbol(list)) out_.Text(LabelText(list, number));
+  out_.Word("tab");
+  out_.Raw("}");
+}
+
+bool RtfParagraphWriter::WriteSymbol(const ListFormat& list) {
+  const bool symbol = list.kind == ListKind::Bullet && list.before[0] == Bullet;
+  if (symbol) out_.Raw("\\'b7");
+  return symbol;
+}
+
+// Items of deeper levels do not end a list, all else does.
+std::int32_t RtfParagraphWriter::NextNumber(const ListFormat& list) {
+  const auto level = static_cast<std::size_t>(list.level);
+  for (std::size_t deeper = level + 1; deeper < items_.size(); ++deeper) items_[deeper] = {};
+  Items& items = items_[level];
+  if (items.list != list) items = {list, list.start};
+  return items.next++;
+}
+
+}  // namespace richtext

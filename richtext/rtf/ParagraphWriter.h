@@ -1,0 +1,42 @@
+// Writes paragraph formats, and the labels of lists for readers that know no lists.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "richtext/document/Document.h"
+#include "richtext/rtf/Output.h"
+
+namespace richtext {
+
+class RtfParagraphWriter {
+ public:
+  // `symbolFont` is the \f number of a symbol font, for bullets.
+  RtfParagraphWriter(RtfOutput& out, std::int32_t symbolFont) : out_(out), symbolFont_(symbolFont) {}
+
+  // The next paragraph is of this format.
+  void Begin(const ParagraphFormat& format);
+
+ private:
+  struct Items {
+    ListFormat list;
+    std::int32_t next = 0;
+  };
+
+  void WriteFormat(const ParagraphFormat& format);
+  void WriteSpacing(const ParagraphFormat& format);
+  void WriteTabs(const ParagraphFormat& format);
+  void WriteList(const ListFormat& list);
+  void WriteLabel(const ListFormat& list);
+  bool WriteSymbol(const ListFormat& list);
+  std::int32_t NextNumber(const ListFormat& list);
+
+  RtfOutput& out_;
+  std::int32_t symbolFont_;
+  std::optional<ParagraphFormat> format_;  // in force
+  ListFormat list_;                        // likewise, as written
+  std::array<Items, 9> items_;             // by level
+};
+
+}  // namespace richtext

@@ -1,0 +1,179 @@
+#include <algorithm>
+#include <climits>
+#include <iterator>
+#include <string_view>
+
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
+#include <QtGui/QTextOption>
+
+#include "richtext/characters/Unicode.h"
+#include "richtext/document/Twips.h"
+#include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/HiddenText.h"
+#include "richtext/textdocument/PageHeight.h"
+#include "richtext/textdocument/Paragraphs.h"
+#include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/TextDocument.h"
+
+namespace richtext {
+namespace {
+
+// The toolkit takes some characters for the borders of its paragraphs and frames; these may not slip in.
+char16_t WithinParagraph(char16_t unit) {
+  switch (unit) {
+    case u'\n':
+    case u'\r':
+    case ParagraphSeparator:
+      return LineBreak;
+    case 0xFDD0:
+    case 0xFDD1:
+      return Replacement;
+    default:
+      return unit;
+  }
+}
+
+// Writes a page at a cursor. The toolkit's formats are made once for each format of the page.
+class Filler {
+ public:
+  Filler(const Document& source, QTextCursor& cursor) : source_(source), cursor_(cursor), text_(source.text) {
+    std::transform(text_.begin(), text_.end(), text_.begin(), WithinParagraph);
+    std::transform(source.formats.begin(), source.formats.end(), std::back_inserter(formats_), ToTextFormat);
+    std::transform(source.formats.begin(), source.formats.end(), std::back_inserter(marks_), ToMarkFormat);
+    std::transform(source.paragraphFormats.begin(), source.paragraphFormats.end(),
+                   std::back_inserter(blockFormats_), ToBlockFormat);
+  }
+
+  // The rest of a paragraph that is parted stays as it was.
+  void Fill() {
+    const QTextBlockFormat format = cursor_.blockFormat();
+    const QTextCharFormat mark = cursor_.blockCharFormat();
+    const bool parts = source_.paragraphs.size() > 1 && !cursor_.atBlockEnd();
+    FillIn();
+    if (!parts) return;
+    cursor_.setBlockFormat(format);
+    cursor_.setBlockCharFormat(mark);
+  }
+
+ private:
+  void FillIn() {
+    for (const Paragraph& paragraph : source_.paragraphs) {
+      Begin(paragraph);
+      for (std::uint32_t left = paragraph.length; left > 0; ++run_) {
+        Insert(source_.runs[run_]);
+        left -= std::min(left, source_.runs[run_].length);
+      }
+    }
+  }
+
+  void Begin(const Paragraph& paragraph) {
+    const QTextBlockFormat& format = blockFormats_[paragraph.format];
+    const QTextCharFormat& mark = marks_[paragraph.markFormat];
+    if (&paragraph != source_.paragraphs.data()) return cursor_.insertBlock(format, mark);
+    const bool joins = !cursor_.atBlockStart() || (!cursor_.atBlockEnd() && source_.paragraphs.size() == 1);
+    if (joins || KeepsFormat(cursor_.block())) return;
+    cursor_.setBlockFormat(format);
+    cursor_.setBlockCharFormat(mark);
+  }
+
+  // A few words that come into an empty list item do not end the list.
+  bool KeepsFormat(const QTextBlock& block) const {
+    return source_.paragraphs.size() == 1 && FromBlockFormat(block.blockFormat()) != ParagraphFormat();
+  }
+
+  void Insert(const Run& run) {
+    std::u16string_view rest = std::u16string_view(text_).substr(at_, run.length);
+    const QTextCharFormat& format = formats_[run.format];
+    hidden_ = source_.formats[run.format].hidden;
+    at_ += run.length;
+    while (!rest.empty()) {
+      const std::size_t plain = std::min(rest.find(PictureMark), rest.size());
+      InsertText(rest.substr(0, plain), format);
+      if (plain < rest.size()) InsertPicture(format);
+      rest.remove_prefix(std::min(plain + 1, rest.size()));
+    }
+  }
+
+  void InsertText(std::u16string_view text, const QTextCharFormat& format) {
+    if (text.empty()) return;
+    const auto* units = reinterpret_cast<const QChar*>(text.data());
+    const QString shown = QString::fromRawData(units, static_cast<qsizetype>(text.size()));
+    if (!hidden_) return cursor_.insertText(shown, format);
+    cursor_.insertText(QChar(HiddenSign),
+                       HiddenFormat(format, QString::fromUtf16(text.data(), shown.size())));
+  }
+
+  void InsertPicture(const QTextCharFormat& format) {
+    if (picture_ == source_.pictures.size()) return InsertText({&Replacement, 1}, format);
+    const Picture& picture = source_.pictures[picture_++];
+    InsertText({&PictureMark, 1}, KeepPicture(picture, format, *cursor_.document()));
+  }
+
+  const Document& source_;
+  QTextCursor& cursor_;
+  std::u16string text_;
+  std::vector<QTextCharFormat> formats_;
+  std::vector<QTextCharFormat> marks_;
+  std::vector<QTextBlockFormat> blockFormats_;
+  bool hidden_ = false;  // the run in hand
+  std::size_t run_ = 0;
+  std::size_t at_ = 0;
+  std::size_t picture_ = 0;
+};
+
+// What has been hidden comes to light when the page is filled in again.
+void HideFrom(const QTextDocument& document, std::size_t count) {
+  const auto first = static_cast<int>(std::min<std::size_t>(count, INT_MAX));
+  for (QTextBlock block = document.findBlockByNumber(first); block.isValid(); block = block.next())
+    block.setVisible(false);
+}
+
+void SetTabDistance(std::int32_t twips, QTextDocument& target) {
+  QTextOption option = target.defaultTextOption();
+  option.setTabStopDistance(twips / TwipsPerPixel);
+  target.setDefaultTextOption(option);
+  target.setProperty(TabDistanceProperty, twips);
+}
+
+}  // namespace
+
+void FillDocument(const Document& source, QTextDocument& target) {
+  target.setUndoRedoEnabled(false);
+  target.clear();
+  SetTabDistance(source.tabDistance, target);
+  QTextCursor cursor(&target);
+  cursor.beginEditBlock();
+  Filler(source, cursor).Fill();
+  HideFrom(target, ParagraphsToShow(source));
+  cursor.endEditBlock();
+  target.setUndoRedoEnabled(true);
+}
+
+void FillPlain(const QString& text, const QTextCharFormat& format, QTextDocument& target) {
+  target.setUndoRedoEnabled(false);
+  target.clear();
+  QTextCursor cursor(&target);
+  cursor.beginEditBlock();
+  cursor.setBlockFormat(QTextBlockFormat());
+  cursor.setBlockCharFormat(format);
+  cursor.insertText(text, format);
+  HideWhatIsTooFar(target);
+  cursor.endEditBlock();
+  target.setUndoRedoEnabled(true);
+}
+
+void InsertDocument(const Document& source, QTextCursor& cursor) {
+  cursor.beginEditBlock();
+  cursor.removeSelectedText();
+  Filler(source, cursor).Fill();
+  HideWhatIsTooFar(*cursor.document());
+  cursor.endEditBlock();
+}
+
+void HideWhatIsTooFar(const QTextDocument& document) {
+  HideFrom(document, ParagraphsToShow(TakeDocument(document)));
+}
+
+}  // namespace richtext

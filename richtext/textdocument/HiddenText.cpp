@@ -1,0 +1,79 @@
+#include "richtext/textdocument/HiddenText.h"
+
+#include <algorithm>
+
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
+
+#include "richtext/textdocument/Formats.h"
+
+namespace richtext {
+namespace {
+
+void AddPlaces(const QTextFragment& fragment, std::vector<int>& places) {
+  if (HiddenTextOf(fragment.charFormat()).isEmpty()) return;
+  const QString text = fragment.text();
+  for (qsizetype at = text.indexOf(HiddenSign); at >= 0; at = text.indexOf(HiddenSign, at + 1))
+    places.push_back(fragment.position() + static_cast<int>(at));
+}
+
+// Where the signs are; hardly a page has any.
+std::vector<int> Places(const QTextDocument& document) {
+  std::vector<int> places;
+  if (!document.toRawText().contains(QChar(HiddenSign))) return places;
+  for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+    for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) AddPlaces(fragment.fragment(), places);
+  return places;
+}
+
+bool IsSign(QTextCursor cursor, int position) {
+  if (cursor.document()->characterAt(position) != QChar(HiddenSign)) return false;
+  cursor.setPosition(position + 1);
+  return !HiddenTextOf(cursor.charFormat()).isEmpty();
+}
+
+}  // namespace
+
+QTextCharFormat HiddenFormat(QTextCharFormat format, const QString& text) {
+  format.clearProperty(QTextFormat::ObjectType);
+  format.setProperty(HiddenText, text);
+  return format;
+}
+
+QString HiddenTextOf(const QTextCharFormat& format) {
+  return format.stringProperty(HiddenText);
+}
+
+QString ShownText(const QTextDocument& document) {
+  QString text = document.toRawText();
+  const std::vector<int> places = Places(document);
+  for (auto place = places.rbegin(); place != places.rend(); ++place) text.remove(*place, 1);
+  return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+}
+
+int ToShown(const QTextDocument& document, int position) {
+  const std::vector<int> places = Places(document);
+  return position -
+         static_cast<int>(std::lower_bound(places.begin(), places.end(), position) - places.begin());
+}
+
+int FromShown(const QTextDocument& document, int position) {
+  for (const int place : Places(document))
+    if (place <= position) ++position;
+  return position;
+}
+
+void PassBack(QTextCursor& cursor) {
+  while (!cursor.atBlockStart() && IsSign(cursor, cursor.position() - 1))
+    cursor.setPosition(cursor.position() - 1);
+}
+
+void SelectNextLetter(QTextCursor& cursor) {
+  while (!cursor.atBlockEnd() && IsSign(cursor, cursor.position())) cursor.setPosition(cursor.position() + 1);
+  cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+  while (cursor.position() > cursor.anchor() && IsSign(cursor, cursor.position() - 1))
+    cursor.setPosition(cursor.position() - 1, QTextCursor::KeepAnchor);
+}
+
+}  // namespace richtext

@@ -1,0 +1,92 @@
+#include "richtext/textdocument/Labels.h"
+
+#include <algorithm>
+
+#include <QtGui/QAbstractTextDocumentLayout>
+#include <QtGui/QPainter>
+#include <QtGui/QTextDocument>
+#include <QtGui/QTextLayout>
+
+#include "richtext/document/ListLabel.h"
+#include "richtext/document/Twips.h"
+#include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/Paragraphs.h"
+
+namespace richtext {
+namespace {
+
+constexpr double PaperEdge = 1;  // pixels that a label keeps off it
+
+QTextCharFormat LetterFormat(const QTextBlock& block) {
+  const auto first = block.begin();
+  return first.atEnd() ? block.charFormat() : first.fragment().charFormat();
+}
+
+QFont PlainFont(QFont font) {
+  font.setUnderline(false);
+  font.setStrikeOut(false);
+  font.setCapitalization(QFont::MixedCase);
+  return font;
+}
+
+double LeftOf(const QTextBlock& block, const QPointF& place, double width, double gap) {
+  const QRectF text = block.layout()->lineAt(0).naturalTextRect().translated(place);
+  if (block.textDirection() == Qt::RightToLeft) return text.right() + gap;
+  const double hanging = -block.blockFormat().intProperty(FirstIndentOfDocument) / TwipsPerPixel;
+  return std::max(text.left() - std::max(hanging, width + gap), PaperEdge);
+}
+
+}  // namespace
+
+LabelCounter::LabelCounter(const QTextBlock& block) {
+  QTextBlock first = block;
+  while (first.previous().isValid() && IsListItem(first.previous().blockFormat())) first = first.previous();
+  for (; first != block; first = first.next()) Count(first);
+}
+
+QString LabelCounter::Count(const QTextBlock& block) {
+  const ListFormat list = ListOf(block.blockFormat());
+  const int level = list.kind == ListKind::None ? 0 : std::clamp(list.level, 0, Levels - 1);
+  const auto counting = lists_.begin() + level;
+  std::fill(counting + 1, lists_.end(), List());
+  List& counted = *counting;
+  counted.next = counted.format == list ? counted.next : list.start;
+  counted.format = list;
+  const std::u16string label = LabelText(list, counted.next++);
+  return list.kind == ListKind::None ? QString() : QString::fromStdU16String(label);
+}
+
+QString LabelOf(const QTextBlock& block) {
+  return LabelCounter(block).Count(block);
+}
+
+// By a layout and not by the painter, which takes points for those of its device.
+void DrawLabel(QPainter& painter, const QTextBlock& block, const QPointF& place, const QString& label) {
+  const QTextCharFormat format = LetterFormat(block);
+  const QFont font = PlainFont(format.font());
+  QTextLayout drawn(label, font);
+  drawn.beginLayout();
+  const QTextLine line = drawn.createLine();
+  drawn.endLayout();
+  const QTextLine beside = block.layout()->lineAt(0);
+  const double gap = QFontMetricsF(font).horizontalAdvance(u' ');
+  painter.setPen(ToColor(ColorOf(format)));
+  drawn.draw(&painter, QPointF(LeftOf(block, place, line.naturalTextWidth(), gap),
+                               place.y() + beside.y() + beside.ascent() - line.ascent()));
+}
+
+bool DrawLabels(QPainter& painter, const QTextDocument& document, const QRectF& shown) {
+  const QAbstractTextDocumentLayout& layout = *document.documentLayout();
+  QTextBlock block = document.findBlock(std::max(0, layout.hitTest(shown.topLeft(), Qt::FuzzyHit)));
+  LabelCounter counter(block);
+  bool drawn = false;
+  for (; block.isValid() && layout.blockBoundingRect(block).top() < shown.bottom(); block = block.next()) {
+    const QString label = counter.Count(block);
+    if (label.isEmpty() || block.layout()->lineCount() == 0) continue;
+    DrawLabel(painter, block, block.layout()->position(), label);
+    drawn = true;
+  }
+  return drawn;
+}
+
+}  // namespace richtext

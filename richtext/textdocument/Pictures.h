@@ -1,0 +1,33 @@
+// The pictures of a page as the text box holds them. The document keeps each picture's own bytes beside the
+// text, under a name made of them; what is drawn is decoded from them when it is first needed. So a picture
+// is written back as it came, whether it can be drawn or not, and an emoticon used fifty times is kept and
+// decoded once.
+#pragma once
+
+#include <QtCore/QVariant>
+#include <QtGui/QImage>
+#include <QtGui/QTextCharFormat>
+
+#include "richtext/document/Document.h"
+
+class QTextDocument;
+class QUrl;
+
+namespace richtext {
+
+// The image as a picture of its own size, in the smallest file that shows it unchanged.
+Picture FromImage(const QImage& image);
+
+// Keeps the picture in the document; returns the format that shows it, with the attributes of `text`.
+QTextImageFormat KeepPicture(const Picture& picture, const QTextCharFormat& text, QTextDocument& document);
+// The picture that such a format shows.
+Picture KeptPicture(const QTextImageFormat& format, const QTextDocument& document);
+// The pixels of a file of any kind; a null image where there are none or more than a page shows.
+QImage DecodedFile(QByteArray file);
+// The part of the picture that is shown, as pixels; a null image where it cannot be decoded.
+QImage DecodedPicture(const Picture& picture);
+// What is drawn for a resource of the document; a grey field for a picture that cannot be decoded and for
+// every name that is not one of KeepPicture's. Nothing is ever fetched for a name.
+QVariant DrawnPicture(const QTextDocument& document, const QUrl& name);
+
+}  // namespace richtext

@@ -1,0 +1,76 @@
+#include "richtext/textdocument/SmallPng.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QHash>
+#include <QtGui/QImageWriter>
+
+namespace richtext {
+namespace {
+
+constexpr int PaletteSize = 256;
+
+const QRgb* Line(const QImage& image, int y) {
+  return reinterpret_cast<const QRgb*>(image.constScanLine(y));
+}
+
+bool IsOpaque(const QImage& image) {
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (qAlpha(Line(image, y)[x]) != 255) return false;
+  return true;
+}
+
+// The colours with their numbers; empty when there are too many for a palette.
+QHash<QRgb, int> Colors(const QImage& image) {
+  QHash<QRgb, int> numbers;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) {
+      const QRgb color = Line(image, y)[x];
+      if (!numbers.contains(color)) numbers.insert(color, static_cast<int>(numbers.size()));
+      if (numbers.size() > PaletteSize) return {};
+    }
+  return numbers;
+}
+
+QImage WithPalette(const QImage& image, const QHash<QRgb, int>& numbers) {
+  QImage made(image.size(), numbers.size() <= 2 ? QImage::Format_Mono : QImage::Format_Indexed8);
+  QList<QRgb> table(numbers.size());
+  for (auto entry = numbers.begin(); entry != numbers.end(); ++entry) table[entry.value()] = entry.key();
+  made.setColorTable(table);
+  made.fill(0);  // the bits behind the last pixel of a line go into the file as well
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      made.setPixel(x, y, static_cast<uint>(numbers.value(Line(image, y)[x])));
+  return made;
+}
+
+std::string Encoded(const QImage& image) {
+  QByteArray file;
+  QBuffer buffer(&file);
+  QImageWriter writer(&buffer, "png");
+  writer.setCompression(100);
+  writer.write(image);
+  return file.toStdString();
+}
+
+// The same pixels without the image's texts and colour profile.
+QImage Bare(const QImage& image, QImage::Format format) {
+  const QImage pixels = image.convertToFormat(format);
+  return QImage(pixels.constBits(), pixels.width(), pixels.height(), pixels.bytesPerLine(), format).copy();
+}
+
+}  // namespace
+
+std::string SmallestPng(const QImage& image) {
+  if (image.isNull()) return {};
+  QImage full = Bare(image, QImage::Format_ARGB32);
+  if (IsOpaque(full)) full = Bare(full, QImage::Format_RGB32);
+  std::string smallest = Encoded(full);
+  if (const QHash<QRgb, int> colors = Colors(full); !colors.isEmpty()) {
+    const std::string mapped = Encoded(WithPalette(full, colors));
+    if (mapped.size() < smallest.size()) smallest = mapped;
+  }
+  return smallest;
+}
+
+}  // namespace richtext

@@ -1,0 +1,32 @@
+// A page between its value and the text box's document, run by run and without a detour over another markup.
+#pragma once
+
+#include "richtext/document/Document.h"
+
+class QString;
+class QTextCharFormat;
+class QTextCursor;
+class QTextDocument;
+
+namespace richtext {
+
+// Replaces the content of `target`, with no undo history before or after it.
+void FillDocument(const Document& source, QTextDocument& target);
+// Replaces it by plain text in one format; a line end makes a paragraph.
+void FillPlain(const QString& text, const QTextCharFormat& format, QTextDocument& target);
+// Puts the content in the place of the cursor's selection, as one step of undo. Its first paragraph joins the
+// one at the cursor, whose text keeps its own format before and behind what comes in; an empty one takes on
+// the format, but a single paragraph leaves a format that the empty one has. The cursor stands behind what
+// came in.
+void InsertDocument(const Document& source, QTextCursor& cursor);
+
+// A document of more than PageHeight.h's measure is kept whole, and its first paragraphs are shown. Filling
+// and inserting see to it; who makes letters larger calls this before the document is laid out.
+void HideWhatIsTooFar(const QTextDocument& document);
+
+// The whole content.
+Document TakeDocument(const QTextDocument& source);
+// The selected content; one empty paragraph where nothing is selected.
+Document TakeSelection(const QTextCursor& selection);
+
+}  // namespace richtext
