@@ -16,6 +16,7 @@
 #include "look/frmWait.h"
 #include "pictures/PictureSlots.h"
 #include "platform/Failure.h"
+#include "platform/dialogs/ReportFailure.h"
 #include "platform/files/SyncFolder.h"
 #include "state/State.h"
 #include "store/JournalFile.h"

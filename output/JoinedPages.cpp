@@ -4,7 +4,7 @@
 #include "look/Pass.h"
 #include "output/frmPrintRTF.h"
 #include "platform/Dates.h"
-#include "platform/Failure.h"
+#include "platform/dialogs/ReportFailure.h"
 #include "state/State.h"
 
 namespace {

@@ -15,6 +15,7 @@
 #include "platform/CodePage.h"
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/dialogs/ReportFailure.h"
 #include "state/State.h"
 
 namespace {

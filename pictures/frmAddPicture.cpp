@@ -15,6 +15,7 @@
 #include "platform/desktop/Keystroke.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/dialogs/OpenFileDialog.h"
+#include "platform/dialogs/ReportFailure.h"
 #include "platform/files/FileList.h"
 #include "platform/files/Files.h"
 #include "state/State.h"

@@ -4,6 +4,7 @@
 
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/dialogs/TellKept.h"
 #include "platform/files/Files.h"
 #include "platform/files/KnownFiles.h"
 #include "platform/files/SyncFolder.h"

@@ -1,7 +1,5 @@
 #include "platform/Failure.h"
 
-#include "platform/dialogs/MessageBox.h"
-
 namespace platform {
 namespace {
 
@@ -45,9 +43,5 @@ std::string Sentence(FailureKind kind, const std::string& subject) {
 
 Failure::Failure(FailureKind kind, const std::string& subject)
     : std::runtime_error(Sentence(kind, subject)), kind_(kind) {}
-
-void ReportFailure(std::string_view prefix, const std::exception& failure) {
-  ShowMessage(std::string(prefix) + failure.what());
-}
 
 }  // namespace platform

@@ -1,10 +1,8 @@
 // A run-time failure: something that a routine could not do and that its caller may or may not guard.
 #pragma once
 
-#include <exception>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 
 namespace platform {
 
@@ -35,19 +33,5 @@ class Failure : public std::runtime_error {
  private:
   FailureKind kind_;
 };
-
-// Shows a box (no icon, OK) with the prefix directly followed by the failure's text.
-void ReportFailure(std::string_view prefix, const std::exception& failure);
-
-// Runs one statement of a guarded routine. A failure in it is reported with the prefix, and the routine goes
-// on with its next statement.
-template <class Statement>
-void Guarded(std::string_view prefix, Statement&& statement) {
-  try {
-    statement();
-  } catch (const std::exception& failure) {
-    ReportFailure(prefix, failure);
-  }
-}
 
 }  // namespace platform

@@ -8,6 +8,7 @@
 
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/dialogs/TellKept.h"
 #include "platform/files/Files.h"
 #include "platform/files/KnownFiles.h"
 #include "store/Bytes.h"

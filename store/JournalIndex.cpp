@@ -6,6 +6,7 @@
 #include "platform/Failure.h"
 #include "platform/Process.h"
 #include "platform/dialogs/MessageBox.h"
+#include "platform/dialogs/TellKept.h"
 #include "platform/files/Files.h"
 #include "platform/files/KnownFiles.h"
 #include "platform/files/SyncFolder.h"

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "platform/Failure.h"
+#include "platform/dialogs/ReportFailure.h"
 
 namespace {
 

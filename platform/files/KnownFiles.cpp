@@ -4,7 +4,6 @@
 #include <map>
 #include <utility>
 
-#include "platform/dialogs/MessageBox.h"
 #include "platform/files/Files.h"
 #include "platform/files/LeftBehind.h"
 #include "platform/files/Remembered.h"
@@ -45,10 +44,6 @@ bool IsTheSame(const KnownFile& one, const KnownFile& other) {
   return one.identity == other.identity || (one.checksum && one.checksum == other.checksum);
 }
 
-std::string NameIn(const std::string& path) {
-  return path.substr(path.rfind('/') + 1);
-}
-
 }  // namespace
 
 void Remember(const std::string& path, const struct stat& entry, std::optional<std::uint64_t> checksum) {
@@ -75,16 +70,9 @@ bool KeepChanged(const std::string& path) {
   return isChanged;
 }
 
-void TellKept(const std::string& path, std::string (*describe)(const std::string& kept)) {
+std::string TakeKept(const std::string& path) {
   const auto copy = Untold().extract(path);
-  if (copy.empty()) return;
-  const std::string name = NameIn(path), description = describe ? describe(copy.mapped()) : std::string();
-  ShowMessage(
-      "The file " + name +
-      " was changed by another program while the diary was open, perhaps by one that keeps the folder "
-      "the same on two machines. The changed file is kept beside it as " +
-      NameIn(copy.mapped()) + (description.empty() ? "." : ". " + description) +
-      "\n\nNothing is lost: " + name + " now holds what is in the open diary.");
+  return copy.empty() ? std::string() : copy.mapped();
 }
 
 }  // namespace platform

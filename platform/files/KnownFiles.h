@@ -16,10 +16,8 @@ namespace platform {
 // kept, with all files as they were.
 bool KeepChanged(const std::string& path);
 
-// Tells in a message, once, of the copy that KeepChanged made of the file, if it made one; to be called when
-// the file has been written. `describe` is given the copy's path and returns a sentence on what is in it, and
-// how a person can look into it, or nothing.
-void TellKept(const std::string& path, std::string (*describe)(const std::string& kept) = nullptr);
+// The path of the copy that KeepChanged made of the file, once; empty where none is left to be told of.
+std::string TakeKept(const std::string& path);
 
 // Makes the file known as it lies there, unread.
 void AcceptUnread(const std::string& path);

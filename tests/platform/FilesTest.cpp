@@ -5,6 +5,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include "platform/dialogs/TellKept.h"
 #include "platform/files/Checksum.h"
 #include "platform/files/KnownFiles.h"
 #include "platform/files/SyncFolder.h"
