@@ -5,11 +5,12 @@
 #include <string>
 #include <string_view>
 
-#include "app/frmOptions.h"
 #include "bookcase/frmBookcase.h"
 #include "editor/frmJournal.h"
 #include "look/Theme.h"
 #include "platform/Failure.h"
+#include "platform/dialogs/ReportFailure.h"
+#include "platform/dialogs/TellKept.h"
 #include "platform/files/Files.h"
 #include "platform/files/KnownFiles.h"
 #include "platform/files/ProfileFile.h"
@@ -91,7 +92,6 @@ void SaveSettings() {
 
 void ApplyColorTheme(std::int16_t index) {
   look::PutOnTheme(index);
-  if (look::IsLoaded<frmOptions>()) look::The<frmOptions>().WearTheme();
   if (look::IsLoaded<frmBookcase>()) look::The<frmBookcase>().WearTheme();
   if (look::IsLoaded<frmJournal>()) look::The<frmJournal>().face->WearTheme();
 }

@@ -83,6 +83,7 @@ void frmOptions::chkGotoLastPage_Click() {
 void frmOptions::optColor_Click(std::size_t index) {
   ::optColor = static_cast<std::int32_t>(index);
   ApplyColorTheme(static_cast<std::int16_t>(index));
+  WearTheme();
 }
 
 void frmOptions::cmdResetPass_Click() {

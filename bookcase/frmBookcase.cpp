@@ -258,7 +258,9 @@ void frmBookcase::cmdAbout_Click() {
 }
 
 void frmBookcase::ShowProperties() {
-  look::The<frmJournalProp>().ShowModal();
+  auto& dialog = look::The<frmJournalProp>();
+  connect(&dialog, &frmJournalProp::Saved, this, &frmBookcase::ListJournals, Qt::UniqueConnection);
+  dialog.ShowModal();
 }
 
 void frmBookcase::cmdProp_Click() {

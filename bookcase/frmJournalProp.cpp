@@ -6,7 +6,6 @@
 #include <QtGui/QPainter>
 
 #include "bookcase/JournalIcons.h"
-#include "bookcase/frmBookcase.h"
 #include "editor/PageTurning.h"
 #include "editor/frmJournal.h"
 #include "look/Theme.h"
@@ -200,7 +199,7 @@ void frmJournalProp::cmdDefaultFont_Click() {
 void frmJournalProp::cmdOK_Click() {
   WriteToRow();
   DressJournalWindow();
-  RefreshBookcaseList();
+  Q_EMIT Saved();
   look::Discard(this);
 }
 

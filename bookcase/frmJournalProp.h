@@ -48,6 +48,10 @@ class frmJournalProp : public look::Form {
   look::PictureButton* cmdCancel;
   look::PictureButton* cmdHelp;
 
+ Q_SIGNALS:
+  // The row of the journal holds what was chosen.
+  void Saved();
+
  private:
   void LayOutFile();
   void LayOutLook();

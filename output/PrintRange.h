@@ -5,7 +5,7 @@
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSpinBox>
 
-#include "output/PrintDialog.h"
+#include "output/PrintOrder.h"
 
 class PrintRange : public QGroupBox {
   Q_OBJECT

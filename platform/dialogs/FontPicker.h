@@ -8,7 +8,7 @@
 #include <QtWidgets/QPushButton>
 
 #include "platform/dialogs/ChoiceList.h"
-#include "platform/dialogs/FontDialog.h"
+#include "platform/dialogs/FontQuestion.h"
 
 namespace platform {
 

@@ -4,6 +4,7 @@
 #include <QtGui/QPaintDevice>
 #include <QtGui/QPaintEngine>
 
+#include "output/PrintDialog.h"
 #include "output/PrintRange.h"
 #include "output/frmPrintRTF.h"
 #include "output/modPrint.h"

@@ -3,6 +3,7 @@
 #include <QtTest/QTest>
 
 #include "platform/dialogs/ColorDialog.h"
+#include "platform/dialogs/FontDialog.h"
 #include "platform/dialogs/FontPicker.h"
 #include "tests/support/Fixtures.h"
 
