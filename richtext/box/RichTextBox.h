@@ -1,4 +1,11 @@
 // The text box of a page: a rich text edit whose content goes in and out as RTF.
+//
+// The room has what a person does to a page. RTF comes in and goes out through rtf/ and textdocument/;
+// between them a page is the toolkit's text document, and each key, paste, choice of a look and word of an
+// input method is looked at here before the toolkit carries it out (RichTextBox.cpp,
+// RichTextBoxSelection.cpp, RichTextBoxComposing.cpp). Pasting.h knows what other programs offer, Printing.h
+// lays a selection out on paper. The hard part is the caret: the look of what is typed next is the toolkit's
+// guess from the letter before it, which is often not what the person chose last.
 #pragma once
 
 #include <cstdint>
@@ -75,7 +82,7 @@ class RichTextBox : public QTextEdit {
   // Puts the clipboard's text at the caret, in the place of the selection and in the caret's format.
   void PasteWithoutFormatting();
 
-  // Prints the selection, as BoxPrinting.h tells.
+  // Prints the selection, as Printing.h tells.
   bool PrintSelection(Paper& paper) const;
 
   // Gives the page's own pictures. Nothing is ever read from a file or a network, whatever a name says.

@@ -1,4 +1,10 @@
 // The code pages in which RTF writes the bytes of its text.
+//
+// The room turns bytes and numbers of older conventions into UTF-16 and back: code pages, the C library's
+// conversion behind those of double bytes (PageConversion.h), fonts whose bytes are signs (SymbolFonts.h),
+// and what Unicode itself needs to be told by (Unicode.h). What has no character comes out as one that says
+// so, never as nothing. The hard part is the pages of pairs, where the meaning of a byte hangs on the one
+// before it, which the reader of RTF may have met in another group.
 #pragma once
 
 #include <array>

@@ -1,7 +1,10 @@
 // A page as a value: what the RTF reader makes, what the writer writes, what the text box shows.
 //
-// The text of all paragraphs lies in one UTF-16 buffer; runs and paragraphs are lengths over it, and formats
-// are interned, so that a page of a megabyte costs a few allocations.
+// The room holds this value and the rules that every maker of one keeps: what a page may hold (Limits.h), how
+// its lists count and what their labels say (ListLabel.h), its plain text (PlainText.h). No bytes of any
+// format come in here, and nothing goes out but values. The text of all paragraphs lies in one UTF-16 buffer;
+// runs and paragraphs are lengths over it, and formats are interned, so that a page of a megabyte costs a few
+// allocations. That is the hard part: the lengths must add up, and whoever changes one changes its kin.
 #pragma once
 
 #include <cstdint>

@@ -6,7 +6,7 @@
 
 #include <QtCore/QString>
 
-namespace richtext {
+namespace richtext::html {
 namespace {
 
 // A number of "rgb(255 0 0 / 50%)".
@@ -105,4 +105,4 @@ std::optional<QColor> FirstCssColor(QStringView value) {
   return std::nullopt;
 }
 
-}  // namespace richtext
+}  // namespace richtext::html

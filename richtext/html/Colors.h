@@ -6,10 +6,10 @@
 #include <QtCore/QStringView>
 #include <QtGui/QColor>
 
-namespace richtext {
+namespace richtext::html {
 
 // The first colour among the words of a declaration's value, opaque, as it looks on white paper. Nothing
 // where there is none or where it is clear: what a keyword such as "inherit" leads to is not looked for.
 std::optional<QColor> FirstCssColor(QStringView value);
 
-}  // namespace richtext
+}  // namespace richtext::html

@@ -12,7 +12,7 @@
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/Paragraphs.h"
 
-namespace richtext {
+namespace richtext::html {
 namespace {
 
 constexpr double HalfPointsPerPixel = 1.5;  // 96 pixels to the inch
@@ -121,4 +121,4 @@ bool IsMarkersColor(const QColor& color) {
   return color.hsvSaturation() >= 64 && color.value() >= 160;
 }
 
-}  // namespace richtext
+}  // namespace richtext::html

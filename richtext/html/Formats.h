@@ -5,7 +5,7 @@
 
 #include "richtext/document/Document.h"
 
-namespace richtext {
+namespace richtext::html {
 
 // Without background. What the markup leaves open is `caret`'s.
 CharacterFormat FromHtmlFormat(const QTextCharFormat& format, const CharacterFormat& caret);
@@ -18,4 +18,4 @@ bool IsLikePaper(const QColor& color);
 // Whether a background is one that people mark words with.
 bool IsMarkersColor(const QColor& color);
 
-}  // namespace richtext
+}  // namespace richtext::html

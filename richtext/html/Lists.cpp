@@ -5,7 +5,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtGui/QTextList>
 
-namespace richtext {
+namespace richtext::html {
 
 // The toolkit passes over `start`, but keeps a text that stands before the numbers.
 QString WithListStarts(QString html) {
@@ -15,7 +15,7 @@ QString WithListStarts(QString html) {
   return html.replace(start, QStringLiteral("<ol style=\"-qt-list-number-prefix:'\\1'\""));
 }
 
-std::int32_t HtmlLists::NextOf(const QTextList& list) {
+std::int32_t Lists::NextOf(const QTextList& list) {
   const auto [found, isNew] = next_.try_emplace(&list, 1);
   if (isNew) {
     bool isTold = false;
@@ -27,7 +27,7 @@ std::int32_t HtmlLists::NextOf(const QTextList& list) {
   return next;
 }
 
-void HtmlLists::Number(const QTextBlock& block, ListFormat& list) {
+void Lists::Number(const QTextBlock& block, ListFormat& list) {
   if (list.kind == ListKind::None || block.textList() == nullptr) {
     open_ = {};
     return;
@@ -42,4 +42,4 @@ void HtmlLists::Number(const QTextBlock& block, ListFormat& list) {
   items = {list, number + 1};
 }
 
-}  // namespace richtext
+}  // namespace richtext::html

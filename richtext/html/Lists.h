@@ -12,12 +12,12 @@
 
 class QTextList;
 
-namespace richtext {
+namespace richtext::html {
 
 // The markup with the first number of each list told in a way that the toolkit keeps.
 QString WithListStarts(QString html);
 
-class HtmlLists {
+class Lists {
  public:
   // Gives the block's list its start. The blocks come in the order of the document, those of no list too.
   void Number(const QTextBlock& block, ListFormat& list);
@@ -35,4 +35,4 @@ class HtmlLists {
   std::array<Items, MaxListLevel + 1> open_;
 };
 
-}  // namespace richtext
+}  // namespace richtext::html

@@ -10,7 +10,7 @@
 #include "richtext/html/Tables.h"
 #include "richtext/html/Tag.h"
 
-namespace richtext {
+namespace richtext::html {
 namespace {
 
 constexpr int MaxDepth = 200;
@@ -55,7 +55,7 @@ QString WithPlainColors(QStringView css) {
 }
 
 // A width of 80 for a style of "width: 80px" and one of 0, which is its own, for every other one.
-void AddSizes(HtmlTag& tag, const QString& css) {
+void AddSizes(Tag& tag, const QString& css) {
   static const QRegularExpression size(
       QStringLiteral("(?:^|;)\\s*(width|height)\\s*:\\s*(?:(\\d{1,5})(?:\\.\\d*)?px)?"),
       QRegularExpression::CaseInsensitiveOption);
@@ -90,7 +90,7 @@ class Rewriting {
     const QStringView next = html_.mid(at_ + 1, 1);
     if (next == u"!" || next == u"?") return LeaveOut();
     if (!IsTagAt(html_, at_)) return TakeBracket();
-    HtmlTag tag = TakeTag(html_, at_);
+    Tag tag = TakeTag(html_, at_);
     if (tag.name.isEmpty() || (!tag.endsItself && !Keeps(tag.name, tag.closes))) return;
     if (!cells_.Take(tag)) return FlattenCell(tag.name);
     MakeStylesPlain(tag);
@@ -134,9 +134,9 @@ class Rewriting {
     at_ += length;
   }
 
-  static void MakeStylesPlain(HtmlTag& tag) {
+  static void MakeStylesPlain(Tag& tag) {
     QString css;
-    for (HtmlAttribute& attribute : tag.attributes)
+    for (Attribute& attribute : tag.attributes)
       if (attribute.key == u"style") css = attribute.value = WithPlainColors(attribute.value);
     if (tag.name == u"img") AddSizes(tag, css);
   }
@@ -155,4 +155,4 @@ QString WithPlainWords(const QString& html) {
   return Rewriting(html).Rewrite();
 }
 
-}  // namespace richtext
+}  // namespace richtext::html

@@ -3,7 +3,7 @@
 
 #include <QtCore/QString>
 
-namespace richtext {
+namespace richtext::html {
 
 // Colours become opaque ones, as they look on white, or none; pictures that tell their size by a style tell
 // it by attributes; rows and cells beyond what a table of that much markup has become plain text; and what is
@@ -11,4 +11,4 @@ namespace richtext {
 // for each element.
 QString WithPlainWords(const QString& html);
 
-}  // namespace richtext
+}  // namespace richtext::html

@@ -21,7 +21,7 @@
 #include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/SmallPng.h"
 
-namespace richtext {
+namespace richtext::html {
 namespace {
 
 // What the toolkit's own knowledge of HTML lacks or would take from the desktop's colours.
@@ -210,15 +210,19 @@ class Reader {
   CharacterFormat format_;
   ParagraphFormat paragraph_;
   QTextTableCell last_;
-  HtmlLists lists_;
+  Lists lists_;
   bool begun_ = false;
   std::size_t paragraphStart_ = 0;
   std::size_t firstRun_ = 0;  // of the paragraph in hand
 };
 
 }  // namespace
+}  // namespace richtext::html
+
+namespace richtext {
 
 Document ReadHtml(const QString& html, const CharacterFormat& caret, const QImage& carried) {
+  using namespace html;
   InertDocument document;
   document.setUndoRedoEnabled(false);
   document.setDefaultStyleSheet(HouseStyle);

@@ -1,4 +1,11 @@
 // HTML from the clipboard as a page.
+//
+// The room stands between other programs' markup and a page's value, by way of the toolkit's own reader of
+// HTML and the text document that it makes (Writer.h goes the other way, by hand). The markup is first
+// brought into a shape that this reader understands alike and cannot be made to hang by: tags written anew
+// (Markup.h), tables within bounds (Tables.h), the starts of lists told where they are not lost (Lists.h).
+// The hard part is to tell what a writer meant by its looks from what a web page looks like (Formats.h,
+// Colors.h).
 #pragma once
 
 #include <QtCore/QString>

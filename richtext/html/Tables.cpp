@@ -2,15 +2,15 @@
 
 #include <algorithm>
 
-namespace richtext {
+namespace richtext::html {
 namespace {
 
 constexpr int MostSpan = 999'999'999;
 
 // Of several ones the last, as for the toolkit; what is no number is 1. The tag is left to say the same.
-qint64 TakeSpan(HtmlTag& tag, QStringView key) {
+qint64 TakeSpan(Tag& tag, QStringView key) {
   int span = 1;
-  for (HtmlAttribute& attribute : tag.attributes) {
+  for (Attribute& attribute : tag.attributes) {
     if (attribute.key != key) continue;
     span = std::clamp(attribute.value.toInt(), 1, MostSpan);
     attribute.value = QString::number(span);
@@ -20,7 +20,7 @@ qint64 TakeSpan(HtmlTag& tag, QStringView key) {
 
 }  // namespace
 
-bool TableCells::Take(HtmlTag& tag) {
+bool TableCells::Take(Tag& tag) {
   if (tag.name == u"table") {
     if (!tag.closes)
       Begin();
@@ -63,4 +63,4 @@ bool TableCells::TakeCell(qint64 columns, qint64 rows) {
   return true;
 }
 
-}  // namespace richtext
+}  // namespace richtext::html

@@ -5,7 +5,7 @@
 
 #include "richtext/html/Tag.h"
 
-namespace richtext {
+namespace richtext::html {
 
 // The toolkit makes every row of a table as long as the longest one, so that a few letters can ask for
 // millions of cells. This counts them tag by tag; where tables lie within others it counts too many.
@@ -15,7 +15,7 @@ class TableCells {
 
   // Takes the next tag, and makes its spans the plain numbers that it counts. False where a row or a cell is
   // one too many: it is then not counted, and must not reach the toolkit.
-  bool Take(HtmlTag& tag);
+  bool Take(Tag& tag);
 
  private:
   void Begin();
@@ -33,4 +33,4 @@ class TableCells {
   std::map<qint64, qint64> ends_;  // how many of these by the last row that they reach
 };
 
-}  // namespace richtext
+}  // namespace richtext::html

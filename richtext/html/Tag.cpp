@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace richtext {
+namespace richtext::html {
 namespace {
 
 bool IsLetter(QChar letter) {
@@ -19,8 +19,8 @@ class TagReader {
  public:
   TagReader(QStringView html, qsizetype& at) : html_(html), at_(at) {}
 
-  HtmlTag Read() {
-    HtmlTag tag;
+  Tag Read() {
+    Tag tag;
     ++at_;
     tag.closes = Take(u"/");
     const QStringView name = Word(u"/");
@@ -51,7 +51,7 @@ class TagReader {
     return html_.mid(from, at_ - from);
   }
 
-  void TakePart(HtmlTag& tag) {
+  void TakePart(Tag& tag) {
     if (Take(u"/")) {
       tag.endsItself = !tag.closes && Is(u">");
       return;
@@ -85,12 +85,12 @@ bool IsTagAt(QStringView html, qsizetype at) {
   return name < html.size() && IsLetter(html[name]);
 }
 
-HtmlTag TakeTag(QStringView html, qsizetype& at) {
+Tag TakeTag(QStringView html, qsizetype& at) {
   return TagReader(html, at).Read();
 }
 
 // Between double quotes nothing else than these and entities means anything to the toolkit.
-QString Written(const HtmlTag& tag) {
+QString Written(const Tag& tag) {
   if (tag.closes) return QStringLiteral("</") + tag.name + u'>';
   QString written = u'<' + tag.name;
   for (const auto& [key, value] : tag.attributes)
@@ -99,4 +99,4 @@ QString Written(const HtmlTag& tag) {
   return written + (tag.endsItself ? QStringLiteral("/>") : QStringLiteral(">"));
 }
 
-}  // namespace richtext
+}  // namespace richtext::html

@@ -5,16 +5,16 @@
 
 #include <QtCore/QString>
 
-namespace richtext {
+namespace richtext::html {
 
-struct HtmlAttribute {
+struct Attribute {
   QString key;    // of small letters, digits and '-'
   QString value;  // with its entities
 };
 
-struct HtmlTag {
+struct Tag {
   QString name;  // in small letters; empty for one that no element has
-  std::vector<HtmlAttribute> attributes;
+  std::vector<Attribute> attributes;
   bool closes = false;
   bool endsItself = false;  // by "/>"
 };
@@ -23,10 +23,10 @@ struct HtmlTag {
 bool IsTagAt(QStringView html, qsizetype at);
 
 // `at` is at such a bracket, and is moved behind the tag. Attributes with other keys are left out.
-HtmlTag TakeTag(QStringView html, qsizetype& at);
+Tag TakeTag(QStringView html, qsizetype& at);
 
 // The tag for the toolkit, whose own rules are others: it reads names in quotes and entities in names, for
 // instance, and ends tags and values elsewhere than those who write markup do.
-QString Written(const HtmlTag& tag);
+QString Written(const Tag& tag);
 
-}  // namespace richtext
+}  // namespace richtext::html

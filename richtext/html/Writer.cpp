@@ -7,7 +7,7 @@
 #include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/SmallPng.h"
 
-namespace richtext {
+namespace richtext::html {
 namespace {
 
 const QLatin1String LineStyles[] = {QLatin1String(""),       QLatin1String("solid"),  QLatin1String("solid"),
@@ -182,9 +182,12 @@ class Writer {
 };
 
 }  // namespace
+}  // namespace richtext::html
+
+namespace richtext {
 
 QString WriteHtml(const Document& page) {
-  return Writer(page).Write();
+  return html::Writer(page).Write();
 }
 
 }  // namespace richtext

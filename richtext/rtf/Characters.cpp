@@ -2,7 +2,7 @@
 
 #include <optional>
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 std::optional<std::uint32_t> ColorOf(std::int32_t color) {
@@ -16,7 +16,7 @@ std::int32_t ShownBehind(const CharacterState& state) {
 
 }  // namespace
 
-FormatKey KeyOf(const CharacterState& state, const RtfFontTable& fonts) {
+FormatKey KeyOf(const CharacterState& state, const FontTable& fonts) {
   const bool struck = state.strikethrough || state.doubleStrikethrough;
   const std::uint32_t flags = (state.bold ? 1U : 0U) | (state.italic ? 2U : 0U) | (struck ? 4U : 0U) |
                               (state.hidden ? 8U : 0U) | static_cast<std::uint32_t>(state.underline) << 8 |
@@ -25,7 +25,7 @@ FormatKey KeyOf(const CharacterState& state, const RtfFontTable& fonts) {
   return {fonts.At(state.font).name, state.halfPoints, state.color, ShownBehind(state), state.link, flags};
 }
 
-CharacterFormat FormatOf(const CharacterState& state, const RtfFontTable& fonts, const RtfLinks& links) {
+CharacterFormat FormatOf(const CharacterState& state, const FontTable& fonts, const Links& links) {
   CharacterFormat format;
   format.fontName = fonts.Name(fonts.At(state.font).name);
   format.halfPoints = state.halfPoints;
@@ -42,4 +42,4 @@ CharacterFormat FormatOf(const CharacterState& state, const RtfFontTable& fonts,
   return format;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -6,10 +6,10 @@
 #include "richtext/rtf/GroupState.h"
 #include "richtext/rtf/Links.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
 // Equal keys are equal formats, and the other way round.
-FormatKey KeyOf(const CharacterState& state, const RtfFontTable& fonts);
-CharacterFormat FormatOf(const CharacterState& state, const RtfFontTable& fonts, const RtfLinks& links);
+FormatKey KeyOf(const CharacterState& state, const FontTable& fonts);
+CharacterFormat FormatOf(const CharacterState& state, const FontTable& fonts, const Links& links);
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-namespace richtext {
+namespace richtext::rtf {
 
-class RtfColorTable {
+class ColorTable {
  public:
   // Reading the table. A component is clamped to 0..255.
   void SetRed(std::int32_t value) { SetComponent(0, value); }
@@ -29,4 +29,4 @@ class RtfColorTable {
   std::int32_t color_ = 0;
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -8,7 +8,7 @@
 #include "richtext/rtf/Hyperlink.h"
 #include "richtext/rtf/SymbolField.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 // Text that is set aside tells little in many words; this is more than any of it needs.
@@ -36,12 +36,12 @@ bool IsSign(std::int32_t number) {
 
 }  // namespace
 
-void RtfContext::BeginGroup() {
+void Context::BeginGroup() {
   decoder_.DropLeadByte();
   groups_.Push();
 }
 
-void RtfContext::EndGroup() {
+void Context::EndGroup() {
   decoder_.DropLeadByte();
   const bool skipped = Skipping();
   const Destination ended = State().destination;
@@ -53,7 +53,7 @@ void RtfContext::EndGroup() {
   Finish(ended);
 }
 
-void RtfContext::Finish(Destination ended) {
+void Context::Finish(Destination ended) {
   switch (ended) {
     case Destination::ColorTable:
       return colors_.EndTable();
@@ -83,40 +83,40 @@ void RtfContext::Finish(Destination ended) {
   }
 }
 
-void RtfContext::FinishInstruction() {
+void Context::FinishInstruction() {
   const std::string instruction = ToUtf8(aside_);
   State().fieldLink = links_.NumberOf(LinkOfInstruction(instruction));
   sign_ = {SignOfInstruction(instruction), Depth(), builder_.Text().size()};
 }
 
-void RtfContext::FinishSign() {
+void Context::FinishSign() {
   const Sign sign = std::exchange(sign_, {});
   if (builder_.Text().size() == sign.place) PutUnicode(sign.number);
 }
 
-void RtfContext::FinishNumbering() {
+void Context::FinishNumbering() {
   ParagraphState& paragraph = ChangeParagraph();
   if (numbering_.list.level != 0) paragraph.listLevel = std::exchange(numbering_.list.level, 0);
   paragraph.numbering = paragraphs_.NumberOf(numbering_);
 }
 
-void RtfContext::FinishLevelText() {
+void Context::FinishLevelText() {
   if (!aside_.empty() && aside_.back() == u';') aside_.pop_back();
   paragraphs_.Lists().SetText(aside_);
 }
 
-void RtfContext::SkipGroup() {
+void Context::SkipGroup() {
   if (Depth() > 1) groups_.SkipGroup();
 }
 
-void RtfContext::SendTextTo(Destination destination) {
+void Context::SendTextTo(Destination destination) {
   if (Depth() <= 1) return;
   if (!groups_.HasOwnState()) return groups_.SkipGroup();
   State().around = State().destination;
   State().destination = destination;
 }
 
-void RtfContext::SetAside(Destination destination) {
+void Context::SetAside(Destination destination) {
   const Destination within = State().destination;
   const bool known = within == Destination::Body || within == Destination::Numbering ||
                      within == Destination::ListTable ||
@@ -127,26 +127,26 @@ void RtfContext::SetAside(Destination destination) {
   SendTextTo(destination);
 }
 
-void RtfContext::SetCharacterSetPage(std::int32_t page) {
+void Context::SetCharacterSetPage(std::int32_t page) {
   characterSetPage_ = FindCodePage(page);
 }
 
-void RtfContext::SetAnsiPage(std::int32_t page) {
+void Context::SetAnsiPage(std::int32_t page) {
   if (const CodePage* known = FindCodePage(page)) ansiPage_ = known;
 }
 
-const CodePage& RtfContext::DocumentPage() const {
+const CodePage& Context::DocumentPage() const {
   if (ansiPage_ != nullptr) return *ansiPage_;
   return characterSetPage_ != nullptr ? *characterSetPage_ : WesternCodePage();
 }
 
-const CodePage& RtfContext::TextPage() const {
+const CodePage& Context::TextPage() const {
   const CodePage* page = fonts_.At(groups_.Top().character.font).page;
   return page != nullptr ? *page : DocumentPage();
 }
 
 // Where text goes; nothing when it is passed over.
-std::u16string* RtfContext::TextInHand() {
+std::u16string* Context::TextInHand() {
   if (State().destination == Destination::Body) {
     SettleLabel();
     return &builder_.Text();
@@ -154,7 +154,7 @@ std::u16string* RtfContext::TextInHand() {
   return IsAside(State().destination) && aside_.size() < MaxAside ? &aside_ : nullptr;
 }
 
-void RtfContext::PutBytes(std::string_view bytes) {
+void Context::PutBytes(std::string_view bytes) {
   switch (State().destination) {
     case Destination::FontTable:
       return fonts_.AppendText(bytes, DocumentPage());
@@ -171,7 +171,7 @@ void RtfContext::PutBytes(std::string_view bytes) {
   }
 }
 
-void RtfContext::PutLiteral(char byte) {
+void Context::PutLiteral(char byte) {
   const Destination destination = State().destination;
   if (destination == Destination::FontTable) return fonts_.AppendByte(byte, DocumentPage());
   const bool isMark = destination == Destination::ListLevelText && static_cast<unsigned char>(byte) < 0x20;
@@ -180,11 +180,11 @@ void RtfContext::PutLiteral(char byte) {
     PutBytes({&byte, 1});
 }
 
-void RtfContext::PutBinary(std::string_view bytes) {
+void Context::PutBinary(std::string_view bytes) {
   if (State().destination == Destination::Picture) picture_.AppendRaw(bytes);
 }
 
-void RtfContext::PutUnicode(std::int32_t number) {
+void Context::PutUnicode(std::int32_t number) {
   if (State().destination == Destination::FontTable) return fonts_.AppendUnicode(number);
   if (IsUnicodeParagraphEnd(number)) return EndParagraph();
   if (IsSign(number) && TextPage().number == SymbolPage) return PutLiteral(static_cast<char>(number & 0xFF));
@@ -194,19 +194,19 @@ void RtfContext::PutUnicode(std::int32_t number) {
   }
 }
 
-void RtfContext::PutCharacter(char16_t character) {
+void Context::PutCharacter(char16_t character) {
   if (std::u16string* text = TextInHand()) {
     decoder_.AppendUnit(character, *text);
     ClaimText();
   }
 }
 
-void RtfContext::EndText() {
+void Context::EndText() {
   decoder_.EndText(builder_.Text());
   ClaimText();
 }
 
-void RtfContext::EndParagraph() {
+void Context::EndParagraph() {
   if (State().destination != Destination::Body) return;
   SettleLabel();
   EndText();
@@ -214,38 +214,38 @@ void RtfContext::EndParagraph() {
   openLink_ = 0;
 }
 
-void RtfContext::EndCell() {
+void Context::EndCell() {
   PutCharacter(u'\t');
   labelList_ = 0;
 }
 
-void RtfContext::BeginShapeText() {
+void Context::BeginShapeText() {
   shapeShown_ = true;
   if (builder_.HasOpenText()) EndParagraph();
 }
 
-void RtfContext::BeginShape() {
+void Context::BeginShape() {
   shapeShown_ = false;
 }
 
-void RtfContext::BeginShapeProperty() {
+void Context::BeginShapeProperty() {
   propertyName_.clear();
   if (State().destination != Destination::Body) return SkipGroup();
   SendTextTo(Destination::ShapeProperty);
 }
 
-void RtfContext::BeginShapeValue() {
+void Context::BeginShapeValue() {
   const bool isPicture = State().destination == Destination::ShapeProperty && propertyName_ == u"pib";
   if (!isPicture) return SkipGroup();
   SendTextTo(Destination::ShapePicture);
 }
 
-void RtfContext::BeginShapeResult() {
+void Context::BeginShapeResult() {
   if (shapeShown_ || State().destination != Destination::Body) return SkipGroup();
   SendTextTo(Destination::ShapePicture);
 }
 
-void RtfContext::BeginLabel(bool isListText) {
+void Context::BeginLabel(bool isListText) {
   labelKind_ = isListText ? LabelKind::ListText : LabelKind::Text;
   if (State().destination == Destination::Body)
     SetAside(Destination::Label);
@@ -254,7 +254,7 @@ void RtfContext::BeginLabel(bool isListText) {
 }
 
 // A label is no text where a list makes one, and else as much of a list as it tells.
-void RtfContext::SettleLabel() {
+void Context::SettleLabel() {
   const LabelKind kind = std::exchange(waitingLabel_, LabelKind::None);
   if (kind == LabelKind::None || paragraphs_.IsListed(State().paragraph)) return;
   if (kind == LabelKind::ListText) labelList_ = paragraphs_.NumberOfLabel(label_);
@@ -264,13 +264,13 @@ void RtfContext::SettleLabel() {
 }
 
 // What was read of a picture that the end of the input cuts off is one too.
-void RtfContext::FinishPicture() {
+void Context::FinishPicture() {
   while (Depth() > 0 && (Skipping() || State().destination == Destination::Picture)) EndGroup();
 }
 
 // The \par that ends the last paragraph is no more than its end; without it the paragraph is as it was
 // written.
-Document RtfContext::Take() {
+Document Context::Take() {
   FinishPicture();
   SettleLabel();
   EndText();
@@ -283,7 +283,7 @@ Document RtfContext::Take() {
 }
 
 // The picture stands in the group around it.
-void RtfContext::PutPicture() {
+void Context::PutPicture() {
   std::optional<Picture> picture = picture_.Take();
   const Destination around = State().destination;
   if (!picture || (around != Destination::Body && around != Destination::ShapePicture)) return;
@@ -294,4 +294,4 @@ void RtfContext::PutPicture() {
   ClaimText();
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

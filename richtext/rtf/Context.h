@@ -12,24 +12,24 @@
 #include "richtext/rtf/FontTable.h"
 #include "richtext/rtf/GroupState.h"
 #include "richtext/rtf/Links.h"
-#include "richtext/rtf/Paragraphs.h"
+#include "richtext/rtf/ParagraphFormats.h"
 #include "richtext/rtf/PictureReader.h"
 #include "richtext/rtf/TextDecoder.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
-class RtfContext {
+class Context {
  public:
   // `length` of the input, which the text is shorter than.
-  explicit RtfContext(std::size_t length) { builder_.Text().reserve(length); }
+  explicit Context(std::size_t length) { builder_.Text().reserve(length); }
 
   GroupState& State() { return groups_.Top(); }
-  RtfFontTable& Fonts() { return fonts_; }
-  RtfColorTable& Colors() { return colors_; }
-  RtfPictureReader& PictureInHand() { return picture_; }
+  FontTable& Fonts() { return fonts_; }
+  ColorTable& Colors() { return colors_; }
+  PictureReader& PictureInHand() { return picture_; }
   bool& ModernPicture() { return modernPicture_; }  // whether a picture came since a \shppict began
-  RtfParagraphs& Paragraphs() { return paragraphs_; }
-  RtfNumbering& NumberingInHand() { return numbering_; }
+  ParagraphFormats& Paragraphs() { return paragraphs_; }
+  Numbering& NumberingInHand() { return numbering_; }
 
   std::size_t Depth() const { return groups_.Depth(); }
   bool Skipping() const { return groups_.Skipping(); }
@@ -99,15 +99,15 @@ class RtfContext {
   void PutPicture();
 
   GroupStack groups_;
-  RtfFontTable fonts_;
-  RtfColorTable colors_;
-  RtfPictureReader picture_;
+  FontTable fonts_;
+  ColorTable colors_;
+  PictureReader picture_;
   bool modernPicture_ = false;
   bool shapeShown_ = false;      // whether something was shown since a shape began
   std::u16string propertyName_;  // of the shape's property in hand
-  RtfTextDecoder decoder_;
-  RtfParagraphs paragraphs_;
-  RtfLinks links_;
+  TextDecoder decoder_;
+  ParagraphFormats paragraphs_;
+  Links links_;
   // A field that is a sign shows it where its result shows nothing.
   struct Sign {
     std::int32_t number = 0;  // 0: none is in hand
@@ -117,7 +117,7 @@ class RtfContext {
   Sign sign_;
   std::uint32_t openLink_ = 0;  // of the text met last, in the open paragraph
   std::size_t linkText_ = 0;    // bytes, as of MaxLinkText
-  RtfNumbering numbering_;
+  Numbering numbering_;
   DocumentBuilder builder_;
   std::u16string aside_;  // text of the group that is set aside
   const CodePage* characterSetPage_ = nullptr;
@@ -132,4 +132,4 @@ class RtfContext {
   std::uint32_t labelList_ = 0;  // the list that the open paragraph's label tells of
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -4,55 +4,55 @@
 #include "richtext/rtf/Characters.h"
 #include "richtext/rtf/Context.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
-CharacterState& RtfContext::ChangeCharacter() {
+CharacterState& Context::ChangeCharacter() {
   State().formatNumber = GroupState::NotAsked;
   return State().character;
 }
 
-ParagraphState& RtfContext::ChangeParagraph() {
+ParagraphState& Context::ChangeParagraph() {
   State().paragraphNumber = GroupState::NotAsked;
   return State().paragraph;
 }
 
-void RtfContext::SetFont(std::int32_t number) {
+void Context::SetFont(std::int32_t number) {
   decoder_.DropLeadByte();
   ChangeCharacter().font = fonts_.Find(number);
 }
 
-void RtfContext::ResetCharacter() {
+void Context::ResetCharacter() {
   decoder_.DropLeadByte();
   const std::uint32_t link = State().character.link;
   ChangeCharacter() = CharacterState();
   State().character.link = link;  // what a field is does not hang on its look
 }
 
-std::uint32_t RtfContext::FormatNumberOf(const CharacterState& state) {
+std::uint32_t Context::FormatNumberOf(const CharacterState& state) {
   return builder_.FormatNumber(KeyOf(state, fonts_), [&] { return FormatOf(state, fonts_, links_); });
 }
 
-std::uint32_t RtfContext::FormatNumber() {
+std::uint32_t Context::FormatNumber() {
   GroupState& state = State();
   if (state.formatNumber == GroupState::NotAsked) state.formatNumber = FormatNumberOf(state.character);
   return state.formatNumber;
 }
 
 // The end of a paragraph leads nowhere.
-std::uint32_t RtfContext::MarkNumber() {
+std::uint32_t Context::MarkNumber() {
   if (State().character.link == 0) return FormatNumber();
   CharacterState mark = State().character;
   mark.link = 0;
   return FormatNumberOf(mark);
 }
 
-std::uint32_t RtfContext::ParagraphNumber(ParagraphState paragraph) {
+std::uint32_t Context::ParagraphNumber(ParagraphState paragraph) {
   const std::uint32_t labelList = std::exchange(labelList_, 0);
   if (!paragraphs_.IsListed(paragraph)) paragraph.numbering = labelList;
   return builder_.ParagraphFormatNumber(paragraphs_.FormatOfNext(paragraph));
 }
 
-std::uint32_t RtfContext::ParagraphNumber() {
+std::uint32_t Context::ParagraphNumber() {
   GroupState& state = State();
   if (labelList_ != 0 || paragraphs_.IsListed(state.paragraph)) return ParagraphNumber(state.paragraph);
   paragraphs_.PassUnlisted();
@@ -61,7 +61,7 @@ std::uint32_t RtfContext::ParagraphNumber() {
 }
 
 // Formats are asked for only where there is text, so that a document has none that nothing uses.
-void RtfContext::ClaimText() {
+void Context::ClaimText() {
   if (!builder_.HasUnclaimedText()) return;
   openParagraph_ = State().paragraph;
   if (State().character.link != openLink_) CountLink();
@@ -69,10 +69,10 @@ void RtfContext::ClaimText() {
 }
 
 // A link is told anew in every paragraph and behind other text.
-void RtfContext::CountLink() {
+void Context::CountLink() {
   linkText_ += links_.At(State().character.link).size();
   if (linkText_ > MaxLinkText) ChangeCharacter().link = 0;
   openLink_ = State().character.link;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -8,7 +8,7 @@
 #include "richtext/rtf/Handlers.h"
 #include "richtext/rtf/ListHandlers.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 using namespace handlers;
@@ -89,9 +89,9 @@ constexpr ControlWord KnownWords[] = {
     Word("f", Font),
     Word("fcharset", FontCharset),
     Word("cpg", FontCodePage),
-    Word("red", Component<&RtfColorTable::SetRed>),
-    Word("green", Component<&RtfColorTable::SetGreen>),
-    Word("blue", Component<&RtfColorTable::SetBlue>),
+    Word("red", Component<&ColorTable::SetRed>),
+    Word("green", Component<&ColorTable::SetGreen>),
+    Word("blue", Component<&ColorTable::SetBlue>),
     Word("cf", Color),
     Word("highlight", Highlight),
     Word("cb", Background),
@@ -153,14 +153,14 @@ constexpr ControlWord KnownWords[] = {
 
     Word("ls", ListOfTable),
     Word("ilvl", ListLevel),
-    Word("list", BeginInTable<&RtfListTable::BeginList>),
-    Word("listlevel", BeginInTable<&RtfListTable::BeginLevel>),
-    Word("levelnfc", SetInTable<&RtfListTable::SetNumberKind>),
-    Word("levelnfcn", SetInTable<&RtfListTable::SetNumberKind>),
-    Word("levelstartat", SetInTable<&RtfListTable::SetStart>, 1),
-    Word("listid", SetInTable<&RtfListTable::SetListId>),
-    Word("listoverride", BeginInTable<&RtfListTable::BeginOverride>),
-    Word("lfolevel", BeginInTable<&RtfListTable::BeginOverrideLevel>),
+    Word("list", BeginInTable<&ListTable::BeginList>),
+    Word("listlevel", BeginInTable<&ListTable::BeginLevel>),
+    Word("levelnfc", SetInTable<&ListTable::SetNumberKind>),
+    Word("levelnfcn", SetInTable<&ListTable::SetNumberKind>),
+    Word("levelstartat", SetInTable<&ListTable::SetStart>, 1),
+    Word("listid", SetInTable<&ListTable::SetListId>),
+    Word("listoverride", BeginInTable<&ListTable::BeginOverride>),
+    Word("lfolevel", BeginInTable<&ListTable::BeginOverrideLevel>),
     WordOf("pnlvlblt", NumberingKind, ListKind::Bullet),
     WordOf("pnlvlcont", NumberingKind, ListKind::None),
     Word("pnlvlbody", NumberingBody),
@@ -265,4 +265,4 @@ const ControlWord* FindControlWord(std::string_view name) {
   return nullptr;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string_view>
 
-namespace richtext {
+namespace richtext::rtf {
 
-class RtfContext;
+class Context;
 
 enum class WordKind : std::uint8_t {
   Format,       // changes what follows
@@ -15,7 +15,7 @@ enum class WordKind : std::uint8_t {
 };
 
 struct ControlWord {
-  using Handler = void (*)(RtfContext& context, std::int32_t argument, std::int32_t parameter);
+  using Handler = void (*)(Context& context, std::int32_t argument, std::int32_t parameter);
 
   std::string_view name;
   Handler handle = nullptr;
@@ -27,4 +27,4 @@ struct ControlWord {
 // Nothing for a word that is not known, which is to be passed over with its parameter. Letters count by case.
 const ControlWord* FindControlWord(std::string_view name);
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -5,7 +5,7 @@
 
 #include "richtext/characters/Unicode.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 class Hash {
@@ -92,4 +92,4 @@ void DocumentBuilder::EndParagraph(std::uint32_t paragraphFormat, std::uint32_t 
   paragraphStart_ = claimed_;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -11,7 +11,7 @@
 #include "richtext/document/Document.h"
 #include "richtext/document/Limits.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
 // A character format in few bytes, so that looking it up is cheap.
 struct FormatKey {
@@ -62,4 +62,4 @@ class DocumentBuilder {
   std::size_t paragraphStart_ = 0;  // where the open paragraph begins
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

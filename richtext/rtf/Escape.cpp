@@ -3,7 +3,7 @@
 #include <charconv>
 #include <cstddef>
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 constexpr char HexDigits[] = "0123456789abcdef";
@@ -56,4 +56,4 @@ void AppendHexLines(std::string_view bytes, std::string& rtf) {
   }
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

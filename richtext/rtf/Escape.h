@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace richtext {
+namespace richtext::rtf {
 
 // "\name" and its parameter. A letter, a digit or a blank of the text may not follow directly.
 void AppendWord(std::string_view name, std::string& rtf);
@@ -19,4 +19,4 @@ void AppendNameUnit(char16_t unit, std::string& rtf);
 // Lower-case hexadecimal in lines of 64 bytes.
 void AppendHexLines(std::string_view bytes, std::string& rtf);
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 constexpr bool IsBlank(char c) {
@@ -46,4 +46,4 @@ void FieldWords::TakeQuoted() {
   if (!rest_.empty()) rest_.remove_prefix(1);
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace richtext {
+namespace richtext::rtf {
 
 // Takes an instruction apart: words between blanks, and texts in quotes.
 class FieldWords {
@@ -26,4 +26,4 @@ class FieldWords {
   std::string_view rest_;
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

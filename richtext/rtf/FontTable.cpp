@@ -7,21 +7,21 @@
 #include "richtext/document/Limits.h"
 #include "richtext/rtf/GroupState.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
-const RtfFont NoFont;
+const FontEntry NoFont;
 
 // Room for outer blanks, which do not count. The rest of a longer name is passed over.
 constexpr std::size_t MaxNameRead = 4 * MaxFontName;
 
 }  // namespace
 
-RtfFontTable::RtfFontTable() {
+FontTable::FontTable() {
   NameNumber({});
 }
 
-void RtfFontTable::BeginEntry(std::int32_t number, std::size_t depth) {
+void FontTable::BeginEntry(std::int32_t number, std::size_t depth) {
   EndEntry();
   open_ = true;
   number_ = number;
@@ -29,15 +29,15 @@ void RtfFontTable::BeginEntry(std::int32_t number, std::size_t depth) {
   page_ = nullptr;
 }
 
-void RtfFontTable::SetCharset(std::int32_t charset) {
+void FontTable::SetCharset(std::int32_t charset) {
   if (const std::int32_t page = CodePageOfCharset(charset)) SetCodePage(page);
 }
 
-void RtfFontTable::SetCodePage(std::int32_t page) {
+void FontTable::SetCodePage(std::int32_t page) {
   if (const CodePage* known = FindCodePage(page)) page_ = known;
 }
 
-void RtfFontTable::AppendText(std::string_view bytes, const CodePage& documentPage) {
+void FontTable::AppendText(std::string_view bytes, const CodePage& documentPage) {
   while (!bytes.empty()) {
     const std::size_t end = bytes.find(';');
     for (const char byte : bytes.substr(0, end).substr(0, MaxNameRead)) AppendByte(byte, documentPage);
@@ -48,21 +48,21 @@ void RtfFontTable::AppendText(std::string_view bytes, const CodePage& documentPa
 }
 
 // The name of a symbol font is written in letters all the same.
-void RtfFontTable::AppendByte(char byte, const CodePage& documentPage) {
+void FontTable::AppendByte(char byte, const CodePage& documentPage) {
   if (!open_ || name_.size() >= MaxNameRead) return;
   const CodePage& page = page_ == nullptr ? documentPage : *page_;
   decoder_.AppendBytes({&byte, 1}, page.number == SymbolPage ? WesternCodePage() : page, name_);
 }
 
-void RtfFontTable::AppendUnicode(std::int32_t number) {
+void FontTable::AppendUnicode(std::int32_t number) {
   if (open_ && name_.size() < MaxNameRead) decoder_.AppendUnicode(number, name_);
 }
 
-void RtfFontTable::EndGroup(std::size_t depth) {
+void FontTable::EndGroup(std::size_t depth) {
   if (depth <= depth_) EndEntry();
 }
 
-void RtfFontTable::EndEntry() {
+void FontTable::EndEntry() {
   if (!open_) return;
   decoder_.EndText(name_);
   if (fonts_.size() < MaxTableEntries) {
@@ -75,20 +75,20 @@ void RtfFontTable::EndEntry() {
   name_.clear();
 }
 
-std::uint32_t RtfFontTable::NameNumber(std::string name) {
+std::uint32_t FontTable::NameNumber(std::string name) {
   const auto [found, isNew] = nameNumbers_.try_emplace(name, static_cast<std::uint32_t>(names_.size()));
   if (isNew) names_.push_back(std::move(name));
   return found->second;
 }
 
-std::int32_t RtfFontTable::Find(std::int32_t number) const {
+std::int32_t FontTable::Find(std::int32_t number) const {
   const auto found = indices_.find(number);
   return found == indices_.end() ? DefaultFontIndex : found->second;
 }
 
-const RtfFont& RtfFontTable::At(std::int32_t index) const {
+const FontEntry& FontTable::At(std::int32_t index) const {
   if (index == DefaultFontIndex) index = Find(defaultNumber_);
   return index == DefaultFontIndex ? NoFont : fonts_[static_cast<std::size_t>(index)];
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -10,16 +10,16 @@
 
 #include "richtext/rtf/TextDecoder.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
-struct RtfFont {
+struct FontEntry {
   std::uint32_t name = 0;          // number of the name: fonts of one name share it
   const CodePage* page = nullptr;  // nothing: the document's
 };
 
-class RtfFontTable {
+class FontTable {
  public:
-  RtfFontTable();
+  FontTable();
 
   // Reading the table, in the order of the document. `depth` is that of the group that the entry stands in;
   // an entry ends at its semicolon, where its group ends, or where the next one begins.
@@ -37,14 +37,14 @@ class RtfFontTable {
   // The index of a \f; DefaultFontIndex when there is no such font.
   std::int32_t Find(std::int32_t number) const;
   // The font at an index, DefaultFontIndex included. A table without the default font: one without a name.
-  const RtfFont& At(std::int32_t index) const;
+  const FontEntry& At(std::int32_t index) const;
   const std::string& Name(std::uint32_t name) const { return names_[name]; }
 
  private:
   void EndEntry();
   std::uint32_t NameNumber(std::string name);
 
-  std::vector<RtfFont> fonts_;
+  std::vector<FontEntry> fonts_;
   std::unordered_map<std::int32_t, std::int32_t> indices_;  // by \f number
   std::vector<std::string> names_;                          // the first is empty
   std::unordered_map<std::string, std::uint32_t> nameNumbers_;
@@ -56,7 +56,7 @@ class RtfFontTable {
   std::size_t depth_ = 0;
   const CodePage* page_ = nullptr;
   std::u16string name_;
-  RtfTextDecoder decoder_;
+  TextDecoder decoder_;
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

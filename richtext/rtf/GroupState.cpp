@@ -1,6 +1,6 @@
 #include "richtext/rtf/GroupState.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
 void GroupStack::Push() {
   ++depth_;
@@ -16,4 +16,4 @@ void GroupStack::Pop() {
   --depth_;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

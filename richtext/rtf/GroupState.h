@@ -8,7 +8,7 @@
 #include "richtext/document/Document.h"
 #include "richtext/document/Limits.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
 // Where the text of a group goes.
 enum class Destination : std::uint8_t {
@@ -105,4 +105,4 @@ class GroupStack {
   std::size_t skippedDepth_ = 0;  // 0: nothing is passed over
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -8,9 +8,9 @@
 
 #include "richtext/rtf/Context.h"
 
-namespace richtext::handlers {
+namespace richtext::rtf::handlers {
 
-using Context = RtfContext;
+using Context = Context;
 using Number = std::int32_t;
 
 // Characters and paragraph ends.
@@ -73,7 +73,7 @@ inline void FontCodePage(Context& context, Number, Number page) {
 
 // The colour table, and the choice of a colour.
 
-template <void (RtfColorTable::*Set)(Number)>
+template <void (ColorTable::*Set)(Number)>
 inline void Component(Context& context, Number, Number value) {
   if (context.State().destination == Destination::ColorTable) (context.Colors().*Set)(value);
 }
@@ -240,4 +240,4 @@ inline void PictureGroup(Context& context, Number, Number) {
   context.PictureInHand().Begin();
 }
 
-}  // namespace richtext::handlers
+}  // namespace richtext::rtf::handlers

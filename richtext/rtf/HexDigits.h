@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-namespace richtext {
+namespace richtext::rtf {
 
 namespace detail {
 constexpr std::array<std::int8_t, 256> HexDigitTable() {
@@ -22,4 +22,4 @@ constexpr int HexDigit(char c) {
   return detail::HexDigitValues[static_cast<unsigned char>(c)];
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -3,7 +3,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/rtf/FieldWords.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 constexpr std::string_view Name = "HYPERLINK";
@@ -41,4 +41,4 @@ std::string InstructionOfLink(std::string_view link) {
   return instruction + '"';
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace richtext {
+namespace richtext::rtf {
 
 // The address, with "#" and the anchor when there is one; empty for any other field.
 std::string LinkOfInstruction(std::string_view instruction);
@@ -12,4 +12,4 @@ std::string LinkOfInstruction(std::string_view instruction);
 // The instruction that tells a link.
 std::string InstructionOfLink(std::string_view link);
 
-}  // namespace richtext
+}  // namespace richtext::rtf

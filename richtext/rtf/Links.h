@@ -6,9 +6,9 @@
 #include <unordered_map>
 #include <vector>
 
-namespace richtext {
+namespace richtext::rtf {
 
-class RtfLinks {
+class Links {
  public:
   // 0 for no link.
   std::uint32_t NumberOf(const std::string& link) {
@@ -23,4 +23,4 @@ class RtfLinks {
   std::unordered_map<std::string, std::uint32_t> numbers_{{std::string(), 0}};
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -1,11 +1,11 @@
-// What the control words of lists and numberings do, in the manner of RtfHandlers.h.
+// What the control words of lists and numberings do, in the manner of Handlers.h.
 #pragma once
 
 #include <algorithm>
 
 #include "richtext/rtf/Handlers.h"
 
-namespace richtext::handlers {
+namespace richtext::rtf::handlers {
 
 inline void ListOfTable(Context& context, Number, Number number) {
   if (context.State().destination == Destination::ListTable)
@@ -18,18 +18,18 @@ inline void ListLevel(Context& context, Number, Number level) {
   context.ChangeParagraph().listLevel = std::clamp(level, 0, MaxListLevel);
 }
 
-template <void (RtfListTable::*Begin)()>
+template <void (ListTable::*Begin)()>
 inline void BeginInTable(Context& context, Number, Number) {
   if (context.State().destination == Destination::ListTable) (context.Paragraphs().Lists().*Begin)();
 }
 
-template <void (RtfListTable::*Set)(Number)>
+template <void (ListTable::*Set)(Number)>
 inline void SetInTable(Context& context, Number, Number number) {
   if (context.State().destination == Destination::ListTable) (context.Paragraphs().Lists().*Set)(number);
 }
 
 inline void BeginNumbering(Context& context, Number, Number) {
-  context.NumberingInHand() = RtfNumbering();
+  context.NumberingInHand() = Numbering();
   context.SetAside(Destination::Numbering);
 }
 
@@ -63,4 +63,4 @@ inline void Label(Context& context, Number isListText, Number) {
   context.BeginLabel(isListText != 0);
 }
 
-}  // namespace richtext::handlers
+}  // namespace richtext::rtf::handlers

@@ -6,7 +6,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/document/ListLabel.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 constexpr char16_t LevelMarks = 9;  // units below it stand for the numbers of levels
@@ -32,12 +32,12 @@ ListKind KindOf(std::int32_t numberKind) {
 
 }  // namespace
 
-void RtfListTable::BeginList() {
+void ListTable::BeginList() {
   overriding_ = false;
   if (lists_.size() < MaxTableEntries) lists_.push_back({levels_.size(), 0});
 }
 
-void RtfListTable::BeginLevel() {
+void ListTable::BeginLevel() {
   const auto most = static_cast<std::size_t>(MaxListLevel) + 1;
   if (lists_.empty() || lists_.back().levels == most || levels_.size() == MaxFormats) return;
   ++lists_.back().levels;
@@ -45,15 +45,15 @@ void RtfListTable::BeginLevel() {
   levels_.back().kind = ListKind::Decimal;
 }
 
-ListFormat* RtfListTable::LevelInHand() {
+ListFormat* ListTable::LevelInHand() {
   return lists_.empty() || lists_.back().levels == 0 ? nullptr : &levels_.back();
 }
 
-void RtfListTable::SetNumberKind(std::int32_t kind) {
+void ListTable::SetNumberKind(std::int32_t kind) {
   if (ListFormat* level = LevelInHand()) level->kind = KindOf(kind);
 }
 
-void RtfListTable::SetStart(std::int32_t start) {
+void ListTable::SetStart(std::int32_t start) {
   start = std::clamp(start, 0, MaxListNumber);
   if (overriding_) {
     if (!override_.starts.empty()) override_.starts.back() = start;
@@ -63,7 +63,7 @@ void RtfListTable::SetStart(std::int32_t start) {
 }
 
 // Of a text that shows the numbers of several levels, only the last is the item's own.
-void RtfListTable::SetText(std::u16string_view text) {
+void ListTable::SetText(std::u16string_view text) {
   ListFormat* level = LevelInHand();
   if (level == nullptr || text.empty()) return;
   text = text.substr(1, text[0]);
@@ -75,7 +75,7 @@ void RtfListTable::SetText(std::u16string_view text) {
   level->after = first == text.end() ? std::u16string() : FittingListText(std::u16string(last, text.end()));
 }
 
-void RtfListTable::SetListId(std::int32_t id) {
+void ListTable::SetListId(std::int32_t id) {
   if (overriding_) {
     override_.listId = id;
   } else if (!lists_.empty()) {
@@ -83,21 +83,21 @@ void RtfListTable::SetListId(std::int32_t id) {
   }
 }
 
-void RtfListTable::BeginOverride() {
+void ListTable::BeginOverride() {
   overriding_ = true;
   override_ = {};
 }
 
-void RtfListTable::BeginOverrideLevel() {
+void ListTable::BeginOverrideLevel() {
   const bool room = override_.starts.size() <= static_cast<std::size_t>(MaxListLevel);
   if (overriding_ && room) override_.starts.push_back(-1);
 }
 
-void RtfListTable::SetOverrideNumber(std::int32_t number) {
+void ListTable::SetOverrideNumber(std::int32_t number) {
   if (overriding_ && overrides_.size() < MaxTableEntries) overrides_.insert_or_assign(number, override_);
 }
 
-const ListFormat& RtfListTable::Find(std::int32_t number, std::int32_t level) const {
+const ListFormat& ListTable::Find(std::int32_t number, std::int32_t level) const {
   static const ListFormat none;
   const auto list = listOfId_.find(ListId(number));
   if (!Has(number) || list == listOfId_.end()) return none;
@@ -107,12 +107,12 @@ const ListFormat& RtfListTable::Find(std::int32_t number, std::int32_t level) co
   return levels_[found.firstLevel + at];
 }
 
-std::int32_t RtfListTable::ListId(std::int32_t number) const {
+std::int32_t ListTable::ListId(std::int32_t number) const {
   const auto found = overrides_.find(number);
   return found == overrides_.end() ? 0 : found->second.listId;
 }
 
-std::int32_t RtfListTable::Start(std::int32_t number, std::int32_t level) const {
+std::int32_t ListTable::Start(std::int32_t number, std::int32_t level) const {
   const auto found = overrides_.find(number);
   const auto at = static_cast<std::size_t>(level);
   if (found != overrides_.end() && at < found->second.starts.size() && found->second.starts[at] >= 0)
@@ -120,4 +120,4 @@ std::int32_t RtfListTable::Start(std::int32_t number, std::int32_t level) const 
   return Find(number, level).start;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -10,9 +10,9 @@
 
 #include "richtext/document/Document.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
-class RtfListTable {
+class ListTable {
  public:
   // Reading the tables, in the order of the document.
   void BeginList();
@@ -55,4 +55,4 @@ class RtfListTable {
   bool overriding_ = false;
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -7,7 +7,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/rtf/Hyperlink.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 std::string_view WordOf(UnderlineKind kind) {
@@ -23,7 +23,7 @@ std::string_view WordOf(VerticalPlace place) {
 
 }  // namespace
 
-RtfLookWriter::RtfLookWriter(const Document& document, const RtfTables& tables, RtfOutput& out)
+LookWriter::LookWriter(const Document& document, const Tables& tables, Output& out)
     : document_(document), out_(out) {
   if (tables.HasNameless()) look_.font = 0;
   looks_.reserve(document.formats.size());
@@ -31,8 +31,8 @@ RtfLookWriter::RtfLookWriter(const Document& document, const RtfTables& tables, 
     looks_.push_back(LookOf(document.formats[i], i, tables));
 }
 
-RtfLookWriter::Look RtfLookWriter::LookOf(const CharacterFormat& format, std::uint32_t number,
-                                          const RtfTables& tables) {
+LookWriter::Look LookWriter::LookOf(const CharacterFormat& format, std::uint32_t number,
+                                    const Tables& tables) {
   Look look;
   look.font = tables.Font(number);
   look.halfPoints = std::clamp(format.halfPoints, 1, MaxHalfPoints);
@@ -48,17 +48,17 @@ RtfLookWriter::Look RtfLookWriter::LookOf(const CharacterFormat& format, std::ui
   return look;
 }
 
-void RtfLookWriter::SetText(std::uint32_t format) {
+void LookWriter::SetText(std::uint32_t format) {
   SetLink(document_.formats[format].link);
   SetLook(looks_[format]);
 }
 
-void RtfLookWriter::SetMark(std::uint32_t format) {
+void LookWriter::SetMark(std::uint32_t format) {
   SetLink({});
   SetLook(looks_[format]);
 }
 
-void RtfLookWriter::SetLink(std::string_view link) {
+void LookWriter::SetLink(std::string_view link) {
   if (link == link_) return;
   if (!link_.empty()) {
     out_.Raw("}}");
@@ -77,7 +77,7 @@ void RtfLookWriter::SetLink(std::string_view link) {
   out_.BeginGroup("fldrslt");
 }
 
-void RtfLookWriter::SetLook(const Look& look) {
+void LookWriter::SetLook(const Look& look) {
   if (look == look_) return;
   if (look.color != look_.color) out_.Word("cf", static_cast<std::int32_t>(look.color));
   if (look.highlight != look_.highlight) out_.Word("highlight", static_cast<std::int32_t>(look.highlight));
@@ -93,9 +93,9 @@ void RtfLookWriter::SetLook(const Look& look) {
   look_ = look;
 }
 
-void RtfLookWriter::SetCapitals(Capitals capitals) {
+void LookWriter::SetCapitals(Capitals capitals) {
   out_.Switch("caps", look_.capitals == Capitals::All, capitals == Capitals::All);
   out_.Switch("scaps", look_.capitals == Capitals::Small, capitals == Capitals::Small);
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -10,11 +10,11 @@
 #include "richtext/rtf/Output.h"
 #include "richtext/rtf/Tables.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
-class RtfLookWriter {
+class LookWriter {
  public:
-  RtfLookWriter(const Document& document, const RtfTables& tables, RtfOutput& out);
+  LookWriter(const Document& document, const Tables& tables, Output& out);
 
   // The text that follows is of one of the document's formats.
   void SetText(std::uint32_t format);
@@ -38,17 +38,17 @@ class RtfLookWriter {
     bool operator==(const Look&) const = default;
   };
 
-  static Look LookOf(const CharacterFormat& format, std::uint32_t number, const RtfTables& tables);
+  static Look LookOf(const CharacterFormat& format, std::uint32_t number, const Tables& tables);
   void SetLink(std::string_view link);
   void SetLook(const Look& look);
   void SetCapitals(Capitals capitals);
 
   const Document& document_;
-  RtfOutput& out_;
+  Output& out_;
   std::vector<Look> looks_;  // of the document's formats
   Look look_;                // in force
   Look lookAround_;          // in force around the open field
   std::string_view link_;    // of the open field; empty: none is open
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -5,33 +5,33 @@
 #include "richtext/characters/Unicode.h"
 #include "richtext/rtf/Escape.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
-void RtfOutput::Raw(std::string_view rtf) {
+void Output::Raw(std::string_view rtf) {
   rtf_ += rtf;
   afterWord_ = false;
 }
 
-std::string& RtfOutput::Bytes() {
+std::string& Output::Bytes() {
   afterWord_ = false;
   return rtf_;
 }
 
-void RtfOutput::Word(std::string_view name) {
+void Output::Word(std::string_view name) {
   AppendWord(name, rtf_);
   afterWord_ = true;
 }
 
-void RtfOutput::Word(std::string_view name, std::int32_t parameter) {
+void Output::Word(std::string_view name, std::int32_t parameter) {
   AppendWord(name, parameter, rtf_);
   afterWord_ = true;
 }
 
-void RtfOutput::Measure(std::string_view name, std::int32_t value) {
+void Output::Measure(std::string_view name, std::int32_t value) {
   if (value != 0) Word(name, value);
 }
 
-void RtfOutput::Switch(std::string_view name, bool from, bool to) {
+void Output::Switch(std::string_view name, bool from, bool to) {
   if (from == to) return;
   if (to) {
     Word(name);
@@ -40,18 +40,18 @@ void RtfOutput::Switch(std::string_view name, bool from, bool to) {
   }
 }
 
-void RtfOutput::BeginGroup(std::string_view name) {
+void Output::BeginGroup(std::string_view name) {
   rtf_ += '{';
   Word(name);
 }
 
-void RtfOutput::BeginIgnorableGroup(std::string_view name) {
+void Output::BeginIgnorableGroup(std::string_view name) {
   rtf_ += "{\\*";
   Word(name);
 }
 
 // A surrogate pair never spans two formats.
-void RtfOutput::Text(std::u16string_view text) {
+void Output::Text(std::u16string_view text) {
   while (!text.empty()) {
     text.remove_prefix(Plain(text));
     if (text.empty()) return;
@@ -63,7 +63,7 @@ void RtfOutput::Text(std::u16string_view text) {
 }
 
 // Writes the beginning that stands for itself, and returns its length.
-std::size_t RtfOutput::Plain(std::u16string_view text) {
+std::size_t Output::Plain(std::u16string_view text) {
   const auto isPlain = [](char16_t unit) {
     return unit >= u' ' && unit < 0x80 && unit != u'\\' && unit != u'{' && unit != u'}';
   };
@@ -79,7 +79,7 @@ std::size_t RtfOutput::Plain(std::u16string_view text) {
   return length;
 }
 
-void RtfOutput::Rare(char16_t unit) {
+void Output::Rare(char16_t unit) {
   switch (unit) {
     case u'\\':
     case u'{':
@@ -103,10 +103,10 @@ void RtfOutput::Rare(char16_t unit) {
   afterWord_ = false;
 }
 
-void RtfOutput::Symbol(char symbol) {
+void Output::Symbol(char symbol) {
   rtf_ += '\\';
   rtf_ += symbol;
   afterWord_ = false;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-namespace richtext {
+namespace richtext::rtf {
 
-class RtfOutput {
+class Output {
  public:
   void Reserve(std::size_t bytes) { rtf_.reserve(bytes); }
 
@@ -41,4 +41,4 @@ class RtfOutput {
   bool afterWord_ = false;  // text would run into the last control word
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -5,7 +5,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/document/ListLabel.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 std::string_view WordOf(Alignment alignment) {
@@ -25,7 +25,7 @@ std::string_view WordOf(ListKind kind) {
 
 }  // namespace
 
-void RtfParagraphWriter::Begin(const ParagraphFormat& format) {
+void ParagraphWriter::Begin(const ParagraphFormat& format) {
   const bool changes = format_ != format;
   if (changes) {
     format_ = format;
@@ -39,7 +39,7 @@ void RtfParagraphWriter::Begin(const ParagraphFormat& format) {
   if (changes) WriteFormat(format);
 }
 
-void RtfParagraphWriter::WriteFormat(const ParagraphFormat& format) {
+void ParagraphWriter::WriteFormat(const ParagraphFormat& format) {
   if (list_.kind != ListKind::None) WriteList(list_);
   if (format.direction == Direction::RightToLeft) out_.Word("rtlpar");
   out_.Measure("fi", FittingIndent(format.firstLineIndent));
@@ -52,14 +52,14 @@ void RtfParagraphWriter::WriteFormat(const ParagraphFormat& format) {
   if (format.alignment != Alignment::Left) out_.Word(WordOf(format.alignment));
 }
 
-void RtfParagraphWriter::WriteSpacing(const ParagraphFormat& format) {
+void ParagraphWriter::WriteSpacing(const ParagraphFormat& format) {
   const std::int32_t spacing = FittingSpace(format.lineSpacing);
   if (format.lineSpacingRule == LineSpacingRule::Single || spacing == 0) return;
   out_.Word("sl", format.lineSpacingRule == LineSpacingRule::Exact ? -spacing : spacing);
   out_.Word("slmult", format.lineSpacingRule == LineSpacingRule::Multiple ? 1 : 0);
 }
 
-void RtfParagraphWriter::WriteTabs(const ParagraphFormat& format) {
+void ParagraphWriter::WriteTabs(const ParagraphFormat& format) {
   for (const TabStop& tab : format.tabs) {
     if (tab.kind != TabKind::Left) out_.Word(WordOf(tab.kind));
     out_.Word("tx", FittingIndent(tab.position));
@@ -67,7 +67,7 @@ void RtfParagraphWriter::WriteTabs(const ParagraphFormat& format) {
 }
 
 // What the classic edit controls write: bullets are a symbol font's, whatever sign they are.
-void RtfParagraphWriter::WriteList(const ListFormat& list) {
+void ParagraphWriter::WriteList(const ListFormat& list) {
   const bool bullet = list.kind == ListKind::Bullet;
   out_.BeginIgnorableGroup("pn");
   out_.Word(bullet ? "pnlvlblt" : "pnlvlbody");
@@ -91,7 +91,7 @@ void RtfParagraphWriter::WriteList(const ListFormat& list) {
   out_.Measure("ilvl", list.level);
 }
 
-void RtfParagraphWriter::WriteLabel(const ListFormat& list) {
+void ParagraphWriter::WriteLabel(const ListFormat& list) {
   const std::int32_t number = NextNumber(list);
   out_.BeginGroup("pntext");
   if (list.kind == ListKind::Bullet && list.before[0] == Bullet) out_.Word("f", symbolFont_);
@@ -100,14 +100,14 @@ void RtfParagraphWriter::WriteLabel(const ListFormat& list) {
   out_.Raw("}");
 }
 
-bool RtfParagraphWriter::WriteSymbol(const ListFormat& list) {
+bool ParagraphWriter::WriteSymbol(const ListFormat& list) {
   const bool symbol = list.kind == ListKind::Bullet && list.before[0] == Bullet;
   if (symbol) out_.Raw("\\'b7");
   return symbol;
 }
 
 // Items of deeper levels do not end a list, all else does.
-std::int32_t RtfParagraphWriter::NextNumber(const ListFormat& list) {
+std::int32_t ParagraphWriter::NextNumber(const ListFormat& list) {
   const auto level = static_cast<std::size_t>(list.level);
   for (std::size_t deeper = level + 1; deeper < items_.size(); ++deeper) items_[deeper] = {};
   Items& items = items_[level];
@@ -115,4 +115,4 @@ std::int32_t RtfParagraphWriter::NextNumber(const ListFormat& list) {
   return items.next++;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -8,12 +8,12 @@
 #include "richtext/document/Document.h"
 #include "richtext/rtf/Output.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
-class RtfParagraphWriter {
+class ParagraphWriter {
  public:
   // `symbolFont` is the \f number of a symbol font, for bullets.
-  RtfParagraphWriter(RtfOutput& out, std::int32_t symbolFont) : out_(out), symbolFont_(symbolFont) {}
+  ParagraphWriter(Output& out, std::int32_t symbolFont) : out_(out), symbolFont_(symbolFont) {}
 
   // The next paragraph is of this format.
   void Begin(const ParagraphFormat& format);
@@ -32,11 +32,11 @@ class RtfParagraphWriter {
   bool WriteSymbol(const ListFormat& list);
   std::int32_t NextNumber(const ListFormat& list);
 
-  RtfOutput& out_;
+  Output& out_;
   std::int32_t symbolFont_;
   std::optional<ParagraphFormat> format_;  // in force
   ListFormat list_;                        // likewise, as written
   std::array<Items, 9> items_;             // by level
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

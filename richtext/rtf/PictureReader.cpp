@@ -12,7 +12,7 @@
 #include "richtext/rtf/HexDigits.h"
 #include "richtext/rtf/PictureSize.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 constexpr std::int64_t HiMetricPerInch = 2540;
@@ -116,11 +116,11 @@ void FillIn(Shown& width, Shown& height, const PixelSize& size) {
 
 }  // namespace
 
-void RtfPictureReader::Begin() {
-  *this = RtfPictureReader();
+void PictureReader::Begin() {
+  *this = PictureReader();
 }
 
-void RtfPictureReader::TakeWord(std::string_view name, bool hasParameter, std::int32_t parameter) {
+void PictureReader::TakeWord(std::string_view name, bool hasParameter, std::int32_t parameter) {
   if (const KindWord* word = Find(KindWords, name)) {
     kind_ = word->kind;
     return Describe(0, name, hasParameter, parameter);
@@ -135,8 +135,8 @@ void RtfPictureReader::TakeWord(std::string_view name, bool hasParameter, std::i
   }
 }
 
-void RtfPictureReader::Describe(std::size_t place, std::string_view name, bool hasParameter,
-                                std::int32_t parameter) {
+void PictureReader::Describe(std::size_t place, std::string_view name, bool hasParameter,
+                             std::int32_t parameter) {
   description_[place].clear();
   if (hasParameter) {
     AppendWord(name, parameter, description_[place]);
@@ -145,7 +145,7 @@ void RtfPictureReader::Describe(std::size_t place, std::string_view name, bool h
   }
 }
 
-void RtfPictureReader::AppendHex(std::string_view digits) {
+void PictureReader::AppendHex(std::string_view digits) {
   const std::size_t start = bytes_.size();
   bytes_.resize(start + digits.size() / 2 + 1);
   char* to = bytes_.data() + start;
@@ -158,23 +158,23 @@ void RtfPictureReader::AppendHex(std::string_view digits) {
   bytes_.resize(static_cast<std::size_t>(to - bytes_.data()));
 }
 
-void RtfPictureReader::AppendRaw(std::string_view bytes) {
+void PictureReader::AppendRaw(std::string_view bytes) {
   bytes_ += bytes;
 }
 
-PictureKind RtfPictureReader::Kind() const {
+PictureKind PictureReader::Kind() const {
   if (kind_) return *kind_;
   if (bytes_.starts_with("\x89PNG")) return PictureKind::Png;
   return bytes_.starts_with("\xFF\xD8\xFF") ? PictureKind::Jpeg : PictureKind::Other;
 }
 
-std::string RtfPictureReader::Header() const {
+std::string PictureReader::Header() const {
   std::string header;
   for (const std::string& word : description_) header += word;
   return header;
 }
 
-std::optional<Picture> RtfPictureReader::Take() {
+std::optional<Picture> PictureReader::Take() {
   if (bytes_.empty()) return std::nullopt;
   const PictureKind kind = Kind();
   Shown width = ShownSide(width_, kind);
@@ -186,4 +186,4 @@ std::optional<Picture> RtfPictureReader::Take() {
   return picture;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

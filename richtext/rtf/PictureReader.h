@@ -9,7 +9,7 @@
 
 #include "richtext/document/Document.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
 // One side of a picture, as its words tell it.
 struct PictureExtent {
@@ -20,7 +20,7 @@ struct PictureExtent {
   std::int32_t cropAfter = 0;       // twips at the right or bottom
 };
 
-class RtfPictureReader {
+class PictureReader {
  public:
   // Forgets what was read and begins a picture.
   void Begin();
@@ -45,4 +45,4 @@ class RtfPictureReader {
   int highDigit_ = -1;  // the first of two digits, or none
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

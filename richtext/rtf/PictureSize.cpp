@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 // The number that the bytes at a place make, the highest first; the file must have them.
@@ -42,4 +42,4 @@ PixelSize SizeOfFile(std::string_view file) {
   return file.starts_with("\xFF\xD8") ? SizeOfJpeg(file) : PixelSize();
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

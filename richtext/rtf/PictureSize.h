@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace richtext {
+namespace richtext::rtf {
 
 // Pixels; 0 for both where the file does not tell them.
 struct PixelSize {
@@ -15,4 +15,4 @@ struct PixelSize {
 // Of a PNG or JPEG file.
 PixelSize SizeOfFile(std::string_view file);
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -5,7 +5,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/rtf/Escape.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 // The words of a picture that no reader described.
@@ -57,4 +57,4 @@ bool AppendPicture(const Picture& picture, std::string& rtf) {
   return true;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

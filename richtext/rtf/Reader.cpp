@@ -1,5 +1,5 @@
 // RTF in four layers, each of which knows only the ones before it: the tokenizer knows the syntax, the groups
-// keep the formats (RtfGroupState.h), the control words say what to do (RtfControlWords.cpp), and the builder
+// keep the formats (GroupState.h), the control words say what to do (ControlWords.cpp), and the builder
 // makes the document. This file drives them, token by token.
 #include "richtext/rtf/Reader.h"
 
@@ -11,7 +11,7 @@
 #include "richtext/rtf/ControlWords.h"
 #include "richtext/rtf/Tokenizer.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 class Reader {
@@ -26,8 +26,8 @@ class Reader {
   void TakeWord(const Token& token, bool ignorable);
   void TakeSymbol(char symbol);
 
-  RtfTokenizer tokens_;
-  RtfContext context_;
+  Tokenizer tokens_;
+  Context context_;
   std::int32_t fallbackLeft_ = 0;  // what still stands for the last \u, for readers who do not know it
   bool groupJustBegan_ = false;
   bool ignorable_ = false;  // "{\*" was just read
@@ -123,7 +123,7 @@ void Reader::TakeSymbol(char symbol) {
 
 // CR LF, CR and LF end a paragraph each.
 Document ReadPlainText(std::string_view text) {
-  RtfContext context(text.size());
+  Context context(text.size());
   while (!text.empty()) {
     const std::size_t end = text.find_first_of("\r\n");
     context.PutBytes(text.substr(0, end));
@@ -136,6 +136,9 @@ Document ReadPlainText(std::string_view text) {
 }
 
 }  // namespace
+}  // namespace richtext::rtf
+
+namespace richtext {
 
 bool IsRtf(std::string_view text) {
   return text.starts_with("{\\rtf") || text.starts_with("{\\urtf");
@@ -144,7 +147,7 @@ bool IsRtf(std::string_view text) {
 Document ReadRtf(std::string_view rtf) {
   constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";  // which editors put in
   if (rtf.starts_with(Utf8Mark) && IsRtf(rtf.substr(Utf8Mark.size()))) rtf.remove_prefix(Utf8Mark.size());
-  return IsRtf(rtf) ? Reader(rtf).Read() : ReadPlainText(rtf);
+  return IsRtf(rtf) ? rtf::Reader(rtf).Read() : rtf::ReadPlainText(rtf);
 }
 
 }  // namespace richtext

@@ -6,7 +6,7 @@
 #include "richtext/characters/SymbolFonts.h"
 #include "richtext/rtf/FieldWords.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 constexpr std::int32_t Signs = 0xF000;  // where symbol fonts have theirs
@@ -44,4 +44,4 @@ std::int32_t SignOfInstruction(std::string_view instruction) {
   return number > ' ' && number <= 0xFFFF ? SignOf(number, *page) : 0;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

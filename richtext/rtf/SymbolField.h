@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string_view>
 
-namespace richtext {
+namespace richtext::rtf {
 
 // The number of the sign in the form of a \u; 0 when the instruction tells of none.
 std::int32_t SignOfInstruction(std::string_view instruction);
 
-}  // namespace richtext
+}  // namespace richtext::rtf

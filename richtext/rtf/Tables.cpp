@@ -8,7 +8,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/rtf/Escape.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 // The formats of the document's text and paragraph ends, each once, in the order of their first use.
@@ -56,7 +56,7 @@ void AppendColor(std::uint32_t color, std::string& rtf) {
 
 }  // namespace
 
-RtfTables::RtfTables(const Document& document)
+Tables::Tables(const Document& document)
     : fontOfFormat_(document.formats.size()),
       colorOfFormat_(document.formats.size()),
       highlightOfFormat_(document.formats.size()),
@@ -77,7 +77,7 @@ RtfTables::RtfTables(const Document& document)
   }
 }
 
-void RtfTables::AppendTo(std::string& rtf) const {
+void Tables::AppendTo(std::string& rtf) const {
   if (HasFonts()) AppendFonts(rtf);
   rtf += "\r\n";
   if (colors_.empty()) return;
@@ -87,7 +87,7 @@ void RtfTables::AppendTo(std::string& rtf) const {
 }
 
 // Number 0 is that of no font where some text names none: the table has none of this number.
-void RtfTables::AppendFonts(std::string& rtf) const {
+void Tables::AppendFonts(std::string& rtf) const {
   rtf += "\\deff0{\\fonttbl";
   for (std::size_t i = 0; i < fonts_.size(); ++i) {
     if (fonts_[i].empty()) continue;
@@ -105,4 +105,4 @@ void RtfTables::AppendFonts(std::string& rtf) const {
   rtf += '}';
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -9,11 +9,11 @@
 
 #include "richtext/document/Document.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
-class RtfTables {
+class Tables {
  public:
-  explicit RtfTables(const Document& document);
+  explicit Tables(const Document& document);
 
   // Whether there is a table of fonts. A document that names none leaves them to its reader.
   bool HasFonts() const { return hasBullets_ || fonts_.size() > 1 || !HasNameless(); }
@@ -40,4 +40,4 @@ class RtfTables {
   bool hasBullets_ = false;
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -5,7 +5,7 @@
 
 #include "richtext/characters/Unicode.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 // As in a code page: of the control characters only the blanks mean something; a picture's mark would stand
@@ -17,7 +17,7 @@ char16_t TextUnit(char16_t unit) {
 
 }  // namespace
 
-void RtfTextDecoder::AppendBytes(std::string_view bytes, const CodePage& page, std::u16string& out) {
+void TextDecoder::AppendBytes(std::string_view bytes, const CodePage& page, std::u16string& out) {
   if (highSurrogate_ != 0) EndText(out);
   const std::size_t start = out.size();
   out.resize(start + bytes.size() + 1);  // a unit for each byte, and for a lead byte from before
@@ -35,7 +35,7 @@ void RtfTextDecoder::AppendBytes(std::string_view bytes, const CodePage& page, s
 
 // A byte that is no character by itself. One that cannot be a second half stands for itself, so that a lead
 // byte in the wrong place takes no text with it.
-char16_t* RtfTextDecoder::PutRareByte(unsigned char byte, const CodePage& page, char16_t* to) {
+char16_t* TextDecoder::PutRareByte(unsigned char byte, const CodePage& page, char16_t* to) {
   if (page.number == Utf8Page) return PutUtf8Byte(byte, page, to);
   const unsigned char lead = std::exchange(leadByte_, 0);
   if (lead != 0) *to++ = DoubleByteUnit(page, lead, byte);
@@ -49,7 +49,7 @@ char16_t* RtfTextDecoder::PutRareByte(unsigned char byte, const CodePage& page, 
   return to;
 }
 
-char16_t* RtfTextDecoder::PutUtf8Byte(unsigned char byte, const CodePage& page, char16_t* to) {
+char16_t* TextDecoder::PutUtf8Byte(unsigned char byte, const CodePage& page, char16_t* to) {
   const bool isTail = (byte & 0xC0) == 0x80;
   if (leadByte_ != 0 && isTail) {
     code_ = (code_ << 6) | (byte & 0x3FU);
@@ -72,7 +72,7 @@ char16_t* RtfTextDecoder::PutUtf8Byte(unsigned char byte, const CodePage& page, 
   return to;
 }
 
-void RtfTextDecoder::AppendUnicode(std::int32_t number, std::u16string& out) {
+void TextDecoder::AppendUnicode(std::int32_t number, std::u16string& out) {
   if (number < 0 && number >= -0x8000) number += 0x10000;
   if (number < 0 || number > 0xFFFF) {
     EndText(out);
@@ -82,7 +82,7 @@ void RtfTextDecoder::AppendUnicode(std::int32_t number, std::u16string& out) {
   }
 }
 
-void RtfTextDecoder::AppendUnit(char16_t unit, std::u16string& out) {
+void TextDecoder::AppendUnit(char16_t unit, std::u16string& out) {
   leadByte_ = 0;
   if (IsLowSurrogate(unit) && highSurrogate_ != 0) {
     out += {highSurrogate_, unit};
@@ -98,7 +98,7 @@ void RtfTextDecoder::AppendUnit(char16_t unit, std::u16string& out) {
   }
 }
 
-void RtfTextDecoder::EndText(std::u16string& out) {
+void TextDecoder::EndText(std::u16string& out) {
   if (highSurrogate_ != 0) out += Replacement;
   highSurrogate_ = 0;
   leadByte_ = 0;
@@ -108,4 +108,4 @@ bool IsUnicodeParagraphEnd(std::int32_t number) {
   return number == '\n' || number == '\r' || number == ParagraphSeparator;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -7,11 +7,11 @@
 
 #include "richtext/characters/CodePages.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
 // Remembers what a character began with (a lead byte, a high surrogate) until its other half comes. A half
 // that stays alone is dropped (a byte) or becomes U+FFFD (a surrogate).
-class RtfTextDecoder {
+class TextDecoder {
  public:
   void AppendBytes(std::string_view bytes, const CodePage& page, std::u16string& out);
   // The number of a \u: a signed or unsigned 16-bit unit, or beyond these a whole code point.
@@ -37,4 +37,4 @@ class RtfTextDecoder {
 // Whether the number of a \u is a line end of plain text, which is a paragraph's end in a document.
 bool IsUnicodeParagraphEnd(std::int32_t number);
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -5,7 +5,7 @@
 
 #include "richtext/rtf/HexDigits.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 constexpr std::array<bool, 256> SyntaxBytes() {
@@ -32,7 +32,7 @@ std::int32_t Saturated(std::int64_t value) {
 
 }  // namespace
 
-Token RtfTokenizer::Next() {
+Token Tokenizer::Next() {
   while (at_ < rtf_.size()) {
     switch (rtf_[at_]) {
       case '\r':
@@ -58,14 +58,14 @@ Token RtfTokenizer::Next() {
   return {};
 }
 
-Token RtfTokenizer::Text() {
+Token Tokenizer::Text() {
   const std::size_t start = at_;
   while (at_ < rtf_.size() && !IsSyntax[static_cast<unsigned char>(rtf_[at_])]) ++at_;
   return {.kind = TokenKind::Text, .text = rtf_.substr(start, at_ - start)};
 }
 
 // What follows a backslash. End: nothing that can be used.
-Token RtfTokenizer::Escape() {
+Token Tokenizer::Escape() {
   if (at_ == rtf_.size()) return {};
   const char first = rtf_[at_];
   if (IsLetter(first)) return Word();
@@ -75,7 +75,7 @@ Token RtfTokenizer::Escape() {
 }
 
 // Without two digits only the "\'" is lost: what follows it may be a person's text.
-Token RtfTokenizer::Hex() {
+Token Tokenizer::Hex() {
   const int high = HexDigit(At(0));
   const int low = HexDigit(At(1));
   if (high < 0 || low < 0) return {};
@@ -83,7 +83,7 @@ Token RtfTokenizer::Hex() {
   return {.kind = TokenKind::Hex, .byte = static_cast<char>(high * 16 + low)};
 }
 
-Token RtfTokenizer::Word() {
+Token Tokenizer::Word() {
   const std::size_t start = at_;
   while (at_ < rtf_.size() && IsLetter(rtf_[at_])) ++at_;
   Token word{.kind = TokenKind::Word, .text = rtf_.substr(start, at_ - start)};
@@ -92,7 +92,7 @@ Token RtfTokenizer::Word() {
   return word.text == "bin" ? Binary(word.parameter) : word;
 }
 
-void RtfTokenizer::Parameter(Token& word) {
+void Tokenizer::Parameter(Token& word) {
   const bool negative = At(0) == '-';
   const std::size_t sign = negative ? 1 : 0;
   if (!IsDigit(At(sign))) return;
@@ -105,7 +105,7 @@ void RtfTokenizer::Parameter(Token& word) {
 }
 
 // A length that the input cannot hold is a lie, and swallowing the rest for it would lose the text.
-Token RtfTokenizer::Binary(std::int32_t length) {
+Token Tokenizer::Binary(std::int32_t length) {
   const std::size_t left = rtf_.size() - at_;
   const bool fits = length > 0 && static_cast<std::size_t>(length) <= left;
   const std::string_view bytes = rtf_.substr(at_, fits ? static_cast<std::size_t>(length) : 0);
@@ -113,4 +113,4 @@ Token RtfTokenizer::Binary(std::int32_t length) {
   return {.kind = TokenKind::Binary, .text = bytes};
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

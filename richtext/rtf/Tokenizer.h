@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace richtext {
+namespace richtext::rtf {
 
 enum class TokenKind : std::uint8_t {
   End,
@@ -28,9 +28,9 @@ struct Token {
   std::string_view text = {};  // Word: the name; Text, Binary: the bytes
 };
 
-class RtfTokenizer {
+class Tokenizer {
  public:
-  explicit RtfTokenizer(std::string_view rtf) : rtf_(rtf) {}
+  explicit Tokenizer(std::string_view rtf) : rtf_(rtf) {}
 
   // The next token; End at the end of the input, as often as it is asked for. Damaged syntax gives what can
   // be made of it: "\'" without two digits and a backslash at the very end are passed over.
@@ -49,4 +49,4 @@ class RtfTokenizer {
   std::size_t at_ = 0;
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -13,7 +13,7 @@
 #include "richtext/rtf/PictureWriter.h"
 #include "richtext/rtf/Tables.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 class Writer {
@@ -32,10 +32,10 @@ class Writer {
   void WritePicture();
 
   const Document& document_;
-  const RtfTables tables_;
-  RtfOutput out_;
-  RtfParagraphWriter paragraphs_;
-  RtfLookWriter looks_;
+  const Tables tables_;
+  Output out_;
+  ParagraphWriter paragraphs_;
+  LookWriter looks_;
   std::size_t textAt_ = 0;
   std::size_t runAt_ = 0;
   std::size_t pictureAt_ = 0;
@@ -90,9 +90,12 @@ void Writer::WritePicture() {
 }
 
 }  // namespace
+}  // namespace richtext::rtf
+
+namespace richtext {
 
 std::string WriteRtf(const Document& document) {
-  return Writer(document).Write();
+  return rtf::Writer(document).Write();
 }
 
 }  // namespace richtext

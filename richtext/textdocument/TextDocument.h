@@ -1,4 +1,11 @@
-// A page between its value and the text box's document, run by run and without a detour over another markup.
+// A page between its value and the toolkit's text document, run by run and without a detour over another
+// markup.
+//
+// What the toolkit's document cannot say of itself, it carries along as properties of its formats
+// (Formats.h), so that what is taken back is what was filled in: twips and half points that it would round,
+// the list of a paragraph (Paragraphs.h), pictures in the form in which they came (Pictures.h), text that is
+// not shown (HiddenText.h). The hard part is what a person does in between: typing carries formats to where
+// they were never meant, and the toolkit's own commands know nothing of the properties.
 #pragma once
 
 #include "richtext/document/Document.h"

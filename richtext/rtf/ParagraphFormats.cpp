@@ -1,4 +1,4 @@
-#include "richtext/rtf/Paragraphs.h"
+#include "richtext/rtf/ParagraphFormats.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -7,7 +7,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/document/ListLabel.h"
 
-namespace richtext {
+namespace richtext::rtf {
 namespace {
 
 constexpr std::int32_t SingleLine = 240;
@@ -31,7 +31,7 @@ bool SameList(const ListFormat& one, ListFormat other) {
 
 }  // namespace
 
-std::int32_t RtfListCounter::Count(std::int32_t list, std::int32_t level, std::int32_t start) {
+std::int32_t ListCounter::Count(std::int32_t list, std::int32_t level, std::int32_t start) {
   for (auto deeper = static_cast<std::size_t>(level) + 1; deeper < runs_.size(); ++deeper) {
     runs_[deeper] = {};
     next_.erase({list, static_cast<std::int32_t>(deeper)});
@@ -43,7 +43,7 @@ std::int32_t RtfListCounter::Count(std::int32_t list, std::int32_t level, std::i
   return items.start;
 }
 
-std::uint32_t RtfParagraphs::AddTab(std::uint32_t tabs, TabStop tab) {
+std::uint32_t ParagraphFormats::AddTab(std::uint32_t tabs, TabStop tab) {
   tab.position = FittingIndent(tab.position);
   const auto place = static_cast<std::uint64_t>(std::int64_t{tab.position} + MaxIndent);
   const std::uint64_t key = (std::uint64_t{tabs} << 32) | (place << 8) | static_cast<std::uint64_t>(tab.kind);
@@ -54,7 +54,7 @@ std::uint32_t RtfParagraphs::AddTab(std::uint32_t tabs, TabStop tab) {
 }
 
 // Those told last outrank those before, of one place and when there are too many.
-std::vector<TabStop> RtfParagraphs::TabsOf(std::uint32_t tabs) const {
+std::vector<TabStop> ParagraphFormats::TabsOf(std::uint32_t tabs) const {
   std::vector<TabStop> stops;
   const auto byPosition = [](const TabStop& a, const TabStop& b) { return a.position < b.position; };
   for (; tabs != 0 && stops.size() < MaxTabStops; tabs = tabs_[tabs - 1].before) {
@@ -65,15 +65,15 @@ std::vector<TabStop> RtfParagraphs::TabsOf(std::uint32_t tabs) const {
   return stops;
 }
 
-std::uint32_t RtfParagraphs::NumberOf(const RtfNumbering& numbering) {
-  const RtfNumbering fitting{FittingList(numbering.list), FittingSpace(numbering.indent)};
+std::uint32_t ParagraphFormats::NumberOf(const Numbering& numbering) {
+  const Numbering fitting{FittingList(numbering.list), FittingSpace(numbering.indent)};
   if (fitting.list.kind == ListKind::None) return 0;
   const bool known = !numberings_.empty() && numberings_.back() == fitting;
   if (!known && numberings_.size() < MaxFormats) numberings_.push_back(fitting);
   return static_cast<std::uint32_t>(numberings_.size());
 }
 
-std::uint32_t RtfParagraphs::NumberOfLabel(std::u16string_view label) {
+std::uint32_t ParagraphFormats::NumberOfLabel(std::u16string_view label) {
   const std::optional<ListFormat> list = ListOfLabel(label);
   if (!list) return 0;
   const bool goesOn = label_ != 0 && SameList(numberings_[label_ - 1].list, *list) &&
@@ -83,11 +83,11 @@ std::uint32_t RtfParagraphs::NumberOfLabel(std::u16string_view label) {
   return label_;
 }
 
-bool RtfParagraphs::IsListed(const ParagraphState& state) const {
+bool ParagraphFormats::IsListed(const ParagraphState& state) const {
   return state.numbering != 0 || (state.listNumber != 0 && lists_.Has(state.listNumber));
 }
 
-ParagraphFormat RtfParagraphs::FormatOf(const ParagraphState& state) const {
+ParagraphFormat ParagraphFormats::FormatOf(const ParagraphState& state) const {
   ParagraphFormat format;
   format.alignment = state.alignment;
   format.direction = state.direction;
@@ -102,7 +102,7 @@ ParagraphFormat RtfParagraphs::FormatOf(const ParagraphState& state) const {
     format.list = lists_.Find(state.listNumber, state.listLevel);
     format.list.start = lists_.Start(state.listNumber, state.listLevel);
   } else if (state.numbering != 0) {
-    const RtfNumbering& numbering = numberings_[state.numbering - 1];
+    const Numbering& numbering = numberings_[state.numbering - 1];
     format.list = numbering.list;
     if (format.leftIndent == 0 && format.firstLineIndent == 0) {
       format.leftIndent = numbering.indent;
@@ -114,7 +114,7 @@ ParagraphFormat RtfParagraphs::FormatOf(const ParagraphState& state) const {
   return format;
 }
 
-ParagraphFormat RtfParagraphs::FormatOfNext(const ParagraphState& state) {
+ParagraphFormat ParagraphFormats::FormatOfNext(const ParagraphState& state) {
   ParagraphFormat format = FormatOf(state);
   const bool counted = state.listNumber != 0 && lists_.Has(state.listNumber);
   if (!counted || format.list.kind == ListKind::None) {
@@ -127,4 +127,4 @@ ParagraphFormat RtfParagraphs::FormatOfNext(const ParagraphState& state) {
   return format;
 }
 
-}  // namespace richtext
+}  // namespace richtext::rtf

@@ -13,18 +13,18 @@
 #include "richtext/rtf/GroupState.h"
 #include "richtext/rtf/ListTable.h"
 
-namespace richtext {
+namespace richtext::rtf {
 
 // The older way to tell of a list, which stands with its first paragraph.
-struct RtfNumbering {
+struct Numbering {
   ListFormat list;
   std::int32_t indent = 0;  // twips; where the paragraph has no indents of its own
 
-  bool operator==(const RtfNumbering&) const = default;
+  bool operator==(const Numbering&) const = default;
 };
 
 // Finds the starts of lists that go on behind other paragraphs: a document's format knows only neighbours.
-class RtfListCounter {
+class ListCounter {
  public:
   // Counts an item and returns the number of the first of the neighbours that it belongs to. `start` is the
   // list's own first number.
@@ -43,14 +43,14 @@ class RtfListCounter {
   std::array<Items, 9> runs_;
 };
 
-class RtfParagraphs {
+class ParagraphFormats {
  public:
-  RtfListTable& Lists() { return lists_; }
+  ListTable& Lists() { return lists_; }
 
   // The number of these tab stops and one more.
   std::uint32_t AddTab(std::uint32_t tabs, TabStop tab);
   // The number of a list; 0 when it is of no kind.
-  std::uint32_t NumberOf(const RtfNumbering& numbering);
+  std::uint32_t NumberOf(const Numbering& numbering);
   // The number of the list that a paragraph's written label tells; 0 when it tells none. Labels that count on
   // are of one list.
   std::uint32_t NumberOfLabel(std::u16string_view label);
@@ -72,11 +72,11 @@ class RtfParagraphs {
 
   std::unordered_map<std::uint64_t, std::uint32_t> tabNumbers_;  // by what makes a node
   std::vector<TabNode> tabs_;                                    // number 1 is the first
-  std::vector<RtfNumbering> numberings_;                         // likewise
-  RtfListTable lists_;
-  RtfListCounter counter_;
+  std::vector<Numbering> numberings_;                            // likewise
+  ListTable lists_;
+  ListCounter counter_;
   std::uint32_t label_ = 0;  // the list of the last label
   std::int32_t nextLabel_ = 0;
 };
 
-}  // namespace richtext
+}  // namespace richtext::rtf
