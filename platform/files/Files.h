@@ -82,7 +82,8 @@ std::string ReadDataFile(const std::string& path, std::uint64_t most = std::uint
 void ReplaceFile(const std::string& path, std::string_view bytes);
 // The same with the bytes in pieces, one behind the other, so that they need not be brought together first.
 void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces);
-// The same, and makes the file known (platform/files/KnownFiles.h), after NotYetOnDisk too. In the window's
+// The same, and makes the file known (platform/files/KnownFiles.h), after NotYetOnDisk too. What another program
+// puts there while the bytes are on their way to the disk is kept as KeepChanged does. In the window's
 // thread.
 void ReplaceDataFile(const std::string& path, std::string_view bytes);
 void ReplaceDataFile(const std::string& path, std::span<const std::string_view> pieces);
@@ -124,8 +125,13 @@ void DeleteFile(const std::string& path);
 // Keeps a copy of the file beside it, under its name with ".damaged" behind it, or with ".1.damaged" and so
 // on where that name is taken. A file that was kept and has not been replaced since is not kept twice.
 // Returns the copy's path, when that is on the disk; throws FileNotFound, or as ReplaceFile does when there
-// can be no copy.
+// can be no copy. The copy is for its owner alone, at the latest when ReplaceDataFile has replaced the file.
 std::string KeepDamaged(const std::string& path);
+
+// Gives the file itself, or whatever has its name, the first such name that is free, and returns it. That
+// takes no room on a full disk. A power cut can undo it until the folder is synced (platform/SyncFolder.h).
+// Throws PermissionDenied, PathNotFound or PathAccess, with nothing changed.
+std::string MoveAside(const std::string& path);
 
 // What the name of a file that is being written has behind the name that it will take.
 inline constexpr std::string_view UnfinishedEnding = ".thornquill-unfinished";

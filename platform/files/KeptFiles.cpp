@@ -1,11 +1,15 @@
 // Files that lie beside the data files: damaged or changed ones that are kept, and those that a killed
 // process left.
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
+#include <map>
+#include <set>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/Errno.h"
 #include "platform/Failure.h"
 #include "platform/files/FileNames.h"
 #include "platform/files/Files.h"
@@ -57,15 +61,44 @@ std::string KeptName(const std::string& path, const std::string& ending, int num
   return name + ending;
 }
 
+// What was kept of a file that still has its path.
+std::map<std::string, std::set<std::string>>& KeptOf() {
+  static std::map<std::string, std::set<std::string>> names;
+  return names;
+}
+
+// Not where the file has a name that somebody else gave it.
+void MakePrivate(const std::string& kept) {
+  struct stat entry {};
+  if (lstat(kept.c_str(), &entry) != 0 || !S_ISREG(entry.st_mode) || entry.st_nlink != 1) return;
+  if ((entry.st_mode & 0777) == (S_IRUSR | S_IWUSR)) return;
+  [[maybe_unused]] const int ignored = chmod(kept.c_str(), S_IRUSR | S_IWUSR);
+}
+
 }  // namespace
 
 std::string KeepBeside(const std::string& path, const std::string& ending, int number) try {
   std::string name = KeptName(path, ending, number);
   while (!IsOrWasKept(path, name)) name = KeptName(path, ending, ++number);
+  KeptOf()[path].insert(name);
   SyncFolderOf(name);  // the one name is on the disk before the other is given away
   return name;
 } catch (const NotYetOnDisk& failure) {
   throw Failure(failure);  // of the copy: the file itself is as it was
+}
+
+void MakeKeptPrivate(const std::string& path) {
+  for (const std::string& name : KeptOf()[path]) MakePrivate(name);
+  KeptOf().erase(path);
+}
+
+std::string MoveAside(const std::string& path) {
+  int number = 0;
+  std::string name = KeptName(path, ".damaged", number);
+  while (IsTaken(name)) name = KeptName(path, ".damaged", ++number);
+  if (std::rename(path.c_str(), name.c_str()) != 0) throw FailureOf(errno, path, FailureKind::PathNotFound);
+  MakePrivate(name);
+  return name;
 }
 
 std::string KeepDamaged(const std::string& path) {

@@ -1,6 +1,5 @@
 #include "platform/files/KnownFiles.h"
 
-#include <array>
 #include <map>
 #include <utility>
 
@@ -10,19 +9,6 @@
 
 namespace platform {
 namespace {
-
-// What tells a file from each that another program puts in its place, and from itself when it is changed.
-using Identity = std::array<std::int64_t, 7>;
-
-Identity IdentityOf(const struct stat& entry) {
-  return {static_cast<std::int64_t>(entry.st_dev),
-          static_cast<std::int64_t>(entry.st_ino),
-          entry.st_size,
-          entry.st_mtim.tv_sec,
-          entry.st_mtim.tv_nsec,
-          entry.st_ctim.tv_sec,
-          entry.st_ctim.tv_nsec};
-}
 
 struct KnownFile {
   Identity identity;
@@ -45,6 +31,16 @@ bool IsTheSame(const KnownFile& one, const KnownFile& other) {
 }
 
 }  // namespace
+
+Identity IdentityOf(const struct stat& entry) {
+  return {static_cast<std::int64_t>(entry.st_dev),
+          static_cast<std::int64_t>(entry.st_ino),
+          entry.st_size,
+          entry.st_mtim.tv_sec,
+          entry.st_mtim.tv_nsec,
+          entry.st_ctim.tv_sec,
+          entry.st_ctim.tv_nsec};
+}
 
 void Remember(const std::string& path, const struct stat& entry, std::optional<std::uint64_t> checksum) {
   KnownFiles().insert_or_assign(path, KnownFile{IdentityOf(entry), checksum});

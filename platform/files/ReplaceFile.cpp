@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
+#include <optional>
 #include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
@@ -14,6 +15,7 @@
 #include "platform/Errno.h"
 #include "platform/files/Checksum.h"
 #include "platform/files/Files.h"
+#include "platform/files/KnownFiles.h"
 #include "platform/files/LeftBehind.h"
 #include "platform/files/Remembered.h"
 #include "platform/files/SyncFolder.h"
@@ -49,6 +51,12 @@ std::string RealPath(const std::string& path) {
   return real.string();
 }
 
+// None where there is no file.
+std::optional<Identity> IdentityAt(const std::string& path) {
+  struct stat entry {};
+  return stat(path.c_str(), &entry) == 0 ? std::optional(IdentityOf(entry)) : std::nullopt;
+}
+
 std::atomic<int> filesBeingWritten = 0;
 
 class BeingWritten {
@@ -70,6 +78,7 @@ class Unfinished {
   Unfinished& operator=(const Unfinished&) = delete;
 
   void Write(std::span<const std::string_view> pieces);
+  void BringToTheDisk();
   void TakeTheName();
   // The one that has the name now is known, so that no other that takes its place is taken for it.
   void BeRemembered() const;
@@ -161,9 +170,12 @@ void Unfinished::Write(std::span<const std::string_view> pieces) {
 
 // A write that the system accepted may still fail on its way to the disk. This must be known before the old
 // file is given up; a disk behind a network tells when the file is closed.
-void Unfinished::TakeTheName() {
-  Must(fsync(descriptor_) == 0 || errno == EINVAL || errno == ENOTSUP);
+void Unfinished::BringToTheDisk() {
+  Must(fsync(descriptor_) == 0 || KnowsNoSync(errno));
   Must(close(std::exchange(descriptor_, -1)) == 0 || errno == EINTR);
+}
+
+void Unfinished::TakeTheName() {
   if (!HasTheName()) Fail(EBUSY, path_);
   Must(std::rename(name_.c_str(), target_.c_str()) == 0);
   name_.clear();
@@ -174,14 +186,19 @@ void Unfinished::BeRemembered() const {
   if (lock_ >= 0 && fstat(lock_, &entry) == 0) Remember(path_, entry, checksum_.value());
 }
 
-void Replace(const std::string& path, std::span<const std::string_view> pieces, bool isKnownThen) {
+// The disk may take long, and another program may change a data file meanwhile: then that is kept too.
+void Replace(const std::string& path, std::span<const std::string_view> pieces, bool isDataFile) {
   const BeingWritten beingWritten;
   RefuseUnchangeable(path);
   const std::string target = RealPath(path);
+  const std::optional<Identity> before = IdentityAt(target);
   Unfinished file(path, target);
   file.Write(pieces);
+  file.BringToTheDisk();
+  if (isDataFile && IdentityAt(target) != before) KeepChanged(path);
   file.TakeTheName();
-  if (isKnownThen) file.BeRemembered();
+  if (isDataFile) file.BeRemembered();
+  if (isDataFile) MakeKeptPrivate(path);
   SyncFolderOf(target);
 }
 

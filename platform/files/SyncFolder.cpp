@@ -15,15 +15,18 @@ std::string FolderOf(const std::string& path) {
   return path.substr(0, slash + 1);
 }
 
-// Some file systems bring names to the disk by themselves, and know no other way.
 bool CannotBeSynced(int error) {
-  return error == EINVAL || error == ENOTSUP || error == EBADF || error == EACCES;
+  return KnowsNoSync(error) || error == EBADF || error == EACCES;
 }
 
 }  // namespace
 
 NotYetOnDisk::NotYetOnDisk(int error, const std::string& path)
     : Failure(FailureOf(error, path, FailureKind::PathNotFound)) {}
+
+bool KnowsNoSync(int error) {
+  return error == EINVAL || error == ENOTSUP || error == ENOSYS || error == EPERM;
+}
 
 const char* FileAfter(const std::exception& failure) {
   if (!dynamic_cast<const NotYetOnDisk*>(&failure)) return "the file is as it was";

@@ -20,6 +20,10 @@ class NotYetOnDisk : public Failure {
 // the new one.
 const char* FileAfter(const std::exception& failure);
 
+// Whether fsync failed so because the file system, or what the program is shut in, knows no such thing. Those
+// bring all to the disk by themselves, and a failure would only keep anything from ever being saved.
+bool KnowsNoSync(int error);
+
 // Brings the names in the folder that `path` lies in to the disk. Does nothing where the file system knows no
 // such thing, or where the folder may not be read. Throws NotYetOnDisk, which names `path`.
 void SyncFolderOf(const std::string& path);

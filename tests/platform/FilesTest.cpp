@@ -13,6 +13,7 @@
 
 using fixture::ExpectFailure;
 using fixture::Folder;
+using fixture::RunPowerless;
 using fixture::Texts;
 using platform::FailureKind;
 
@@ -20,20 +21,11 @@ namespace {
 
 // What the calls below saw, each of which stands in for the C library's function of its name.
 struct {
-  Texts synced;           // the names of the folders that were synced
-  int folderError = 0;    // what they answer
+  Texts synced;         // the names of the folders that were synced
+  int folderError = 0;  // what they answer
+  std::function<void()> duringFileSync = {};
   mode_t modeBefore = 0;  // of a file whose mode is set: the one that it was made with
 } calls;
-
-// As somebody whom the permissions of files bind; root is bound by none.
-void RunPowerless(const Folder& folder, const std::function<void()>& routine) {
-  const uid_t before = geteuid(), powerless = before == 0 ? 65534 : before;
-  for (const auto& path : {folder.path(), folder.PathOf(folder.Names().at(0))})
-    EXPECT_EQ(chown(path.c_str(), powerless, static_cast<gid_t>(-1)), 0);
-  EXPECT_EQ(seteuid(powerless), 0);
-  routine();
-  EXPECT_EQ(seteuid(before), 0);
-}
 
 struct stat EntryOf(const std::string& path) {
   struct stat entry {};
@@ -49,6 +41,8 @@ extern "C" int fsync(int descriptor) {
     const auto link = "/proc/self/fd/" + std::to_string(descriptor);
     calls.synced.push_back(QFile::symLinkTarget(QString::fromStdString(link)).toStdString());
     if ((errno = calls.folderError) != 0) return -1;
+  } else if (calls.duringFileSync) {
+    std::exchange(calls.duringFileSync, nullptr)();
   }
   return static_cast<int>(syscall(SYS_fsync, descriptor));
 }
@@ -85,7 +79,7 @@ TEST(Files, ATakenNameIsBroughtToTheDiskWhereTheFileLies) {
   EXPECT_EQ(calls.synced, Texts{there});
   platform::KeepDamaged(path);
   EXPECT_EQ(calls.synced, (Texts{there, folder.path()})) << "a second name lies beside the link";
-  for (const int error : {EINVAL, ENOTSUP, EBADF}) {
+  for (const int error : {EINVAL, ENOTSUP, EBADF, ENOSYS, EPERM}) {
     calls.folderError = error;
     EXPECT_NO_THROW(platform::ReplaceFile(path, "old")) << "a file system that knows no such thing";
   }
@@ -113,6 +107,13 @@ TEST(Files, NobodyElseCanReadAFileThatIsBeingWrittenOrThatIsNew) {
   platform::ReplaceFile(path, "newer");
   EXPECT_EQ(calls.modeBefore, 0600u);
   EXPECT_EQ(EntryOf(path).st_mode & 0777, 0664u) << "what is there keeps its mode";
+  const std::string kept = platform::KeepDamaged(path);
+  EXPECT_EQ(EntryOf(path).st_mode & 0777, 0664u);
+  platform::ReplaceDataFile(path, "newest");
+  EXPECT_EQ(EntryOf(kept).st_mode & 0777, 0600u);
+  EXPECT_EQ(EntryOf(path).st_mode & 0777, 0664u);
+  EXPECT_EQ(EntryOf(platform::MoveAside(path)).st_mode & 0777, 0600u);
+  EXPECT_EQ(folder.Names(), (Texts{"j00000.tqf.1.damaged", "j00000.tqf.2.damaged", "j00000.tqf.damaged"}));
   platform::AppendToFile(folder.PathOf("page.html"), "an export");
   EXPECT_EQ(EntryOf(folder.PathOf("page.html")).st_mode & 0777, 0666u) << "is for whom the user likes";
   umask(before);
@@ -194,9 +195,12 @@ TEST(Files, WhatAnotherProgramPutThereIsKeptAndToldOnce) {
   EXPECT_TRUE(save("ours at last"));
   EXPECT_EQ(folder.Read(name + ".1.other"), "another's");
   EXPECT_EQ(folder.Read(name + ".2.other"), "one more");
-  EXPECT_EQ(folder.Names(), (Texts{name, name + ".1.other", name + ".2.other"}));
-  ASSERT_EQ(answers.messages.size(), 2u);
-  EXPECT_NE(answers.last().find(name + ".2.other"), std::string::npos);
+  calls.duringFileSync = [&] { folder.Write(name, "between the look and the name"); };
+  EXPECT_FALSE(save("ours again"));
+  EXPECT_EQ(folder.Read(name + ".3.other"), "between the look and the name");
+  EXPECT_EQ(folder.Names(), (Texts{name, name + ".1.other", name + ".2.other", name + ".3.other"}));
+  ASSERT_EQ(answers.messages.size(), 3u);
+  EXPECT_NE(answers.last().find(name + ".3.other"), std::string::npos);
 }
 
 TEST(Files, AnotherProgramsFileThatCannotBeKeptIsNotWrittenOver) {

@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <sys/resource.h>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -74,6 +75,17 @@ class Folder {
   QString QtPath(std::string_view name) const { return QFile::decodeName(PathOf(name).c_str()); }
   QTemporaryDir folder_;
 };
+
+// As somebody whom the permissions of files bind; root is bound by none.
+inline void RunPowerless(const Folder& folder, const std::function<void()>& routine) {
+  const uid_t before = geteuid(), powerless = before == 0 ? 65534 : before;
+  Texts names = folder.Names();
+  for (const std::string& name : (names.push_back("."), names))
+    EXPECT_EQ(chown(folder.PathOf(name).c_str(), powerless, static_cast<gid_t>(-1)), 0);
+  EXPECT_EQ(seteuid(powerless), 0);
+  routine();
+  EXPECT_EQ(seteuid(before), 0);
+}
 
 // No file can grow beyond so many bytes, which the system tells as it tells of a full disk: by a failed
 // write.
