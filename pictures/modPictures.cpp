@@ -26,6 +26,10 @@ bool keepBeforeSaving = false;
 std::optional<store::FileCheck> fileCheck;
 // Whether Pictures holds the rows of an older store that is gone, and no file has them yet.
 bool areOnlyHere = false;
+// Whether the older store lies there though it was read, and is to go when its rows are safe; and whether it
+// must be kept under another name then.
+bool oldStoreWaits = false;
+bool keepsOldStore = false;
 
 void Take(store::DecodedPictures store) {
   Pictures = std::move(store.rows);
@@ -77,17 +81,24 @@ bool ReadOldStore(const std::string& path) {
   }
 }
 
-// What is kept under another name first may go; what cannot be kept stays.
-void DeleteOldStore(const std::string& path, bool keepsIt) {
+// What cannot be kept under another name stays.
+void DeleteOldStore() {
+  const std::string path = platform::PathOf(oldStoreName);
   try {
-    if (keepsIt) platform::KeepDamaged(path);
-    platform::DeleteFile(path);
+    keepsOldStore ? void(platform::MoveAside(path)) : platform::DeleteFile(path);
     platform::SyncFolderOf(path);  // what is added from now on would not show if it came back
   } catch (const Failure& failure) {
     platform::ShowMessage("The older file jpics.bin could not be removed. " + std::string(failure.what()) +
                           "\n\nAs long as it is there, each start takes the pictures from it, and those that "
                           "were added since do not show. Please move it to another folder.");
   }
+}
+
+// Where neither the newer store nor the log could take its rows in, it is all that the disk has of them.
+void LetOldStoreGo() {
+  if (!oldStoreWaits || (areOnlyHere && LogThrough && !LogThrough())) return;
+  oldStoreWaits = false;
+  DeleteOldStore();
 }
 
 // The newer store is not looked at where there is an older one; but the log must know what it goes over.
@@ -110,6 +121,7 @@ void WriteStore() {
   platform::ReplaceDataFile(path, bytes);
   fileCheck = store::CheckOf(bytes);
   PicturesUnsaved = areOnlyHere = false;
+  LetOldStoreGo();
   if (SomethingWasStored) SomethingWasStored();
   platform::TellKept(path);
 }
@@ -117,7 +129,7 @@ void WriteStore() {
 }  // namespace
 
 void LoadPictureStore() {
-  keepBeforeSaving = areOnlyHere = false;
+  keepBeforeSaving = areOnlyHere = oldStoreWaits = false;
   fileCheck.reset();
   if (platform::FileExists(platform::PathOf(oldStoreName))) return ImportOldPictureStore();
   if (!platform::IsMissing(platform::PathOf(storeName))) LoadStore();
@@ -128,11 +140,11 @@ void LoadPictureStore() {
 void ImportOldPictureStore() {
   platform::AcceptUnread(platform::PathOf(storeName));
   const std::string path = platform::PathOf(oldStoreName);
-  const bool keepsIt = platform::FileExists(path) && ReadOldStore(path);
+  keepsOldStore = platform::FileExists(path) && ReadOldStore(path);
   NoteNewerStore();
   areOnlyHere = Pictures.size() > 1;
-  if (LogThrough) LogThrough();
-  DeleteOldStore(path, keepsIt);
+  oldStoreWaits = true;
+  LetOldStoreGo();
 }
 
 void SavePictureStore() {
@@ -141,6 +153,7 @@ void SavePictureStore() {
     WriteStore();
   } catch (const Failure& failure) {
     platform::ShowMessage(PicturesNotSaved(failure));
+    LetOldStoreGo();
   }
 }
 

@@ -13,7 +13,8 @@
 void LoadPictureStore();
 
 // Reads jpics.bin into Pictures and deletes it. Nothing is written: tqpics.bin comes with the next
-// SavePictureStore. A damaged one is kept beside before it goes.
+// SavePictureStore. A damaged one is kept beside instead. While neither the log nor tqpics.bin can take its
+// rows in, it stays.
 void ImportOldPictureStore();
 
 // Writes the rows of Pictures that are not removed to tqpics.bin. A file that could not be read whole is kept

@@ -18,8 +18,10 @@ class PictureStores : public fixture::Desk {
     rows[2].PictureFile = "/b";
     folder.Write(store, store::EncodePictureStore(rows));
   }
-  // A slot for the count and twelve for one blank row.
-  void WriteOldStore(char count) { folder.Write(oldStore, count + std::string(13 * 128 - 1, '\0')); }
+  // A slot for the count and twelve for each blank row.
+  void WriteOldStore(char count, std::size_t rows = 1) {
+    folder.Write(oldStore, count + std::string((1 + 12 * rows) * 128 - 1, '\0'));
+  }
   // "2 /a,/b,": PictureCount and the picture files of the rows from 1 on, after the store was loaded.
   static std::string Loaded() {
     LoadPictureStore();
@@ -42,6 +44,16 @@ TEST_F(PictureStores, GrowByARowAndTheOlderOneWinsAndGoesAtOnce) {
   SavePictureStore();
   EXPECT_EQ(Loaded(), "1 ,") << "the newer one is written over";
   EXPECT_EQ(folder.Names(), Texts{store}) << "and nothing of it is kept";
+}
+
+TEST_F(PictureStores, TheOlderOneStaysUntilItsRowsAreSafe) {
+  WriteOldStore(1, 2);
+  LogThrough = [] { return false; };
+  LoadPictureStore();
+  ASSERT_EQ(PictureCount, 1);
+  EXPECT_EQ(folder.Names(), (Texts{oldStore, store}));
+  SavePictureStore();
+  EXPECT_EQ(folder.Names(), Texts{store});
 }
 
 TEST_F(PictureStores, ADamagedStoreIsToldAndKeptBeside) {
