@@ -86,7 +86,8 @@ void LoadJournalWindow() {
 
 // What an earlier run left unstored comes first, so that nothing new is written over it.
 void GoOnWithTheLog(bool isWritable) {
-  if (RollPagesForward()) BeginTheLog(isWritable);
+  if (RollPagesForward()) return BeginTheLog(isWritable);
+  LogThrough = [] { return false; };  // nothing goes from the disk that is in memory alone
 }
 
 void Unlock(bool isWritable) {

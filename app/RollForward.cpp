@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "editor/OpenJournal.h"
 #include "platform/CodePage.h"
 #include "platform/Dates.h"
 #include "platform/Failure.h"
@@ -28,7 +29,9 @@ struct Work {
   std::optional<store::UnstoredLog> log;
   std::vector<std::string> back;   // a line for all that came back
   std::vector<std::string> aside;  // and for all that did not, with the reason
-  std::string copy;                // the copy that holds the latter
+  std::string copy;                // the file that holds the latter
+  std::string stays;               // why the log could not be taken away; empty when it could
+  std::vector<std::pair<std::string, std::int32_t>> damaged;  // the journals that were, and their whole pages
 };
 Work work;
 
@@ -44,33 +47,43 @@ std::string TextOf(const std::string& codePage) {
   return platform::FromCodePage(codePage).toStdString();
 }
 
-// False when it must stay, and would come back as it is at the next start: all of it is where it belongs.
-bool TakeLogAway() {
+// False when it must stay, since `remove` failed. Where the disk could not take the removal in, the log may
+// be there again after a power cut, as it is.
+template <class Remove>
+bool FreeLogPath(Remove&& remove) {
+  work.stays.clear();
   try {
-    platform::DeleteFile(LogPath());
+    remove();
     platform::SyncFolderOf(LogPath());
-    return true;
-  } catch (const platform::Failure&) {
-    return platform::IsMissing(LogPath());
+  } catch (const platform::Failure& failure) {
+    if (!platform::IsMissing(LogPath())) work.stays = failure.what();
   }
+  return work.stays.empty();
 }
 
-// Copies the log, so that a new one may take its place, and takes it away. False when it must stay.
+// For a log of which all is where it belongs.
+bool TakeLogAway() {
+  return FreeLogPath([] { platform::DeleteFile(LogPath()); });
+}
+
+// For one that is to be kept, so that a new one may take its place.
 bool PutLogAside() {
-  try {
-    work.copy = NameOf(platform::KeepDamaged(LogPath()));
-    return TakeLogAway();
-  } catch (const platform::Failure& failure) {
-    work.aside.push_back(failure.what());
-    return false;
-  }
+  return FreeLogPath([] { work.copy = NameOf(platform::MoveAside(LogPath())); });
+}
+
+std::string WhyLogStays(const std::string& reason) {
+  return "The log journal.tql stays as it is, since it could not be removed. " + reason +
+         "\n\nSo no new one can be kept. What you write is stored as ever when the page is turned or the "
+         "journal is closed; the end of the machine or of the program before that loses it. Remove the "
+         "cause, "
+         "and start Thornquill again.";
 }
 
 void TellUnreadable(const std::string& problem) {
   const bool isAside = PutLogAside();
   platform::ShowMessage("The log of what was not stored in the last run, journal.tql, cannot be read (" +
-                        problem + "). Nothing was changed by it." +
-                        (isAside ? "\n\nIt is kept beside as " + work.copy + "." : std::string()));
+                        problem + "). Nothing was changed by it.\n\n" +
+                        (isAside ? "It is kept beside as " + work.copy + "." : WhyLogStays(work.stays)));
   work = {};
 }
 
@@ -135,23 +148,25 @@ void Note(const std::string& title, const store::UnstoredPage& logged, const sto
     work.back.push_back(name);
 }
 
-std::vector<JournalPage> PagesIn(const std::string& fileName) {
-  if (platform::IsMissing(platform::PathOf(fileName))) return {};
+store::DecodedJournal JournalIn(const std::string& fileName) {
+  if (platform::IsMissing(platform::PathOf(fileName))) return {{}, store::JournalHealth::Sound, 0};
   store::DecodedJournal journal = store::ReadJournalFile(fileName);
   if (journal.health == store::JournalHealth::Alien)
     throw platform::Failure(platform::FailureKind::PermissionDenied, fileName + " (this is no journal)");
-  return std::move(journal.pages);
+  return journal;
 }
 
 void RollJournal(const store::UnstoredJournal& journal) {
   const std::string title = TitleOf(journal.FileName);
   try {
-    std::vector<JournalPage> pages = PagesIn(journal.FileName);
-    const std::vector<store::RolledPage> rolled = store::RollForward(journal.pages, PageShift, pages);
+    store::DecodedJournal file = JournalIn(journal.FileName);
+    const std::vector<store::RolledPage> rolled = store::RollForward(journal.pages, PageShift, file.pages);
     const bool changes = std::ranges::any_of(rolled, [](const store::RolledPage& page) {
       return page.how == store::Rolled::IntoItsRow || page.how == store::Rolled::AtTheEnd;
     });
-    if (changes) store::WriteJournalFile(journal.FileName, pages);
+    if (changes) store::WriteJournalFile(journal.FileName, file.pages);
+    if (changes && file.health == store::JournalHealth::Damaged)
+      work.damaged.push_back({journal.FileName, file.wholePages});
     for (std::size_t i = 0; i < rolled.size(); ++i) Note(title, journal.pages[i], rolled[i]);
   } catch (const platform::Failure& failure) {
     work.aside.push_back(title + ": " + failure.what());
@@ -171,10 +186,17 @@ void TakeIndexOutOfTheLog() {
   }
 }
 
-// An older store that is still there is read once more, and holds what the log would bring.
+// An older store that is still there is read once more, and mostly holds what the log would bring.
 void RollPictures(const store::UnstoredFile& logged) {
-  if (platform::FileExists(platform::PathOf("jpics.bin"))) return;
-  RollFile(PicturesKind, logged);
+  const std::string older = platform::PathOf("jpics.bin"), what = PicturesKind.what;
+  if (!platform::FileExists(older)) return RollFile(PicturesKind, logged);
+  try {
+    const std::vector<PagePicture> rows = store::DecodeOldPictureStore(platform::ReadFile(older)).rows;
+    if (store::EncodePictureStore(rows) != logged.bytes)
+      work.aside.push_back(what + ": the older file jpics.bin is there, and is read instead");
+  } catch (const platform::Failure& failure) {
+    work.aside.push_back(what + ": " + failure.what());
+  }
 }
 
 std::string Lines(const std::vector<std::string>& lines) {
@@ -210,13 +232,18 @@ bool RollPagesForward() {
 
 void TellWhatCameBack() {
   const Work done = std::exchange(work, {});
-  if (done.back.empty() && done.aside.empty()) return;
+  if (done.back.empty() && done.aside.empty() && done.stays.empty()) return;
   std::string text = "Thornquill could not save everything before its last end, on " +
                      platform::LongDate(done.log->when).toStdString() + " at " +
                      platform::ToDateTime(done.log->when).toString(QStringLiteral("HH:mm")).toStdString() +
                      ".";
   if (!done.back.empty()) text += "\n\nThis has been brought back from its log:" + Lines(done.back);
   if (!done.aside.empty()) text += "\n\nThis has not:" + Lines(done.aside);
-  if (!done.copy.empty()) text += "\n\nWhat has not is kept in " + done.copy + ".";
+  if (!done.copy.empty())
+    text += "\n\nWhat has not is kept in " + done.copy +
+            ". Where something stood in its way, remove that, leave Thornquill, and give the file the name "
+            "journal.tql again: the next start tries once more.";
+  if (!done.stays.empty()) text += "\n\n" + WhyLogStays(done.stays);
   platform::ShowMessage(text);
+  for (const auto& [fileName, wholePages] : done.damaged) TellDamagedJournal(fileName, wholePages);
 }

@@ -2,8 +2,8 @@
 // when the password has been given.
 //
 // A log that is damaged or alien changes nothing. What cannot be brought back, since it is of another
-// password or somebody else has changed its file, stays in a copy of the log beside it. A message tells it
-// all.
+// password or somebody else has changed its file, stays in the log, which gets another name. A message tells
+// it all.
 #pragma once
 
 // Reads journal.tql, and puts the index of it in the place of journal.tqt, or of none, where that is still
@@ -12,7 +12,7 @@ void RollBookcaseForward();
 
 // Puts the pictures and the pages of the log that RollBookcaseForward read into their files, and takes the
 // log away. To be called when no journal is open and before the picture store is loaded. False when something
-// is left in the log that could not even be copied: then it must stay as it is.
+// must stay in the log, or the log itself cannot be taken away: then no new one may be begun.
 bool RollPagesForward();
 
 // Tells what came back and what did not, if there was anything.

@@ -38,13 +38,6 @@ void TellUnreadable(const std::string& fileName, const platform::Failure& failur
   platform::ShowMessage(text.arg(Shown(fileName), QString::fromUtf8(failure.what())).toStdString());
 }
 
-void TellDamaged(const std::string& fileName, std::int32_t wholePages) {
-  const QString text = QStringLiteral(
-      "The journal's file %1 is damaged. Pages in it that are whole, the title page counted: %2.\n\n"
-      "The journal opens with these. The damaged file is kept beside it before it is written over.");
-  platform::ShowMessage(text.arg(Shown(fileName)).arg(wholePages).toStdString());
-}
-
 std::optional<store::DecodedJournal> Read(const std::string& fileName) {
   try {
     return store::ReadJournalFile(fileName);
@@ -62,7 +55,7 @@ bool TakePages(const std::string& fileName) {
     platform::ShowMessage("Journal load -- file unknown or corrupt!");
     return false;
   }
-  if (journal->health == store::JournalHealth::Damaged) TellDamaged(fileName, journal->wholePages);
+  if (journal->health == store::JournalHealth::Damaged) TellDamagedJournal(fileName, journal->wholePages);
   Pages = std::move(journal->pages);
   PagesJournal = CurrentJournal;
   store::RowsAreStored();
@@ -78,6 +71,13 @@ void ShowFirstPage() {
 }
 
 }  // namespace
+
+void TellDamagedJournal(const std::string& fileName, std::int32_t wholePages) {
+  const QString text = QStringLiteral(
+      "The journal's file %1 is damaged. Pages in it that are whole, the title page counted: %2.\n\n"
+      "The journal opens with these. The damaged file is kept beside it before it is written over.");
+  platform::ShowMessage(text.arg(Shown(fileName)).arg(wholePages).toStdString());
+}
 
 void LoadJournalFile(std::string& fileName) {
   WithFallbackName(fileName);

@@ -1,70 +1,9 @@
 // The program from its start to its end, and what the next start finds.
-#include <QtCore/QTimer>
-
-#include "app/KeptLog.h"
-#include "app/Main.h"
-#include "app/WaysOut.h"
-#include "bookcase/frmBookcase.h"
-#include "bookcase/frmInitJournal.h"
-#include "editor/frmCal.h"
-#include "editor/frmJournal.h"
-#include "lock/frmPass.h"
-#include "platform/desktop/Application.h"
-#include "tests/support/Windows.h"
+#include "tests/app/Journey.h"
 
 namespace {
 
-class Journey : public fixture::Windows {
- protected:
-  ~Journey() override { EndTheLog(); }
-
-  // One run of the program, up to the first window. A first run is answered by what is given, on a timer,
-  // since its dialog blocks.
-  void Start(const std::function<void(frmInitJournal&)>& firstRun = {}) {
-    EndTheLog();
-    look::UnloadAllForms();
-    instance_.reset();
-    ResetState();
-    end.count = 0;
-    if (firstRun) QTimer::singleShot(0, [firstRun] { firstRun(look::The<frmInitJournal>()); });
-    instance_ = std::make_unique<platform::RunningInstance>();
-    Main(*instance_, {});
-  }
-  static void Fill(frmInitJournal& dialog, const std::string& name, const std::string& password,
-                   const std::string& again) {
-    dialog.txtPass->setText(QString::fromStdString(name));
-    dialog.txtNewPass->setText(QString::fromStdString(password));
-    dialog.txtNewPass2->setText(QString::fromStdString(again));
-    Click(dialog.cmdOK);
-  }
-  // A first run that has been filled in, with the first journal open and something typed.
-  void StartAndWrite(const char* text) {
-    Start([](frmInitJournal& dialog) { Fill(dialog, "My Diary", "Rosebud7", "Rosebud7"); });
-    EXPECT_FALSE(folder.Exists("journal.tqt"));
-    OpenTheJournal();
-    QTest::keyClicks(Book().face->txtM, QString::fromUtf8(text));
-  }
-  static void OpenTheJournal() {
-    Click(look::The<frmBookcase>().cmdOpen);
-    ASSERT_TRUE(Book().isVisible());
-  }
-  void ExpectAtTheNextStart(const QString& text) {
-    EXPECT_EQ(end.count, 1);
-    Start();
-    Enter("Rosebud7");
-    OpenTheJournal();
-    EXPECT_EQ(Book().face->txtM->Text(), text);
-  }
-  static void Enter(const char* password) {
-    Lock().txtPass->setText(QLatin1String(password));
-    QTest::keyClick(Lock().txtPass, Qt::Key_Return);
-  }
-  static frmPass& Lock() { return look::The<frmPass>(); }
-  static frmJournal& Book() { return look::The<frmJournal>(); }
-
- private:
-  std::unique_ptr<platform::RunningInstance> instance_;
-};
+using fixture::Journey;
 
 TEST_F(Journey, AFirstRunThatIsLeftLeavesNothingBehind) {
   Start([](frmInitJournal& dialog) { QTest::keyClick(dialog.txtNewPass, Qt::Key_Escape); });
@@ -251,51 +190,6 @@ TEST_F(Journey, AJournalThatCannotBeWrittenClosesWhenNothingIsMissedOrOnDemand) 
   folder.Unblock("j00000.tqf");
   Click(look::The<frmBookcase>().cmdClose);
   ExpectAtTheNextStart(QStringLiteral("Missed"));
-}
-
-// As a kill does, nothing is saved between what was typed and the next start.
-TEST_F(Journey, WhatAKillLeavesInTheLogComesBack) {
-  StartAndWrite("First words");
-  ASSERT_TRUE(QTest::qWaitFor([this] { return folder.Exists("journal.tql"); }, 3000));
-  ASSERT_TRUE(BringTheLogUpToDate());
-  EXPECT_EQ(folder.Names(), fixture::Texts{"journal.tql"});
-  end.count = 1;
-  ExpectAtTheNextStart(QStringLiteral("First words"));
-  EXPECT_NE(answers.last().find("the bookcase\nMy Diary: page 1"), std::string::npos) << answers.last();
-  EXPECT_FALSE(folder.Exists("journal.tql")) << "nothing is unstored";
-
-  QTest::keyClicks(Book().face->txtM, QStringLiteral("Second "));
-  ASSERT_TRUE(BringTheLogUpToDate());
-  end.count = 1;
-  ExpectAtTheNextStart(QStringLiteral("Second First words"));
-  Click(Book().Toolbar1->Button(QStringLiteral("btnFirstPage")));
-  LeaveTheProgram();
-  EXPECT_EQ(folder.Names(), (fixture::Texts{"j00000.tqf", "journal.tqt"})) << "a sound end leaves no log";
-}
-
-TEST_F(Journey, ALogThatIsDamagedOrComesTooLateChangesNothingAndIsKept) {
-  StartAndWrite("Mine ");
-  Click(Book().Toolbar1->Button(QStringLiteral("btnFirstPage")));
-  Click(Book().Toolbar1->Button(QStringLiteral("btnLastPage")));
-  QTest::keyClicks(Book().face->txtM, QStringLiteral("more "));
-  ASSERT_TRUE(BringTheLogUpToDate());
-  const std::string log = folder.Read("journal.tql"), index = "journal.tqt", journal = "j00000.tqf";
-  LeaveTheProgram();
-  const std::string stored = folder.Read(journal);
-  for (std::string damaged : {log.substr(0, log.size() / 2), "x" + log, std::string(40, '\0')}) {
-    folder.Write("journal.tql", damaged);
-    Start();
-    EXPECT_NE(answers.last().find("kept beside as journal.tql"), std::string::npos) << answers.last();
-    EXPECT_EQ(folder.Read(journal), stored);
-    EXPECT_FALSE(folder.Exists("journal.tql"));
-    EndTheLog();
-  }
-  answers.messages.clear();
-  folder.Write("journal.tql", log);
-  end.count = 1;
-  ExpectAtTheNextStart(QStringLiteral("Mine more "));
-  EXPECT_EQ(folder.Read(journal), stored) << "the log is older than the file, and told nothing new";
-  EXPECT_TRUE(answers.texts().empty()) << answers.last();
 }
 
 }  // namespace

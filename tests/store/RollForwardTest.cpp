@@ -73,6 +73,8 @@ TEST_F(RollForwardTest, MakesAPageAtTheEndOfWhatHasChangedSince) {
   const std::vector<UnstoredPage> late = {Logged(2, Body("second"), 3)};
   pages.clear();
   EXPECT_EQ(Roll(late), "E1: @3 second@3 ") << "the file has gone";
+  pages.clear();
+  EXPECT_EQ(Roll({Logged(0, Body("title"), 1)}), "P0: title@1 @1 ") << "no journal is a title page alone";
 }
 
 TEST_F(RollForwardTest, LeavesOutWhatAnotherKeyEnciphered) {
