@@ -12,6 +12,7 @@ void LoadSettings();
 // with the file as it was, when it cannot be written.
 void SaveSettings();
 
-// Dresses the bookcase and the journal's head strip in a theme, 0 to 2; the options dress themselves, and every
-// other window takes it over when it loads. Any other number leaves the pictures as they are, over a black surface.
+// Dresses the bookcase and the journal's head strip in a theme, 0 to 2; the options dress themselves, and
+// every other window takes it over when it loads. Any other number leaves the pictures as they are, over a
+// black surface.
 void ApplyColorTheme(std::int16_t index);

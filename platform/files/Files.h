@@ -82,9 +82,9 @@ std::string ReadDataFile(const std::string& path, std::uint64_t most = std::uint
 void ReplaceFile(const std::string& path, std::string_view bytes);
 // The same with the bytes in pieces, one behind the other, so that they need not be brought together first.
 void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces);
-// The same, and makes the file known (platform/files/KnownFiles.h), after NotYetOnDisk too. What another program
-// puts there while the bytes are on their way to the disk is kept as KeepChanged does. In the window's
-// thread.
+// The same, and makes the file known (platform/files/KnownFiles.h), after NotYetOnDisk too. What another
+// program puts there while the bytes are on their way to the disk is kept as KeepChanged does. In the
+// window's thread.
 void ReplaceDataFile(const std::string& path, std::string_view bytes);
 void ReplaceDataFile(const std::string& path, std::span<const std::string_view> pieces);
 
@@ -129,8 +129,8 @@ void DeleteFile(const std::string& path);
 std::string KeepDamaged(const std::string& path);
 
 // Gives the file itself, or whatever has its name, the first such name that is free, and returns it. That
-// takes no room on a full disk. A power cut can undo it until the folder is synced (platform/SyncFolder.h).
-// Throws PermissionDenied, PathNotFound or PathAccess, with nothing changed.
+// takes no room on a full disk. A power cut can undo it until the folder is synced
+// (platform/files/SyncFolder.h). Throws PermissionDenied, PathNotFound or PathAccess, with nothing changed.
 std::string MoveAside(const std::string& path);
 
 // What the name of a file that is being written has behind the name that it will take.

@@ -11,7 +11,7 @@
 #include "editor/frmCal.h"
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
-#include "platform/Application.h"
+#include "platform/desktop/Application.h"
 #include "tests/support/Windows.h"
 
 namespace fixture {
