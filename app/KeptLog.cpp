@@ -3,7 +3,6 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 
-#include "editor/UnstoredPages.h"
 #include "look/Pass.h"
 #include "pictures/modPictures.h"
 #include "platform/Dates.h"
@@ -15,19 +14,22 @@
 namespace {
 
 constexpr std::chrono::milliseconds Pause{1000};
-constexpr std::chrono::milliseconds Longest{1900};  // the disk has the rest of the two seconds
+// Of the two seconds the steps have what lies between these, and then the disk has the rest.
+constexpr std::chrono::milliseconds Early{1500};
+constexpr std::chrono::milliseconds Longest{1900};
+constexpr std::chrono::milliseconds Step{6};  // with what it ends in, half a frame at most
 
 std::unique_ptr<KeptLog> theLog;
 
-store::UnstoredLog WhatIsUnstored() {
+// But for the journals.
+store::UnstoredLog WhatElseIsUnstored() {
   if (!BookcaseLoaded) return {};
-  return {platform::Now(), UnstoredIndex(), UnstoredPictures(), UnstoredJournals()};
+  return {platform::Now(), UnstoredIndex(), UnstoredPictures(), {}};
 }
 
 // The moment aside.
-bool IsSame(store::UnstoredLog one, const store::UnstoredLog& other) {
-  one.when = other.when;
-  return one == other;
+bool IsSame(const store::UnstoredLog& one, const store::UnstoredLog& other) {
+  return one.index == other.index && one.pictures == other.pictures;
 }
 
 bool ChangesSomething(QEvent::Type type) {
@@ -53,10 +55,10 @@ bool MayEndADialog(const QEvent& event) {
 KeptLog::KeptLog(bool tells)
     : tells_(tells),
       writer_(platform::PathOf("journal.tql"), [this](const auto& failure) { Tell(failure); }) {
-  for (QTimer* timer : {&pause_, &deadline_}) {
-    timer->setSingleShot(true);
-    connect(timer, &QTimer::timeout, this, &KeptLog::Look);
-  }
+  for (QTimer* timer : {&pause_, &early_, &nextStep_, &deadline_}) timer->setSingleShot(true);
+  for (QTimer* timer : {&pause_, &early_, &nextStep_})
+    connect(timer, &QTimer::timeout, this, &KeptLog::LookInSteps);
+  connect(&deadline_, &QTimer::timeout, this, &KeptLog::Look);
   FileWillBeWritten = [this](DataFile file) { BeAsNewAs(file); };
   SomethingWasStored = [this] { QTimer::singleShot(0, this, &KeptLog::Look); };
   LogThrough = [this] { return LookAndWait(); };
@@ -85,14 +87,35 @@ void KeptLog::LookAtTheBookcase() {
 
 void KeptLog::LookSoon() {
   pause_.start(Pause);
-  if (!deadline_.isActive()) deadline_.start(Longest);
+  if (deadline_.isActive()) return;
+  early_.start(Early);
+  deadline_.start(Longest);
+}
+
+void KeptLog::LookInSteps() {
+  if (IsCopiedSoon())
+    Look();
+  else
+    nextStep_.start(0);
+}
+
+// What fails here fails again where it is told.
+bool KeptLog::IsCopiedSoon() {
+  try {
+    return CopyUnstoredText(QDeadlineTimer(Step));
+  } catch (const std::exception&) {
+    return true;
+  }
+}
+
+void KeptLog::Rest() {
+  for (QTimer* timer : {&pause_, &early_, &nextStep_, &deadline_}) timer->stop();
 }
 
 bool KeptLog::Look() {
-  pause_.stop();
-  deadline_.stop();
+  Rest();
   try {
-    HandOver(WhatIsUnstored());
+    HandOver(WhatElseIsUnstored(), BookcaseLoaded ? PagesUnstored() : UnstoredPages());
     return true;
   } catch (const std::exception& failure) {  // no copy is worth the program's end
     Tell(failure.what());
@@ -100,10 +123,16 @@ bool KeptLog::Look() {
   }
 }
 
-void KeptLog::HandOver(store::UnstoredLog log) {
-  if (IsSame(log, held_)) return;
-  writer_.Put(log.empty() ? std::string() : store::EncodeLog(log));
-  held_ = std::move(log);
+void KeptLog::HandOver(store::UnstoredLog log, UnstoredPages pages) {
+  if (IsSame(log, held_) && pages == heldPages_) return;
+  held_ = log;
+  heldPages_ = pages;
+  if (held_.empty() && pages.journals.empty()) return writer_.Put(std::string());
+  writer_.Put([whole = std::move(log), rest = std::move(pages)] {
+    store::UnstoredLog written = whole;
+    written.journals = WithText(rest);
+    return store::EncodeLog(written);
+  });
 }
 
 bool KeptLog::LookAndWait() {
@@ -114,17 +143,17 @@ bool KeptLog::LookAndWait() {
 // when the log's is the file's own is it known not to be another program's change.
 void KeptLog::BeAsNewAs(DataFile file) {
   const bool holdsIt = file == DataFile::TheIndex   ? held_.index.has_value()
-                       : file == DataFile::AJournal ? !held_.journals.empty()
+                       : file == DataFile::AJournal ? !heldPages_.journals.empty()
                                                     : held_.pictures.has_value();
   if (holdsIt) LookAndWait();
 }
 
 void KeptLog::Remove() {
-  pause_.stop();
-  deadline_.stop();
-  if (held_.empty() && writer_.IsUpToDate()) return;
+  Rest();
+  if (held_.empty() && heldPages_.journals.empty() && writer_.IsUpToDate()) return;
   held_ = {};
-  writer_.Put({});
+  heldPages_ = {};
+  writer_.Put(std::string());
   writer_.Wait();
 }
 

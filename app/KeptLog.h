@@ -3,8 +3,9 @@
 // Whatever changes what is unstored comes of a key, a click or a drop, and of nothing else. So behind each of
 // them the log is looked after: at the first pause of a second, and at the latest two seconds after the first
 // of them, what stands in memory alone is gathered and handed to the writer, if it is not what the log holds
-// already. The window thread makes the bytes; a thread of its own writes them (platform/files/LogWriter.h).
-// When nothing is unstored the log goes.
+// already. The window thread copies the page, in steps between which the windows live, and what it copied
+// once only where it has changed; a thread of its own makes the bytes of these values and writes them
+// (platform/files/LogWriter.h). When nothing is unstored the log goes.
 #pragma once
 
 #include <memory>
@@ -13,6 +14,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QTimer>
 
+#include "editor/UnstoredPages.h"
 #include "platform/files/LogWriter.h"
 #include "state/State.h"
 #include "store/UnstoredLog.h"
@@ -24,7 +26,8 @@ class KeptLog : public QObject {
   explicit KeptLog(bool tells);
   ~KeptLog() override;
 
-  // Has the log hold what is unstored now. Returns at once; false when it could not be gathered.
+  // Has the log hold what is unstored now. Returns without waiting for the disk; false when it could not be
+  // gathered.
   bool Look();
   // The same, and waits. Whether the disk has it.
   bool LookAndWait();
@@ -36,14 +39,19 @@ class KeptLog : public QObject {
 
  private:
   void LookSoon();
+  void LookInSteps();
+  bool IsCopiedSoon();
+  void Rest();
   void LookAtTheBookcase();
-  void HandOver(store::UnstoredLog log);
+  void HandOver(store::UnstoredLog log, UnstoredPages pages);
   void BeAsNewAs(DataFile file);
   void Tell(const std::optional<std::string>& failure);
 
   bool tells_;
-  QTimer pause_, deadline_;
-  store::UnstoredLog held_;  // what the writer was given last; empty when the file is to be gone
+  QTimer pause_, early_, nextStep_, deadline_;
+  // What the writer was given last; both empty when the file is to be gone.
+  store::UnstoredLog held_;
+  UnstoredPages heldPages_;
   platform::LogWriter writer_;
 };
 

@@ -76,7 +76,7 @@ void SaveIndex(Refusals& refusals) {
 // The pages that only the log holds, by their journals.
 std::string LoggedPages() {
   std::string text;
-  for (const store::UnstoredJournal& journal : UnstoredJournals()) {
+  for (const store::UnstoredJournal& journal : PagesUnstored().journals) {
     text.append("Pages of ").append(platform::FromCodePage(journal.FileName).toStdString()).append(":");
     for (const store::UnstoredPage& page : journal.pages) text.append(" ").append(std::to_string(page.row));
     text.append("\n\n");
@@ -129,7 +129,7 @@ class NobodyThere {
 
 // What could not be saved stays in the log, for the next start, and so do pages that a closing left behind.
 void EndOfTheLog(const Refusals& refusals) {
-  const bool isAllStored = refusals.empty() && UnstoredJournals().empty();
+  const bool isAllStored = refusals.empty() && PagesUnstored().journals.empty();
   isAllStored ? RemoveTheLog() : void(BringTheLogUpToDate());
 }
 

@@ -51,6 +51,11 @@ def speed(figure, name, least):
                f"{least:g} of its speed", ratio >= least)
 
 
+def counted(figure, name, key, most):
+    """At most so many milliseconds of a counter."""
+    return row(figure, amount(of(name, key), "ms"), "", "", "", f"{most:g} ms at most", of(name, key) <= most)
+
+
 def rate(figure, name, least):
     pages = of(name, "pages")
     return row(figure, f"{pages:.0f} pages/s", "", "", "", f"{least:g} pages/s at least", pages >= least)
@@ -99,6 +104,14 @@ ROWS = [
     (beside_floor, "close from a changed page, 10,000; two of these", "CloseAChangedJournal", 1.3),
     (more, "what a turn takes more beside 100,000 pictures", "TurnBesideAStore/100000", "TurnBesideAStore/0", 2),
     (time, "a key to its letter, 100 KB page", "TypeALetter/100000", 5),
+    (counted, "the same beside the writing of its log", "TypeALetterBesideTheLog", "work_ms", 5),
+    (beside_floor, "the same; without a log", "TypeALetterBesideTheLog", 1.1),
+    (counted, "a key that waits for the log's copy", "TypeALetterBehindTheLook", "work_ms", 5),
+    *((counted, f"{what}, {page}", f"LogThePage/{kind}", key, most)
+      for kind, page in enumerate(["6 KB", "1 MB", "1 MB of 102,000 pieces", "1 MB of 85,000 paragraphs"])
+      for what, key, most in [("log a page: longest step of its first copy", "step_ms", 16),
+                              ("the copy after a letter", "again_ms", 16),
+                              ("the same, with RTF, cipher and the log's bytes", "whole_ms", 200)]),
     (time, "the index of 10,000 pages", "OpenTheIndex/10000", 60),
     (linear, "the same, each page of 100,000", "OpenTheIndex", 10000, 100000, 1.3),
     (speed, "parse 1 MB of RTF; bare tokenizer", "Parse/1000000", 0.5),

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <map>
-#include <optional>
-#include <tuple>
+#include <utility>
 
+#include "editor/AlienPage.h"
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
+#include "richtext/rtf/Writer.h"
 #include "state/State.h"
-#include "store/PageCipher.h"
 #include "store/RollForward.h"
 #include "store/UnstoredRows.h"
 
@@ -26,24 +26,21 @@ bool IsInTheBookcase(const std::string& fileName) {
   });
 }
 
-// The text of the page on show, enciphered; made anew only when it has changed.
-const std::string& TextBody() {
-  using Key = std::tuple<std::int32_t, std::int32_t, const QTextDocument*, int>;
-  static Key made;
-  static std::string body;
-  const QTextDocument* document = Face().txtM->document();
-  const Key key(PagesJournal, TextPage, document, document->revision());
-  if (key == made && !body.empty()) return body;
-  const std::string text = Face().txtM->TextRTF();
-  body.resize(text.size() * 2);
-  store::EncipherAside(text, PageShift, body.data());
-  made = key;
-  return body;
+// A page on which the first word is being composed has not changed yet.
+bool HasText() {
+  const bool isComposing =
+      PagesJournal != 0 && TextPage >= 0 && !ShowsAlienPage() && Face().txtM->IsComposing();
+  return isComposing || IsTextUnstored();
 }
 
-store::UnstoredPage Logged(std::int32_t row, const store::RowInFile& inFile) {
+UnstoredText TextOnShow() {
+  return {TextPage, PageShift, Face().txtM->Copy(), store::NextFiller()};
+}
+
+store::UnstoredPage Logged(std::int32_t row, const store::RowInFile& inFile, bool hasText) {
   const JournalPage& page = Pages.at(static_cast<std::size_t>(row));
   store::UnstoredPage logged{row, !inFile.isThere, inFile.body, inFile.PageDate, page.PageDate, {}};
+  if (hasText && row == TextPage) return logged;
   if (store::CheckOf(page.Body) != inFile.body) logged.Body = page.Body;
   return logged;
 }
@@ -52,28 +49,54 @@ store::RowInFile AsStored(const JournalPage& page) {
   return {true, store::CheckOf(page.Body), page.PageDate, true};
 }
 
-store::UnstoredJournal OpenJournal() {
+// The page on show comes without a body, which is made of its text.
+store::UnstoredJournal OpenJournal(bool hasText) {
   std::map<std::int32_t, store::RowInFile> rows = store::UnstoredRows();
-  const bool hasText = IsTextUnstored();
   if (hasText) rows.try_emplace(TextPage, AsStored(Pages.at(static_cast<std::size_t>(TextPage))));
   store::UnstoredJournal journal{Journals.at(static_cast<std::size_t>(PagesJournal)).FileName, {}};
-  for (const auto& [row, inFile] : rows) journal.pages.push_back(Logged(row, inFile));
-  const auto isShown = [](const store::UnstoredPage& page) { return page.row == TextPage; };
-  if (hasText) std::ranges::find_if(journal.pages, isShown)->Body = TextBody();
+  for (const auto& [row, inFile] : rows) journal.pages.push_back(Logged(row, inFile, hasText));
   return journal;
 }
 
 }  // namespace
 
-std::vector<store::UnstoredJournal> UnstoredJournals() {
+std::string UnstoredText::Body() const {
+  const std::string text = richtext::WriteRtf(richtext::Join(parts));
+  std::string body(text.size() * 2, '\0');
+  store::EncipherAside(text, shift, filler, body.data());
+  return body;
+}
+
+bool UnstoredPages::operator==(const UnstoredPages& other) const {
+  const auto isSame = [](const UnstoredText& one, const UnstoredText& two) {
+    return one.row == two.row && one.shift == two.shift && one.parts == two.parts;
+  };
+  const bool isSameText = text && other.text ? isSame(*text, *other.text) : !text && !other.text;
+  return isSameText && journals == other.journals;
+}
+
+UnstoredPages PagesUnstored() {
   std::erase_if(LeftBehind(), [](const auto& journal) { return !IsInTheBookcase(journal.FileName); });
-  std::vector<store::UnstoredJournal> journals = LeftBehind();
-  if (IsAnythingUnstored()) journals.push_back(OpenJournal());
-  return journals;
+  UnstoredPages pages{LeftBehind(), {}};
+  const bool hasText = HasText();
+  if (hasText || IsAnythingUnstored()) pages.journals.push_back(OpenJournal(hasText));
+  if (hasText) pages.text = TextOnShow();
+  return pages;
+}
+
+bool CopyUnstoredText(const QDeadlineTimer& until) {
+  return !HasText() || Face().txtM->CopyUntil(until);
+}
+
+std::vector<store::UnstoredJournal> WithText(UnstoredPages pages) {
+  if (!pages.text) return std::move(pages.journals);
+  const auto isIts = [&](const store::UnstoredPage& page) { return page.row == pages.text->row; };
+  std::ranges::find_if(pages.journals.back().pages, isIts)->Body = pages.text->Body();
+  return std::move(pages.journals);
 }
 
 void LeavePagesBehind() {
-  if (IsAnythingUnstored()) LeftBehind().push_back(OpenJournal());
+  if (IsAnythingUnstored()) LeftBehind().push_back(WithText(PagesUnstored()).back());
 }
 
 void ForgetPagesLeftBehind() {

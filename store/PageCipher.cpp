@@ -8,8 +8,8 @@
 #include "store/PageCipher.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
+#include <tuple>
 
 namespace store {
 namespace {
@@ -19,7 +19,8 @@ using Byte = std::uint8_t;
 constexpr std::size_t lanes = 16;
 constexpr std::size_t block = lanes * sizeof(std::uint32_t);
 
-using Generators = std::array<std::uint32_t, lanes>;
+using Generators = Filler;
+static_assert(std::tuple_size_v<Filler> == lanes);
 
 constexpr Generators FirstGenerators() {
   Generators generators{};
@@ -87,8 +88,12 @@ void Encipher(std::string_view plain, std::int32_t shift, char* body) {
   KeptGenerators() = EncipherFrom(KeptGenerators(), plain, shift, body);
 }
 
-void EncipherAside(std::string_view plain, std::int32_t shift, char* body) {
-  EncipherFrom(KeptGenerators(), plain, shift, body);
+Filler NextFiller() {
+  return KeptGenerators();
+}
+
+void EncipherAside(std::string_view plain, std::int32_t shift, const Filler& filler, char* body) {
+  EncipherFrom(filler, plain, shift, body);
 }
 
 }  // namespace store

@@ -5,6 +5,7 @@
 // which comes back as 0.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -16,8 +17,12 @@ void Decipher(std::string_view body, std::int32_t shift, char* plain);
 
 // Enciphers `plain` into `body`, which has room for twice as many bytes. Shift 0 to 255.
 void Encipher(std::string_view plain, std::int32_t shift, char* body);
+
+// What Encipher draws its next filler from.
+using Filler = std::array<std::uint32_t, 16>;
+Filler NextFiller();
 // The same with filler that leaves no trace: the next Encipher draws what it would have drawn without. For
-// copies that are made when the clock says so, and not when a person acts.
-void EncipherAside(std::string_view plain, std::int32_t shift, char* body);
+// copies that are made when the clock says so, and not when a person acts. On any thread.
+void EncipherAside(std::string_view plain, std::int32_t shift, const Filler& filler, char* body);
 
 }  // namespace store

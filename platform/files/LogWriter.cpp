@@ -33,9 +33,9 @@ void Write(const std::string& path, const std::string& bytes) {
 }
 
 // None when the bytes are on the disk.
-std::optional<std::string> FailureOfWriting(const std::string& path, const std::string& bytes) {
+std::optional<std::string> FailureOfWriting(const std::string& path, const LogWriter::Maker& bytes) {
   try {
-    Write(path, bytes);
+    Write(path, bytes());
     return std::nullopt;
   } catch (const std::exception& failure) {
     return failure.what();
@@ -60,6 +60,10 @@ LogWriter::~LogWriter() {
 }
 
 void LogWriter::Put(std::string bytes) {
+  Put([kept = std::move(bytes)] { return kept; });
+}
+
+void LogWriter::Put(Maker bytes) {
   {
     const std::lock_guard lock(mutex_);
     bytes_ = std::move(bytes);
@@ -98,7 +102,7 @@ void LogWriter::Run() {
 // The lock is not held while the disk works.
 void LogWriter::Try(std::unique_lock<std::mutex>& lock) {
   const std::uint64_t number = puts_;
-  std::string bytes = std::move(bytes_);
+  Maker bytes = std::move(bytes_);
   isAsked_ = false;
   isWriting_ = true;
   lock.unlock();

@@ -15,8 +15,9 @@
 namespace platform {
 
 // Belongs to the window thread, which alone makes it, calls it and ends it. What it is given is a value of
-// its own from then on; its thread reads nothing else of the program, and calls nothing of it but ReplaceFile
-// and DeleteFile. That thread sleeps while there is nothing to write, and takes no signals.
+// its own from then on; its thread reads nothing else of the program, and calls nothing of it but what makes
+// the bytes, ReplaceFile and DeleteFile. That thread sleeps while there is nothing to write, and takes no
+// signals.
 class LogWriter {
  public:
   // Called on the window thread, out of its event loop: with the failure's text (platform::Failure's
@@ -33,9 +34,14 @@ class LogWriter {
   LogWriter(const LogWriter&) = delete;
   LogWriter& operator=(const LogWriter&) = delete;
 
+  // What makes the file's bytes, on the writer's thread: out of values of its own and nothing else of the
+  // program. It is asked again when the writing is tried again. What it throws is a failure to write.
+  using Maker = std::function<std::string()>;
+
   // The file is to hold these bytes, or to be gone when there are none. Returns at once; what was put before
   // and is not being written yet is never written. What fails is tried again with the next Put, and by
   // itself after a while.
+  void Put(Maker bytes);
   void Put(std::string bytes);
 
   // Waits until what was put last is on the disk, or a trial of it has failed; what has failed before is
@@ -60,7 +66,7 @@ class LogWriter {
   mutable std::mutex mutex_;  // guards what follows
   std::condition_variable wake_;
   std::condition_variable tried_;
-  std::string bytes_;  // put last; moved away while they are written
+  Maker bytes_;  // put last; moved away while they are written
   std::uint64_t puts_ = 0;
   std::uint64_t written_ = 0;  // the number of the last Put that the disk has
   bool isAsked_ = false;       // for a trial at once

@@ -15,6 +15,7 @@
 #include "richtext/box/Printing.h"
 #include "richtext/rtf/Reader.h"
 #include "richtext/rtf/Writer.h"
+#include "richtext/textdocument/DocumentCopy.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Labels.h"
@@ -40,19 +41,33 @@ bool IsCommandOfOthers(const QKeyEvent& event) {
 
 }  // namespace
 
-RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
+RichTextBox::RichTextBox(QWidget* parent)
+    : QTextEdit(parent), copy_(std::make_unique<DocumentCopy>(*document())) {
   setAcceptRichText(true);
   setTabChangesFocus(false);
   document()->setDocumentMargin(DocumentMargin);
   connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::NoteEdit);
+  connect(document(), &QTextDocument::contentsChange, this,
+          [this](int at, int removed, int added) { copy_->NoteChange(at, removed, added); });
   connect(document(), &QTextDocument::contentsChanged, this, &RichTextBox::TellEdits);
   connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextBox::LeaveLink);
   SetBackColor(White);
   Fill({});
 }
 
+RichTextBox::~RichTextBox() = default;
+
 std::string RichTextBox::TextRTF() const {
   return WriteRtf(TakeDocument(*document()));
+}
+
+bool RichTextBox::CopyUntil(const QDeadlineTimer& until) {
+  return copy_->Refresh(until, Composed());
+}
+
+PageParts RichTextBox::Copy() {
+  CopyUntil(QDeadlineTimer(QDeadlineTimer::Forever));
+  return copy_->Parts();
 }
 
 void RichTextBox::SetTextRTF(std::string_view rtf) {

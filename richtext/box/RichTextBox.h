@@ -9,6 +9,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,18 +18,33 @@
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QTextEdit>
 
+#include "richtext/document/PageParts.h"
+
 namespace richtext {
 
+class DocumentCopy;
 class Paper;
+struct ComposedWord;
 
 class RichTextBox : public QTextEdit {
   Q_OBJECT
 
  public:
   explicit RichTextBox(QWidget* parent = nullptr);
+  ~RichTextBox() override;
 
   // The whole content as an RTF document, 7-bit; for an empty box the empty document, never an empty string.
   std::string TextRTF() const;
+
+  // A copy of the content for who writes it elsewhere and often: Join gives what TextRTF writes. The word
+  // that an input method is composing is text in it, in the caret's format, and the box stays as it is. The
+  // first call for a page, and the next one after a change of it all, takes longer than a frame for some
+  // pages of a megabyte.
+  PageParts Copy();
+  // Gets on with that copy in steps of about a millisecond, until the time is over. Whether Copy has nothing
+  // left to do.
+  bool CopyUntil(const QDeadlineTimer& until);
+
   // Replaces the content and forgets the undo history. An empty string empties the box. Text that is no RTF
   // shows as plain text. The caret goes to the start. Change is raised, once, whatever stood there before.
   void SetTextRTF(std::string_view rtf);
@@ -70,6 +86,8 @@ class RichTextBox : public QTextEdit {
   void SetBackColor(std::uint32_t color);
   std::uint32_t BackColor() const;
 
+  // Whether an input method is composing a word here, which is not in the text yet.
+  bool IsComposing() const;
   // Puts the word that an input method is composing here into the text, as a commit of its own would; nothing
   // where none is. To be called before the text is read, stored or left. Change is raised by the word.
   void CommitComposition();
@@ -120,12 +138,14 @@ class RichTextBox : public QTextEdit {
   void CarryOn(const QTextCharFormat& format);
   void LeaveLink();
   QString Composition() const;
+  ComposedWord Composed() const;
   bool InputMethodCommits();
   void TakeWord(const QString& word);
   void DropComposition();
   void AwaitLateCommit(const QString& word);
   bool IsLateCommit(const QInputMethodEvent& event);
 
+  std::unique_ptr<DocumentCopy> copy_;
   std::uint32_t backColor_ = 0xffffff;
   bool quiet_ = false;     // what happens to the document now is no edit
   bool edited_ = false;    // an edit was seen that Change has not told yet

@@ -16,6 +16,7 @@
 #include <QtGui/QTextLayout>
 
 #include "richtext/box/RichTextBox.h"
+#include "richtext/textdocument/TextDocument.h"
 
 namespace richtext {
 namespace {
@@ -27,6 +28,19 @@ constexpr std::chrono::seconds LateCommit{5};
 
 QString RichTextBox::Composition() const {
   return composing_.isNull() ? QString() : composing_.block().layout()->preeditAreaText();
+}
+
+bool RichTextBox::IsComposing() const {
+  return !Composition().isEmpty();
+}
+
+// As TakeWord would put it in.
+ComposedWord RichTextBox::Composed() const {
+  const QString word = Composition();
+  if (word.isEmpty()) return {};
+  QTextCharFormat format = composing_.charFormat();
+  format.clearProperty(QTextFormat::ObjectType);
+  return {word, composing_.position(), format};
 }
 
 void RichTextBox::CommitComposition() {

@@ -49,25 +49,47 @@ class Taker {
     return std::move(taken_);
   }
 
+  // The same, no further than the block that has the work reach `most`.
+  TakenPart TakePart(std::size_t most, const ComposedWord& word) {
+    word_ = &word;
+    QTextBlock block = source_.findBlock(from_);
+    int at = from_;
+    for (; block.isValid() && at <= to_ && work_ < most; at += block.length(), block = block.next())
+      TakeBlock(block, at);
+    return {std::move(taken_), at - from_, work_};
+  }
+
  private:
   void TakeBlock(const QTextBlock& block, int at) {
     const std::size_t before = taken_.text.size();
     firstRun_ = taken_.runs.size();
-    for (auto it = block.begin(); !it.atEnd(); ++it) {
+    ++work_;
+    for (auto it = block.begin(); !it.atEnd(); ++it, ++work_) {
       const QTextFragment fragment = it.fragment();
-      TakeFragment(fragment, at);
-      at += fragment.length();
+      const int end = at + fragment.length();
+      const int split = IsWordIn(at, end) ? word_->at : at;
+      TakeFragment(fragment, at, from_, split);
+      if (IsWordIn(at, end)) TakeWord();
+      TakeFragment(fragment, at, std::max(from_, split), to_);
+      at = end;
     }
+    if (IsWordIn(at, at + 1)) TakeWord();
     taken_.paragraphs.push_back(
         {static_cast<std::uint32_t>(taken_.text.size() - before),
          paragraphFormat_(block.blockFormatIndex(), [&] { return FromBlockFormat(block.blockFormat()); }),
          mark_(block.charFormatIndex(), [&] { return FromMarkFormat(block.charFormat()); })});
   }
 
-  // `at`: where the fragment begins.
-  void TakeFragment(const QTextFragment& fragment, int at) {
-    const int from = std::max(from_, at);
-    const int to = std::min(to_, at + fragment.length());
+  bool IsWordIn(int from, int to) const {
+    return word_ && !word_->text.isEmpty() && word_->at >= from && word_->at < to;
+  }
+
+  void TakeWord() { AddText(word_->text, numbers_(FromTextFormat(word_->format)), word_->format); }
+
+  // `at`: where the fragment begins. What is taken of it lies between `least` and `most`.
+  void TakeFragment(const QTextFragment& fragment, int at, int least, int most) {
+    const int from = std::max(least, at);
+    const int to = std::min(most, at + fragment.length());
     if (from >= to) return;
     const QString whole = fragment.text();
     const QStringView text = QStringView(whole).mid(from - at, to - from);
@@ -123,6 +145,8 @@ class Taker {
   const QTextDocument& source_;
   const int from_;
   const int to_;
+  const ComposedWord* word_ = nullptr;
+  std::size_t work_ = 0;
   Document taken_;
   std::size_t firstRun_ = 0;  // of the paragraph in hand
   FormatNumbers<CharacterFormat> numbers_{taken_.formats};
@@ -132,11 +156,22 @@ class Taker {
   Known<ParagraphFormat> paragraphFormat_{paragraphNumbers_};
 };
 
+std::int32_t TabDistanceOf(const QTextDocument& source) {
+  return FittingTabDistance(source.property(TabDistanceProperty).toInt());
+}
+
 }  // namespace
 
 Document TakeDocument(const QTextDocument& source) {
   Document taken = Taker(source, 0, source.characterCount() - 1).Take();
-  taken.tabDistance = FittingTabDistance(source.property(TabDistanceProperty).toInt());
+  taken.tabDistance = TabDistanceOf(source);
+  return taken;
+}
+
+TakenPart TakePart(const QTextDocument& source, int from, int length, std::size_t most,
+                   const ComposedWord& word) {
+  TakenPart taken = Taker(source, from, from + length - 1).TakePart(most, word);
+  taken.page.tabDistance = TabDistanceOf(source);
   return taken;
 }
 

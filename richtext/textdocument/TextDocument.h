@@ -8,10 +8,12 @@
 // they were never meant, and the toolkit's own commands know nothing of the properties.
 #pragma once
 
+#include <cstddef>
+
+#include <QtGui/QTextCharFormat>
+
 #include "richtext/document/Document.h"
 
-class QString;
-class QTextCharFormat;
 class QTextCursor;
 class QTextDocument;
 
@@ -33,6 +35,23 @@ void HideWhatIsTooFar(const QTextDocument& document);
 
 // The whole content.
 Document TakeDocument(const QTextDocument& source);
+
+// A word that stands in the layout at a position of the document and not in the text. None where it is empty.
+struct ComposedWord {
+  QString text;
+  int at = 0;
+  QTextCharFormat format;
+};
+struct TakenPart {
+  Document page;
+  int length = 0;        // positions of the document
+  std::size_t work = 0;  // blocks, and pieces of one format in them
+};
+// Whole paragraphs from `from` on, where one begins, up to `length` positions behind it, where one ends; not
+// many more than `most` of work, but at least one paragraph. `word` is taken as text.
+TakenPart TakePart(const QTextDocument& source, int from, int length, std::size_t most,
+                   const ComposedWord& word);
+
 // The selected content; one empty paragraph where nothing is selected.
 Document TakeSelection(const QTextCursor& selection);
 

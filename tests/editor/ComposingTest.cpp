@@ -1,4 +1,5 @@
 // A word that an input method is still composing when the page is read or left.
+#include "editor/UnstoredPages.h"
 #include "tests/editor/OpenBook.h"
 #include "tests/support/InputMethod.h"
 
@@ -27,6 +28,19 @@ TEST_P(ComposingOnAPage, IsStoredWithItsPageAndWithNoOther) {
     EXPECT_EQ(TextsIn(row), (Texts{"word cover", "one"})) << key;
     window().CloseBox();
   }
+}
+
+TEST_P(ComposingOnAPage, IsUnstoredBeforeThePageHasChanged) {
+  Compose();
+  const UnstoredPages pages = PagesUnstored();
+  ASSERT_TRUE(pages.text);
+  EXPECT_EQ(PagesUnstored(), pages);
+  std::string plain(pages.text->Body().size() / 2, '\0');
+  store::Decipher(WithText(pages).at(0).pages.at(0).Body.value(), PageShift, plain.data());
+  EXPECT_NE(plain.find("word cover"), std::string::npos) << plain;
+  method.Compose({});
+  EXPECT_EQ(PagesUnstored(), UnstoredPages()) << "given up";
+  EXPECT_EQ(PageDirty, False);
 }
 
 TEST_P(ComposingOnAPage, IsStoredOnEveryWayOut) {

@@ -1,4 +1,5 @@
 #include <csignal>
+#include <stdexcept>
 #include <sys/inotify.h>
 #include <unistd.h>
 
@@ -123,6 +124,20 @@ TEST_F(LogWriterTest, WhatFailedIsTriedAgainByItself) {
   folder.Unblock(name);
   EXPECT_TRUE(QTest::qWaitFor([&] { return told.size() == 2 && writer.IsUpToDate(); }));
   EXPECT_EQ(folder.Read(name), "kept");
+}
+
+TEST_F(LogWriterTest, WhatCannotBeMadeIsAFailureAndIsMadeAgain) {
+  LogWriter writer = Writer();
+  writer.Put([trials = 0]() mutable {
+    if (++trials < 3) throw std::runtime_error("no memory");
+    return std::string("made");
+  });
+  EXPECT_FALSE(writer.Wait());
+  EXPECT_FALSE(writer.Wait());
+  EXPECT_TRUE(writer.Wait());
+  EXPECT_EQ(folder.Read(name), "made");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(told, (fixture::Texts{"no memory", "well"}));
 }
 
 TEST_F(LogWriterTest, TheEndWaitsAndTellsNoMore) {

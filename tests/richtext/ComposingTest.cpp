@@ -20,8 +20,11 @@ TEST_P(Composing, AWordComesIntoTheTextOnceAndInTheCaretsFormat) {
   Set(Page("a\\b b"));
   Select(1, 0);
   method.Compose(u"word"_qs);
+  const std::string copied = WriteRtf(Join(box.Copy()));
   EXPECT_EQ(Text() + std::to_string(Changes()), "ab0") << "nothing has changed yet";
+  EXPECT_FALSE(box.document()->isUndoAvailable());
   box.CommitComposition();
+  EXPECT_EQ(copied, box.TextRTF()) << "a copy has it beforehand";
   EXPECT_EQ(Text() + std::to_string(Changes()), "awordb1");
   EXPECT_EQ(FormatAt(5), Plain);
   EXPECT_EQ(box.SelStart(), 5);
