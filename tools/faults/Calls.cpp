@@ -27,6 +27,7 @@ std::string Setting(const char* name) {
 struct Plan {
   const std::string folder = Setting("FAULTS_FOLDER") + "/", versions = Setting("FAULTS_VERSIONS");
   const std::string how = Setting("FAULTS_HOW"), record = Setting("FAULTS_RECORD");
+  const bool meetsTheLog = !Setting("FAULTS_OF_LOG").empty();
   const int at = std::atoi(Setting("FAULTS_CALL").c_str());
   const std::chrono::milliseconds slow{std::atoi(Setting("FAULTS_SLOW").c_str())};
   // Not by open(), which is one of ours and asks for the plan.
@@ -42,6 +43,7 @@ Plan& ThePlan() {
 }
 
 [[noreturn]] void Die() {
+  faults::Log("died " + faults::Milliseconds());
   for (;;) kill(getpid(), SIGKILL);
 }
 
@@ -53,10 +55,10 @@ void KeepVersion(const std::filesystem::path& path) {
 }
 
 // The log of what is not stored is written when the clock says so, by a thread of its own: its calls have no
-// number that a second run would give them again. A record has them all.
-bool IsOfTheLog(const std::string& path) {
-  return ThePlan().record.empty() &&
-         (path.starts_with(ThePlan().folder + "journal.tql") || syscall(SYS_gettid) != getpid());
+// number that a second run would give them again, and so they are counted apart. A record has them all.
+bool Counts() {
+  const Plan& plan = ThePlan();
+  return !plan.record.empty() || (syscall(SYS_gettid) != getpid()) == plan.meetsTheLog;
 }
 
 // The time, the call, what it was for ("." is the folder), and all names in the folder, each with its file's
@@ -81,7 +83,11 @@ void Record(const std::string& name, const std::filesystem::path& path) {
 template <class Call>
 auto Meet(const std::string& name, const std::string& path, Call&& call) -> decltype(call(false)) {
   Plan& plan = ThePlan();
-  if (!(path + "/").starts_with(plan.folder) || IsOfTheLog(path)) return call(false);
+  if (!(path + "/").starts_with(plan.folder)) return call(false);
+  if (!Counts()) {
+    faults::Log("aside " + name + " " + path);
+    return call(false);
+  }
   std::unique_lock lock(plan.mutex, std::defer_lock);
   if (!plan.record.empty()) lock.lock();  // a call, what it did and its line in the log belong together
   const bool isOver = plan.mended || (plan.felt && plan.how.ends_with("once"));

@@ -8,6 +8,7 @@
 //   FAULTS_VERSIONS  a folder for copies of files when they are renamed or the disk is mended: "name@call"
 //   FAULTS_RECORD    a folder for a copy of the file after each call; the log tells what the call changed
 //   FAULTS_CALL      the call that it begins with
+//   FAULTS_OF_LOG    counts the calls of the thread that writes the log of what is not stored, not the others
 //   FAULTS_HOW       before, half, after: a kill before, in the middle of (a write) or after the call;
 //                    a number: calls fail with this errno until the disk is mended;
 //                    a negative one: the same, but a write gets half of its bytes out first

@@ -191,7 +191,7 @@ def start(scenario, left):
     with tempfile.TemporaryDirectory(prefix="faults-") as top:
         furnish(pathlib.Path(top), left)
         log = [("step", f"{when} {what}") for when, what in left.steps]
-        return left, next_start(pathlib.Path(top)) + not_kept(pathlib.Path(top), log, left.now)
+        return left, next_start(pathlib.Path(top)) + not_kept(scenario, pathlib.Path(top), log, left.now)
 
 def cuts(number=5000):
     stage, chance = [scenario for scenario in scenarios() if scenario.name != "export"], random.Random(number)

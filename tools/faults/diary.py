@@ -23,6 +23,7 @@ def split(data, form):
     return fields, data
 
 def plain(scrambled): return bytes(byte - 4 for byte in scrambled[1::2]).decode("cp1252")
+def words_in(files): return {word for name in files if name.endswith(".tqf") for page in files[name] for word in page}
 def words(text): return re.findall(r"\bw\d+\b", text)
 
 def read(name, data, shift):
@@ -95,6 +96,12 @@ REMOVAL = unlocked("Quill7") + ["pick ListView1 1", "click cmdDelete"] + opened(
 MENDING = unlocked("Rosebud7") + opened(0) + typed("w7") + ["click btnFirstPage"] + ADD_PICTURE + CLOSE + LEAVE
 KEPT_OPEN = (BEGIN + REST + opened(0) + typed("w1") + REST + ["click btnNewPage"] + typed("w2") + REST + typed("w3") + CLOSE
              + NEW_JOURNAL + REST + CLOSE + ["click cmdOptions"] + PASSWORD + REST + ["click cmdClose"] + LEAVE)
+# What the log holds when the program is killed: a first sitting; a journal and a picture that could not be saved, an open
+# page, a new journal and another password.
+BLOCK, FREE = ([f"run {command} $FAULTS_FOLDER/tqpics.bin{UNFINISHED}"] for command in ("mkdir", "rmdir"))
+FIRST_KILLED = BEGIN + opened(0) + typed("w1") + ["click btnNewPage"] + typed("w2")
+SITTING_KILLED = (unlocked("Rosebud7") + opened(0) + typed("w3") + CLOSE + NEW_JOURNAL + CLOSE + OPTIONS + opened(0) + BLOCK + DRAG
+                  + FREE + ["click btnFirstPage"] + typed("w4"))
 EXPORT = unlocked("Quill7") + ["pick ListView1 0", *["click cmdExport"] * 3, "close frmExport"] + LEAVE
 
 
@@ -125,6 +132,15 @@ def play(folder, script, seconds=None, before=(), meanwhile=None, **faults):
         finally: process.kill(), process.wait()
         return code, [tuple(line.split(" ", 1)) for line in pathlib.Path(desk, "log").read_text().splitlines()]
 
+def killed(files, script):
+    """What a kill leaves when the log has taken in all that the script did."""
+    with tempfile.TemporaryDirectory(prefix="faults-") as top:
+        folder = pathlib.Path(top)
+        furnish(folder, files)
+        code, log = play(folder, script + REST + ["run kill -9 $PPID"])
+        assert code == -9 and (folder / LOG).exists(), log
+        return contents(folder)
+
 def texts(log, what): return [text for kind, text in log if kind == what]
 
 
@@ -136,7 +152,13 @@ class Scenario:
         code, self.log, self.result, versions = self.play()
         self.seconds = time.monotonic() - begun
         assert code == 0 and LOG not in self.result, (name, self.log)
-        self.calls = [text.split(" ", 1) for text in texts(self.log, "call")]
+        self.typed, self.added = ({word for step in script if step.startswith(f"type {control} ") for word in step.split()[2:]}
+                                  for control in ("txtM", "txtPass"))
+        found = read_all(self.result)
+        (self.password, rows), self.words = found["journal.tqt"], words_in(found)
+        self.journals = {name for name, _ in rows}
+        assert self.typed <= self.words, (name, "something else was stored", self.log)
+        self.calls, self.aside = ([text.split(" ", 1) for text in texts(self.log, what)] for what in ("call", "aside"))
         self.versions = collections.defaultdict(lambda: [None], {file: [data] for file, data in files.items()})
         deleted = [(pathlib.Path(path).name, None) for call, path in self.calls if call == "unlink"]
         for file, data in versions + deleted: self.versions[file].append(data)
@@ -161,8 +183,14 @@ def scenarios():
     yield Scenario("damaged files, simple disk", cut, MENDING, PLAIN=1)
     yield Scenario("older pictures", sample("4-older-pictures"), MENDING)
     large = sample("1-first-diary")
-    row = struct.pack("<H200sd", 200, b"\xff " * 100, 40000)
+    body = b"".join(bytes([code + ord("7"), 30]) for code in b"{\\rtf1\\ansi\\pard " + b"x" * 80 + b" }")
+    row = struct.pack(f"<H{len(body)}sd", len(body), body, 40000)
     yield Scenario("700 pages", large | {"j00000.tqf": large["j00000.tqf"][:539] + struct.pack("<i", 699) + row * 700}, MENDING)
+    left = killed({}, FIRST_KILLED)
+    yield Scenario("log of a first sitting", left, unlocked("Rosebud7") + opened(0) + typed("w3") + CLOSE + LEAVE)
+    left = killed(first.result, SITTING_KILLED)
+    yield (rolled := Scenario("log of a sitting", left, unlocked("Quill7") + opened(0) + typed("w6") + CLOSE + LEAVE))
+    assert read_all(rolled.result)["j00000.tqf"] == [["w4"], ["w1"], ["w2", "w3", "w6"]], "the log has not come back whole"
     yield Scenario("export", grown.result, EXPORT)
 
 def next_start(folder):

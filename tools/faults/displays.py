@@ -195,18 +195,19 @@ def obstacle(kind):
     return (f"{missing[0]} is missing" if missing else "the toolkit's plugin for Wayland is missing" if not plugin
             else "sway does not serve root" if kind.tools is WAYLAND and not os.getuid() else None)
 
-def displays(rounds=20):
+def displays(rounds=20, name=""):
     become_ordinary()
-    possible = [kind for kind in KINDS if not obstacle(kind)]
+    kinds = [kind for kind in KINDS if name in kind.name]
+    possible = [kind for kind in kinds if not obstacle(kind)]
     plans = [(kind, list(MOMENTS)[(turn + shift) % 3]) for turn in range(rounds) for shift, kind in enumerate(possible)]
     answers, findings = run_all(lose, plans, 2 * os.cpu_count())  # they wait more than they work
     columns, kept = (*MOMENTS, "all"), collections.defaultdict(list)
     for name, moment, _, wrong in answers:
         for column in (moment, "all"): kept[name, column].append(not wrong)
     print(f"{'kept of rounds':28}", *(f"{column:>10}" for column in columns))
-    for kind in KINDS:
+    for kind in kinds:
         cells = [f"{sum(kept[kind.name, column])} of {len(kept[kind.name, column])}" for column in columns]
         print(f"{kind.name:28}", *([f"skipped, {obstacle(kind)}"] if obstacle(kind) else (f"{cell:>10}" for cell in cells)))
-    longest, skipped = max((seconds for _, _, seconds, _ in answers), default=0), len(KINDS) - len(possible)
-    print(f"{len(answers)} rounds, {skipped} of {len(KINDS)} kinds skipped, gone after {longest:.1f} s at most; {findings} findings")
+    longest, skipped = max((seconds for _, _, seconds, _ in answers), default=0), len(kinds) - len(possible)
+    print(f"{len(answers)} rounds, {skipped} of {len(kinds)} kinds skipped, gone after {longest:.1f} s at most; {findings} findings")
     return findings
