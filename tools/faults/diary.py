@@ -155,8 +155,9 @@ class Scenario:
         self.typed, self.added = ({word for step in script if step.startswith(f"type {control} ") for word in step.split()[2:]}
                                   for control in ("txtM", "txtPass"))
         found = read_all(self.result)
-        (self.password, rows), self.words = found["journal.tqt"], words_in(found)
-        self.journals = {name for name, _ in rows}
+        self.words, self.journals = words_in(found), {name for name, _ in found["journal.tqt"][1]}
+        index = index_of(files)
+        self.first_password = [read("journal.tqt", index.removesuffix(b"?"), 0)[0]] if index else []
         assert self.typed <= self.words, (name, "something else was stored", self.log)
         self.calls, self.aside = ([text.split(" ", 1) for text in texts(self.log, what)] for what in ("call", "aside"))
         self.versions = collections.defaultdict(lambda: [None], {file: [data] for file, data in files.items()})

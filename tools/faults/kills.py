@@ -18,13 +18,15 @@ def missing(scenario, log, files):
     made = {name for call, name in changes([entry for at, entry in enumerate(log) if at != cut_off[entry[0]]]) if call != "unlink"}
     return [name for name in (scenario.files.keys() | made) - deleted - files.keys() if DATA.fullmatch(name)]
 
-def promised(log, death):
+def promised(scenario, log, death):
     """What was done two seconds before, and a little: the words, the password or those after it, and the journals' names."""
     steps = [text.split(" ", 1) for text in texts(log, "step")]
     every, steps = [step for _, step in steps], [step for when, step in steps if int(when) < death - 2300]
     done = steps[:len(steps) - steps[::-1].index("click cmdOK")] if "click cmdOK" in steps else []
     typed = lambda control, steps: [step.split(" ", 2)[2] for step in steps if step.startswith(f"type {control} ")]
-    return set(words(" ".join(typed("txtM", steps)))), typed("txtNewPass", every)[max(len(typed("txtNewPass", done)) - 1, 0):] * bool(done), set(typed("txtPass", done)) & {"Home", "Second"}
+    passwords, given = ([*scenario.first_password, *typed("txtNewPass", some)] for some in (every, done))
+    names = set(typed("txtPass", done)) & {"Home", "Second"}
+    return set(words(" ".join(typed("txtM", steps)))), passwords[len(given) - 1:] * bool(given), names
 
 def out_of_place(scenario, found):
     """Each word is typed once, behind those before it: a page begins as it does in the end, and holds nothing else."""
@@ -42,13 +44,12 @@ def pictures_lost(scenario, found):
 
 def not_kept(scenario, folder, log, death):
     """What is missing, or in another place, after the next start. What was there before is to be there at any moment."""
-    known, passwords, names = promised(log, death)
+    known, passwords, names = promised(scenario, log, death)
     found = {}
     for name, data in contents(folder).items():
         with contextlib.suppress(Exception): found[name] = read(name, data, ord("7"))  # one that was damaged before stays so
     (given, rows), there = found.get("journal.tqt", (None, [])), words_in(found)
     known, names = known | (scenario.words - scenario.typed), names | (scenario.journals - scenario.added)
-    if not any("txtNewPass" in step for step in scenario.script): passwords = [scenario.password]
     return ([f"{known - there} are gone"] * (not known <= there)
             + [*out_of_place(scenario, found), *pictures_lost(scenario, found)]
             + [f"the password is {given}, not of {passwords}"] * (passwords != [] and given not in passwords)
