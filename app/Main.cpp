@@ -139,7 +139,7 @@ void Main(platform::RunningInstance& instance, const platform::ActivationToken& 
   auto& bookcase = look::The<frmBookcase>();  // it lists what the index loads
   QObject::connect(&bookcase, &frmBookcase::OptionsRequested, &ShowOptions);
   QObject::connect(&bookcase, &frmBookcase::ExitRequested, &SaveAndExit);
-  RollBookcaseForward();
+  if (!RollBookcaseForward()) return platform::EndProcess();
   if (platform::IsMissing(platform::PathOf("journal.tqt"))) {
     StartForTheFirstTime(isWritable);
   } else {

@@ -92,6 +92,16 @@ std::optional<store::FileCheck> CheckOfFile(const std::string& path) {
   return store::CheckOf(platform::ReadFile(path));
 }
 
+void ReadLog() {
+  try {
+    store::DecodedLog decoded = store::DecodeLog(platform::ReadFile(LogPath()));
+    if (decoded.health != store::LogHealth::Sound) return TellUnreadable(decoded.problem);
+    work.log = std::move(decoded.log);
+  } catch (const platform::Failure& failure) {
+    TellUnreadable(failure.what());
+  }
+}
+
 // What is asked of the files that are written whole.
 struct Kind {
   const char* name;
@@ -125,6 +135,22 @@ void RollFile(const Kind& kind, const store::UnstoredFile& logged) {
   } catch (const platform::Failure& failure) {
     work.aside.push_back(what + ": " + failure.what());
   }
+}
+
+// The bookcase of a first sitting, which no file has yet. A start without it would take the diary for a new
+// one, and ask for a password that may not fit its pages.
+bool MustComeBackFirst() {
+  return !work.aside.empty() && platform::IsMissing(platform::PathOf(IndexKind.name));
+}
+
+void TellThatItMustComeBackFirst() {
+  platform::ShowMessage(
+      "The last run ended before it could save. What it left in its log journal.tql could not "
+      "be brought back: " +
+          work.aside.back() +
+          "\n\nNothing is lost: the log stays as it is. When the cause is removed, start "
+          "Thornquill again.",
+      platform::BoxIcon::Stop);
 }
 
 std::string TitleOf(const std::string& fileName) {
@@ -207,19 +233,15 @@ std::string Lines(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-void RollBookcaseForward() {
+bool RollBookcaseForward() {
   work = {};
-  if (platform::IsMissing(LogPath())) return;
-  try {
-    store::DecodedLog decoded = store::DecodeLog(platform::ReadFile(LogPath()));
-    if (decoded.health != store::LogHealth::Sound) return TellUnreadable(decoded.problem);
-    work.log = std::move(decoded.log);
-  } catch (const platform::Failure& failure) {
-    return TellUnreadable(failure.what());
-  }
-  if (!work.log->index) return;
+  if (!platform::IsMissing(LogPath())) ReadLog();
+  if (!work.log || !work.log->index) return true;
   RollFile(IndexKind, *work.log->index);
   if (work.aside.empty()) TakeIndexOutOfTheLog();
+  if (!MustComeBackFirst()) return true;
+  TellThatItMustComeBackFirst();
+  return false;
 }
 
 bool RollPagesForward() {

@@ -71,7 +71,11 @@ TEST_F(Log, WhatAKillLeavesInTheLogComesBack) {
   ASSERT_TRUE(QTest::qWaitFor([this] { return folder.Exists("journal.tql"); }, 3000));
   ASSERT_TRUE(BringTheLogUpToDate());
   EXPECT_EQ(folder.Names(), fixture::Texts{"journal.tql"});
-  end.count = 1;
+  folder.Block("journal.tqt.thornquill-unfinished");
+  Start();
+  EXPECT_TRUE(IsTold("could not be brought back: the bookcase: ")) << answers.last();
+  EXPECT_FALSE(look::IsLoaded<frmInitJournal>()) << "a new diary over the old one";
+  folder.Unblock("journal.tqt.thornquill-unfinished");
   ExpectAtTheNextStart(QStringLiteral("First words"));
   EXPECT_NE(answers.last().find("the bookcase\nMy Diary: page 1"), std::string::npos) << answers.last();
   EXPECT_FALSE(folder.Exists("journal.tql")) << "nothing is unstored";
