@@ -1,5 +1,17 @@
-// Where a reading of RTF stands: the groups, the tables and the document so far. Control words act on it;
-// text goes where the group in force sends it.
+// Where a reading of RTF stands: the place where the groups, the tables and the document so far meet. What
+// has a rule of its own is a class of its own (AsideText, DocumentCodePage, FieldSign, LinkTally, ShapeState,
+// WrittenLabel); here is only what one of them tells another.
+//
+// The order of calls. Groups open and close by BeginGroup and EndGroup. A word that names a destination acts
+// on the group in force (SkipGroup, SendTextTo, SetAside) and comes before the group's text. What such a
+// group told takes effect in EndGroup, when the group around it is in force again. Take is called once, last.
+//
+// The road of text. Each Put decodes what it is given behind the text so far, and claims in the same call
+// what became text by it, in the character format in force: so a change of format never waits for text, and
+// the half of a character has the format in which the other half comes. A paragraph gets the paragraph format
+// that is in force at its end. Before the first text of a paragraph, and before its end, the label that waits
+// is settled; before the end of a paragraph, a picture and what is set aside in text, half a character is
+// given up.
 #pragma once
 
 #include <cstddef>
@@ -7,14 +19,19 @@
 #include <string>
 #include <string_view>
 
+#include "richtext/rtf/AsideText.h"
 #include "richtext/rtf/ColorTable.h"
 #include "richtext/rtf/DocumentBuilder.h"
+#include "richtext/rtf/DocumentCodePage.h"
+#include "richtext/rtf/FieldSign.h"
 #include "richtext/rtf/FontTable.h"
 #include "richtext/rtf/GroupState.h"
 #include "richtext/rtf/Links.h"
 #include "richtext/rtf/ParagraphFormats.h"
 #include "richtext/rtf/PictureReader.h"
+#include "richtext/rtf/ShapeState.h"
 #include "richtext/rtf/TextDecoder.h"
+#include "richtext/rtf/WrittenLabel.h"
 
 namespace richtext::rtf {
 
@@ -26,8 +43,9 @@ class Context {
   GroupState& State() { return groups_.Top(); }
   FontTable& Fonts() { return fonts_; }
   ColorTable& Colors() { return colors_; }
+  DocumentCodePage& OwnPage() { return page_; }
   PictureReader& PictureInHand() { return picture_; }
-  bool& ModernPicture() { return modernPicture_; }  // whether a picture came since a \shppict began
+  ShapeState& Shapes() { return shapes_; }
   ParagraphFormats& Paragraphs() { return paragraphs_; }
   Numbering& NumberingInHand() { return numbering_; }
 
@@ -49,10 +67,6 @@ class Context {
   void SetFont(std::int32_t number);
   void ResetCharacter();
 
-  // The document's own code page: \ansicpg outranks the character set's.
-  void SetCharacterSetPage(std::int32_t page);
-  void SetAnsiPage(std::int32_t page);
-
   // Text, into the destination in force.
   void PutBytes(std::string_view bytes);
   void PutLiteral(char byte);  // one byte that is text whatever it means elsewhere
@@ -62,74 +76,55 @@ class Context {
   void EndParagraph();
   void EndCell();
   void SetTabDistance(std::int32_t twips) { builder_.SetTabDistance(FittingTabDistance(twips)); }
-  // A group begins whose text stands for itself, not within the paragraph around it.
-  void BeginShapeText();
-  // A shape tells of itself by properties, one of which can be its picture, and then again as older readers
-  // know it, which counts where nothing of it was shown before.
-  void BeginShape();
-  void BeginShapeProperty();
-  void BeginShapeValue();
-  void BeginShapeResult();
-  // The label that a writer put before a list's paragraph, for readers who know nothing of lists. One who
-  // wrote \listtext meant a list in any case.
-  void BeginLabel(bool isListText);
+  // Text begins that stands for itself, not within the paragraph around it.
+  void EndOpenParagraph();
+  // A label's group begins.
+  void BeginLabel(WrittenLabel::Kind kind);
 
   // The document, when its last brace was met or the input ended.
   Document Take();
 
  private:
-  const CodePage& DocumentPage() const;
+  void Finish(Destination ended);
+  void FinishLevelText();
+  void FinishNumbering();
+  void FinishInstruction();
+  void PutPicture();
+
   const CodePage& TextPage() const;
+  std::u16string* TextInHand();
+  void SettleLabel();
+  void EndText();
+  void EndOpenGroups();
+
   std::uint32_t FormatNumber();
   std::uint32_t FormatNumberOf(const CharacterState& state);
   std::uint32_t MarkNumber();
   std::uint32_t ParagraphNumber(ParagraphState paragraph);
   std::uint32_t ParagraphNumber();
-  std::u16string* TextInHand();
-  void Finish(Destination ended);
-  void FinishNumbering();
-  void FinishLevelText();
-  void SettleLabel();
-  void EndText();
   void ClaimText();
-  void CountLink();
-  void FinishInstruction();
-  void FinishSign();
-  void FinishPicture();
-  void PutPicture();
 
+  // What the groups and the tables tell.
   GroupStack groups_;
   FontTable fonts_;
   ColorTable colors_;
-  PictureReader picture_;
-  bool modernPicture_ = false;
-  bool shapeShown_ = false;      // whether something was shown since a shape began
-  std::u16string propertyName_;  // of the shape's property in hand
-  TextDecoder decoder_;
+  DocumentCodePage page_;
   ParagraphFormats paragraphs_;
   Links links_;
-  // A field that is a sign shows it where its result shows nothing.
-  struct Sign {
-    std::int32_t number = 0;  // 0: none is in hand
-    std::size_t depth = 0;    // of the field's group
-    std::size_t place = 0;    // in the text
-  };
-  Sign sign_;
-  std::uint32_t openLink_ = 0;  // of the text met last, in the open paragraph
-  std::size_t linkText_ = 0;    // bytes, as of MaxLinkText
-  Numbering numbering_;
-  DocumentBuilder builder_;
-  std::u16string aside_;  // text of the group that is set aside
-  const CodePage* characterSetPage_ = nullptr;
-  const CodePage* ansiPage_ = nullptr;
-  ParagraphState openParagraph_;  // in force where the open paragraph's text was met last
 
-  // Whether the label belongs to a list is known only where the paragraph's text begins.
-  enum class LabelKind : std::uint8_t { None, Text, ListText };
-  LabelKind labelKind_ = LabelKind::None;
-  LabelKind waitingLabel_ = LabelKind::None;
-  std::u16string label_;
-  std::uint32_t labelList_ = 0;  // the list that the open paragraph's label tells of
+  // What is in hand: begun by a group, and used where that, its paragraph or the group around it ends.
+  PictureReader picture_;
+  ShapeState shapes_;
+  Numbering numbering_;
+  WrittenLabel label_;
+  FieldSign sign_;
+  AsideText aside_;
+
+  // The document so far.
+  TextDecoder decoder_;
+  DocumentBuilder builder_;
+  LinkTally linkTally_;
+  ParagraphState openParagraph_;  // in force where the open paragraph's text was met last
 };
 
 }  // namespace richtext::rtf

@@ -1,6 +1,4 @@
 // The formats of what is being read, and the numbers that the document gives them.
-#include <utility>
-
 #include "richtext/rtf/Characters.h"
 #include "richtext/rtf/Context.h"
 
@@ -47,14 +45,14 @@ std::uint32_t Context::MarkNumber() {
 }
 
 std::uint32_t Context::ParagraphNumber(ParagraphState paragraph) {
-  const std::uint32_t labelList = std::exchange(labelList_, 0);
+  const std::uint32_t labelList = label_.TakeList();
   if (!paragraphs_.IsListed(paragraph)) paragraph.numbering = labelList;
   return builder_.ParagraphFormatNumber(paragraphs_.FormatOfNext(paragraph));
 }
 
 std::uint32_t Context::ParagraphNumber() {
   GroupState& state = State();
-  if (labelList_ != 0 || paragraphs_.IsListed(state.paragraph)) return ParagraphNumber(state.paragraph);
+  if (label_.HasList() || paragraphs_.IsListed(state.paragraph)) return ParagraphNumber(state.paragraph);
   paragraphs_.PassUnlisted();
   if (state.paragraphNumber == GroupState::NotAsked) state.paragraphNumber = ParagraphNumber(state.paragraph);
   return state.paragraphNumber;
@@ -64,15 +62,8 @@ std::uint32_t Context::ParagraphNumber() {
 void Context::ClaimText() {
   if (!builder_.HasUnclaimedText()) return;
   openParagraph_ = State().paragraph;
-  if (State().character.link != openLink_) CountLink();
+  if (!linkTally_.Admits(State().character.link, links_)) ChangeCharacter().link = 0;
   builder_.ClaimText(FormatNumber());
-}
-
-// A link is told anew in every paragraph and behind other text.
-void Context::CountLink() {
-  linkText_ += links_.At(State().character.link).size();
-  if (linkText_ > MaxLinkText) ChangeCharacter().link = 0;
-  openLink_ = State().character.link;
 }
 
 }  // namespace richtext::rtf

@@ -7,6 +7,7 @@
 #include "richtext/characters/Unicode.h"
 #include "richtext/rtf/Handlers.h"
 #include "richtext/rtf/ListHandlers.h"
+#include "richtext/rtf/ShapeHandlers.h"
 
 namespace richtext::rtf {
 namespace {
@@ -41,6 +42,10 @@ constexpr ControlWord Aside(std::string_view name, Destination destination) {
 
 constexpr ControlWord Sent(std::string_view name, Destination destination) {
   return {name, SendTo, static_cast<Number>(destination), 0, WordKind::Destination};
+}
+
+constexpr ControlWord LabelOf(std::string_view name, WrittenLabel::Kind kind) {
+  return {name, Label, static_cast<Number>(kind), 0, WordKind::Destination};
 }
 
 constexpr Number On = 1;          // toggles are on where no parameter is written
@@ -188,8 +193,8 @@ constexpr ControlWord KnownWords[] = {
     {"pn", BeginNumbering, 0, 0, WordKind::Destination},
     Aside("pntxtb", Destination::NumberingBefore),
     Aside("pntxta", Destination::NumberingAfter),
-    {"pntext", Label, 0, 0, WordKind::Destination},
-    {"listtext", Label, 1, 0, WordKind::Destination},
+    LabelOf("pntext", WrittenLabel::Kind::Text),
+    LabelOf("listtext", WrittenLabel::Kind::ListText),
     {"field", Field, 0, 0, WordKind::Destination},
     Aside("fldinst", Destination::FieldInstruction),
     {"fldrslt", FieldResult, 0, 0, WordKind::Destination},

@@ -4,13 +4,11 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <utility>
 
 #include "richtext/rtf/Context.h"
 
 namespace richtext::rtf::handlers {
 
-using Context = Context;
 using Number = std::int32_t;
 
 // Characters and paragraph ends.
@@ -42,10 +40,10 @@ inline void FallbackLength(Context& context, Number, Number length) {
 // The document's code page.
 
 inline void CharacterSet(Context& context, Number page, Number) {
-  context.SetCharacterSetPage(page);
+  context.OwnPage().SetCharacterSet(page);
 }
 inline void AnsiCodePage(Context& context, Number, Number page) {
-  context.SetAnsiPage(page);
+  context.OwnPage().SetAnsi(page);
 }
 
 // The font table, and the choice of a font.
@@ -197,47 +195,9 @@ inline void SetAside(Context& context, Number destination, Number) {
   context.SetAside(static_cast<Destination>(destination));
 }
 
-// Shapes: their text, and the picture that one is.
-
-inline void Shape(Context& context, Number, Number) {
-  context.BeginShape();
-}
-
-inline void ShapeProperty(Context& context, Number, Number) {
-  context.BeginShapeProperty();
-}
-
-inline void ShapeValue(Context& context, Number, Number) {
-  context.BeginShapeValue();
-}
-
-// The same shape again, for older readers.
-inline void ShapeResult(Context& context, Number, Number) {
-  context.BeginShapeResult();
-}
-
-inline void ShapeText(Context& context, Number, Number) {
-  context.BeginShapeText();
-}
-
 // \upr says the same twice: in bytes, which are passed over, and after \ud in Unicode.
 inline void UnicodeTwin(Context& context, Number, Number) {
   if (context.State().destination == Destination::Discard) context.SendTextTo(context.State().around);
-}
-
-inline void ModernPicture(Context& context, Number, Number) {
-  context.ModernPicture() = false;
-}
-
-// The same picture again, for older readers.
-inline void OlderPicture(Context& context, Number, Number) {
-  if (std::exchange(context.ModernPicture(), false)) context.SkipGroup();
-}
-
-inline void PictureGroup(Context& context, Number, Number) {
-  if (context.Depth() <= 1) return;
-  context.SendTextTo(Destination::Picture);
-  context.PictureInHand().Begin();
 }
 
 }  // namespace richtext::rtf::handlers

@@ -59,8 +59,8 @@ inline void NumberingIndent(Context& context, Number, Number twips) {
   context.NumberingInHand().indent = twips;
 }
 
-inline void Label(Context& context, Number isListText, Number) {
-  context.BeginLabel(isListText != 0);
+inline void Label(Context& context, Number kind, Number) {
+  context.BeginLabel(static_cast<WrittenLabel::Kind>(kind));
 }
 
 }  // namespace richtext::rtf::handlers

@@ -1,0 +1,109 @@
+// Text on its way into the document.
+#include "richtext/document/ListLabel.h"
+#include "richtext/rtf/Context.h"
+
+namespace richtext::rtf {
+namespace {
+
+// Symbol fonts have their signs at U+F000 and a byte; \u tells these below zero, as a rule.
+bool IsSign(std::int32_t number) {
+  const std::int32_t unit = number < 0 ? number + 0x10000 : number;
+  return unit > 0xF020 && unit <= 0xF0FF;
+}
+
+}  // namespace
+
+const CodePage& Context::TextPage() const {
+  const CodePage* page = fonts_.At(groups_.Top().character.font).page;
+  return page != nullptr ? *page : page_.Page();
+}
+
+// Where text goes; nothing when it is passed over.
+std::u16string* Context::TextInHand() {
+  if (State().destination == Destination::Body) {
+    SettleLabel();
+    return &builder_.Text();
+  }
+  return AsideText::IsFor(State().destination) && aside_.HasRoom() ? &aside_.Text() : nullptr;
+}
+
+void Context::PutBytes(std::string_view bytes) {
+  switch (State().destination) {
+    case Destination::FontTable:
+      return fonts_.AppendText(bytes, page_.Page());
+    case Destination::ColorTable:
+      return colors_.AppendText(bytes);
+    case Destination::Picture:
+      return picture_.AppendHex(bytes);
+    default:
+      break;
+  }
+  if (std::u16string* text = TextInHand()) {
+    decoder_.AppendBytes(bytes, TextPage(), *text);
+    ClaimText();
+  }
+}
+
+void Context::PutLiteral(char byte) {
+  const Destination destination = State().destination;
+  if (destination == Destination::FontTable) return fonts_.AppendByte(byte, page_.Page());
+  const bool isMark = destination == Destination::ListLevelText && static_cast<unsigned char>(byte) < 0x20;
+  if (isMark && aside_.HasRoom()) aside_.Text() += static_cast<char16_t>(byte);
+  if (!isMark && destination != Destination::ColorTable && destination != Destination::Picture)
+    PutBytes({&byte, 1});
+}
+
+void Context::PutBinary(std::string_view bytes) {
+  if (State().destination == Destination::Picture) picture_.AppendRaw(bytes);
+}
+
+void Context::PutUnicode(std::int32_t number) {
+  if (State().destination == Destination::FontTable) return fonts_.AppendUnicode(number);
+  if (IsUnicodeParagraphEnd(number)) return EndParagraph();
+  if (IsSign(number) && TextPage().number == SymbolPage) return PutLiteral(static_cast<char>(number & 0xFF));
+  if (std::u16string* text = TextInHand()) {
+    decoder_.AppendUnicode(number, *text);
+    ClaimText();
+  }
+}
+
+void Context::PutCharacter(char16_t character) {
+  if (std::u16string* text = TextInHand()) {
+    decoder_.AppendUnit(character, *text);
+    ClaimText();
+  }
+}
+
+void Context::EndText() {
+  decoder_.EndText(builder_.Text());
+  ClaimText();
+}
+
+void Context::EndParagraph() {
+  if (State().destination != Destination::Body) return;
+  SettleLabel();
+  EndText();
+  builder_.EndParagraph(ParagraphNumber(), MarkNumber());
+  linkTally_.EndParagraph();
+}
+
+void Context::EndOpenParagraph() {
+  if (builder_.HasOpenText()) EndParagraph();
+}
+
+void Context::EndCell() {
+  PutCharacter(u'\t');
+  label_.ForgetList();
+}
+
+// A label is no text where a list makes one, and else as much of a list as it tells.
+void Context::SettleLabel() {
+  const WrittenLabel::Kind kind = label_.TakeWaiting();
+  if (kind == WrittenLabel::Kind::None || paragraphs_.IsListed(State().paragraph)) return;
+  if (kind == WrittenLabel::Kind::ListText) label_.SetList(paragraphs_.NumberOfLabel(label_.Text()));
+  if (label_.HasList()) return;
+  for (const char16_t unit : label_.Text()) decoder_.AppendUnit(ShownBullet(unit), builder_.Text());
+  ClaimText();
+}
+
+}  // namespace richtext::rtf
