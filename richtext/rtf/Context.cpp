@@ -66,7 +66,7 @@ void Context::FinishLevelText() {
 void Context::FinishNumbering() {
   ParagraphState& paragraph = ChangeParagraph();
   if (numbering_.list.level != 0) paragraph.listLevel = std::exchange(numbering_.list.level, 0);
-  paragraph.numbering = paragraphs_.NumberOf(numbering_);
+  paragraph.numbering = paragraphs_.OwnLists().NumberOf(numbering_);
 }
 
 void Context::FinishInstruction() {

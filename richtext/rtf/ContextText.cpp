@@ -100,7 +100,8 @@ void Context::EndCell() {
 void Context::SettleLabel() {
   const WrittenLabel::Kind kind = label_.TakeWaiting();
   if (kind == WrittenLabel::Kind::None || paragraphs_.IsListed(State().paragraph)) return;
-  if (kind == WrittenLabel::Kind::ListText) label_.SetList(paragraphs_.NumberOfLabel(label_.Text()));
+  if (kind == WrittenLabel::Kind::ListText)
+    label_.SetList(paragraphs_.OwnLists().NumberOfLabel(label_.Text()));
   if (label_.HasList()) return;
   for (const char16_t unit : label_.Text()) decoder_.AppendUnit(ShownBullet(unit), builder_.Text());
   ClaimText();

@@ -165,7 +165,7 @@ inline void NextTab(Context& context, Number kind, Number) {
 
 inline void Tab(Context& context, Number, Number position) {
   ParagraphState& paragraph = context.ChangeParagraph();
-  paragraph.tabs = context.Paragraphs().AddTab(paragraph.tabs, {position, paragraph.nextTab});
+  paragraph.tabs = context.Paragraphs().Tabs().Add(paragraph.tabs, {position, paragraph.nextTab});
   paragraph.nextTab = TabKind::Left;
 }
 
