@@ -19,35 +19,36 @@ constexpr double TallestPicture = 0.95;     // of the sheet: letters may hang be
 }  // namespace
 
 PrintedPiece::PrintedPiece(const QTextDocument& source, int from, int to, const QSizeF& sheet)
-    : source_(source), sheet_(sheet) {
+    : source_(source), from_(from), sheet_(sheet) {
   setUndoRedoEnabled(false);
   setDocumentMargin(0);
   setUseDesignMetrics(true);  // letters stand where they stand on the paper, and not on the screen's grid
   QTextOption option = source.defaultTextOption();
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   setDefaultTextOption(option);
-  Copy(from, to);
+  Copy(to);
 }
 
-void PrintedPiece::Copy(int from, int to) {
+// `to` and the blocks are the source's.
+void PrintedPiece::Copy(int to) {
   QTextCursor cursor(this);
   cursor.beginEditBlock();
-  const QTextBlock first = source_.findBlock(from);
+  const QTextBlock first = source_.findBlock(from_);
   QTextBlockFormat format = first.blockFormat();
-  if (from > first.position()) format.setTextIndent(0);
+  if (from_ > first.position()) format.setTextIndent(0);
   cursor.setBlockFormat(format);
   cursor.setBlockCharFormat(first.charFormat());
   for (QTextBlock block = first; block.isValid() && block.position() < to; block = block.next()) {
     if (block != first) cursor.insertBlock(block.blockFormat(), block.charFormat());
-    CopyText(block, from, to, cursor);
+    CopyText(block, to, cursor);
   }
   cursor.endEditBlock();
 }
 
-void PrintedPiece::CopyText(const QTextBlock& block, int from, int to, QTextCursor& cursor) const {
+void PrintedPiece::CopyText(const QTextBlock& block, int to, QTextCursor& cursor) const {
   for (auto part = block.begin(); !part.atEnd(); ++part) {
     const QTextFragment fragment = part.fragment();
-    const int begin = std::max(from, fragment.position());
+    const int begin = std::max(from_, fragment.position());
     const int end = std::min(to, fragment.position() + fragment.length());
     if (begin < end)
       cursor.insertText(fragment.text().mid(begin - fragment.position(), end - begin),
@@ -75,6 +76,20 @@ bool PrintedPiece::CanBeLaidOut() const {
 void PrintedPiece::LayOut() {
   setTextWidth(sheet_.width());
   documentLayout()->documentSize();  // which is known when all of it is laid out
+}
+
+std::vector<PrintedLine> PrintedPiece::Lines() const {
+  std::vector<PrintedLine> lines;
+  for (QTextBlock block = begin(); block.isValid(); block = block.next()) {
+    const QTextLayout& layout = *block.layout();
+    for (int i = 0; i < layout.lineCount(); ++i) {
+      const QTextLine line = layout.lineAt(i);
+      const double top = layout.position().y() + line.y();
+      const int position = InSource(block.position() + line.textStart());
+      lines.push_back({block, line, position, top, top + line.height()});
+    }
+  }
+  return lines;
 }
 
 QVariant PrintedPiece::loadResource(int, const QUrl& name) {

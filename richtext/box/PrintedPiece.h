@@ -6,11 +6,23 @@
 // whatever the resolution of the paper is.
 #pragma once
 
+#include <vector>
+
 #include <QtCore/QSizeF>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
+#include <QtGui/QTextLayout>
 
 namespace richtext {
+
+// A line of a piece, which must outlive it.
+struct PrintedLine {
+  QTextBlock block;  // of the piece
+  QTextLine line;
+  int position;  // of its first letter, in the source
+  double top;    // in the piece, as is the bottom
+  double bottom;
+};
 
 class PrintedPiece : public QTextDocument {
  public:
@@ -22,15 +34,21 @@ class PrintedPiece : public QTextDocument {
   bool CanBeLaidOut() const;
   // Breaks the text into lines.
   void LayOut();
+  // The lines from top to bottom, when they are laid out.
+  std::vector<PrintedLine> Lines() const;
 
   QVariant loadResource(int type, const QUrl& name) override;
 
  private:
-  void Copy(int from, int to);
-  void CopyText(const QTextBlock& block, int from, int to, QTextCursor& cursor) const;
+  void Copy(int to);
+  void CopyText(const QTextBlock& block, int to, QTextCursor& cursor) const;
   QTextCharFormat Fitting(const QTextCharFormat& format, const QTextBlockFormat& paragraph) const;
 
+  // A position in this document, as one in the source.
+  int InSource(int position) const { return from_ + position; }
+
   const QTextDocument& source_;
+  const int from_;  // in the source, and position 0 here
   QSizeF sheet_;
 };
 
