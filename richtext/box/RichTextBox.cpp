@@ -19,7 +19,6 @@
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Labels.h"
-#include "richtext/textdocument/Links.h"
 #include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/TextDocument.h"
@@ -50,7 +49,7 @@ RichTextBox::RichTextBox(QWidget* parent)
   connect(document(), &QTextDocument::contentsChange, this,
           [this](int at, int removed, int added) { copy_->NoteChange(at, removed, added); });
   connect(document(), &QTextDocument::contentsChanged, this, &RichTextBox::TellEdits);
-  connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextBox::LeaveLink);
+  connect(this, &QTextEdit::cursorPositionChanged, this, [this] { caret_.LeaveLink(); });
   SetBackColor(White);
   Fill({});
 }
@@ -88,7 +87,7 @@ void RichTextBox::Fill(std::string_view rtf) {
     FillDocument(page, *document());
   }
   setTextCursor(QTextCursor(document()));
-  LeaveLink();
+  caret_.LeaveLink();
   horizontalScrollBar()->setValue(0);
 }
 
@@ -143,7 +142,7 @@ void RichTextBox::InsertBitmap(const QImage& image) {
   if (image.isNull() || isReadOnly()) return;
   QTextCursor cursor = textCursor();
   cursor.insertText(QString(QChar::ObjectReplacementCharacter),
-                    KeepPicture(FromImage(image), CaretFormat(), *document()));
+                    KeepPicture(FromImage(image), caret_.OfLetters(), *document()));
   ensureCursorVisible();
 }
 
@@ -180,24 +179,25 @@ void RichTextBox::PasteWithoutFormatting() {
 // In the format that letters typed here have.
 void RichTextBox::InsertText(const QMimeData& source) {
   QTextCursor cursor = textCursor();
-  cursor.insertText(OfferedText(source), CaretFormat());
-}
-
-// Of letters alone: a cursor behind a picture or hidden text tells of these too.
-QTextCharFormat RichTextBox::CaretFormat() const {
-  return ToTextFormat(FromTextFormat(textCursor().charFormat()));
+  cursor.insertText(OfferedText(source), caret_.OfLetters());
 }
 
 void RichTextBox::keyPressEvent(QKeyEvent* event) {
   if (IsCommandOfOthers(*event)) return event->ignore();
+  CarryFormatOver([&] {
+    if (isReadOnly())
+      QTextEdit::keyPressEvent(event);
+    else
+      PressKey(*event);
+  });
+  caret_.LeaveLink();
+}
+
+void RichTextBox::CarryFormatOver(const std::function<void()>& act) {
   const unsigned before = edits_;
-  const QTextCharFormat format = textCursor().charFormat();
-  if (isReadOnly())
-    QTextEdit::keyPressEvent(event);
-  else
-    PressKey(*event);
-  if (edits_ != before) CarryOn(format);
-  LeaveLink();
+  const QTextCharFormat format = caret_.InHand();
+  act();
+  if (edits_ != before) caret_.CarryOn(format);
 }
 
 void RichTextBox::PressKey(QKeyEvent& event) {
@@ -242,25 +242,14 @@ void RichTextBox::InsertParagraph() {
   ensureCursorVisible();
 }
 
-// A paragraph whose last letter was deleted would fall back to the format of its end; who goes on typing
-// there means the format in hand.
-void RichTextBox::CarryOn(const QTextCharFormat& format) {
-  const QTextCursor cursor = textCursor();
-  if (cursor.hasSelection() || cursor.block().length() > 1) return;
-  setCurrentCharFormat(ToTextFormat(FromTextFormat(format)));
-}
-
-// What is typed before or behind a link is no part of it.
-void RichTextBox::LeaveLink() {
-  if (const std::optional<QTextCharFormat> beside = FormatBesideLink(textCursor()))
-    setCurrentCharFormat(*beside);
-}
-
 // What is cut from the menu is an edit like one from the keyboard.
 void RichTextBox::contextMenuEvent(QContextMenuEvent* event) {
-  const unsigned before = edits_;
-  const QTextCharFormat format = textCursor().charFormat();
-  const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
+  const std::unique_ptr<QMenu> menu = ContextMenu(event->pos());
+  CarryFormatOver([&] { menu->exec(event->globalPos()); });
+}
+
+std::unique_ptr<QMenu> RichTextBox::ContextMenu(const QPoint& place) {
+  std::unique_ptr<QMenu> menu(createStandardContextMenu(place));
   auto* plain = new QAction(tr("Paste without formatting"), menu.get());
   plain->setShortcut(PlainPasteKey);
   plain->setEnabled(canPaste());
@@ -270,8 +259,7 @@ void RichTextBox::contextMenuEvent(QContextMenuEvent* event) {
     return action->objectName() == QLatin1String("edit-paste");
   });
   menu->insertAction(paste == actions.end() || paste + 1 == actions.end() ? nullptr : *(paste + 1), plain);
-  menu->exec(event->globalPos());
-  if (edits_ != before) CarryOn(format);
+  return menu;
 }
 
 void RichTextBox::paintEvent(QPaintEvent* event) {

@@ -5,10 +5,11 @@
 // input method is looked at here before the toolkit carries it out (RichTextBox.cpp,
 // RichTextBoxSelection.cpp, RichTextBoxComposing.cpp). Pasting.h knows what other programs offer, Printing.h
 // lays a selection out on paper. The hard part is the caret: the look of what is typed next is the toolkit's
-// guess from the letter before it, which is often not what the person chose last.
+// guess from the letter before it, which is not always what the person means; CaretFormat.h tells when.
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,7 +19,10 @@
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QTextEdit>
 
+#include "richtext/box/CaretFormat.h"
 #include "richtext/document/PageParts.h"
+
+class QMenu;
 
 namespace richtext {
 
@@ -127,7 +131,6 @@ class RichTextBox : public QTextEdit {
   void TellEdits();
   void Fill(std::string_view rtf);
   void SetAttribute(const QTextCharFormat& attribute);
-  QTextCharFormat CaretFormat() const;
   int PlaceOf(int position) const;
   void InsertText(const QMimeData& source);
   void PressKey(QKeyEvent& event);
@@ -135,8 +138,8 @@ class RichTextBox : public QTextEdit {
   void DeleteBack(QKeyEvent& event);
   void DeleteNext(QKeyEvent& event);
   void InsertParagraph();
-  void CarryOn(const QTextCharFormat& format);
-  void LeaveLink();
+  void CarryFormatOver(const std::function<void()>& act);
+  std::unique_ptr<QMenu> ContextMenu(const QPoint& place);
   QString Composition() const;
   ComposedWord Composed() const;
   bool InputMethodCommits();
@@ -146,6 +149,7 @@ class RichTextBox : public QTextEdit {
   bool IsLateCommit(const QInputMethodEvent& event);
 
   std::unique_ptr<DocumentCopy> copy_;
+  CaretFormat caret_{*this};
   std::uint32_t backColor_ = 0xffffff;
   bool quiet_ = false;     // what happens to the document now is no edit
   bool edited_ = false;    // an edit was seen that Change has not told yet
