@@ -1,12 +1,15 @@
+// The markup is gone through once, from bracket to bracket. Text between tags is copied as it is. Whatever
+// begins with a bracket becomes one of four things: a tag is read by the rules of those who write markup
+// (Tag.h), goes by the nesting and the cells, each of which can refuse it, and is written anew so that the
+// toolkit reads the same (Written); a sheet behind a <style> is text of its own kind (Styles.h); a comment
+// becomes an empty one; and a bracket that begins nothing becomes a letter. What is made so holds nothing of
+// which the toolkit has an own view.
 #include "richtext/html/Markup.h"
 
 #include <algorithm>
 #include <iterator>
-#include <optional>
 
-#include <QtCore/QRegularExpression>
-
-#include "richtext/html/Colors.h"
+#include "richtext/html/Styles.h"
 #include "richtext/html/Tables.h"
 #include "richtext/html/Tag.h"
 
@@ -22,48 +25,33 @@ constexpr QStringView FlatElements[] = {
     u"area", u"base", u"br", u"col",   u"dd",    u"dt", u"embed", u"hr", u"img",   u"input", u"li",
     u"link", u"meta", u"p",  u"param", u"tbody", u"td", u"tfoot", u"th", u"thead", u"tr",    u"wbr"};
 
-QString Declaration(QStringView declaration) {
-  const qsizetype colon = declaration.indexOf(u':');
-  const QStringView name = declaration.left(std::max<qsizetype>(colon, 0)).trimmed();
-  const auto is = [&](QStringView other) { return name.compare(other, Qt::CaseInsensitive) == 0; };
-  const bool isBackground = is(u"background") || is(u"background-color");
-  if (is(u"text-decoration-line"))
-    return QStringLiteral("text-decoration") + declaration.mid(colon).toString();
-  if (!isBackground && !is(u"color")) return declaration.toString();
-  const std::optional<QColor> color = FirstCssColor(declaration.mid(colon + 1));
-  if (isBackground)
-    return QStringLiteral("background-color:") + (color ? color->name() : QStringLiteral("transparent"));
-  return color ? QStringLiteral("color:") + color->name() : QString();
-}
-
-// Of a style attribute or a sheet: what stands between marks outside brackets can be a declaration.
-QString WithPlainColors(QStringView css) {
-  QString plain;
-  qsizetype from = 0;
-  int depth = 0;
-  for (qsizetype at = 0; at < css.size(); ++at) {
-    const char16_t unit = css[at].unicode();
-    if (unit == u'(') ++depth;
-    if (unit == u')') --depth;
-    const bool isMark = unit == u'{' || unit == u'}' || (unit == u';' && depth <= 0);
-    if (!isMark) continue;
-    plain += Declaration(css.mid(from, at - from)) + css[at];
-    from = at + 1;
-    depth = 0;
+// How many elements are open at once. Tags beyond MaxDepth are left out in pairs: an end goes with the start
+// that was left out last.
+class Nesting {
+ public:
+  // Counts the next tag; whether it is kept.
+  bool Keeps(const Tag& tag) {
+    const bool isFlat =
+        std::find(std::begin(FlatElements), std::end(FlatElements), tag.name) != std::end(FlatElements);
+    return isFlat || tag.endsItself || (tag.closes ? End() : Start());
   }
-  return plain + Declaration(css.mid(from));
-}
 
-// A width of 80 for a style of "width: 80px" and one of 0, which is its own, for every other one.
-void AddSizes(Tag& tag, const QString& css) {
-  static const QRegularExpression size(
-      QStringLiteral("(?:^|;)\\s*(width|height)\\s*:\\s*(?:(\\d{1,5})(?:\\.\\d*)?px)?"),
-      QRegularExpression::CaseInsensitiveOption);
-  for (auto found = size.globalMatch(css); found.hasNext();) {
-    const QRegularExpressionMatch side = found.next();
-    tag.attributes.push_back({side.captured(1).toLower(), QString::number(side.captured(2).toInt())});
+ private:
+  bool Start() {
+    const bool keeps = depth_ < MaxDepth;
+    ++(keeps ? depth_ : dropped_);
+    return keeps;
   }
-}
+  bool End() {
+    const bool keeps = dropped_ == 0;
+    int& count = keeps ? depth_ : dropped_;
+    count = std::max(0, count - 1);
+    return keeps;
+  }
+
+  int depth_ = 0;    // of open elements that were kept
+  int dropped_ = 0;  // within them, open ones that were left out
+};
 
 class Rewriting {
  public:
@@ -91,7 +79,7 @@ class Rewriting {
     if (next == u"!" || next == u"?") return LeaveOut();
     if (!IsTagAt(html_, at_)) return TakeBracket();
     Tag tag = TakeTag(html_, at_);
-    if (tag.name.isEmpty() || (!tag.endsItself && !Keeps(tag.name, tag.closes))) return;
+    if (tag.name.isEmpty() || !nesting_.Keeps(tag)) return;
     if (!cells_.Take(tag)) return FlattenCell(tag.name);
     MakeStylesPlain(tag);
     made_ += Written(tag);
@@ -117,15 +105,6 @@ class Rewriting {
     made_ += name == u"tr" ? QStringLiteral("<br>") : QStringLiteral(" ");
   }
 
-  bool Keeps(const QString& name, bool closes) {
-    if (std::find(std::begin(FlatElements), std::end(FlatElements), name) != std::end(FlatElements))
-      return true;
-    int& count = closes ? (dropped_ > 0 ? dropped_ : depth_) : (depth_ < MaxDepth ? depth_ : dropped_);
-    const bool keeps = &count == &depth_;
-    count = std::max(0, count + (closes ? -1 : 1));
-    return keeps;
-  }
-
   // The toolkit takes tags in a sheet for tags.
   void TakeSheet() {
     const qsizetype end = html_.indexOf(u'<', at_);
@@ -134,19 +113,11 @@ class Rewriting {
     at_ += length;
   }
 
-  static void MakeStylesPlain(Tag& tag) {
-    QString css;
-    for (Attribute& attribute : tag.attributes)
-      if (attribute.key == u"style") css = attribute.value = WithPlainColors(attribute.value);
-    if (tag.name == u"img") AddSizes(tag, css);
-  }
-
   const QStringView html_;
+  Nesting nesting_;
   TableCells cells_;
   QString made_;
-  qsizetype at_ = 0;
-  int depth_ = 0;    // of open elements
-  int dropped_ = 0;  // those within that were left out
+  qsizetype at_ = 0;  // how far the markup is taken
 };
 
 }  // namespace
