@@ -2,10 +2,10 @@
 
 #include "platform/Dates.h"
 #include "platform/files/Files.h"
-#include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
 #include "store/Scrambler.h"
+#include "tests/support/Staging.h"
 
 namespace bench {
 namespace {
@@ -43,7 +43,7 @@ void OneJournal() {
   row.PaperColor = 0xFFFFFF;
   MasterPassword = ScrambleText("x");
   PageShift = Shift;
-  CurrentJournal = 1;
+  Staged().CurrentJournal = 1;
 }
 
 void WriteJournal(std::int32_t pages, std::size_t pageBytes) {
@@ -51,9 +51,9 @@ void WriteJournal(std::int32_t pages, std::size_t pageBytes) {
   for (std::int32_t page = 0; page <= pages; ++page)
     Pages.push_back({Enciphered(PageOf(page, pageBytes)), today - pages + page});
   PageCount = pages;
-  PagesJournal = CurrentJournal;
+  PageInHand::PagesRead();
   SaveJournalFile(Journals.at(1).FileName);
-  ForgetPages();
+  PageInHand::PagesForgotten();
 }
 
 }  // namespace bench

@@ -20,6 +20,7 @@
 #include "platform/files/Files.h"
 #include "state/State.h"
 #include "store/UnstoredLog.h"
+#include "tests/support/Staging.h"
 
 namespace {
 
@@ -64,7 +65,7 @@ class Diary {
   void Close() {
     look::The<frmJournal>().hide();
     Face().txtM->SetTextRTF({});
-    ForgetPages();
+    PageInHand::PagesForgotten();
   }
 
  private:
@@ -173,7 +174,7 @@ void TypeALetter(benchmark::State& state) {
     QTest::keyClick(Face().txtM, Qt::Key_A);
     diary.Draw();
   }
-  PageDirty = False;
+  PageInHand::TextIsAsStored();
 }
 BENCHMARK(TypeALetter)->Arg(3000)->Arg(100000)->Unit(benchmark::kMillisecond)->UseRealTime();
 

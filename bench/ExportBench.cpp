@@ -15,6 +15,7 @@
 #include "platform/files/Files.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
+#include "tests/support/Staging.h"
 
 namespace {
 
@@ -39,7 +40,7 @@ class Diary {
     Journals[1].FontName = "Verdana";
     Journals[1].FontSize = 16;
     PageShift = Shift;
-    CurrentJournal = 1;
+    Staged().CurrentJournal = 1;
     const std::string rtf = PageOf(5000);
     std::string body(2 * rtf.size(), '\0');
     store::Encipher(rtf, Shift, body.data());
@@ -53,7 +54,7 @@ class Diary {
   }
   ~Diary() {
     Face().txtM->SetTextRTF({});
-    ForgetPages();
+    PageInHand::PagesForgotten();
     platform::SetProgramFolder({});
   }
   // A fresh file in the folder.

@@ -14,7 +14,7 @@
 #include "pictures/PictureSlots.h"
 #include "pictures/PictureToAdd.h"
 #include "pictures/frmAddPicture.h"
-#include "state/State.h"
+#include "tests/support/Staging.h"
 
 namespace {
 
@@ -62,7 +62,7 @@ std::int32_t AtScale(int pixels, double scale) {
 void LayOut(const Album& album, double scale) {
   ResetState();
   Journals.resize(2);
-  CurrentJournal = 1;
+  Staged().CurrentJournal = 1;
   Journals[1].FileName = "j00000.tqf";
   Pictures.resize(1);
   for (const std::string& path : album.paths) {

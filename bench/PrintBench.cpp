@@ -9,8 +9,8 @@
 #include "output/JoinedPages.h"
 #include "output/PrintDialog.h"
 #include "output/modPrint.h"
-#include "state/State.h"
 #include "store/PageCipher.h"
+#include "tests/support/Staging.h"
 
 namespace {
 
@@ -24,7 +24,7 @@ std::string Page() {
 
 void OneJournal(std::int32_t pages) {
   ResetState();
-  JournalCount = CurrentJournal = 1;
+  JournalCount = Staged().CurrentJournal = 1;
   Journals.resize(2);
   Journals[1].FontName = "DejaVu Sans";
   Journals[1].FontSize = 12;

@@ -14,11 +14,11 @@
 #include "bench/Beside.h"
 #include "platform/files/Files.h"
 #include "platform/files/LogWriter.h"
-#include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
 #include "store/Scrambler.h"
 #include "store/UnstoredLog.h"
+#include "tests/support/Staging.h"
 
 namespace {
 
@@ -74,7 +74,7 @@ class OpenJournal {
     platform::SetProgramFolder(name);
     MasterPassword = ScrambleText("a password");
     Journals.assign(2, {});
-    JournalCount = PagesJournal = CurrentJournal = 1;
+    JournalCount = Staged().PagesJournal = Staged().CurrentJournal = 1;
     Journals[1].FileName = fileName;
     Pages.assign(static_cast<std::size_t>(pageCount) + 1, {std::string(bodySize, 'q'), 45000.5});
     PageCount = pageCount;
@@ -116,7 +116,7 @@ constexpr std::size_t manyBodySize = 6290;  // 63 MB in all
 
 void ReadManyPages(benchmark::State& state) {
   const OpenJournal journal(manyPages, manyBodySize);
-  ForgetPages();
+  PageInHand::PagesForgotten();
   const auto work = [] {
     store::DecodedJournal decoded;
     const double seconds = SecondsOf([&] { decoded = store::ReadJournalFile(fileName); });

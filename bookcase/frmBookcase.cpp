@@ -20,7 +20,7 @@
 #include "platform/desktop/Keystroke.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/SyncFolder.h"
-#include "state/State.h"
+#include "state/PageInHand.h"
 #include "store/JournalTraces.h"
 #include "store/NewJournals.h"
 
@@ -199,7 +199,7 @@ bool frmBookcase::DressJournalWindow() {
   connect(book.face, &PageFace::JournalClosed, this, &frmBookcase::ShowAgain, Qt::UniqueConnection);
   connect(&book, &frmJournal::JournalPropertiesRequested, this, &frmBookcase::ShowProperties,
           Qt::UniqueConnection);
-  CurrentJournal = SelectedRow();
+  PageInHand::JournalChosen(SelectedRow());
   JournalEntry& entry = EntryOf(CurrentJournal);
   book.face->SetPaper(entry.PaperColor);
   book.setWindowIcon(JournalIcon(entry.Icon));
@@ -265,7 +265,7 @@ void frmBookcase::ShowProperties() {
 
 void frmBookcase::cmdProp_Click() {
   if (ListView1->count() == 0) return;
-  CurrentJournal = SelectedRow();
+  PageInHand::JournalChosen(SelectedRow());
   ShowProperties();
 }
 

@@ -46,12 +46,16 @@ QString NameOf(std::int32_t page) {
 
 }  // namespace
 
-bool ShowsAlienPage() {
-  return TextPage >= 0 && static_cast<std::size_t>(TextPage) < Pages.size() &&
-         IsAlien(Pages[static_cast<std::size_t>(TextPage)]);
+bool IsAlienPage(std::int32_t page) {
+  return page >= 0 && static_cast<std::size_t>(page) < Pages.size() &&
+         IsAlien(Pages[static_cast<std::size_t>(page)]);
 }
 
-// Not in a pass, as in an export: nobody could answer the box.
+bool ShowsAlienPage() {
+  return IsAlienPage(TextPage);
+}
+
+// Not in a pass, as in an export: look/Pass.h tells what would wait behind the box.
 void TellAlienPage() {
   if (AlienPageTold || look::Pass::InProgress() || !ShowsAlienPage()) return;
   AlienPageTold = true;

@@ -4,7 +4,12 @@
 // writes over it, and is kept for the bookcase that can.
 #pragma once
 
-// Whether the text box's text comes from such a page. A page that was never stored is none.
+#include <cstdint>
+
+// Whether the row of Pages holds such a page. One that was never stored, or is not there, is none.
+bool IsAlienPage(std::int32_t page);
+
+// Whether the text box's text comes from such a page.
 bool ShowsAlienPage();
 
 // Tells of the one on show, if it is the first since the journal was opened.

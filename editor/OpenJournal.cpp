@@ -12,7 +12,7 @@
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/Files.h"
-#include "state/State.h"
+#include "state/PageInHand.h"
 #include "store/JournalFile.h"
 #include "store/UnstoredRows.h"
 
@@ -25,7 +25,7 @@ void DropFormerJournal() {
   ForgetPagePictures();
   Face().txtM->setReadOnly(false);
   Face().txtM->SetTextRTF({});  // an empty box too may remember, for its undo, what stood in it
-  ForgetPages();
+  PageInHand::PagesForgotten();
   store::RowsAreStored();
 }
 
@@ -57,7 +57,7 @@ bool TakePages(const std::string& fileName) {
   }
   if (journal->health == store::JournalHealth::Damaged) TellDamagedJournal(fileName, journal->wholePages);
   Pages = std::move(journal->pages);
-  PagesJournal = CurrentJournal;
+  PageInHand::PagesRead();
   store::RowsAreStored();
   PageCount = static_cast<std::int32_t>(Pages.size()) - 1;
   TakePagesBack(fileName);
@@ -65,7 +65,7 @@ bool TakePages(const std::string& fileName) {
 }
 
 void ShowFirstPage() {
-  CurrentPage = chkGotoLastPage == 1 ? PageCount : 0;
+  PageInHand::TurnedTo(chkGotoLastPage == 1 ? PageCount : 0);
   ShowPageHeader();
   ShowCurrentPage();
 }

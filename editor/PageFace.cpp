@@ -10,7 +10,7 @@
 #include "look/Form.h"
 #include "look/Theme.h"
 #include "platform/Colors.h"
-#include "state/State.h"
+#include "state/PageInHand.h"
 
 // All places and sizes are in twips, 15 to the logical pixel.
 namespace {
@@ -75,7 +75,7 @@ void PageFace::MakePage() {
   txtM->setAccessibleName(QStringLiteral("the page"));
   txtM->setFrameShape(QFrame::NoFrame);
   txtM->document()->setDocumentMargin(PageMargin);
-  connect(txtM, &richtext::RichTextBox::Change, this, [] { PageDirty = True; });
+  connect(txtM, &richtext::RichTextBox::Change, this, &PageInHand::TextChanged);
 }
 
 // Made after the page, and so above it, where a tall strip covers its first lines.

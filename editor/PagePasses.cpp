@@ -1,5 +1,5 @@
 // The guarded routines tell a failure and go on with their next statement. A pass ends before a failure in it
-// is told: while it lasts, user input waits, and nobody could answer the box.
+// is told; look/Pass.h says why.
 #include "editor/PagePasses.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@
 #include "platform/Failure.h"
 #include "platform/dialogs/ReportFailure.h"
 #include "platform/files/SyncFolder.h"
-#include "state/State.h"
+#include "state/PageInHand.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
 #include "store/UnstoredRows.h"
@@ -91,14 +91,15 @@ std::string Enciphered(std::string_view plain) {
   return body;
 }
 
-// From here on the text box's text belongs to the current page, if it could be set at all.
-void SetPageText(std::string_view rtf) {
-  TextPage = -1;
+// From here on the text box's text belongs to the current page, if that came out and could be set at all.
+void SetPageText(const std::optional<std::string>& plain) {
+  PageInHand::TextLeaves();
+  const std::string_view rtf = plain ? std::string_view(*plain) : std::string_view();
   if (rtf.size() > LongLayout) look::The<look::frmWait>().ShowNow();
   Face().txtM->setReadOnly(false);
   Face().txtM->SetTextRTF(rtf);
-  TextPage = CurrentPage;
-  Face().txtM->setReadOnly(ShowsAlienPage());
+  if (plain) PageInHand::TextIsIn();
+  Face().txtM->setReadOnly(IsAlienPage(CurrentPage));
 }
 
 // The pictures, the text and the header of a page come to the screen together: until this goes, the page
@@ -110,8 +111,9 @@ class HeldScreen {
   Q_DISABLE_COPY_MOVE(HeldScreen)
 };
 
-bool TextIsCurrentPage() {
-  return PagesJournal != 0 && PagesJournal == CurrentJournal && TextPage >= 0 && TextPage == CurrentPage;
+// Once another journal is chosen, it is that one's file which a save would write.
+bool IsTextOfOpenJournal() {
+  return PagesJournal != 0 && PagesJournal == CurrentJournal && TextPage >= 0;
 }
 
 // A blank page counts as changed, but nobody would miss its blank document.
@@ -136,7 +138,7 @@ void SaveOpenJournal() {
 void ShowPageAndPictures() {
   const auto guarded = [](auto&& statement) { platform::Guarded(DecryptionError, statement); };
   const HeldScreen held;
-  TextPage = -1;
+  PageInHand::TextLeaves();
   std::optional<std::string> body;
   guarded([&] { body = PageRow(CurrentPage).Body; });
   guarded([] { ShowPagePictures(); });
@@ -148,10 +150,29 @@ void ShowPageAndPictures() {
   } else if (body) {
     plain.emplace();
   }
-  guarded([&] { SetPageText(plain.value_or(std::string())); });
-  if (!plain) TextPage = -1;  // the box does not hold the page, so nothing of it may be stored as the page
-  if (length == 0) return;    // and an empty page counts as changed
-  PageDirty = False;
+  guarded([&] { SetPageText(plain); });
+  if (length == 0) return;  // an empty page counts as changed
+  PageInHand::TextIsAsStored();
+  guarded(EndProgress);
+}
+
+// Stores the text box's text into the row that it came from.
+void StoreText() {
+  if (PageDirty == False || !IsTextOfOpenJournal() || ShowsAlienPage()) return;
+  const auto guarded = [](auto&& statement) { platform::Guarded(EncryptionError, statement); };
+  std::string text;
+  guarded([&] { text = Face().txtM->TextRTF(); });
+  if (text.empty()) return;
+  guarded([&] { AnnouncePass(QStringLiteral("Encrypting page:"), text.size()); });
+  bool enciphered = false;
+  guarded([&] {
+    std::string body = Enciphered(text);
+    store::RowWillChange(TextPage, !IsBlankPage());
+    PageRow(TextPage).Body = std::move(body);
+    enciphered = true;
+  });
+  guarded(SaveOpenJournal);
+  if (enciphered) PageInHand::TextIsAsStored();  // otherwise it is in the box alone, and must be stored yet
   guarded(EndProgress);
 }
 
@@ -164,22 +185,7 @@ void ShowCurrentPage() {
 
 void StoreCurrentPage() {
   Face().txtM->CommitComposition();
-  if (PageDirty == False || !TextIsCurrentPage() || ShowsAlienPage()) return;
-  const auto guarded = [](auto&& statement) { platform::Guarded(EncryptionError, statement); };
-  std::string text;
-  guarded([&] { text = Face().txtM->TextRTF(); });
-  if (text.empty()) return;
-  guarded([&] { AnnouncePass(QStringLiteral("Encrypting page:"), text.size()); });
-  bool enciphered = false;
-  guarded([&] {
-    std::string body = Enciphered(text);
-    store::RowWillChange(CurrentPage, !IsBlankPage());
-    PageRow(CurrentPage).Body = std::move(body);
-    enciphered = true;
-  });
-  guarded(SaveOpenJournal);
-  if (enciphered) PageDirty = False;  // otherwise the text is in the box alone, and must be stored yet
-  guarded(EndProgress);
+  if (TextPage == CurrentPage) StoreText();
 }
 
 bool IsTextUnstored() {
@@ -194,10 +200,7 @@ void StoreOpenPage() {
   if (PagesJournal == 0 || !Face().window()->isVisible()) return;
   Face().txtM->TakeComposition();
   if (PageDirty == False && PagesUnsaved) platform::Guarded(EncryptionError, SaveOpenJournal);
-  if (TextPage < 0) return;
-  const std::int32_t shown = std::exchange(CurrentPage, TextPage);
-  StoreCurrentPage();
-  CurrentPage = shown;
+  StoreText();
 }
 
 std::string GetPlainPage(std::int32_t page) {

@@ -13,7 +13,7 @@
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/SyncFolder.h"
-#include "state/State.h"
+#include "state/PageInHand.h"
 #include "store/JournalFile.h"
 #include "store/UnstoredRows.h"
 
@@ -27,7 +27,7 @@ JournalPage& Row(std::int32_t row) {
 }
 
 void ShowPage(std::int32_t page) {
-  CurrentPage = page;
+  PageInHand::TurnedTo(page);
   ShowCurrentPage();
   ShowPageHeader();
 }
@@ -46,7 +46,7 @@ void AskAndAddPage() {
     Pages.resize(Pages.size() + 1);
     ++PageCount;
     store::RowWasAdded(PageCount);
-    CurrentPage = PageCount;
+    PageInHand::TurnedTo(PageCount);
     StartNewPage();
   }
   ShowPageHeader();
@@ -164,10 +164,10 @@ void ApplyJournalFont() {
 void StartNewPage() {
   richtext::RichTextBox& text = *Face().txtM;
   text.setFocus();
-  TextPage = -1;
+  PageInHand::TextLeaves();
   text.setReadOnly(false);
   text.SetTextRTF({});
-  TextPage = CurrentPage;
+  PageInHand::TextIsIn();
   ApplyJournalFont();
   Row(PageCount).PageDate = platform::Now();
 }
@@ -175,23 +175,22 @@ void StartNewPage() {
 // At the first run no journal is open yet: the pages then belong to nobody, since row 0 is no journal.
 void NewJournalPages() {
   PageCount = 1;
-  CurrentPage = 0;
   Pages.resize(2);
   store::RowsAreStored();
   for (std::int32_t row = 0; row <= PageCount; ++row) store::RowWasAdded(row, false);
   ApplyJournalFont();
   Row(0).PageDate = platform::Now();
   Row(1).PageDate = platform::Now();
-  if (chkGotoLastPage == 1) CurrentPage = PageCount;
-  PagesJournal = CurrentJournal;
-  TextPage = CurrentPage;
+  PageInHand::PagesRead();
+  if (chkGotoLastPage == 1) PageInHand::TurnedTo(PageCount);
+  PageInHand::TextIsIn();
   ShowPageHeader();
 }
 
 // Where no journal is open there is nothing to write, and the window must still be able to go.
 void CloseJournal() {
   if (PagesJournal != 0 && !MayClose()) return;
-  PagesJournal = 0;
+  PageInHand::JournalClosed();
   Face().window()->hide();
   HidePagePictures();
   Q_EMIT Face().JournalClosed();

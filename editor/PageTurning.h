@@ -1,6 +1,6 @@
 // Moving among the pages of the open journal, and setting the text box up for each.
 //
-// The routines that change CurrentPage overwrite the text box: whoever calls them has stored the page before.
+// The routines that turn to a page overwrite the text box: whoever calls them has stored the page before.
 #pragma once
 
 void GoFirstPage();

@@ -11,7 +11,7 @@
 #include "look/Theme.h"
 #include "platform/desktop/Keystroke.h"
 #include "platform/desktop/TaskBar.h"
-#include "state/State.h"
+#include "state/PageInHand.h"
 
 namespace {
 
@@ -92,7 +92,7 @@ bool frmIndex::SelectsFirst(const QKeyEvent& key) {
 void frmIndex::cmdGoDate_Click() {
   const QList<QTreeWidgetItem*> selected = TreeView1->selectedItems();
   if (selected.isEmpty()) return;
-  CurrentPage = selected.front()->data(0, Tag).toInt();
+  PageInHand::TurnedTo(selected.front()->data(0, Tag).toInt());
   ShowCurrentPage();
   ShowPageHeader();
   look::Discard(this);

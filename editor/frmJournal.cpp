@@ -11,7 +11,7 @@
 #include "pictures/AddPicture.h"
 #include "pictures/PictureSlots.h"
 #include "platform/desktop/Keystroke.h"
-#include "state/State.h"
+#include "state/PageInHand.h"
 
 frmJournal::frmJournal()
     : Form(Kind::Window, QStringLiteral("frmJournal"), QStringLiteral("Thorn Quill"), PageFace::DesignWidth,
@@ -74,7 +74,7 @@ void frmJournal::CloseBox() {
   CloseJournal();
   if (PagesJournal != 0) return;  // the file could not be written, and the journal is still open
   ForgetPagePictures();
-  ForgetPages();
+  PageInHand::PagesForgotten();
   face->txtM->SetTextRTF({});
 }
 

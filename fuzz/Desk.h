@@ -12,7 +12,7 @@
 #include "platform/Process.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/Files.h"
-#include "state/State.h"
+#include "tests/support/Staging.h"
 
 class Desk {
  public:

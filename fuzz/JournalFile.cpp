@@ -25,7 +25,7 @@ std::string FileOf(std::string_view input) {
 bool Saves(const std::vector<JournalPage>& pages) try {
   Journals.resize(2);
   Journals[1].FileName = Name;
-  PagesJournal = 1;
+  Staged().PagesJournal = 1;
   MasterPassword = "!e";
   Pages = pages;
   PageCount = static_cast<std::int32_t>(pages.size()) - 1;

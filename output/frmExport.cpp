@@ -13,7 +13,7 @@
 #include "platform/desktop/Keystroke.h"
 #include "platform/desktop/RunUrl.h"
 #include "platform/dialogs/MessageBox.h"
-#include "state/State.h"
+#include "state/PageInHand.h"
 
 namespace {
 
@@ -230,7 +230,7 @@ void frmExport::ShowResult(const std::string& path) {
 void frmExport::CloseBox() {
   LeavePagesBehind();
   ForgetPagePictures();
-  ForgetPages();
+  PageInHand::PagesForgotten();
   Face().txtM->SetTextRTF({});
   Form::CloseBox();
   Q_EMIT Closed();

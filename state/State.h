@@ -71,10 +71,15 @@ extern std::int32_t JournalCount;
 // The pages of the open journal, rows 0 (the title page) to PageCount. Filled by LoadJournalFile or
 // NewJournalPages, erased when the journal window closes.
 extern std::vector<JournalPage> Pages;
-extern std::int32_t CurrentPage;     // the row of Pages on show
-extern std::int32_t PageCount;       // highest row of Pages, at least 1 while a journal is open
-extern Flag PageDirty;               // True when the text box changed since its page was shown or stored
-extern std::int32_t CurrentJournal;  // the row of Journals last opened; 0 before the first
+extern std::int32_t PageCount;  // highest row of Pages, at least 1 while a journal is open
+
+// The page in hand. Read by everybody; state/PageInHand.h sets them, and tells the rule that they keep.
+extern const std::int32_t& CurrentJournal;  // the row of Journals last opened; 0 before the first
+extern const std::int32_t& PagesJournal;    // the row of Journals that Pages was read for; 0 for nobody's
+extern const std::int32_t& CurrentPage;     // the row of Pages on show
+extern const std::int32_t& TextPage;        // the row that the text box's text came from; -1 for none
+extern const Flag& PageDirty;     // True when the text box changed since its page was shown or stored
+extern const bool& PagesUnsaved;  // the last try to write the open journal failed
 
 // The pictures of all pages of all journals, rows 0 to PictureCount. Row 0 is blank and never shown, but goes
 // into the file. Empty until a store was loaded or a picture was added; rows are never sorted, reused or
@@ -92,15 +97,10 @@ extern std::int32_t PageShift;
 // or the first journal was made. Before that, a save would put an empty bookcase in the place of a good one.
 extern bool BookcaseLoaded;
 
-// Whose text is where. A page may only ever go back to the journal and the row that it was read from.
-extern std::int32_t PagesJournal;  // the row of Journals that Pages was read for; 0 while Pages is erased
-extern std::int32_t TextPage;      // the row of Pages that the text box's text came from; -1 for none
-
 // Whether it was told, since the journal was opened, that a page of it is no document (editor/AlienPage.h).
 extern bool AlienPageTold;
 
-// Whether the last try to write the open journal, or the pictures, failed: the file lacks what memory holds.
-extern bool PagesUnsaved;
+// Whether the last try to write the pictures failed: the file lacks what memory holds.
 extern bool PicturesUnsaved;
 
 // The two settings.
@@ -118,10 +118,3 @@ extern std::function<bool()> LogThrough;
 
 // Called with the row of each journal that joins the bookcase; the bookcase window lists it. May be empty.
 extern std::function<void(std::int32_t row)> JournalAdded;
-
-// Gives the pages of the open journal back to nobody: Pages is erased and its memory back with the system, no
-// row is shown, nothing is dirty.
-void ForgetPages();
-
-// Puts every variable back to its value at the start of the program.
-void ResetState();

@@ -11,6 +11,7 @@
 #include "platform/dialogs/TellKept.h"
 #include "platform/files/Files.h"
 #include "platform/files/KnownFiles.h"
+#include "state/PageInHand.h"
 #include "store/Bytes.h"
 #include "store/Scrambler.h"
 #include "store/UnstoredRows.h"
@@ -271,10 +272,10 @@ std::string& WithFallbackName(std::string& fileName) {
 void SaveJournalFile(const std::string& fileName) {
   if (MasterPassword.empty()) platform::ShowMessage("password is null on save!");
   store::RefuseForeignPages(fileName);
-  PagesUnsaved = true;
+  PageInHand::SaveBegins();
   if (FileWillBeWritten) FileWillBeWritten(DataFile::AJournal);
   store::WriteJournalFile(fileName, Pages);
-  PagesUnsaved = false;
+  PageInHand::PagesSaved();
   store::RowsAreStored();
   if (SomethingWasStored) SomethingWasStored();
   platform::TellKept(platform::PathOf(fileName), store::DescribeKept);

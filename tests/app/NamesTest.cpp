@@ -61,7 +61,7 @@ TEST_F(Names, EveryControlOfEveryWindowAndEveryEntryHasOne) {
   MakeFirstJournal("", "p");
   Pages.resize(2);
   PageCount = 1;
-  CurrentJournal = 1;
+  Staged().CurrentJournal = 1;
   QDir().mkpath(QString::fromStdString(folder.PathOf("emoticons")));
   folder.WritePicture("emoticons/1-smile.gif");
   ExpectNamesIn<frmPass, frmInitJournal, frmBookcase, frmNewJournal, frmJournalProp, frmAbout, frmOptions,

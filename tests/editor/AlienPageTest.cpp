@@ -25,7 +25,7 @@ class AlienPages : public fixture::OpenBook {
     text().selectAll();
     text().SetSelBold(true);
     EXPECT_EQ(PageDirty, False);
-    PageDirty = True;
+    PageInHand::TextChanged();
     StoreCurrentPage();
     StoreOpenPage();
   }

@@ -50,7 +50,7 @@ class OpenBook : public Windows {
   // Loads without showing, as an export does.
   void Load(std::int32_t row) {
     window();
-    CurrentJournal = row;
+    PageInHand::JournalChosen(row);
     LoadJournalFile(Journals[static_cast<std::size_t>(row)].FileName);
   }
   void Open(std::int32_t row) {

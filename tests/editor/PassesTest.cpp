@@ -41,16 +41,16 @@ TEST_F(Passes, TextGoesBackOnlyToTheRowItCameFrom) {
   const std::string before = BytesOf(row) + BytesOf(other);
   Type("My ");
   for (const auto& [journal, page] : {std::pair{row, 1}, {row, 77}, {other, 0}}) {
-    CurrentJournal = journal;
-    CurrentPage = page;
+    Staged().CurrentJournal = journal;
+    Staged().CurrentPage = page;
     StoreCurrentPage();
   }
-  CurrentJournal = row;
+  Staged().CurrentJournal = row;
   window().hide();
   StoreOpenPage();
   EXPECT_EQ(BytesOf(row) + BytesOf(other), before);
   window().show();
-  CurrentPage = 77;  // wherever a failure has left it
+  Staged().CurrentPage = 77;  // wherever a failure has left it
   StoreOpenPage();
   EXPECT_EQ(TextsIn(row), (Texts{"My cover", "one"}));
   ShowCurrentPage();

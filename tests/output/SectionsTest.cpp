@@ -15,7 +15,7 @@ class Sections : public fixture::Desk {
   Sections() {
     Journals.resize(2);
     Journals[1].FileName = "j00000.tqf";
-    CurrentJournal = 1;
+    Staged().CurrentJournal = 1;
   }
 
   // The lines of a menu bar, each with "|" behind it; "Next>4" for a link, "4" for one that is its own

@@ -10,11 +10,11 @@ class PicturePage : public fixture::Windows {
  protected:
   PicturePage() {
     Journals.resize(2);
-    JournalCount = CurrentJournal = 1;
+    JournalCount = Staged().CurrentJournal = 1;
     Journals[1].Name = "Summer";
     Journals[1].FileName = "j1";
     Journals[1].PaperColor = 0x80FFFF;
-    CurrentPage = 2;
+    Staged().CurrentPage = 2;
     page.setGeometry(100, 120, 565, 648);
   }
   // The path of a picture in one colour but for its left edge.

@@ -27,7 +27,7 @@ class JournalTest : public fixture::Desk {
     MasterPassword = "?e";
     Journals.assign(2, {});
     Journals[1].FileName = fileName;
-    JournalCount = PagesJournal = CurrentJournal = 1;
+    JournalCount = Staged().PagesJournal = Staged().CurrentJournal = 1;
     Pages = std::move(pages);
     PageCount = static_cast<std::int32_t>(Pages.size()) - 1;
   }
@@ -119,7 +119,7 @@ TEST_F(JournalTest, SavesPagesOnlyToTheirOwnJournal) {
   Open({{}, {"mine", 0}});
   ExpectRefused(FailureKind::SubscriptOutOfRange, "j00001.tqf");
   for (const auto& [journal, count] : {std::pair{0, 1}, {-1, 1}, {2, 1}, {1, -1}, {1, 0}, {1, 2}}) {
-    PagesJournal = journal;
+    Staged().PagesJournal = journal;
     PageCount = count;
     ExpectRefused(FailureKind::SubscriptOutOfRange);
   }

@@ -24,7 +24,7 @@
 #include "platform/dialogs/MessageBox.h"
 #include "platform/dialogs/OpenFileDialog.h"
 #include "platform/files/Files.h"
-#include "state/State.h"
+#include "tests/support/Staging.h"
 
 namespace fixture {
 

@@ -1,10 +1,10 @@
 #include "pictures/modPictures.h"
 #include "platform/files/Files.h"
-#include "state/State.h"
 #include "store/JournalFile.h"
 #include "store/JournalIndex.h"
 #include "store/NewJournals.h"
 #include "store/PageCipher.h"
+#include "tests/support/Staging.h"
 #include "tools/tour/Steps.h"
 
 namespace {
@@ -34,7 +34,7 @@ void StageAYear() {
     Journals.back().Icon = Icons[JournalCount - 1];
     Journals.back().PaperColor = Paper;
   }
-  CurrentJournal = PagesJournal = 1;
+  Staged().CurrentJournal = Staged().PagesJournal = 1;
   Pages.resize(LastPage + 1, {"", SaturdayInAugust});
   PageCount = LastPage;
   const std::string text = platform::ReadFile(ASSETS "/year/page.rtf");

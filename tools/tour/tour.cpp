@@ -16,7 +16,7 @@
 #include "platform/desktop/Application.h"
 #include "platform/desktop/WayOut.h"
 #include "platform/files/Files.h"
-#include "state/State.h"
+#include "tests/support/Staging.h"
 #include "tools/tour/Sittings.h"
 
 namespace {
