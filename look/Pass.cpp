@@ -94,8 +94,17 @@ Pass::Stillness::~Stillness() {
 }
 
 void Pass::Yield() {
-  const auto now = std::chrono::steady_clock::now();
-  if (serving || stillness > 0 || now - lastServed_ < Frame) return;
+  if (std::chrono::steady_clock::now() - lastServed_ >= Frame) Serve();
+}
+
+void Pass::Await(std::chrono::milliseconds most, const std::function<bool()>& isSo) {
+  const auto end = std::chrono::steady_clock::now() + most;
+  while (Serve() && !isSo() && std::chrono::steady_clock::now() < end) {
+  }
+}
+
+bool Pass::Serve() {
+  if (serving || stillness > 0) return false;
   serving = true;
   {
     const InputKeeper keeper;
@@ -103,6 +112,7 @@ void Pass::Yield() {
   }
   serving = false;
   lastServed_ = std::chrono::steady_clock::now();
+  return true;
 }
 
 bool Pass::InProgress() {

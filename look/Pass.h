@@ -1,4 +1,29 @@
 // A long pass over a page, during which the windows stay alive but take no commands.
+//
+// Who may run events, and when. The window thread runs them in three places and in no fourth:
+//
+//   the program's own loop, and that of a dialog or message box that waits for a person; everything is served
+//   Yield and Await of a pass, as below; a routine that serves events is in a pass
+//   the handing over to a running instance, before there is a window
+//
+// A pass serves what the windows need to stay alive: painting, timers, what the window system tells. It keeps
+// back what could start a command in the middle of one, to the end of the outermost pass:
+//
+//   keys, clicks and the wheel   left in the window system's queue
+//   an input method's text       kept by the serving, and delivered in order by RunAfterwards
+//   the closing of a window      Form asks InProgress, and closes by RunAfterwards
+//   the way out from outside     app/WaysOut, alike; a failure of the log's worker is told alike
+//
+// What waits runs from the next loop that is in no pass, and not in the destructor: by then the whole command
+// has come to its end. It may serve events more than once on its way, each time in a pass, of which the
+// second keeps back what the first one left waiting.
+//
+// A box that opens in a pass has a loop of its own, and can be answered; yet what waits goes on waiting
+// behind it, and of a box over a page half shown nobody knows what it speaks of. So a pass of one page
+// (editor/PagePasses) ends before its failure is told, and a message that can wait is not told in a pass at
+// all.
+//
+// No pass serves events in an event that a pass serves.
 #pragma once
 
 #include <chrono>
@@ -6,8 +31,7 @@
 
 namespace look {
 
-// For the life of this object user input waits: what is typed and clicked is delivered after the command, in
-// order. Passes may nest.
+// For the life of this object what is kept back waits. Passes may nest.
 class Pass {
  public:
   Pass();
@@ -17,6 +41,8 @@ class Pass {
 
   // Serves the event loop when about a frame has passed since it was served last; cheap otherwise.
   void Yield();
+  // Serves the event loop, once at least, until that is so, or for so long at most.
+  void Await(std::chrono::milliseconds most, const std::function<bool()>& isSo);
 
   // While one lives, passes serve no events: the display is gone, and the toolkit would end the process at
   // its next look at it.
@@ -33,6 +59,9 @@ class Pass {
   static void RunAfterwards(std::function<void()> action);
 
  private:
+  // False, and nothing is served, in an event that a pass serves, or in a stillness.
+  bool Serve();
+
   std::chrono::steady_clock::time_point lastServed_;
 };
 

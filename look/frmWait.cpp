@@ -1,18 +1,18 @@
 #include "look/frmWait.h"
 
-#include <QtCore/QDeadlineTimer>
 #include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 
 #include "look/Emblem.h"
+#include "look/Pass.h"
 #include "look/Theme.h"
 
 namespace look {
 namespace {
 
 constexpr std::chrono::milliseconds Frame{16};
-constexpr std::chrono::milliseconds MostForAppearing{
-    250};  // a window manager that takes longer is not waited for
+// A window manager that takes longer is not waited for.
+constexpr std::chrono::milliseconds MostForAppearing{250};
 
 }  // namespace
 
@@ -58,9 +58,7 @@ void frmWait::ShowNow() {
   appearance_.stop();
   if (!isVisible()) Appear();
   // Shown is not yet seen: only after its exposure is there a place to paint on.
-  const QDeadlineTimer limit(MostForAppearing);
-  do QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  while (!windowHandle()->isExposed() && !limit.hasExpired());
+  Pass().Await(MostForAppearing, [this] { return windowHandle()->isExposed(); });
   repaint();
 }
 

@@ -22,8 +22,8 @@ class frmWait : public Form {
   // served a frame later, so that a pass that is over by then never flashes. It never takes the keyboard
   // focus.
   void ShowSoon();
-  // Brings a window that was asked for to the screen now: for work that serves no events and outlasts a
-  // frame.
+  // Brings a window that was asked for to the screen now, and serves events for that as a pass does: for work
+  // that serves none itself and outlasts a frame.
   void ShowNow();
   // The pass is over: hidden, on the screen or not.
   void HideNow();

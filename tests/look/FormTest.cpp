@@ -167,6 +167,13 @@ TEST_F(FormTest, TheWaitWindowComesWithALongPassAndLeavesTheFocusAlone) {
   EXPECT_TRUE(look::IsLoaded<look::frmWait>());
   EXPECT_EQ(QApplication::activeWindow(), &dialog);
   EXPECT_EQ(QApplication::focusWidget(), dialog.box);
+  wait.ShowSoon();
+  QTimer::singleShot(0, [&] { dialog.close(); });
+  wait.ShowNow();
+  EXPECT_TRUE(wait.isVisible());
+  EXPECT_EQ(Dialog::closings, 0) << "what starts a command waits here too";
+  wait.HideNow();
+  EXPECT_TRUE(QTest::qWaitFor([] { return Dialog::closings > 0; }));
 }
 
 TEST_F(FormTest, ABoxRefusesWhatTheFilesCannotHoldAndSaysWhich) {
