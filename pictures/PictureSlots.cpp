@@ -103,17 +103,13 @@ void PictureSlots::ConnectSlot(std::size_t slot) {
   connect(handle, &StretchedImage::DblClick, this, [this, slot] { imgController_DblClick(slot); });
 }
 
-std::int32_t PictureSlots::RowOf(std::size_t slot) const {
-  return imgController[slot]->property("Tag").toString().toInt();
-}
-
 // The handle's visibility is left alone: one that shows goes over to whatever picture comes into its slot.
 void PictureSlots::Show(std::size_t slot, std::int32_t row) {
   PagePicture& picture = Row(row);
   const QSize size = SizeOf(picture);
   imgPhoto[slot]->SetPicture(pictures::LoadScaled(picture.PictureFile, size, page_->devicePixelRatioF()));
   imgPhoto[slot]->resize(size);
-  imgController[slot]->setProperty("Tag", QString::number(row));
+  rows_[slot] = row;
   picDisplayPics[slot]->resize(size);
   imgController[slot]->resize(size.width(), HandleHeight);
   picDisplayPics[slot]->move(PlaceOf(picture));
@@ -160,22 +156,22 @@ void PictureSlots::imgPhoto_Click(std::size_t slot) {
 }
 
 void PictureSlots::imgController_MouseDown(std::size_t slot) {
-  DragSlot = static_cast<std::int32_t>(slot) + 1;
+  dragged_ = slot;
 }
 
 // The picture's corner goes to the pointer, wherever the handle was gripped: measured from the outer corner
 // of the window's border, and with a fixed allowance for its title bar. There is no limit to where it may go.
 void PictureSlots::imgController_MouseMove(std::size_t slot) {
-  if (DragSlot <= 0) return;
+  if (!dragged_) return;
   const QPoint corner = page_->window()->frameGeometry().topLeft();
   PagePicture& picture = Row(RowOf(slot));
   picture.Left = MouseTracker.X() - corner.x();
   picture.Top = MouseTracker.Y() - corner.y() - TitleBarAllowance;
-  picDisplayPics[static_cast<std::size_t>(DragSlot) - 1]->move(PlaceOf(picture));
+  picDisplayPics[*dragged_]->move(PlaceOf(picture));
 }
 
 void PictureSlots::imgController_MouseUp() {
-  DragSlot = 0;
+  dragged_.reset();
   SavePictureStore();
 }
 

@@ -36,10 +36,9 @@ class PictureSlots : public QObject {
   std::array<StretchedImage*, Count> imgController;
 
   cMouse MouseTracker;
-  std::int32_t DragSlot = 0;  // 0: no drag; else the number of the slot and one more
 
-  // The row of Pictures that the slot shows: the handle's property "Tag", decimal text.
-  std::int32_t RowOf(std::size_t slot) const;
+  // The row of Pictures that the slot shows, or showed when it was last on show; 0 before that.
+  std::int32_t RowOf(std::size_t slot) const { return rows_[slot]; }
 
   // Deals out the rows of the current page whose picture files are there to the slots, and shows these.
   // Returns the first failure of a picture, which leaves no gap, or of a frame, whose picture shows without
@@ -76,6 +75,8 @@ class PictureSlots : public QObject {
   void imgController_DblClick(std::size_t slot);
 
   QWidget* page_;
+  std::array<std::int32_t, Count> rows_{};
+  std::optional<std::size_t> dragged_;  // the slot whose handle a button holds
 };
 
 // Hides the slots, and shows in them the pictures of the current page whose files are there. A picture that
