@@ -213,7 +213,7 @@ void TypeBesideTheLog(benchmark::State& state, bool behindTheLook) {
     return bench::SecondsOf(type);
   });
   BookcaseLoaded = false;
-  PageDirty = False;
+  PageInHand::TextIsAsStored();
 }
 
 void TypeALetterBesideTheLog(benchmark::State& state) {
@@ -280,7 +280,7 @@ void LogThePage(benchmark::State& state) {
   state.counters["first_ms"] = bench::MedianOf(firsts);
   state.counters["again_ms"] = bench::MedianOf(agains);
   state.counters["whole_ms"] = bench::MedianOf(wholes);
-  PageDirty = False;
+  PageInHand::TextIsAsStored();
 }
 BENCHMARK(LogThePage)->DenseRange(0, 3)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
 

@@ -122,7 +122,7 @@ TEST_F(Log, PagesThatAreLeftBehindComeBackWhateverIsDoneMeanwhile) {
       {"opened again", [] { OpenTheJournal(); }},
       {"another one opened", [] {
          Journals.push_back(Journals[1]);
-         JournalCount = CurrentJournal = 2;
+         JournalCount = Staged().CurrentJournal = 2;
          LoadJournalFile(Journals[2].FileName = "j00001.tqf");
        }}};
   for (const auto& [name, step] : meanwhile) {
