@@ -8,6 +8,7 @@
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 
 namespace {
 

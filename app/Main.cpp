@@ -24,6 +24,8 @@
 #include "platform/desktop/Application.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/Files.h"
+#include "platform/files/KeptFiles.h"
+#include "platform/files/ReplaceFile.h"
 #include "state/State.h"
 #include "store/JournalIndex.h"
 #include "store/LostJournals.h"

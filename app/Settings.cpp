@@ -14,6 +14,7 @@
 #include "platform/files/Files.h"
 #include "platform/files/KnownFiles.h"
 #include "platform/files/ProfileFile.h"
+#include "platform/files/ReplaceFile.h"
 #include "state/State.h"
 
 namespace {

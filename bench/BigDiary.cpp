@@ -1,7 +1,7 @@
 #include "bench/BigDiary.h"
 
 #include "platform/Dates.h"
-#include "platform/files/Files.h"
+
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
 #include "store/Scrambler.h"

@@ -18,6 +18,7 @@
 #include "editor/frmIndex.h"
 #include "editor/frmJournal.h"
 #include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "state/State.h"
 #include "store/UnstoredLog.h"
 #include "tests/support/Staging.h"

@@ -13,6 +13,7 @@
 
 #include "bench/Beside.h"
 #include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "platform/files/LogWriter.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"

@@ -17,6 +17,7 @@
 #include "platform/dialogs/ColorDialog.h"
 #include "platform/dialogs/FontDialog.h"
 #include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "state/State.h"
 
 namespace {

@@ -12,6 +12,7 @@
 #include "platform/Process.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "tests/support/Staging.h"
 
 class Desk {

@@ -5,6 +5,8 @@
 #include <sstream>
 
 #include "fuzz/Desk.h"
+#include "platform/files/Files.h"
+#include "platform/files/ReplaceFile.h"
 
 namespace {
 

@@ -8,7 +8,8 @@
 #include "platform/Failure.h"
 #include "platform/desktop/WayOut.h"
 #include "platform/dialogs/MessageBox.h"
-#include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
+#include "platform/files/OutputFile.h"
 
 namespace {
 

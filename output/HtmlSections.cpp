@@ -1,7 +1,7 @@
 #include "output/HtmlSections.h"
 
 #include "output/WebText.h"
-#include "platform/files/Files.h"
+#include "platform/files/OutputFile.h"
 #include "state/Maker.h"
 #include "state/State.h"
 

@@ -15,6 +15,7 @@
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/Files.h"
+#include "platform/files/OutputFile.h"
 #include "state/State.h"
 
 std::string ExportTarget;

@@ -7,7 +7,7 @@
 #include <QtGui/QImageReader>
 
 #include "platform/Failure.h"
-#include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 
 namespace pictures {
 namespace {

@@ -5,6 +5,7 @@
 #include <unordered_set>
 
 #include "platform/Failure.h"
+#include "platform/files/FileList.h"
 #include "platform/files/Files.h"
 #include "state/State.h"
 #include "store/JournalFile.h"

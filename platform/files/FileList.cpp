@@ -5,9 +5,11 @@
 #include <dirent.h>
 #include <memory>
 
-#include <QtCore/QByteArray>
+#include <QtCore/QFile>
 
+#include "platform/CodePage.h"
 #include "platform/Errno.h"
+#include "platform/files/FileNames.h"
 #include "platform/files/Files.h"
 
 namespace platform {
@@ -25,6 +27,14 @@ bool Matches(std::string_view name, const std::vector<std::string_view>& endings
 
 }  // namespace
 
+std::vector<std::string> NamesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
+  if (!listing) return names;
+  while (const dirent* entry = readdir(listing.get())) names.emplace_back(entry->d_name);
+  return names;
+}
+
 std::vector<std::string> ListFiles(const std::string& folder, const std::vector<std::string_view>& endings) {
   const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
   if (!listing) throw FailureOf(errno, folder, FailureKind::PathNotFound);
@@ -35,6 +45,19 @@ std::vector<std::string> ListFiles(const std::string& folder, const std::vector<
   }
   std::sort(names.begin(), names.end());
   return names;
+}
+
+std::vector<std::string> ListJournalFiles(const std::string& folder) {
+  std::vector<std::string> journals;
+  for (const std::string& name : NamesIn(folder)) {
+    if (!Matches(name, {".tqf"}) || !FileExists(folder + "/" + name)) continue;
+    const QString decoded = QFile::decodeName(name.c_str());
+    const auto inCodePage = ToCodePage(decoded);
+    // Bytes that no name decodes to could never be found again by the decoded name.
+    if (inCodePage && QFile::encodeName(decoded) == name.c_str()) journals.push_back(*inCodePage);
+  }
+  std::sort(journals.begin(), journals.end());
+  return journals;
 }
 
 }  // namespace platform

@@ -1,3 +1,5 @@
+#include "platform/files/InputFile.h"
+
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
@@ -5,7 +7,6 @@
 #include <unistd.h>
 
 #include "platform/Errno.h"
-#include "platform/files/Files.h"
 #include "platform/files/Remembered.h"
 
 namespace platform {

@@ -1,5 +1,5 @@
-// Files that lie beside the data files: damaged or changed ones that are kept, and those that a killed
-// process left.
+#include "platform/files/KeptFiles.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -13,7 +13,9 @@
 #include "platform/Failure.h"
 #include "platform/files/FileNames.h"
 #include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "platform/files/LeftBehind.h"
+#include "platform/files/ReplaceFile.h"
 #include "platform/files/SyncFolder.h"
 
 namespace platform {

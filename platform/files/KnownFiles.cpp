@@ -3,7 +3,7 @@
 #include <map>
 #include <utility>
 
-#include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "platform/files/LeftBehind.h"
 #include "platform/files/Remembered.h"
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/files/Files.h"
+#include "platform/files/ReplaceFile.h"
 #include "platform/files/SyncFolder.h"
 
 namespace platform {

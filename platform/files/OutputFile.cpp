@@ -1,4 +1,5 @@
-// Files that are not replaced in one step: what an export makes can be made again.
+#include "platform/files/OutputFile.h"
+
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -6,7 +7,6 @@
 #include <utility>
 
 #include "platform/Errno.h"
-#include "platform/files/Files.h"
 
 namespace platform {
 namespace {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 
 namespace platform {
 namespace {

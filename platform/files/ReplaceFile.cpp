@@ -1,5 +1,7 @@
 // Writing a file in one step: the bytes go into a file of their own beside it, and when they are on the disk
 // that file takes the old one's name, and the name is brought to the disk too.
+#include "platform/files/ReplaceFile.h"
+
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
@@ -14,7 +16,6 @@
 
 #include "platform/Errno.h"
 #include "platform/files/Checksum.h"
-#include "platform/files/Files.h"
 #include "platform/files/KnownFiles.h"
 #include "platform/files/LeftBehind.h"
 #include "platform/files/Remembered.h"

@@ -6,6 +6,7 @@
 #include "output/ReplaceText.h"
 #include "output/WebText.h"
 #include "platform/desktop/WayOut.h"
+#include "platform/files/OutputFile.h"
 #include "tests/support/Fixtures.h"
 
 namespace {

@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 
 #include "pictures/PictureFile.h"
+#include "platform/files/InputFile.h"
 #include "tests/support/Fixtures.h"
 
 namespace {

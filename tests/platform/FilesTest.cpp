@@ -7,7 +7,11 @@
 
 #include "platform/dialogs/TellKept.h"
 #include "platform/files/Checksum.h"
+#include "platform/files/InputFile.h"
+#include "platform/files/KeptFiles.h"
 #include "platform/files/KnownFiles.h"
+#include "platform/files/OutputFile.h"
+#include "platform/files/ReplaceFile.h"
 #include "platform/files/SyncFolder.h"
 #include "tests/support/Fixtures.h"
 

@@ -2,7 +2,7 @@
 #include <ctime>
 #include <gtest/gtest.h>
 
-#include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "richtext/bitmaps/BitmapFromPicture.h"
 
 using namespace richtext;

@@ -6,7 +6,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 
-#include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "richtext/box/RichTextBox.h"
 #include "richtext/textdocument/TextDocument.h"
 #include "tests/richtext/RtfDump.h"

@@ -1,4 +1,5 @@
 // Every format of a page through the text box's document and back.
+#include "platform/files/InputFile.h"
 #include "richtext/document/Limits.h"
 #include "richtext/textdocument/Labels.h"
 #include "tests/richtext/BoxFixture.h"

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "tests/richtext/RtfDump.h"
 
 using namespace richtext;

@@ -1,6 +1,7 @@
 // The bytes of the data files, from the samples, and changed by hand.
 #pragma once
 
+#include "platform/files/InputFile.h"
 #include "store/PageCipher.h"
 #include "tests/support/Fixtures.h"
 

@@ -4,6 +4,7 @@
 #include "editor/frmJournal.h"
 #include "platform/dialogs/OpenFileDialog.h"
 #include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "state/State.h"
 #include "store/PictureStore.h"
 #include "tools/tour/Steps.h"

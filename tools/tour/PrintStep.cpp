@@ -7,6 +7,7 @@
 #include "editor/frmJournal.h"
 #include "platform/Dates.h"
 #include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "state/State.h"
 #include "tools/tour/Steps.h"
 

@@ -8,6 +8,8 @@
 #include "editor/frmJournal.h"
 #include "look/Theme.h"
 #include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
+#include "platform/files/ReplaceFile.h"
 #include "state/State.h"
 #include "tools/tour/Steps.h"
 

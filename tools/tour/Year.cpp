@@ -1,5 +1,5 @@
 #include "pictures/modPictures.h"
-#include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "store/JournalFile.h"
 #include "store/JournalIndex.h"
 #include "store/NewJournals.h"
