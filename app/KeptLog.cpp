@@ -9,7 +9,7 @@
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/Files.h"
 #include "state/State.h"
-#include "store/JournalIndex.h"
+#include "store/BookcaseFile.h"
 
 namespace {
 

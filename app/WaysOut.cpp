@@ -20,8 +20,8 @@
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/SyncFolder.h"
 #include "state/State.h"
+#include "store/BookcaseFile.h"
 #include "store/JournalFile.h"
-#include "store/JournalIndex.h"
 
 namespace {
 

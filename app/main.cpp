@@ -1,7 +1,6 @@
-#include "app/Main.h"
-
 #include <QtCore/QTimer>
 
+#include "app/Start.h"
 #include "app/WaysOut.h"
 #include "platform/desktop/Application.h"
 #include "platform/desktop/WayOut.h"

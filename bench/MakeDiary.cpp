@@ -5,7 +5,7 @@
 
 #include "bench/BigDiary.h"
 #include "platform/files/Files.h"
-#include "store/JournalIndex.h"
+#include "store/BookcaseFile.h"
 
 int main(int argc, char** argv) {
   if (argc != 3) return std::fprintf(stderr, "usage: make_diary FOLDER PAGES\n"), 2;

@@ -5,7 +5,7 @@
 
 #include <QtWidgets/QTreeWidget>
 
-#include "editor/JournalIndexTree.h"
+#include "editor/PageIndex.h"
 #include "look/Form.h"
 #include "look/PictureButton.h"
 

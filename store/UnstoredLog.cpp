@@ -8,8 +8,8 @@
 
 #include "platform/Failure.h"
 #include "state/State.h"
+#include "store/BookcaseIndex.h"
 #include "store/Bytes.h"
-#include "store/IndexFile.h"
 
 namespace store {
 namespace {

@@ -71,7 +71,7 @@ struct DecodedLog {
   std::string problem;  // the plain name of the first thing that could not be read; empty when sound
 };
 
-// A page of an absurd FileName (store/IndexFile.h) or a negative row counts as damaged. Of a part that is
+// A page of an absurd FileName (store/BookcaseIndex.h) or a negative row counts as damaged. Of a part that is
 // there twice, the later one counts. Journals come in the order of their names, pages in that of their rows.
 DecodedLog DecodeLog(std::string_view bytes);
 

@@ -4,7 +4,7 @@
 #include <QtCore/QTimer>
 
 #include "app/KeptLog.h"
-#include "app/Main.h"
+#include "app/Start.h"
 #include "app/WaysOut.h"
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmInitJournal.h"

@@ -1,7 +1,7 @@
 #include "pictures/modPictures.h"
 #include "platform/files/InputFile.h"
+#include "store/BookcaseFile.h"
 #include "store/JournalFile.h"
-#include "store/JournalIndex.h"
 #include "store/NewJournals.h"
 #include "store/PageCipher.h"
 #include "tests/support/Staging.h"

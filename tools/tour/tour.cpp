@@ -11,7 +11,7 @@
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 
-#include "app/Main.h"
+#include "app/Start.h"
 #include "app/WaysOut.h"
 #include "platform/desktop/Application.h"
 #include "platform/desktop/WayOut.h"

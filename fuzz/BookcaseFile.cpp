@@ -1,9 +1,10 @@
 // A bookcase is read or the program ends, and neither changes the file. What was read is saved and read again
 // as the same bookcase.
+#include "store/BookcaseFile.h"
+
 #include <numeric>
 
 #include "fuzz/Desk.h"
-#include "store/JournalIndex.h"
 
 namespace {
 

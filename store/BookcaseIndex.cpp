@@ -1,4 +1,4 @@
-#include "store/IndexFile.h"
+#include "store/BookcaseIndex.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "app/Main.h"
+#include "app/Start.h"
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
@@ -27,7 +27,7 @@
 #include "platform/files/KeptFiles.h"
 #include "platform/files/ReplaceFile.h"
 #include "state/State.h"
-#include "store/JournalIndex.h"
+#include "store/BookcaseFile.h"
 #include "store/LostJournals.h"
 
 namespace {

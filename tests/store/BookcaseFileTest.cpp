@@ -1,5 +1,5 @@
-#include "store/IndexFile.h"
-#include "store/JournalIndex.h"
+#include "store/BookcaseFile.h"
+#include "store/BookcaseIndex.h"
 #include "store/Scrambler.h"
 #include "tests/store/StoreTest.h"
 

@@ -1,4 +1,4 @@
-#include "store/JournalIndex.h"
+#include "store/BookcaseFile.h"
 
 #include <string>
 #include <utility>
@@ -14,7 +14,7 @@
 #include "platform/files/ReplaceFile.h"
 #include "platform/files/SyncFolder.h"
 #include "state/State.h"
-#include "store/IndexFile.h"
+#include "store/BookcaseIndex.h"
 #include "store/Scrambler.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "editor/JournalIndexTree.h"
+#include "editor/PageIndex.h"
 
 #include <unordered_map>
 #include <utility>
