@@ -1,4 +1,4 @@
-// The settings from their file to the windows and back, the password's change, and the help.
+// The settings from their file to the windows and back, and the help.
 #include <QtWidgets/QApplication>
 
 #include "app/Help.h"
@@ -107,40 +107,6 @@ TEST_F(OptionsTest, TellsOfAFileThatCannotBeRead) {
   LoadSettings();
   ASSERT_EQ(answers.messages.size(), 1u) << "once for the file";
   EXPECT_EQ(answers.last().substr(0, 13), "GetIniError: ");
-}
-
-TEST_F(OptionsTest, ThePasswordChangesOnlyWhenEverythingIsRight) {
-  const std::string tooLong(129, 'a');
-  const struct {
-    std::string old, fresh, again, message;
-    bool clears = false;
-  } cases[] = {{"Old ", "", "", "Old password incorrect!"},
-               {"Old", "", "b", "You have not entered a new password!"},
-               {"Old", "b", "", "You have not re-entered your new password!"},
-               {"Old", "b", "B", "New password entries do not match!", true},
-               {"Old", tooLong, tooLong, "The password has 129 characters. It can have at most 128."}};
-  MasterPassword = ScrambleText("Old");
-  PageShift = 'd';
-  auto& dialog = look::The<frmPassChange>();
-  dialog.show();
-  const auto enter = [&](const std::string& old, const std::string& fresh, const std::string& again) {
-    dialog.txtPass->setText(QString::fromStdString(old));
-    dialog.txtNewPass->setText(QString::fromStdString(fresh));
-    dialog.txtNewPass2->setText(QString::fromStdString(again));
-    Click(dialog.cmdOK);
-  };
-  for (const auto& [old, fresh, again, message, clears] : cases) {
-    enter(old, fresh, again);
-    EXPECT_EQ(answers.last(), message);
-    EXPECT_EQ(dialog.txtNewPass->text().isEmpty(), clears || fresh.empty()) << message;
-    EXPECT_EQ(UnscrambleText(MasterPassword), "Old");
-    EXPECT_TRUE(dialog.isVisible());
-  }
-  enter("Old", "b\xC3\xA9", "b\xC3\xA9");
-  EXPECT_EQ(answers.messages.size(), std::size(cases));
-  EXPECT_EQ(UnscrambleText(MasterPassword), "b\xE9");
-  EXPECT_EQ(PageShift, 'd');
-  EXPECT_FALSE(look::IsLoaded<frmPassChange>());
 }
 
 TEST_F(OptionsTest, F1LeadsToTheChapterOfTheWindow) {
