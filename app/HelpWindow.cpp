@@ -43,29 +43,14 @@ HelpWindow::HelpWindow(const QString& html) : QWidget(nullptr, Qt::Window) {
   setAttribute(Qt::WA_DeleteOnClose);
   resize((DesignSize * std::max(1.0, double(fontMetrics().height()) / DesignFontHeight))
              .boundedTo(screen()->availableSize() - FrameAround));
+  MakeControls();
   LayOut();
   Browser->setHtml(html);
   ListContents(html);
-
-  connect(cmdBack, &QPushButton::clicked, Browser, &QTextBrowser::backward);
-  connect(Browser, &QTextBrowser::backwardAvailable, cmdBack, &QWidget::setEnabled);
-  connect(lstContents, &QListWidget::itemActivated, this, [this] { Browser->setFocus(); });
-  const auto goToItem = [this](const QListWidgetItem* item) {
-    if (item) GoTo(item->data(AnchorRole).toString());
-  };
-  connect(lstContents, &QListWidget::currentItemChanged, this, goToItem);
-  connect(lstContents, &QListWidget::itemClicked, this, goToItem);  // the marked chapter leads back as well
-  connect(Browser, &QTextBrowser::sourceChanged, this,
-          [this](const QUrl& place) { MarkChapter(place.fragment()); });
-  connect(txtFind, &QLineEdit::returnPressed, this, &HelpWindow::FindNext);
-  connect(txtFind, &QLineEdit::textEdited, this, [this] { TellWhetherFound(true); });
-  connect(cmdFindNext, &QPushButton::clicked, this, &HelpWindow::FindNext);
-  new QShortcut(QKeySequence::Find, txtFind, [this] { txtFind->setFocus(), txtFind->selectAll(); });
-  new QShortcut(QKeySequence(Qt::Key_F3), this, [this] { FindNext(); });
-  new QShortcut(QKeySequence::Back, this, [this] { Browser->backward(); });
+  ConnectControls();
 }
 
-void HelpWindow::LayOut() {
+void HelpWindow::MakeControls() {
   cmdBack = new QPushButton(QStringLiteral("&Back"));
   txtFind = new QLineEdit;
   cmdFindNext = new QPushButton(QStringLiteral("Find &next"));
@@ -90,7 +75,9 @@ void HelpWindow::LayOut() {
   DressForReading(*Browser);
   for (QWidget* paper : {static_cast<QWidget*>(lstContents), static_cast<QWidget*>(Browser)})
     DressAsPaper(*paper);
+}
 
+void HelpWindow::LayOut() {
   auto* bar = new QHBoxLayout;
   bar->addWidget(cmdBack);
   bar->addStretch();
@@ -105,6 +92,25 @@ void HelpWindow::LayOut() {
   auto* rows = new QVBoxLayout(this);
   rows->addLayout(bar);
   rows->addWidget(halves);
+}
+
+void HelpWindow::ConnectControls() {
+  connect(cmdBack, &QPushButton::clicked, Browser, &QTextBrowser::backward);
+  connect(Browser, &QTextBrowser::backwardAvailable, cmdBack, &QWidget::setEnabled);
+  connect(lstContents, &QListWidget::itemActivated, this, [this] { Browser->setFocus(); });
+  const auto goToItem = [this](const QListWidgetItem* item) {
+    if (item) GoTo(item->data(AnchorRole).toString());
+  };
+  connect(lstContents, &QListWidget::currentItemChanged, this, goToItem);
+  connect(lstContents, &QListWidget::itemClicked, this, goToItem);  // the marked chapter leads back as well
+  connect(Browser, &QTextBrowser::sourceChanged, this,
+          [this](const QUrl& place) { MarkChapter(place.fragment()); });
+  connect(txtFind, &QLineEdit::returnPressed, this, &HelpWindow::FindNext);
+  connect(txtFind, &QLineEdit::textEdited, this, [this] { TellWhetherFound(true); });
+  connect(cmdFindNext, &QPushButton::clicked, this, &HelpWindow::FindNext);
+  new QShortcut(QKeySequence::Find, txtFind, [this] { txtFind->setFocus(), txtFind->selectAll(); });
+  new QShortcut(QKeySequence(Qt::Key_F3), this, [this] { FindNext(); });
+  new QShortcut(QKeySequence::Back, this, [this] { Browser->backward(); });
 }
 
 // A chapter is a heading of the second level whose anchor stands in it: <h2><a name="...">Title</a></h2>.

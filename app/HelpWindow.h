@@ -31,7 +31,9 @@ class HelpWindow : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void MakeControls();
   void LayOut();
+  void ConnectControls();
   void ListContents(const QString& html);
   void GoTo(const QString& anchor);
   void MarkChapter(const QString& anchor);

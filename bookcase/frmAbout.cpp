@@ -32,6 +32,18 @@ frmAbout::frmAbout()
   cmdClose   = Place(new look::PictureButton(QStringLiteral("Close")), "cmdClose", 5160, 2610, 1680, 450);
   // clang-format on
   Image1->setPixmap(look::EmblemPicture());
+  DressTexts(webSite);
+  cmdClose->setDefault(true);
+  cmdClose->setFocus();
+
+  SetPicture(look::CurrentTheme().large);
+  cmdClose->SetPicture(look::CurrentTheme().button);
+  connect(lblWebSite, &LinkLabel::Clicked, this, &OpenWebSite);
+  connect(Image1, &LinkLabel::Clicked, this, &OpenWebSite);
+  connect(cmdClose, &QPushButton::clicked, this, &frmAbout::CloseBox);
+}
+
+void frmAbout::DressTexts(const QString& webSite) {
   QFont font = Label1->font();
   font.setBold(true);
   Label1->setFont(font);
@@ -41,12 +53,4 @@ frmAbout::frmAbout()
   font.setUnderline(true);
   lblWebSite->setFont(font);
   lblWebSite->setToolTip(webSite);
-  cmdClose->setDefault(true);
-  cmdClose->setFocus();
-
-  SetPicture(look::CurrentTheme().large);
-  cmdClose->SetPicture(look::CurrentTheme().button);
-  connect(lblWebSite, &LinkLabel::Clicked, this, &OpenWebSite);
-  connect(Image1, &LinkLabel::Clicked, this, &OpenWebSite);
-  connect(cmdClose, &QPushButton::clicked, this, &frmAbout::CloseBox);
 }

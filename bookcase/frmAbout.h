@@ -18,4 +18,7 @@ class frmAbout : public look::Form {
   QLabel* Label4;  // the legal notice
   QLabel* Label5;
   look::PictureButton* cmdClose;
+
+ private:
+  void DressTexts(const QString& webSite);
 };

@@ -10,6 +10,14 @@
 
 frmInitJournal::frmInitJournal()
     : Form(Kind::Dialog, QStringLiteral("frmInitJournal"), QStringLiteral("Thornquill"), 7470, 5610) {
+  PlaceControls();
+  DressControls();
+  connect(cmdOK, &QPushButton::clicked, this, &frmInitJournal::CreateFirstJournal);
+  connect(cmdCancel, &QPushButton::clicked, this, &frmInitJournal::cmdCancel_Click);
+  connect(cmdHelp, &QPushButton::clicked, this, [] { platform::SendKey(Qt::Key_F1); });
+}
+
+void frmInitJournal::PlaceControls() {
   const auto label = [this](const char* text) { return new QLabel(QString::fromLatin1(text), this); };
   const auto button = [this](const char* text) {
     return new look::PictureButton(QString::fromLatin1(text), this);
@@ -29,6 +37,9 @@ frmInitJournal::frmInitJournal()
   cmdCancel   = Place(button("E&xit"), "cmdCancel", 2610, 4920, 2250, 450);
   cmdHelp     = Place(button("&Help"), "cmdHelp", 4980, 4920, 2250, 450);
   // clang-format on
+}
+
+void frmInitJournal::DressControls() {
   Image1->setPixmap(look::EmblemPicture());
   Image1->setAccessibleName(QStringLiteral("a quill over a book"));
   DressWelcome();
@@ -42,9 +53,6 @@ frmInitJournal::frmInitJournal()
 
   SetPicture(look::CurrentTheme().large);
   for (auto* face : {cmdCancel, cmdOK, cmdHelp}) face->SetPicture(look::CurrentTheme().button);
-  connect(cmdOK, &QPushButton::clicked, this, &frmInitJournal::CreateFirstJournal);
-  connect(cmdCancel, &QPushButton::clicked, this, &frmInitJournal::cmdCancel_Click);
-  connect(cmdHelp, &QPushButton::clicked, this, [] { platform::SendKey(Qt::Key_F1); });
 }
 
 // Both lines may take a second one; they keep together in the middle of the emblem's height.
@@ -57,25 +65,26 @@ void frmInitJournal::DressWelcome() {
   Label5->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 }
 
-void frmInitJournal::CreateFirstJournal() {
+bool frmInitJournal::Complain() {
+  QWidget* toMend = txtNewPass;
   if (txtPass->text().isEmpty()) {
     platform::ShowMessage("Please enter a name for this journal!");
-    txtPass->setFocus();
-    return;
-  }
-  if (txtNewPass->text().isEmpty()) {
+    toMend = txtPass;
+  } else if (txtNewPass->text().isEmpty()) {
     platform::ShowMessage("Please enter a password!");
-    txtNewPass->setFocus();
-    return;
-  }
-  if (txtNewPass->text() != txtNewPass2->text()) {
+  } else if (txtNewPass->text() != txtNewPass2->text()) {
     platform::ShowMessage("Password entries do not match!", platform::BoxIcon::Stop);
     txtNewPass->clear();
     txtNewPass2->clear();
-    txtNewPass->setFocus();
-    return;
+  } else if (!IsPasswordTooLong(txtNewPass->Bytes())) {
+    return false;
   }
-  if (IsPasswordTooLong(txtNewPass->Bytes())) return txtNewPass->setFocus();
+  toMend->setFocus();
+  return true;
+}
+
+void frmInitJournal::CreateFirstJournal() {
+  if (Complain()) return;
   MakeFirstJournal(txtPass->Bytes(), txtNewPass->Bytes());
   look::Discard(this);
   look::The<frmBookcase>().ShowModeless();

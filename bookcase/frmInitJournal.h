@@ -29,7 +29,11 @@ class frmInitJournal : public look::Form {
   void CloseBox() override;  // does what cmdCancel does
 
  private:
+  void PlaceControls();
+  void DressControls();
   void DressWelcome();
+  // Whether something stands against the journal, after its message.
+  bool Complain();
   void CreateFirstJournal();  // the click on cmdOK
   void cmdCancel_Click();
 };

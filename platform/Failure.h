@@ -6,7 +6,7 @@
 
 namespace platform {
 
-enum class FailureKind {
+enum class FailureKind {  // the numbers are told in a message, so they stay
   InvalidArgument = 5,
   Overflow = 6,
   OutOfMemory = 7,

@@ -59,6 +59,7 @@ QLabel* LabelOf(const QString& caption, QWidget* buddy) {
 FontPicker::FontPicker(const FontQuestion& question, QWidget* parent) : QDialog(parent), question_(question) {
   setObjectName(QStringLiteral("FontDialog"));
   setWindowTitle(QStringLiteral("Font"));
+  MakeChoices();
   LayOut();
   NameControls();
   Stand();
@@ -72,7 +73,7 @@ FontPicker::FontPicker(const FontQuestion& question, QWidget* parent) : QDialog(
   ShowSample();
 }
 
-void FontPicker::LayOut() {
+void FontPicker::MakeChoices() {
   name = new ChoiceList(QStringLiteral("fontName"), FontNames(question_.codePageNames));
   name->SetFiltering(true);
   name->edit->setAccessibleName(QStringLiteral("Font"));
@@ -83,6 +84,9 @@ void FontPicker::LayOut() {
   size->edit->setValidator(
       new QRegularExpressionValidator(QRegularExpression(QStringLiteral("\\d{0,4}([.,]\\d?)?")), size));
   size->setFixedWidth(std::max(90, 10 * fontMetrics().averageCharWidth()));
+}
+
+void FontPicker::LayOut() {
   auto* grid = new QGridLayout(this);
   grid->setSpacing(8);
   grid->addWidget(LabelOf(QStringLiteral("&Font:"), name->edit), 0, 0);

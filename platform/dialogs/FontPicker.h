@@ -32,6 +32,7 @@ class FontPicker : public QDialog {
   FontValues Values() const;
 
  private:
+  void MakeChoices();
   void LayOut();
   QLayout* EffectsColumn();
   void MakeSample();
