@@ -16,6 +16,34 @@ constexpr char FileName[] = "THORNQUILL.HLP";
 
 QPointer<HelpWindow> theHelp;
 
+QString Text() {
+  return QString::fromStdString(platform::ReadFile(platform::PathOf(FileName)));
+}
+
+QString TopicOf(const QWidget* window) {
+  for (; window; window = window->parentWidget())
+    if (theHelp->HasTopic(window->objectName())) return window->objectName();
+  return {};
+}
+
+// Opens the help at the chapter named like the window, or like the nearest of its parents that has a chapter;
+// at the beginning where none has.
+void ShowHelp(QWidget* window) {
+  if (window == theHelp) return;
+  try {
+    if (!theHelp) theHelp = new HelpWindow(Text());
+  } catch (const platform::Failure& failure) {
+    platform::ShowMessage(
+        "The help cannot be shown. It lies beside the program in the file THORNQUILL.HLP; put it "
+        "there again.\n\n" +
+        std::string(failure.what()));
+    return;
+  }
+  const QString topic = TopicOf(window);
+  if (QWidget* list = QApplication::activePopupWidget()) list->close();  // it would keep the mouse to itself
+  theHelp->ShowTopic(topic, *window);
+}
+
 class F1Filter : public QObject {
  public:
   using QObject::QObject;
@@ -31,34 +59,8 @@ class F1Filter : public QObject {
   }
 };
 
-QString Text() {
-  return QString::fromStdString(platform::ReadFile(platform::PathOf(FileName)));
-}
-
-QString TopicOf(const QWidget* window) {
-  for (; window; window = window->parentWidget())
-    if (theHelp->HasTopic(window->objectName())) return window->objectName();
-  return {};
-}
-
 }  // namespace
 
 void AnswerF1() {
   qApp->installEventFilter(new F1Filter(qApp));
-}
-
-void ShowHelp(QWidget* window) {
-  if (window == theHelp) return;
-  try {
-    if (!theHelp) theHelp = new HelpWindow(Text());
-  } catch (const platform::Failure& failure) {
-    platform::ShowMessage(
-        "The help cannot be shown. It lies beside the program in the file THORNQUILL.HLP; put it "
-        "there again.\n\n" +
-        std::string(failure.what()));
-    return;
-  }
-  const QString topic = TopicOf(window);
-  if (QWidget* list = QApplication::activePopupWidget()) list->close();  // it would keep the mouse to itself
-  theHelp->ShowTopic(topic, *window);
 }

@@ -1,18 +1,21 @@
 // An export: whole pages through the text box, and the writing of lines beside its floor.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
-#include <fstream>
 #include <unistd.h>
 
 #include <QtCore/QTemporaryDir>
 
 #include "bench/Beside.h"
 #include "editor/OpenJournal.h"
+#include "editor/PageFace.h"
 #include "editor/frmJournal.h"
+#include "output/ExportDisplay.h"
+#include "output/ExportSettings.h"
 #include "output/HtmlSections.h"
 #include "output/ReplaceText.h"
 #include "output/modExport.h"
 #include "platform/files/Files.h"
+#include "richtext/box/RichTextBox.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
 #include "tests/support/Staging.h"
@@ -45,8 +48,8 @@ class Diary {
     std::string body(2 * rtf.size(), '\0');
     store::Encipher(rtf, Shift, body.data());
     const std::vector<JournalPage> rows(static_cast<std::size_t>(pages) + 1, JournalPage{body, 40000.5});
-    const std::string bytes = store::EncodeJournal(rows, "xA");
-    std::ofstream(platform::PathOf("j00000.tqf"), std::ios::binary) << bytes;
+    MasterPassword = "xA";
+    store::WriteJournalFile(Journals[1].FileName, rows);
     look::The<frmJournal>();
     LoadJournalFile(Journals[1].FileName);
     EnsureExportFolder();

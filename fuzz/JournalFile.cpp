@@ -2,6 +2,8 @@
 // and read again as the same pages; an alien file is left alone.
 #include "store/JournalFile.h"
 
+#include <algorithm>
+#include <bit>
 #include <numeric>
 
 #include "fuzz/Desk.h"
@@ -36,8 +38,10 @@ bool Saves(const std::vector<JournalPage>& pages) try {
   return false;
 }
 
-std::string RowsOf(const std::vector<JournalPage>& pages) {
-  return store::EncodeJournal(pages, {}).substr(MagicSize + PasswordSize);
+// A date may be no number, which equals nothing: its bits are to come back.
+bool IsSame(const JournalPage& one, const JournalPage& other) {
+  return one.Body == other.Body &&
+         std::bit_cast<std::uint64_t>(one.PageDate) == std::bit_cast<std::uint64_t>(other.PageDate);
 }
 
 }  // namespace
@@ -64,6 +68,6 @@ void Try(std::string_view input) {
     desk.RequireKept(Name, bytes, health == JournalHealth::Damaged);
     const store::DecodedJournal again = store::ReadJournalFile(Name);
     Require(again.health == JournalHealth::Sound, "what is saved is sound");
-    Require(RowsOf(again.pages) == RowsOf(pages), "the pages come back");
+    Require(std::ranges::equal(again.pages, pages, IsSame), "the pages come back");
   }
 }

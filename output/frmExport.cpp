@@ -7,12 +7,16 @@
 
 #include "editor/PageFace.h"
 #include "editor/UnstoredPages.h"
+#include "output/ExportSettings.h"
 #include "output/PageLines.h"
+#include "output/modExport.h"
 #include "pictures/PictureSlots.h"
 #include "platform/CodePage.h"
+#include "platform/Failure.h"
 #include "platform/desktop/Keystroke.h"
 #include "platform/desktop/RunUrl.h"
 #include "platform/dialogs/MessageBox.h"
+#include "richtext/box/RichTextBox.h"
 #include "state/PageInHand.h"
 
 namespace {

@@ -9,8 +9,12 @@
 #include <QtWidgets/QPushButton>
 
 #include "look/Form.h"
-#include "output/modExport.h"
-#include "platform/Failure.h"
+#include "output/ExportDisplay.h"
+
+struct ExportSettings;
+namespace platform {
+class Failure;
+}
 
 class frmExport : public look::Form, private ExportDisplay {
   Q_OBJECT

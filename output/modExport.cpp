@@ -8,6 +8,8 @@
 #include "editor/PageFace.h"
 #include "editor/PageTurning.h"
 #include "look/Pass.h"
+#include "output/ExportDisplay.h"
+#include "output/ExportSettings.h"
 #include "output/HtmlSections.h"
 #include "output/PageLines.h"
 #include "output/ReplaceText.h"
@@ -16,6 +18,7 @@
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/Files.h"
 #include "platform/files/OutputFile.h"
+#include "richtext/box/RichTextBox.h"
 #include "state/State.h"
 
 std::string ExportTarget;

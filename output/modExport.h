@@ -7,21 +7,12 @@
 #include <cstdint>
 #include <string>
 
-#include "output/ExportSettings.h"
+class ExportDisplay;
+struct ExportSettings;
 
 // The page that "View in Web Browser" opens: full path, in the system's own bytes, of the index page or the
 // single page of the latest export; empty before the first one.
 extern std::string ExportTarget;
-
-// The dialog, as an export sees it.
-class ExportDisplay {
- public:
-  virtual ~ExportDisplay() = default;
-  virtual void HideResult() = 0;                         // of the export before
-  virtual void ShowStart(std::int32_t steps) = 0;        // so many steps will be shown, the first one now
-  virtual void ShowStep(std::int32_t step) = 0;          // 2 to `steps`
-  virtual void ShowResult(const std::string& path) = 0;  // the page that was written last
-};
 
 // Makes the folder that all exports go to, if nothing has its name. Returns 0; or 1 when that failed, which
 // has been told in a box then.

@@ -16,6 +16,7 @@
 #include "platform/files/ReplaceFile.h"
 #include "state/PageInHand.h"
 #include "store/Bytes.h"
+#include "store/PieceReader.h"
 #include "store/Scrambler.h"
 #include "store/UnstoredRows.h"
 
@@ -99,6 +100,17 @@ DecodedJournal DecodePages(PieceReader& reader, std::int32_t count) {
   const std::size_t promised = countCanBe && count <= mostPromisedPages ? most : 0;
   journal.pages.resize(std::max({journal.pages.size(), promised, fewestRows}));
   return journal;
+}
+
+// Reads in pieces, straight into the pages' own memory. `size` is the file's length in bytes, beyond which no
+// count or length is believed.
+DecodedJournal DecodeJournal(const ByteSource& source, std::uint64_t size) {
+  PieceReader reader(source, size);
+  std::array<char, headerSize> header;
+  const std::string_view start(header.data(), reader.ReadUpTo(header.data(), header.size()));
+  if (!CouldBeJournal(start)) return {{}, JournalHealth::Alien, 0};
+  if (start.size() < headerSize) return {std::vector<JournalPage>(fewestRows), JournalHealth::Damaged, 0};
+  return DecodePages(reader, LoadNumber<std::int32_t>(header.data() + countOffset));
 }
 
 std::string PasswordBlock(std::string_view scrambledPassword) {
@@ -215,25 +227,6 @@ std::string DescribeKept(const std::string& path) {
 }
 
 }  // namespace
-
-DecodedJournal DecodeJournal(const ByteSource& source, std::uint64_t size) {
-  PieceReader reader(source, size);
-  std::array<char, headerSize> header;
-  const std::string_view start(header.data(), reader.ReadUpTo(header.data(), header.size()));
-  if (!CouldBeJournal(start)) return {{}, JournalHealth::Alien, 0};
-  if (start.size() < headerSize) return {std::vector<JournalPage>(fewestRows), JournalHealth::Damaged, 0};
-  return DecodePages(reader, LoadNumber<std::int32_t>(header.data() + countOffset));
-}
-
-std::string EncodeJournal(const std::vector<JournalPage>& pages, std::string_view scrambledPassword) {
-  const JournalPieces journal(pages, scrambledPassword);
-  std::size_t size = 0;
-  for (const std::string_view piece : journal.pieces()) size += piece.size();
-  std::string bytes;
-  bytes.reserve(size);
-  for (const std::string_view piece : journal.pieces()) bytes += piece;
-  return bytes;
-}
 
 DecodedJournal ReadJournalFile(const std::string& fileName) {
   const std::string path = platform::PathOf(fileName);

@@ -3,11 +3,9 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "state/State.h"
-#include "store/PieceReader.h"
 
 namespace store {
 
@@ -19,20 +17,12 @@ struct DecodedJournal {
   std::int32_t wholePages = 0;  // pages that the bytes hold whole
 };
 
-// Reads in pieces, straight into the pages' own memory. `size` is the file's length in bytes, beyond which no
-// count or length is believed.
-DecodedJournal DecodeJournal(const ByteSource& source, std::uint64_t size);
-
-// The whole file: magic, the password block (scrambledPassword scrambled once more and padded to 512 bytes),
-// the count and the pages. Throws platform::Failure (InvalidArgument) when the block has no room, and
-// (SubscriptOutOfRange) when `pages` is empty.
-std::string EncodeJournal(const std::vector<JournalPage>& pages, std::string_view scrambledPassword);
-
 // Reads a journal file of the program's folder. Throws platform::Failure when it cannot be read. A damaged
 // one is remembered, so that SaveJournalFile keeps it beside before it writes over it.
 DecodedJournal ReadJournalFile(const std::string& fileName);
 
-// Writes these pages to that file of the program's folder. Throws as SaveJournalFile does.
+// Writes these pages to that file of the program's folder, with a block of MasterPassword scrambled once more
+// and padded to 512 bytes. Throws as SaveJournalFile does, and SubscriptOutOfRange when `pages` is empty.
 void WriteJournalFile(const std::string& fileName, const std::vector<JournalPage>& pages);
 
 // Whether the file begins as a journal does; one that is cut within its beginning does, too. Throws as

@@ -5,9 +5,11 @@
 #include "bookcase/frmAbout.h"
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmNewJournal.h"
+#include "editor/PageFace.h"
 #include "editor/frmJournal.h"
 #include "output/frmExport.h"
 #include "platform/desktop/RunUrl.h"
+#include "richtext/box/RichTextBox.h"
 #include "store/JournalFile.h"
 #include "store/NewJournals.h"
 #include "store/PictureStore.h"
@@ -120,14 +122,15 @@ TEST_F(BookcaseTest, DeletesFileItemAndPicturesButNoRowAndOnlyOnYes) {
 
 TEST_F(BookcaseTest, WithAJournalGoItsCopiesAndWhereItsLinkLeadsAndWhatStaysIsTold) {
   Show({"one", "two", "three"});
-  const std::string journal = store::EncodeJournal(std::vector<JournalPage>(2), MasterPassword);
+  store::WriteJournalFile("diary", std::vector<JournalPage>(2));
+  const std::string journal = folder.Read("diary");
   const auto link = [&](const char* from, const char* to) {
     EXPECT_TRUE(
         QFile::link(QString::fromStdString(folder.PathOf(to)), QString::fromStdString(folder.PathOf(from))));
   };
   const fixture::Texts stay = {"j00000.tqf.bak", "j00000.tqf.x.damaged", "j00000.tqfx.damaged",
                                "j00001.tqf.damaged"};
-  for (const char* copy : {"j00000.tqf.damaged", "j00000.tqf.12.damaged", "j00000.tqf.1.other", "diary"})
+  for (const char* copy : {"j00000.tqf.damaged", "j00000.tqf.12.damaged", "j00000.tqf.1.other"})
     folder.Write(copy, journal);
   for (const std::string& other : stay) folder.Write(other, journal);
   folder.Block("j00000.tqf.3.damaged");

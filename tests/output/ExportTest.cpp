@@ -1,4 +1,7 @@
+#include "look/PictureBox.h"
 #include "output/frmExport.h"
+#include "output/modExport.h"
+#include "pictures/PictureSlots.h"
 #include "platform/desktop/RunUrl.h"
 #include "tests/editor/OpenBook.h"
 

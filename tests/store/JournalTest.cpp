@@ -11,6 +11,14 @@ constexpr std::size_t countPlace = 539, headerSize = 543;
 
 class JournalTest : public fixture::Desk {
  protected:
+  // The bytes of a file of these pages.
+  std::string Encoded(const std::vector<JournalPage>& pages) const {
+    MasterPassword = "?e";
+    store::WriteJournalFile("encoded.tqf", pages);
+    std::string bytes = folder.Read("encoded.tqf");
+    platform::DeleteFile(folder.PathOf("encoded.tqf"));
+    return bytes;
+  }
   store::DecodedJournal Decode(const std::string& bytes) {
     folder.Write(fileName, bytes);
     return store::ReadJournalFile(fileName);
@@ -44,7 +52,7 @@ class JournalTest : public fixture::Desk {
     EXPECT_EQ(folder.Names(), before);
     EXPECT_EQ(folder.Read(fileName), bytes);
   }
-  const std::string threePages = store::EncodeJournal({{"ab", 1.5}, {"ab", 1.5}, {"ab", 1.5}}, "?e");
+  const std::string threePages = Encoded({{"ab", 1.5}, {"ab", 1.5}, {"ab", 1.5}});
 };
 
 TEST_F(JournalTest, PagesOfEveryLengthComeBackAndTheSamplesByteForByte) {
@@ -52,14 +60,14 @@ TEST_F(JournalTest, PagesOfEveryLengthComeBackAndTheSamplesByteForByte) {
        {std::pair{"1-first-diary/j00000.tqf", 55}, {"2-three-journals/j00000.tqf", 65}}) {
     const std::string sample = Sample(path);
     const std::vector<JournalPage> pages = Decode(sample).pages;
-    const std::string written = store::EncodeJournal(pages, "?e");
+    const std::string written = Encoded(pages);
     EXPECT_EQ(written.substr(0, 27) + written.substr(countPlace),
               sample.substr(0, 27) + sample.substr(countPlace));
     EXPECT_EQ(Deciphered(pages.at(1).Body, shift).substr(0, 5), "{\\rtf");
   }
   for (const std::size_t length : {0U, 65534U, 65535U}) {
     const JournalPage page{std::string(length, 'x'), 1.5};
-    const auto [pages, health, wholePages] = Decode(store::EncodeJournal({page, page}, "?e"));
+    const auto [pages, health, wholePages] = Decode(Encoded({page, page}));
     EXPECT_EQ(health, store::JournalHealth::Sound);
     EXPECT_EQ(std::tuple(pages.at(1).Body, pages[1].PageDate), std::tuple(page.Body, 1.5));
   }
@@ -97,7 +105,7 @@ TEST_F(JournalTest, KeepsADamagedFileBesideBeforeTheFirstWriteAndAnAlienOneForGo
 }
 
 TEST_F(JournalTest, KeepsWhatAnotherProgramPutThereAndTellsItsPages) {
-  Open(Decode(store::EncodeJournal({{"ab", 1.5}, {"ab", 1.5}}, "?e")).pages);
+  Open(Decode(Encoded({{"ab", 1.5}, {"ab", 1.5}})).pages);
   folder.Write(fileName, threePages);
   for (int round = 0; round < 2; ++round) SaveJournalFile(fileName);
   EXPECT_EQ(folder.Read(fileName + ".1.other"), threePages);
