@@ -24,7 +24,7 @@ std::unique_ptr<KeptLog> theLog;
 // But for the journals.
 store::UnstoredLog WhatElseIsUnstored() {
   if (!BookcaseLoaded) return {};
-  return {platform::Now(), UnstoredIndex(), UnstoredPictures(), {}};
+  return {platform::Now(), UnstoredBookcaseIndex(), UnstoredPictures(), {}};
 }
 
 // The moment aside.
@@ -82,7 +82,7 @@ bool KeptLog::eventFilter(QObject* /*watched*/, QEvent* event) {
 
 // A journal or a password is no typing of two seconds.
 void KeptLog::LookAtTheBookcase() {
-  if (UnstoredIndex() != held_.index) Look();
+  if (UnstoredBookcaseIndex() != held_.index) Look();
 }
 
 void KeptLog::LookSoon() {

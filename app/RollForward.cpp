@@ -114,7 +114,8 @@ struct Kind {
 };
 
 constexpr Kind IndexKind = {"journal.tqt", "the bookcase", &IsSameBookcase, [](const std::string& bytes) {
-                              return store::DecodeIndex(bytes).health == store::IndexHealth::Sound;
+                              return store::DecodeBookcaseIndex(bytes).health ==
+                                     store::BookcaseIndexHealth::Sound;
                             }};
 constexpr Kind PicturesKind = {
     "tqpics.bin", "the pictures on the pages",

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/Dates.h"
+#include "state/State.h"
 
 namespace {
 
@@ -31,13 +32,13 @@ std::vector<Entry> EntriesOf(std::span<const JournalPage> pages) {
 // The nodes, found by their keys in one step, so that the time taken grows with the pages and not faster.
 class Tree {
  public:
-  explicit Tree(std::vector<JournalIndexNode>& nodes) : nodes_(nodes) {
+  explicit Tree(std::vector<PageIndexNode>& nodes) : nodes_(nodes) {
     for (std::size_t place = 0; place < nodes_.size(); ++place) Note(static_cast<int>(place));
   }
 
   bool Has(const std::string& key) const { return places_.contains(key); }
   int PlaceOf(const std::string& key) const { return places_.at(key); }
-  void Add(JournalIndexNode node) {
+  void Add(PageIndexNode node) {
     nodes_.push_back(std::move(node));
     Note(static_cast<int>(nodes_.size()) - 1);
   }
@@ -48,7 +49,7 @@ class Tree {
     if (!key.empty()) places_.try_emplace(key, place);
   }
 
-  std::vector<JournalIndexNode>& nodes_;
+  std::vector<PageIndexNode>& nodes_;
   std::unordered_map<std::string, int> places_;
 };
 
@@ -68,7 +69,7 @@ class LongDates {
 
 }  // namespace
 
-void AddToJournalIndex(std::vector<JournalIndexNode>& nodes, std::span<const JournalPage> pages) {
+void AddToPageIndex(std::vector<PageIndexNode>& nodes, std::span<const JournalPage> pages) {
   const std::vector<Entry> entries = EntriesOf(pages);
   Tree tree(nodes);
   for (const Entry& entry : entries)

@@ -8,9 +8,9 @@
 
 #include <QtCore/QString>
 
-#include "state/State.h"
+struct JournalPage;
 
-struct JournalIndexNode {
+struct PageIndexNode {
   QString text;
   std::string key;       // "d2004" for a year, "d3" for March; none for a page
   std::int32_t tag = 0;  // a row of Pages: the page's own, or the first one met with that year or month
@@ -20,4 +20,4 @@ struct JournalIndexNode {
 // Adds a node for each page but the title page, and for each year and month whose key no node has yet.
 // Nothing is sorted: all come in the order of first appearance. A month's key holds no year, so each month
 // stands once in the whole tree, under the year that had it first, with the pages of all years.
-void AddToJournalIndex(std::vector<JournalIndexNode>& nodes, std::span<const JournalPage> pages);
+void AddToPageIndex(std::vector<PageIndexNode>& nodes, std::span<const JournalPage> pages);

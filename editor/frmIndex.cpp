@@ -17,7 +17,7 @@ namespace {
 
 constexpr int Tag = Qt::UserRole;
 
-QTreeWidgetItem* MakeItem(const JournalIndexNode& node, const QFont& yearFont) {
+QTreeWidgetItem* MakeItem(const PageIndexNode& node, const QFont& yearFont) {
   auto* item = new QTreeWidgetItem;
   if (node.parent < 0) item->setFont(0, yearFont);
   item->setText(0, node.text);
@@ -53,7 +53,7 @@ frmIndex::frmIndex()
 
 // Children come under their parents before these come into the tree: the view then hears of few insertions.
 void frmIndex::AddPages() {
-  AddToJournalIndex(nodes_, Pages);
+  AddToPageIndex(nodes_, Pages);
   QFont bold = TreeView1->font();
   bold.setBold(true);
   std::map<int, QList<QTreeWidgetItem*>, std::greater<>> children;

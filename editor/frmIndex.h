@@ -30,7 +30,7 @@ class frmIndex : public look::Form {
   bool SelectsFirst(const QKeyEvent& key);
   void cmdGoDate_Click();
 
-  std::vector<JournalIndexNode> nodes_;
+  std::vector<PageIndexNode> nodes_;
   std::vector<QTreeWidgetItem*> items_;  // one a node
 };
 

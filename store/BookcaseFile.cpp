@@ -70,7 +70,7 @@ void AddRow(JournalEntry entry) {
   if (JournalAdded) JournalAdded(JournalCount);
 }
 
-void TakeOver(store::Index index) {
+void TakeOver(store::BookcaseIndex index) {
   Journals.assign(1, {});
   JournalCount = 0;
   MasterPassword = std::move(index.masterPassword);
@@ -80,11 +80,11 @@ void TakeOver(store::Index index) {
 
 void LoadFrom(const std::string& path) {
   const std::string bytes = platform::ReadDataFile(path, largestIndex);
-  store::DecodedIndex decoded = store::DecodeIndex(bytes);
-  if (decoded.health == store::IndexHealth::Headless) {
+  store::DecodedBookcaseIndex decoded = store::DecodeBookcaseIndex(bytes);
+  if (decoded.health == store::BookcaseIndexHealth::Headless) {
     return GiveUp("The file journal.tqt is damaged at its start (" + decoded.problem + "): " + path);
   }
-  fileIsDamaged = decoded.health == store::IndexHealth::Damaged;
+  fileIsDamaged = decoded.health == store::BookcaseIndexHealth::Damaged;
   TakeOver(std::move(decoded.index));
   BookcaseLoaded = true;
   loaded = fileIsDamaged ? Bookcase{} : Present();  // a damaged file is to be mended
@@ -93,8 +93,8 @@ void LoadFrom(const std::string& path) {
 }
 
 // The bookcase as the file holds it: without removed rows, and with scrambled copies of the names.
-store::Index IndexToSave(std::string (*scramble)(std::string_view) = &ScrambleText) {
-  store::Index index{MasterPassword, PageShift, {}};
+store::BookcaseIndex IndexToSave(std::string (*scramble)(std::string_view) = &ScrambleText) {
+  store::BookcaseIndex index{MasterPassword, PageShift, {}};
   for (std::size_t row = 1; row < Journals.size(); ++row) {
     if (Journals[row].Deleted != False) continue;
     index.journals.push_back(Journals[row]);
@@ -103,7 +103,7 @@ store::Index IndexToSave(std::string (*scramble)(std::string_view) = &ScrambleTe
   return index;
 }
 
-void LeaveNamesScrambled(store::Index index) {
+void LeaveNamesScrambled(store::BookcaseIndex index) {
   auto saved = index.journals.begin();
   for (std::size_t row = 1; row < Journals.size(); ++row) {
     if (Journals[row].Deleted == False) Journals[row].Name = std::move((saved++)->Name);
@@ -116,9 +116,9 @@ void KeepDamagedFile(const std::string& path) {
   fileIsDamaged = false;  // one copy, even when the writing has to be tried again
 }
 
-void Write(const store::Index& index) {
+void Write(const store::BookcaseIndex& index) {
   const std::string path = IndexPath();
-  const std::string bytes = store::EncodeIndex(index);
+  const std::string bytes = store::EncodeBookcaseIndex(index);
   if (FileWillBeWritten) FileWillBeWritten(DataFile::TheIndex);
   KeepDamagedFile(path);
   platform::ReplaceDataFile(path, bytes);
@@ -142,7 +142,7 @@ void LoadJournalIndex() {
 }
 
 void SaveJournalIndex() {
-  store::Index index = IndexToSave();
+  store::BookcaseIndex index = IndexToSave();
   Write(index);
   LeaveNamesScrambled(std::move(index));
   loaded = Present();
@@ -156,22 +156,25 @@ bool IsBookcaseUnsaved() {
   return BookcaseLoaded && Present() != loaded;
 }
 
-std::optional<store::UnstoredFile> UnstoredIndex() {
+std::optional<store::UnstoredFile> UnstoredBookcaseIndex() {
   static Bookcase made;
   static std::string bytes;
   Bookcase present = Present();
   if (!BookcaseLoaded || present == loaded) return std::nullopt;
   if (bytes.empty() || made != present) {
-    bytes = store::EncodeIndex(IndexToSave(&ScrambleTextAside));
+    bytes = store::EncodeBookcaseIndex(IndexToSave(&ScrambleTextAside));
     made = std::move(present);
   }
   return store::UnstoredFile{platform::IsMissing(IndexPath()) ? std::nullopt : loadedFile, bytes};
 }
 
 bool IsSameBookcase(const std::string& one, const std::string& other) {
-  store::DecodedIndex first = store::DecodeIndex(one), second = store::DecodeIndex(other);
-  const auto isSound = [](const auto& decoded) { return decoded.health == store::IndexHealth::Sound; };
-  for (store::DecodedIndex* decoded : {&first, &second})
+  store::DecodedBookcaseIndex first = store::DecodeBookcaseIndex(one);
+  store::DecodedBookcaseIndex second = store::DecodeBookcaseIndex(other);
+  const auto isSound = [](const auto& decoded) {
+    return decoded.health == store::BookcaseIndexHealth::Sound;
+  };
+  for (store::DecodedBookcaseIndex* decoded : {&first, &second})
     for (JournalEntry& entry : decoded->index.journals) {
       entry.Name = UnscrambleText(entry.Name);
       entry.PageCount = 0;

@@ -25,9 +25,8 @@ bool IsBookcaseUnsaved();
 
 // The index as SaveJournalIndex would write it now, for the log; none when the file has all of it. Comes back
 // in the same bytes until the bookcase changes.
-std::optional<store::UnstoredFile> UnstoredIndex();
+std::optional<store::UnstoredFile> UnstoredBookcaseIndex();
 
-// Whether the bytes of two index files tell of the same bookcase: their filler and
-// the counts of pages as last seen aside, and never when one of
-// them cannot be read whole.
+// Whether the bytes of two index files tell of the same bookcase: their filler and the counts of pages as
+// last seen aside, and never when one of them cannot be read whole.
 bool IsSameBookcase(const std::string& one, const std::string& other);

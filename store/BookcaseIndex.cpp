@@ -67,7 +67,7 @@ void AppendRecord(std::string& bytes, const JournalEntry& entry) {
 }
 
 // Returns the number of records that follow; throws MissingField when a field is not there or cannot be.
-std::int32_t TakeHeader(Reader& reader, Index& index) {
+std::int32_t TakeHeader(Reader& reader, BookcaseIndex& index) {
   reader.Take(magic.size(), "first 33 bytes");
   const auto count = reader.TakeNumber<std::int32_t>("number of journals");
   if (count < 0) throw MissingField("number of journals");
@@ -81,12 +81,12 @@ std::int32_t TakeHeader(Reader& reader, Index& index) {
 }
 
 // The first damage is the one that is told.
-void MarkDamaged(DecodedIndex& decoded, const std::string& problem) {
-  if (decoded.health == IndexHealth::Sound) decoded.problem = problem;
-  decoded.health = IndexHealth::Damaged;
+void MarkDamaged(DecodedBookcaseIndex& decoded, const std::string& problem) {
+  if (decoded.health == BookcaseIndexHealth::Sound) decoded.problem = problem;
+  decoded.health = BookcaseIndexHealth::Damaged;
 }
 
-void TakeRecords(Reader& reader, std::int32_t count, DecodedIndex& decoded) {
+void TakeRecords(Reader& reader, std::int32_t count, DecodedBookcaseIndex& decoded) {
   for (std::int32_t i = 1; i <= count; ++i) {
     const std::string which = " of journal " + std::to_string(i);
     try {
@@ -115,18 +115,18 @@ bool IsAbsurdFileName(std::string_view name) {
          std::find(taken.begin(), taken.end(), name) != taken.end();
 }
 
-DecodedIndex DecodeIndex(std::string_view bytes) {
-  DecodedIndex decoded;
+DecodedBookcaseIndex DecodeBookcaseIndex(std::string_view bytes) {
+  DecodedBookcaseIndex decoded;
   Reader reader(bytes);
   try {
     TakeRecords(reader, TakeHeader(reader, decoded.index), decoded);
   } catch (const MissingField& field) {
-    decoded = {{}, IndexHealth::Headless, field.what()};
+    decoded = {{}, BookcaseIndexHealth::Headless, field.what()};
   }
   return decoded;
 }
 
-std::string EncodeIndex(const Index& index) {
+std::string EncodeBookcaseIndex(const BookcaseIndex& index) {
   std::string bytes(magic);
   AppendNumber(bytes, static_cast<std::int32_t>(index.journals.size()));
   AppendNumber(bytes, static_cast<std::int32_t>(index.masterPassword.size()));

@@ -10,21 +10,21 @@
 
 namespace store {
 
-struct Index {
+struct BookcaseIndex {
   std::string masterPassword;          // scrambled
   std::int32_t pageShift = 0;          // 0 to 255
   std::vector<JournalEntry> journals;  // the records in file order; Name as the file holds it, scrambled
 };
 
-enum class IndexHealth {
+enum class BookcaseIndexHealth {
   Sound,
   Damaged,   // records are cut or absurd, or bytes are left over: the whole ones are in the value
   Headless,  // count, password or shift are not there or cannot be: nothing is in the value
 };
 
-struct DecodedIndex {
-  Index index;
-  IndexHealth health = IndexHealth::Sound;
+struct DecodedBookcaseIndex {
+  BookcaseIndex index;
+  BookcaseIndexHealth health = BookcaseIndexHealth::Sound;
   std::string problem;  // the plain name of what could not be read; empty when sound
 };
 
@@ -35,10 +35,10 @@ bool IsAbsurdFileName(std::string_view name);
 
 // The first 33 bytes are not looked at. A record that cannot be is left out: an absurd FileName, or a Name
 // that is noise.
-DecodedIndex DecodeIndex(std::string_view bytes);
+DecodedBookcaseIndex DecodeBookcaseIndex(std::string_view bytes);
 
 // Writes the records as they are given; Name goes out as it stands. Throws platform::Failure
 // (InvalidArgument) when a text is too long for its 16-bit length.
-std::string EncodeIndex(const Index& index);
+std::string EncodeBookcaseIndex(const BookcaseIndex& index);
 
 }  // namespace store

@@ -1,4 +1,4 @@
-// The index and the calendar of the open book.
+// The index of the open book's pages, and the calendar.
 #include "editor/frmCal.h"
 #include "editor/frmIndex.h"
 #include "tests/editor/OpenBook.h"
@@ -9,7 +9,7 @@ double DateOf(int year, int month, int day) {
   return platform::FromDateTime(QDateTime(QDate(year, month, day), QTime(0, 0), Qt::UTC));
 }
 
-class IndexTest : public fixture::OpenBook {
+class PageIndexTest : public fixture::OpenBook {
  protected:
   // A book whose pages have these dates, open on its title page.
   void OpenDated(const std::vector<double>& dates) {
@@ -35,7 +35,7 @@ class IndexTest : public fixture::OpenBook {
   }
 };
 
-TEST_F(IndexTest, EachMonthStandsOnceInTheOrderOfFirstAppearance) {
+TEST_F(PageIndexTest, EachMonthStandsOnceInTheOrderOfFirstAppearance) {
   const struct {
     std::vector<double> dates;
     const char* tree;
@@ -56,7 +56,7 @@ TEST_F(IndexTest, EachMonthStandsOnceInTheOrderOfFirstAppearance) {
   }
 }
 
-TEST_F(IndexTest, PressedAgainAddsThePagesASecondTimeAndDropsWhatIsTyped) {
+TEST_F(PageIndexTest, PressedAgainAddsThePagesASecondTimeAndDropsWhatIsTyped) {
   OpenDated({DateOf(2004, 3, 3), DateOf(2005, 3, 5)});
   Type("kept ");
   Press("btnIndex");
@@ -80,7 +80,7 @@ TEST_F(IndexTest, PressedAgainAddsThePagesASecondTimeAndDropsWhatIsTyped) {
   EXPECT_EQ(Text(), "kept text");
 }
 
-TEST_F(IndexTest, ADayOfTheCalendarKeepsTheTimeOfTheOneThatWasSet) {
+TEST_F(PageIndexTest, ADayOfTheCalendarKeepsTheTimeOfTheOneThatWasSet) {
   DateCalendar calendar;
   const struct {
     double set;
@@ -102,7 +102,7 @@ TEST_F(IndexTest, ADayOfTheCalendarKeepsTheTimeOfTheOneThatWasSet) {
   EXPECT_EQ(calendar.selectedDate(), QDate(2023, 2, 28)) << "the day goes along into another month";
 }
 
-TEST_F(IndexTest, TheCalendarDatesThePageWithoutMovingOrDirtyingIt) {
+TEST_F(PageIndexTest, TheCalendarDatesThePageWithoutMovingOrDirtyingIt) {
   const auto row = Begin({"cover", "one", "two"});
   window().PageLast();
   Type("stored ");

@@ -12,10 +12,10 @@ JournalEntry Entry(const std::string& fileName, const std::string& scrambled = "
   return {scrambled, "", 0, fileName, False, 0, {}};
 }
 std::string Bytes(const std::vector<JournalEntry>& journals, const std::string& password = "?t?q") {
-  return store::EncodeIndex({password, 55, journals});
+  return store::EncodeBookcaseIndex({password, 55, journals});
 }
 
-class IndexTest : public fixture::Desk {
+class BookcaseFileTest : public fixture::Desk {
  protected:
   // The names and the files of the rows.
   std::string Load(const std::string& bytes) {
@@ -37,9 +37,9 @@ class IndexTest : public fixture::Desk {
   }
 };
 
-TEST_F(IndexTest, ReadsEachFieldFromItsPlace) {
+TEST_F(BookcaseFileTest, ReadsEachFieldFromItsPlace) {
   const std::string sample = Sample("2-three-journals/journal.tqt");
-  EXPECT_EQ(store::EncodeIndex(store::DecodeIndex(sample).index), sample);
+  EXPECT_EQ(store::EncodeBookcaseIndex(store::DecodeBookcaseIndex(sample).index), sample);
   EXPECT_EQ(Load(std::string(33, '\xFF') + sample.substr(33)),
             "Garden & house:j00000.tqf :j00002.tqf Never closed yet:j00005.tqf ")
       << "the start is never read";
@@ -53,7 +53,7 @@ TEST_F(IndexTest, ReadsEachFieldFromItsPlace) {
   EXPECT_TRUE(answers.messages.empty());
 }
 
-TEST_F(IndexTest, LeavesRemovedRowsOutAndScramblesTheRestWhenTheyAreSaved) {
+TEST_F(BookcaseFileTest, LeavesRemovedRowsOutAndScramblesTheRestWhenTheyAreSaved) {
   MasterPassword = "?e";
   Journals = {{}, Entry("", "gone"), Entry("", "kept")};
   Journals[1].Deleted = True;
@@ -71,7 +71,7 @@ TEST_F(IndexTest, LeavesRemovedRowsOutAndScramblesTheRestWhenTheyAreSaved) {
   EXPECT_EQ(Load(folder.Read(name)) + MasterPassword, "kept: ?e");
 }
 
-TEST_F(IndexTest, GivesUpOnAHeaderThatIsCutOrCannotBe) {
+TEST_F(BookcaseFileTest, GivesUpOnAHeaderThatIsCutOrCannotBe) {
   constexpr std::size_t count = 33, length = 37, shift = 45, header = 49;
   const std::string bytes = Bytes({Entry("a.tqf"), Entry("b.tqf")});
   for (std::size_t size = 0; size < header; ++size) ExpectGivenUp(bytes.substr(0, size));
@@ -82,7 +82,7 @@ TEST_F(IndexTest, GivesUpOnAHeaderThatIsCutOrCannotBe) {
   ExpectGivenUp(Bytes({Entry("a.tqf")}, std::string(100'000, '\0')));
 }
 
-TEST_F(IndexTest, ReadsTheWholeRecordsAroundAbsurdOnesAndKeepsTheDamagedFileOnce) {
+TEST_F(BookcaseFileTest, ReadsTheWholeRecordsAroundAbsurdOnesAndKeepsTheDamagedFileOnce) {
   std::vector<JournalEntry> journals = {Entry("a.tqf")};
   for (const std::string& absurd :
        {std::string("../a"), std::string("a\\b"), std::string("a\0b", 3), std::string(".."), name,
@@ -104,7 +104,7 @@ TEST_F(IndexTest, ReadsTheWholeRecordsAroundAbsurdOnesAndKeepsTheDamagedFileOnce
   EXPECT_TRUE(answers.messages.empty());
 }
 
-TEST_F(IndexTest, KeepsAnIndexThatAnotherProgramPutThere) {
+TEST_F(BookcaseFileTest, KeepsAnIndexThatAnotherProgramPutThere) {
   Load(Bytes({Entry("a.tqf")}));
   const std::string others = Bytes({Entry("a.tqf"), Entry("b.tqf")});
   folder.Write(name, others);
