@@ -16,8 +16,9 @@
 
 #include "editor/UnstoredPages.h"
 #include "platform/files/LogWriter.h"
-#include "state/State.h"
 #include "store/UnstoredLog.h"
+
+enum class DataFile;
 
 class KeptLog : public QObject {
  public:

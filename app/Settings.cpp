@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "bookcase/frmBookcase.h"
+#include "editor/PageFace.h"
 #include "editor/frmJournal.h"
 #include "look/Theme.h"
 #include "platform/Failure.h"

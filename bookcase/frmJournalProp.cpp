@@ -6,6 +6,7 @@
 #include <QtGui/QPainter>
 
 #include "bookcase/JournalIcons.h"
+#include "editor/PageFace.h"
 #include "editor/PageTurning.h"
 #include "editor/frmJournal.h"
 #include "look/Theme.h"

@@ -8,8 +8,11 @@
 
 #include "editor/BindingPicture.h"
 #include "look/Form.h"
+#include "look/PictureBox.h"
 #include "look/Theme.h"
+#include "pictures/PictureSlots.h"
 #include "platform/Colors.h"
+#include "richtext/box/RichTextBox.h"
 #include "state/PageInHand.h"
 
 // All places and sizes are in twips, 15 to the logical pixel.

@@ -3,12 +3,18 @@
 // It is the client area of the journal window and knows nothing of the window itself.
 #pragma once
 
+#include <cstdint>
+
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QWidget>
 
-#include "look/PictureBox.h"
-#include "pictures/PictureSlots.h"
-#include "richtext/box/RichTextBox.h"
+class PictureSlots;
+namespace look {
+class PictureBox;
+}
+namespace richtext {
+class RichTextBox;
+}
 
 class PageFace : public QWidget {
   Q_OBJECT
@@ -39,7 +45,6 @@ class PageFace : public QWidget {
   void SetHeadHeight(int twips);
   // Puts the theme in force on the head strip; paper and binding belong to the journal.
   void WearTheme();
-  int HeadHeight() const { return headHeight_; }
 
  Q_SIGNALS:
   // CloseJournal has written the file and hidden the window.

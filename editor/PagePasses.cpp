@@ -18,6 +18,7 @@
 #include "platform/Failure.h"
 #include "platform/dialogs/ReportFailure.h"
 #include "platform/files/SyncFolder.h"
+#include "richtext/box/RichTextBox.h"
 #include "state/PageInHand.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"

@@ -13,6 +13,7 @@
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/SyncFolder.h"
+#include "richtext/box/RichTextBox.h"
 #include "state/PageInHand.h"
 #include "store/JournalFile.h"
 #include "store/UnstoredRows.h"

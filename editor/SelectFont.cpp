@@ -2,6 +2,7 @@
 
 #include "editor/PageFace.h"
 #include "platform/dialogs/FontDialog.h"
+#include "richtext/box/RichTextBox.h"
 
 namespace {
 

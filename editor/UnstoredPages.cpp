@@ -7,6 +7,7 @@
 #include "editor/AlienPage.h"
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
+#include "richtext/box/RichTextBox.h"
 #include "richtext/rtf/Writer.h"
 #include "state/State.h"
 #include "store/RollForward.h"

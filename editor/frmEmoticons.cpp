@@ -18,6 +18,7 @@
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/FileList.h"
 #include "platform/files/Files.h"
+#include "richtext/box/RichTextBox.h"
 
 namespace {
 

@@ -2,15 +2,19 @@
 
 #include <QtGui/QKeyEvent>
 
+#include "editor/PageFace.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
 #include "editor/SelectFont.h"
+#include "editor/Toolbar.h"
 #include "editor/frmCal.h"
 #include "editor/frmEmoticons.h"
 #include "editor/frmIndex.h"
+#include "look/PictureBox.h"
 #include "pictures/AddPicture.h"
 #include "pictures/PictureSlots.h"
 #include "platform/desktop/Keystroke.h"
+#include "richtext/box/RichTextBox.h"
 #include "state/PageInHand.h"
 
 frmJournal::frmJournal()

@@ -1,9 +1,10 @@
 // The journal window: the book. One instance, loaded at the start and never destroyed.
 #pragma once
 
-#include "editor/PageFace.h"
-#include "editor/Toolbar.h"
 #include "look/Form.h"
+
+class PageFace;
+class Toolbar;
 
 class frmJournal : public look::Form {
   Q_OBJECT

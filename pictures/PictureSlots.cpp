@@ -6,7 +6,9 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 
+#include "look/PictureBox.h"
 #include "pictures/PictureFile.h"
+#include "pictures/StretchedImage.h"
 #include "pictures/modPictures.h"
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"

@@ -11,12 +11,14 @@
 
 #include <QtCore/QObject>
 
-#include "look/PictureBox.h"
-#include "pictures/StretchedImage.h"
 #include "platform/Failure.h"
 #include "platform/desktop/cMouse.h"
 
 class QWheelEvent;
+class StretchedImage;
+namespace look {
+class PictureBox;
+}
 struct PagePicture;
 
 class PictureSlots : public QObject {

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "state/State.h"
 #include "store/PageCipher.h"
 
 namespace store {

@@ -4,8 +4,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "state/State.h"
 #include "store/UnstoredLog.h"
+
+struct JournalPage;
 
 namespace store {
 

@@ -7,8 +7,9 @@
 #include <cstdint>
 #include <map>
 
-#include "state/State.h"
 #include "store/FileCheck.h"
+
+struct JournalPage;
 
 namespace store {
 

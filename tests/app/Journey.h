@@ -8,10 +8,13 @@
 #include "app/WaysOut.h"
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmInitJournal.h"
+#include "editor/PageFace.h"
+#include "editor/Toolbar.h"
 #include "editor/frmCal.h"
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
 #include "platform/desktop/Application.h"
+#include "richtext/box/RichTextBox.h"
 #include "tests/support/Windows.h"
 
 namespace fixture {

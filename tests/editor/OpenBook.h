@@ -2,12 +2,16 @@
 #pragma once
 
 #include "editor/OpenJournal.h"
+#include "editor/PageFace.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
+#include "editor/Toolbar.h"
 #include "editor/frmJournal.h"
 #include "platform/dialogs/FontDialog.h"
+#include "richtext/box/RichTextBox.h"
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
+#include "tests/support/Clock.h"
 #include "tests/support/Windows.h"
 
 namespace fixture {
@@ -41,7 +45,7 @@ class OpenBook : public Windows {
       store::Encipher(plain, PageShift, pages.back().Body.data());
     }
     const std::int32_t row = AddJournal();
-    folder.Write(FileOf(row), store::EncodeJournal(pages, MasterPassword));
+    store::WriteJournalFile(FileOf(row), pages);
     return row;
   }
   static std::string FileOf(std::int32_t row) { return "j" + std::to_string(row) + ".tqf"; }

@@ -1,4 +1,7 @@
 // The pictures of a page and the page: what shows them, and what takes them away.
+#include "look/PictureBox.h"
+#include "pictures/PictureSlots.h"
+#include "pictures/StretchedImage.h"
 #include "tests/editor/OpenBook.h"
 
 namespace {

@@ -1,4 +1,5 @@
 // The window itself: its measures and its toolbar.
+#include "look/PictureBox.h"
 #include "tests/editor/OpenBook.h"
 
 namespace {

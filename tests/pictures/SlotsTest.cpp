@@ -2,6 +2,8 @@
 // display system's do, so that the toolkit itself decides who gets them.
 #include <QtGui/QWindow>
 
+#include "look/PictureBox.h"
+#include "pictures/StretchedImage.h"
 #include "store/PictureStore.h"
 #include "tests/pictures/PicturePage.h"
 

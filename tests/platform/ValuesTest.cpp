@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "platform/CodePage.h"
+#include "platform/Dates.h"
 #include "platform/Rounding.h"
 #include "platform/desktop/cMouse.h"
 #include "tests/support/Fixtures.h"

@@ -1,6 +1,7 @@
 // What becomes of a log's pages in a journal that is as it was, has changed since, or is gone.
 #include <gtest/gtest.h>
 
+#include "state/State.h"
 #include "store/PageCipher.h"
 #include "store/RollForward.h"
 

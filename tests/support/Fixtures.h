@@ -18,7 +18,6 @@
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
 
-#include "platform/Dates.h"
 #include "platform/Failure.h"
 #include "platform/Process.h"
 #include "platform/dialogs/MessageBox.h"
@@ -164,23 +163,6 @@ class End {
 
  private:
   platform::ProcessEnder before_ = platform::SetProcessEnder([this] { ++count; });
-};
-
-// A clock that stands at a date (days since 30 December 1899) until it is moved, and long dates that read the
-// same on every machine: "day 45000".
-class Clock {
- public:
-  explicit Clock(double date) : now(date) {
-    platform::SetClock([this] { return now; });
-    platform::SetLongDate([](double day) { return QStringLiteral("day %1").arg(static_cast<long>(day)); });
-  }
-  ~Clock() {
-    platform::SetClock({});
-    platform::SetLongDate({});
-  }
-  Q_DISABLE_COPY_MOVE(Clock)
-
-  double now;
 };
 
 // The routine must fail with this kind, in a sentence that has these words in it.

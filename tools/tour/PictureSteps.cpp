@@ -1,7 +1,11 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
+#include "editor/PageFace.h"
 #include "editor/frmJournal.h"
+#include "look/PictureBox.h"
+#include "pictures/PictureSlots.h"
+#include "pictures/StretchedImage.h"
 #include "platform/dialogs/OpenFileDialog.h"
 #include "platform/files/Files.h"
 #include "platform/files/InputFile.h"

@@ -5,11 +5,13 @@
 #include <QtCore/QDir>
 
 #include "bookcase/frmBookcase.h"
+#include "editor/PageFace.h"
 #include "editor/frmJournal.h"
 #include "output/frmExport.h"
 #include "platform/files/Files.h"
 #include "platform/files/InputFile.h"
 #include "platform/files/ReplaceFile.h"
+#include "richtext/box/RichTextBox.h"
 #include "state/State.h"
 #include "tools/tour/Steps.h"
 

@@ -2,10 +2,12 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 
+#include "editor/PageFace.h"
 #include "editor/frmIndex.h"
 #include "editor/frmJournal.h"
 #include "platform/Dates.h"
 #include "platform/files/Files.h"
+#include "richtext/box/RichTextBox.h"
 #include "state/State.h"
 #include "tools/tour/Steps.h"
 
