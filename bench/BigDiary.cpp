@@ -1,7 +1,6 @@
 #include "bench/BigDiary.h"
 
 #include "platform/Dates.h"
-
 #include "store/JournalFile.h"
 #include "store/PageCipher.h"
 #include "store/Scrambler.h"
