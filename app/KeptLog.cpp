@@ -35,6 +35,7 @@ bool IsSame(const store::UnstoredLog& one, const store::UnstoredLog& other) {
 bool ChangesSomething(QEvent::Type type) {
   switch (type) {
     case QEvent::KeyPress:
+    case QEvent::Shortcut:
     case QEvent::InputMethod:
     case QEvent::MouseButtonRelease:
     case QEvent::Drop:
@@ -45,6 +46,7 @@ bool ChangesSomething(QEvent::Type type) {
 }
 
 bool MayEndADialog(const QEvent& event) {
+  if (event.type() == QEvent::Shortcut) return true;  // of a button's letter
   if (event.type() != QEvent::KeyPress) return event.type() == QEvent::MouseButtonRelease;
   const int key = static_cast<const QKeyEvent&>(event).key();
   return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;

@@ -34,6 +34,7 @@ struct Work {
   std::vector<std::string> aside;  // and for all that did not, with the reason
   std::string copy;                // the file that holds the latter
   std::string stays;               // why the log could not be taken away; empty when it could
+  bool isRefused = false;          // the disk or the system refused what was to be brought back last
   std::vector<std::pair<std::string, std::int32_t>> damaged;  // the journals that were, and their whole pages
 };
 Work work;
@@ -127,6 +128,7 @@ void KeepWhereDamaged(const Kind& kind, const std::string& path) {
 }
 
 void RollFile(const Kind& kind, const store::UnstoredFile& logged) {
+  work.isRefused = false;
   const std::string path = platform::PathOf(kind.name), what = kind.what, name = kind.name;
   try {
     if (platform::IsMissing(path) || CheckOfFile(path) == logged.began) {
@@ -138,13 +140,16 @@ void RollFile(const Kind& kind, const store::UnstoredFile& logged) {
     }
   } catch (const platform::Failure& failure) {
     work.aside.push_back(what + ": " + failure.what());
+    work.isRefused = true;
   }
 }
 
-// The bookcase of a first sitting, which no file has yet. A start without it would take the diary for a new
-// one, and ask for a password that may not fit its pages.
-bool MustComeBackFirst() {
-  return !work.aside.empty() && platform::IsMissing(platform::PathOf(IndexKind.name));
+// A start without the bookcase of a first sitting would take the diary for a new one, and ask for a password
+// that may not fit its pages. And one with the bookcase before would ask for a password that may be another
+// by now, and write that bookcase anew at its end, so that the log's would never fit again. Where nothing
+// can be written at all, there is no such end, and the older one can be read.
+bool MustComeBackFirst(bool isWritable) {
+  return work.isRefused && (isWritable || platform::IsMissing(platform::PathOf(IndexKind.name)));
 }
 
 void TellThatItMustComeBackFirst() {
@@ -237,13 +242,13 @@ std::string Lines(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-bool RollBookcaseForward() {
+bool RollBookcaseForward(bool isWritable) {
   work = {};
   if (!platform::IsMissing(LogPath())) ReadLog();
   if (!work.log || !work.log->index) return true;
   RollFile(IndexKind, *work.log->index);
   if (work.aside.empty()) TakeIndexOutOfTheLog();
-  if (!MustComeBackFirst()) return true;
+  if (!MustComeBackFirst(isWritable)) return true;
   TellThatItMustComeBackFirst();
   return false;
 }
@@ -267,8 +272,8 @@ void TellWhatCameBack() {
   if (!done.aside.empty()) text += "\n\nThis has not:" + Lines(done.aside);
   if (!done.copy.empty())
     text += "\n\nWhat has not is kept in " + done.copy +
-            ". Where something stood in its way, remove that, leave Thornquill, and give the file the name "
-            "journal.tql again: the next start tries once more.";
+            ". Where something stood in its way, leave Thornquill, remove that or move it to another folder, "
+            "and give the file the name journal.tql again: the next start tries once more.";
   if (!done.stays.empty()) text += "\n\n" + WhyLogStays(done.stays);
   platform::ShowMessage(text);
   for (const auto& [fileName, wholePages] : done.damaged) TellDamagedJournal(fileName, wholePages);

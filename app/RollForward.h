@@ -7,9 +7,10 @@
 #pragma once
 
 // Reads journal.tql, and puts the index of it in the place of journal.tqt, or of none, where that is still
-// the one that the log began from. The same holds for the others. False, and told, when the diary has no
-// other index and this one could not be written: the start must go no further, and has changed nothing.
-bool RollBookcaseForward();
+// the one that the log began from. The same holds for the others. False, and told, when this index could not
+// be written, though the folder is writable or the diary has no other index: the start must go no further,
+// and has changed nothing.
+bool RollBookcaseForward(bool isWritable);
 
 // Puts the pictures and the pages of the log that RollBookcaseForward read into their files, and takes the
 // log away. To be called when no journal is open and before the picture store is loaded. False when something

@@ -141,7 +141,7 @@ void Main(platform::RunningInstance& instance, const platform::ActivationToken& 
   auto& bookcase = look::The<frmBookcase>();  // it lists what the index loads
   QObject::connect(&bookcase, &frmBookcase::OptionsRequested, &ShowOptions);
   QObject::connect(&bookcase, &frmBookcase::ExitRequested, &SaveAndExit);
-  if (!RollBookcaseForward()) return platform::EndProcess();
+  if (!RollBookcaseForward(isWritable)) return platform::EndProcess();
   if (platform::IsMissing(platform::PathOf("journal.tqt"))) {
     StartForTheFirstTime(isWritable);
   } else {

@@ -26,7 +26,8 @@ void RowWillChange(std::int32_t row, bool isMissed) {
 }
 
 void RowHasChanged(std::int32_t row, const JournalPage& before) {
-  TheRows()[row] = {true, CheckOf(before.Body), before.PageDate, true};
+  TheRows().try_emplace(row, RowInFile{true, CheckOf(before.Body), before.PageDate, true});
+  TheRows()[row].isMissed = true;
 }
 
 void RowWasAdded(std::int32_t row, bool isMissed) {

@@ -25,7 +25,7 @@ struct RowInFile {
 // counts as what the file holds; a later call adds at most that the change would be missed.
 void RowWillChange(std::int32_t row, bool isMissed = true);
 
-// The same behind the change; `before` is the row as the file holds it.
+// The same behind the change; `before` is the row as the file holds it, if it holds it.
 void RowHasChanged(std::int32_t row, const JournalPage& before);
 
 // To be called when a row has been added to Pages that the file does not have.

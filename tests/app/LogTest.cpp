@@ -84,6 +84,15 @@ TEST_F(Log, WhatAKillLeavesInTheLogComesBack) {
   ASSERT_TRUE(BringTheLogUpToDate());
   end.count = 1;
   ExpectAtTheNextStart(QStringLiteral("Second First words"));
+  MasterPassword = "Tulip9";
+  ASSERT_TRUE(BringTheLogUpToDate());
+  folder.Block("journal.tqt.thornquill-unfinished");
+  Start();
+  EXPECT_FALSE(look::IsLoaded<frmPass>()) << "it would ask for the password before";
+  folder.Unblock("journal.tqt.thornquill-unfinished");
+  Start();
+  Enter("Tulip9");
+  OpenTheJournal();
   Click(Book().Toolbar1->Button(QStringLiteral("btnFirstPage")));
   LeaveTheProgram();
   EXPECT_EQ(folder.Names(), (fixture::Texts{"j00000.tqf", "journal.tqt"})) << "a sound end leaves no log";
