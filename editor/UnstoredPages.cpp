@@ -8,6 +8,7 @@
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
 #include "richtext/box/RichTextBox.h"
+#include "richtext/document/Document.h"
 #include "richtext/rtf/Writer.h"
 #include "state/State.h"
 #include "store/RollForward.h"

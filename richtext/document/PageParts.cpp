@@ -1,5 +1,6 @@
 #include "richtext/document/PageParts.h"
 
+#include "richtext/document/Document.h"
 #include "richtext/document/FormatNumbers.h"
 
 namespace richtext {

@@ -5,9 +5,9 @@
 #include <memory>
 #include <vector>
 
-#include "richtext/document/Document.h"
-
 namespace richtext {
+
+struct Document;
 
 // Nobody changes a part any more, so that several threads may read it. Each numbers its own formats by first
 // use, and tells the page's distance between tab stops.

@@ -1,6 +1,7 @@
 // The copy that is kept of a page: the same bytes as a copy made at once, of what was copied before.
 #include <random>
 
+#include "richtext/document/Document.h"
 #include "tests/richtext/BoxFixture.h"
 
 namespace richtext {
