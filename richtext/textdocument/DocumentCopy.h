@@ -21,7 +21,7 @@ class DocumentCopy {
   void NoteChange(int at, int removed, int added);
 
   // Copies what is missing, in steps of about a millisecond, until the time is over. Whether the copy is
-  // whole. `word` stands in it; its block must have been told as changed since the word did.
+  // whole. `word` stands in it and no other: the toolkit does not always tell that a word has come or gone.
   bool Refresh(const QDeadlineTimer& until, const ComposedWord& word);
   // The copy, when Refresh has just told that it is whole. A part that has not changed is the same value.
   PageParts Parts() const;
@@ -30,6 +30,7 @@ class DocumentCopy {
   struct Part {
     int length = 0;  // positions of the document
     std::size_t work = 0;
+    ComposedWord word;                     // that stands in it, at a position of the part
     std::shared_ptr<const Document> page;  // none: to be copied yet
   };
   int Length() const;

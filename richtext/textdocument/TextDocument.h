@@ -41,6 +41,8 @@ struct ComposedWord {
   QString text;
   int at = 0;
   QTextCharFormat format;
+
+  bool operator==(const ComposedWord&) const = default;
 };
 struct TakenPart {
   Document page;

@@ -48,6 +48,25 @@ TEST_F(DocumentCopyTest, IsThePageAfterEveryKindOfChange) {
   ExpectTheSame("another page");
 }
 
+TEST_F(DocumentCopyTest, HoldsAComposedWordOnlyWhereItIsBeingComposed) {
+  const auto copyWith = [&](const QString& word) {
+    QInputMethodEvent composing(word, {});
+    QApplication::sendEvent(&box, &composing);
+    return Join(box.Copy()).text;
+  };
+  for (const bool byKey : {true, false}) {
+    box.SetSelStart(1);
+    EXPECT_EQ(copyWith(QStringLiteral("ni")).find(u"ni"), 1u);
+    byKey ? Press(Qt::Key_End, Qt::ControlModifier) : box.SetSelStart(6000);
+    Type("x");
+    const std::u16string copied = copyWith(QStringLiteral("hao"));
+    EXPECT_EQ(copied.find(u"ni"), std::u16string::npos) << byKey;
+    EXPECT_NE(copied.find(u"hao"), std::u16string::npos) << byKey;
+    copyWith({});
+    ExpectTheSame("given up");
+  }
+}
+
 TEST_F(DocumentCopyTest, IsMadeInStepsAndOnlyAnewWhereSomethingChanged) {
   EXPECT_FALSE(box.CopyUntil(QDeadlineTimer(0)));
   const PageParts before = box.Copy();
