@@ -17,6 +17,8 @@
 namespace richtext {
 namespace {
 
+constexpr std::size_t BytesOfWork = 1024;  // of pictures, which are copied in the time of a small fragment
+
 // Knows the toolkit's formats by its own numbers of them. Many of them can be one of the page's.
 template <class Format>
 class Known {
@@ -136,10 +138,12 @@ class Taker {
 
   // The sign of a picture that has none can come in as pasted text.
   void TakePicture(char16_t& sign, const QTextCharFormat& format) {
-    if (format.isImageFormat() || !HiddenTextOf(format).isEmpty())
-      taken_.pictures.push_back(KeptPicture(format.toImageFormat(), source_));
-    else
+    if (!format.isImageFormat() && HiddenTextOf(format).isEmpty()) {
       sign = Replacement;
+      return;
+    }
+    taken_.pictures.push_back(KeptPicture(format.toImageFormat(), source_));
+    work_ += taken_.pictures.back().bytes.size() / BytesOfWork;
   }
 
   const QTextDocument& source_;

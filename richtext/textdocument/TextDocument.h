@@ -47,7 +47,7 @@ struct ComposedWord {
 struct TakenPart {
   Document page;
   int length = 0;        // positions of the document
-  std::size_t work = 0;  // blocks, and pieces of one format in them
+  std::size_t work = 0;  // blocks, pieces of one format in them, and kilobytes of their pictures
 };
 // Whole paragraphs from `from` on, where one begins, up to `length` positions behind it, where one ends; not
 // many more than `most` of work, but at least one paragraph. `word` is taken as text.

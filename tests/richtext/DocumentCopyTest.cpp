@@ -79,6 +79,9 @@ TEST_F(DocumentCopyTest, IsMadeInStepsAndOnlyAnewWhereSomethingChanged) {
   for (const auto& part : after) kept += std::ranges::count(before, part) == 1;
   EXPECT_GE(before.size(), 4u);
   EXPECT_GE(kept + 2, before.size());
+  const std::string large = "{\\pict\\pngblip " + std::string(6'000'000, 'a') + "}\\par ";
+  Set(Page(large + large + large));
+  EXPECT_GE(box.Copy().size(), 3u) << "large pictures";
 }
 
 }  // namespace
