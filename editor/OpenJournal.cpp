@@ -25,6 +25,7 @@ void DropFormerJournal() {
   LeavePagesBehind();
   ForgetPagePictures();
   Face().txtM->setReadOnly(false);
+  PageInHand::TextLeaves();
   Face().txtM->SetTextRTF({});  // an empty box too may remember, for its undo, what stood in it
   PageInHand::PagesForgotten();
   store::RowsAreStored();

@@ -2,7 +2,7 @@
 //
 // Who may run events, and when. The window thread runs them in three places and in no fourth:
 //
-//   the program's own loop, and that of a dialog or message box that waits for a person; everything is served
+//   the program's own loop, and that of a dialog, menu or message box that waits for a person: all is served
 //   Yield and Await of a pass, as below; a routine that serves events is in a pass
 //   the handing over to a running instance, before there is a window
 //

@@ -24,7 +24,7 @@ bool CanBeCopied(const PagePicture& picture) {
 }
 
 std::string TagOf(const PagePicture& picture, bool isFirst) {
-  const std::string name = platform::WebFileName(PlainName(picture.PictureFile));
+  const std::string name = WebFileName(PlainName(picture.PictureFile));
   return "<a href=\"" + name + "\"><img src=\"" + name + "\"  " + (isFirst ? "align=left " : "") +
          "width=" + std::to_string(picture.PictureWidth) +
          " height=" + std::to_string(picture.PictureHeight) + " border=0></a>";

@@ -8,7 +8,7 @@
 namespace {
 
 std::string LongDateOf(std::int32_t page) {
-  return platform::WebLongDate(Pages.at(static_cast<std::size_t>(page)).PageDate);
+  return WebLongDate(Pages.at(static_cast<std::size_t>(page)).PageDate);
 }
 
 }  // namespace

@@ -4,5 +4,5 @@
 
 std::string WebLines(QString text) {
   text.remove(QChar(QChar::ObjectReplacementCharacter)).replace(u'\n', QStringLiteral("\r\n"));
-  return platform::WebText(text.toStdU16String());
+  return WebText(text.toStdU16String());
 }

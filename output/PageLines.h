@@ -5,5 +5,5 @@
 
 #include <QtCore/QString>
 
-// As platform::WebText, with lines ended by "\r\n" and nothing in the place of an embedded picture.
+// As WebText, with lines ended by "\r\n" and nothing in the place of an embedded picture.
 std::string WebLines(QString text);

@@ -5,7 +5,6 @@
 #include "platform/CodePage.h"
 #include "platform/Dates.h"
 
-namespace platform {
 namespace {
 
 bool StartsPair(std::u16string_view text) {
@@ -28,7 +27,7 @@ std::string WebText(std::u16string_view text) {
   std::string bytes;
   bytes.reserve(text.size());
   while (!text.empty()) {
-    if (const int byte = CodePageByte(text[0]); byte >= 0)
+    if (const int byte = platform::CodePageByte(text[0]); byte >= 0)
       bytes += static_cast<char>(byte);
     else
       bytes += "&#" + std::to_string(static_cast<unsigned>(FirstOf(text))) + ";";
@@ -42,7 +41,5 @@ std::string WebFileName(std::string_view name) {
 }
 
 std::string WebLongDate(double date) {
-  return WebText(View(LongDate(date)));
+  return WebText(View(platform::LongDate(date)));
 }
-
-}  // namespace platform

@@ -5,11 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace platform {
-
 std::string WebText(
     std::u16string_view text);  // UTF-16; half a pair becomes the sign for what is no character
 std::string WebFileName(std::string_view name);  // the system's own bytes of a name or path
 std::string WebLongDate(double date);            // the date in the user's own long form
-
-}  // namespace platform

@@ -26,7 +26,7 @@
 //        └── PagesForgotten, from every state
 //
 // TextLeaves leads from `shown` and `changed` to `no text` too, where TurnedTo changes the page on show
-// alone. In every state but the first SaveBegins sets PagesUnsaved and PagesSaved takes it back, and
+// alone. While PagesJournal is not 0 SaveBegins sets PagesUnsaved and PagesSaved takes it back, and
 // JournalClosed makes the pages nobody's: PagesJournal is 0 then, until they are forgotten. Those of the
 // first run, before any journal is chosen, are nobody's from the start. PageDirty follows the text box in
 // every state: an empty page comes to `changed` at once, and where TextPage is -1 it tells of no page.
@@ -60,7 +60,8 @@ class PageInHand {
   static void TextIsIn();
   // The text box tells a change; nothing else ever makes a page a changed one.
   static void TextChanged();
-  // The row has the text that the box holds: it was shown from there, or has been stored in memory.
+  // The row has the text that the box holds: it was shown from there, or has been stored in memory; or the
+  // box holds no page's.
   static void TextIsAsStored();
 
   // Until PagesSaved the file of PagesJournal lacks what memory holds; a failure in between leaves it so.

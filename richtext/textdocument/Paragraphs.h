@@ -8,7 +8,7 @@
 namespace richtext {
 
 // Measures beyond the format's own range are held at its ends. An item of a list is shown with room for its
-// label, which ListLabels.h draws.
+// label, which Labels.h draws.
 QTextBlockFormat ToBlockFormat(const ParagraphFormat& format);
 ParagraphFormat FromBlockFormat(const QTextBlockFormat& format);
 

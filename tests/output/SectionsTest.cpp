@@ -153,8 +153,8 @@ TEST(ReplaceText, EmptiesWhatIsTheSearchTextAndSearchesReplacementsToo) {
 }
 
 TEST(WebText, ForeignCharactersGoOutAsReferences) {
-  EXPECT_EQ(platform::WebText(u"<&> \u20AC\u00E9\u0416\U0001F600"), "<&> \x80\xE9&#1046;&#128512;");
-  EXPECT_EQ(platform::WebText({u"\xD83Dx\xDE00", 3}), "&#65533;x&#65533;");
+  EXPECT_EQ(WebText(u"<&> \u20AC\u00E9\u0416\U0001F600"), "<&> \x80\xE9&#1046;&#128512;");
+  EXPECT_EQ(WebText({u"\xD83Dx\xDE00", 3}), "&#65533;x&#65533;");
 }
 
 }  // namespace
