@@ -86,7 +86,8 @@ def ways(calls, **others):
 
 def miscounted(stage):
     """The calls that docs/trust.md tells of, and what they are."""
-    told = re.findall(r"^\| (.*?): .* \| (\d+) \|$", pathlib.Path(ROOT, "docs/trust.md").read_text(), re.MULTILINE)
+    table = pathlib.Path(ROOT, "docs/trust.md").read_text().partition("| scenario | calls |\n")[2].partition("\n\n")[0]
+    told = re.findall(r"^\| (.*?): .* \| (\d+) \|$", table, re.MULTILINE)
     counted = [(scenario.name, str(len(scenario.calls))) for scenario in stage]
     return [f"docs/trust.md does not tell of {calls} calls in {name}" for name, calls in counted if (name, calls) not in told] + [
         f"docs/trust.md tells of {name}, which is not played" for name, _ in told if name not in dict(counted)]
