@@ -10,6 +10,7 @@
 #include <optional>
 
 #include <QtCore/QObject>
+#include <QtWidgets/QWidget>
 
 #include "platform/Failure.h"
 #include "platform/desktop/cMouse.h"
