@@ -22,6 +22,7 @@ void TellKept(const std::string& path, std::string (*describe)(const std::string
       "the same on two machines. The changed file is kept beside it as " +
       NameIn(copy) + (description.empty() ? "." : ". " + description) + "\n\nNothing is lost: " + name +
       " now holds what is in the open diary.");
+  TellKept(path, describe);  // a save may have met two
 }
 
 }  // namespace platform

@@ -21,8 +21,8 @@ std::map<std::string, KnownFile>& KnownFiles() {
 }
 
 // The copies that were made and not told of, by the paths of the files.
-std::map<std::string, std::string>& Untold() {
-  static std::map<std::string, std::string> copies;
+std::multimap<std::string, std::string>& Untold() {
+  static std::multimap<std::string, std::string> copies;
   return copies;
 }
 
@@ -46,6 +46,11 @@ void Remember(const std::string& path, const struct stat& entry, std::optional<s
   KnownFiles().insert_or_assign(path, KnownFile{IdentityOf(entry), checksum});
 }
 
+std::optional<Identity> KnownIdentity(const std::string& path) {
+  const auto found = KnownFiles().find(path);
+  return found == KnownFiles().end() ? std::nullopt : std::optional(found->second.identity);
+}
+
 void AcceptUnread(const std::string& path) {
   struct stat entry {};
   if (stat(path.c_str(), &entry) == 0) Remember(path, entry, std::nullopt);
@@ -61,7 +66,7 @@ bool KeepChanged(const std::string& path) {
   InputFile file(path);
   const KnownFile now{IdentityOf(file.entry()), file.ChecksumToTheEnd()};
   const bool isChanged = !before || !IsTheSame(*before, now);
-  if (isChanged) Untold()[path] = KeepBeside(path, ".other", 1);
+  if (isChanged) Untold().emplace(path, KeepBeside(path, ".other", 1));
   KnownFiles()[path] = now;
   return isChanged;
 }

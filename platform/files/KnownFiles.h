@@ -16,7 +16,7 @@ namespace platform {
 // kept, with all files as they were.
 bool KeepChanged(const std::string& path);
 
-// The path of the copy that KeepChanged made of the file, once; empty where none is left to be told of.
+// The path of a copy that KeepChanged made of the file, each once; empty where none is left to be told of.
 std::string TakeKept(const std::string& path);
 
 // Makes the file known as it lies there, unread.

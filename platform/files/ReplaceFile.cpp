@@ -192,7 +192,8 @@ void Replace(const std::string& path, std::span<const std::string_view> pieces, 
   const BeingWritten beingWritten;
   RefuseUnchangeable(path);
   const std::string target = RealPath(path);
-  const std::optional<Identity> before = IdentityAt(target);
+  const std::optional<Identity> known = isDataFile ? KnownIdentity(path) : std::nullopt;
+  const std::optional<Identity> before = known ? known : IdentityAt(target);
   Unfinished file(path, target);
   file.Write(pieces);
   file.BringToTheDisk();
