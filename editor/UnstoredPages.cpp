@@ -47,14 +47,10 @@ store::UnstoredPage Logged(std::int32_t row, const store::RowInFile& inFile, boo
   return logged;
 }
 
-store::RowInFile AsStored(const JournalPage& page) {
-  return {true, store::CheckOf(page.Body), page.PageDate, true};
-}
-
 // The page on show comes without a body, which is made of its text.
 store::UnstoredJournal OpenJournal(bool hasText) {
   std::map<std::int32_t, store::RowInFile> rows = store::UnstoredRows();
-  if (hasText) rows.try_emplace(TextPage, AsStored(Pages.at(static_cast<std::size_t>(TextPage))));
+  if (hasText) rows.try_emplace(TextPage, store::AsInFile(Pages.at(static_cast<std::size_t>(TextPage))));
   store::UnstoredJournal journal{Journals.at(static_cast<std::size_t>(PagesJournal)).FileName, {}};
   for (const auto& [row, inFile] : rows) journal.pages.push_back(Logged(row, inFile, hasText));
   return journal;

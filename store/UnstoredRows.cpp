@@ -18,6 +18,10 @@ Rows& TheRows() {
 
 }  // namespace
 
+RowInFile AsInFile(const JournalPage& page) {
+  return {true, CheckOf(page.Body), page.PageDate, true};
+}
+
 void RowWillChange(std::int32_t row, bool isMissed) {
   const bool isFirst = !TheRows().contains(row);
   if (isFirst) RowHasChanged(row, Pages.at(static_cast<std::size_t>(row)));
@@ -26,7 +30,7 @@ void RowWillChange(std::int32_t row, bool isMissed) {
 }
 
 void RowHasChanged(std::int32_t row, const JournalPage& before) {
-  TheRows().try_emplace(row, RowInFile{true, CheckOf(before.Body), before.PageDate, true});
+  TheRows().try_emplace(row, AsInFile(before));
   TheRows()[row].isMissed = true;
 }
 

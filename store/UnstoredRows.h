@@ -21,6 +21,9 @@ struct RowInFile {
   bool isMissed = false;  // whether a person would miss the change: a blank page's blank document nobody does
 };
 
+// What the file holds of a row that is as it was read or written.
+RowInFile AsInFile(const JournalPage& page);
+
 // To be called before Body or PageDate of a row of Pages changes. What the row held before its first change
 // counts as what the file holds; a later call adds at most that the change would be missed.
 void RowWillChange(std::int32_t row, bool isMissed = true);
