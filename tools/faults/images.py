@@ -6,11 +6,14 @@ image is therefore what a disk holds whose power is cut in that moment: nobody a
 first, and while the copy is taken the program stands still. The file systems are mounted so that they write of their own
 accord after minutes and not after seconds: what is in the copy is there because the program had it brought there. The
 disk keeps all that it has taken; one that forgets what it was not told to flush is not played.
+
+Behind two seconds of rest the log is asked, too: the real program is started on the copy, and must bring back what was typed
+and the password that was given.
 """
 import contextlib, os, pathlib, shutil, subprocess, tempfile
 
-from diary import (ADD_PICTURE, BEGIN, CLOSE, DATA, DRAG, HOME, LEAVE, NEW_JOURNAL, OPTIONS, ROOT, contents, furnish, opened,
-                   play, read_all, typed, unlocked)
+from diary import (ADD_PICTURE, BEGIN, CLOSE, DATA, DRAG, HOME, LEAVE, NEW_JOURNAL, OPTIONS, REST, ROOT, contents, furnish,
+                   next_start, opened, play, read_all, typed, unlocked)
 
 # How it is made, its size, how it is mounted, and what looks it over afterwards.
 FILE_SYSTEMS = {
@@ -25,15 +28,21 @@ def cut(moment, words, control):
     """Steps that wait for the control, and then cut. By then the journals hold these words."""
     return [f"see {control}", f"run env -u LD_PRELOAD sh $HOME/cut {moment}:{words} 2>/dev/null"]
 
-FIRST = (BEGIN + opened(0) + typed("w1") + ["click btnNewPage"] + cut("a-new-page", "w1", "txtM") + typed("w2") + ADD_PICTURE
+def cut_at_rest(moment, words, back):
+    """The same behind two seconds; the next start must bring this password and these words back."""
+    return REST + cut(moment, f"{words}:{back}", "txtM")
+
+FIRST = (BEGIN + opened(0) + typed("w1") + cut_at_rest("a-page-typed", "", "Rosebud7+w1") + ["click btnNewPage"] + cut("a-new-page", "w1", "txtM") + typed("w2") + ADD_PICTURE
          + cut("a-picture-added", "w1", "txtM") + DRAG + ["click btnBack"] + cut("a-page-turned", "w1+w2", "txtM")
          + ["click btnNext"] + CLOSE + cut("a-journal-closed", "w1+w2", "ListView1") + LEAVE)
-SECOND = (unlocked("Rosebud7") + opened(0) + typed("w3") + ["click btnFirstPage"] + cut("a-page-turned", "w1+w2+w3", "txtM")
+SECOND = (unlocked("Rosebud7") + opened(0) + typed("w3") + cut_at_rest("a-page-typed", "w1+w2", "Rosebud7+w1+w2+w3")
+          + ["click btnFirstPage"] + cut("a-page-turned", "w1+w2+w3", "txtM")
           + typed("w4") + CLOSE + cut("a-journal-closed", "w1+w2+w3+w4", "ListView1") + NEW_JOURNAL + CLOSE
           + cut("a-new-journal-closed", "w1+w2+w3+w4+w5", "ListView1") + OPTIONS
-          + cut("options-closed", "w1+w2+w3+w4+w5", "ListView1") + ["pick ListView1 1", "click cmdDelete"]
-          + cut("a-journal-deleted", "w1+w2+w3+w4", "ListView1") + LEAVE)
-SITTINGS = (FIRST, "the-end:w1+w2"), (SECOND, "the-end:w1+w2+w3+w4")
+          + cut("options-closed", "w1+w2+w3+w4+w5", "ListView1") + opened(0) + typed("w6")
+          + cut_at_rest("another-password", "w1+w2+w3+w4+w5", "Quill7+w1+w2+w3+w4+w5+w6") + CLOSE + ["pick ListView1 1", "click cmdDelete"]
+          + cut("a-journal-deleted", "w1+w2+w3+w4+w6", "ListView1") + LEAVE)
+SITTINGS = (FIRST, "the-end:w1+w2"), (SECOND, "the-end:w1+w2+w3+w4+w6")
 
 
 def run(*words): return subprocess.run(words, check=True, capture_output=True)
@@ -70,14 +79,22 @@ class Disk:
             return data_of(self.folder)
 
     def moments(self):
-        """Of each the name, the files that were shown, and those that are there when the power is back."""
+        """Of each the name, how many files were shown, and what is wrong when the power is back."""
         for image in sorted(self.cuts.glob("*[0-9]"), key=lambda path: path.stat().st_mtime_ns):
             shown = data_of(image.with_name(image.name + ".shown"))
-            moment, words = image.name.split(":")
+            moment, words, *back = image.name.split(":")
             assert words_of(shown) == words, f"{moment}: {words_of(shown)} was stored, not {words}"
-            with mounted(image, self.folder, self.options): found = data_of(self.folder)
+            with mounted(image, self.folder, self.options):
+                wrong = difference(shown, data_of(self.folder))
+                for expected in back: wrong += lost_at_start(self.folder, expected)
             run(*self.check.split(), image)
-            yield moment, shown, found
+            yield moment, len(shown), wrong
+
+def lost_at_start(folder, expected):
+    """What the next start does wrong, which must bring the log back."""
+    wrong, files = next_start(folder), data_of(folder)
+    found = "+".join([read_all(files)["journal.tqt"][0], words_of(files)])
+    return wrong + [f"{found} came back, not {expected}"] * (found != expected)
 
 def difference(shown, found):
     return ([f"{name} is gone" for name in sorted(shown.keys() - found.keys())]
@@ -106,9 +123,8 @@ def images():
     findings = number = 0
     for kind, (make, *_) in FILE_SYSTEMS.items():
         if not shutil.which(make.split()[0]): continue
-        for moment, shown, found in cuts(kind):
-            lost = difference(shown, found)
-            number, findings = number + 1, findings + len(lost)
-            print(f"{kind:6} {moment:21} {len(shown)} files  {'; '.join(lost) or 'all there'}", flush=True)
+        for moment, files, wrong in cuts(kind):
+            number, findings = number + 1, findings + len(wrong)
+            print(f"{kind:6} {moment:21} {files} files  {'; '.join(wrong) or 'all there'}", flush=True)
     print(f"{number} cuts; {findings} findings")
     return findings
