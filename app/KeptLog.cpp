@@ -1,5 +1,7 @@
 #include "app/KeptLog.h"
 
+#include <memory>
+
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 

@@ -8,8 +8,8 @@
 // (platform/files/LogWriter.h). When nothing is unstored the log goes.
 #pragma once
 
-#include <memory>
 #include <optional>
+#include <string>
 
 #include <QtCore/QObject>
 #include <QtCore/QTimer>

@@ -4,9 +4,6 @@
 // comes back with its design values at the next use.
 #pragma once
 
-#include <functional>
-#include <optional>
-
 #include <QtCore/QPointer>
 #include <QtGui/QPixmap>
 #include <QtWidgets/QDialog>

@@ -1,9 +1,11 @@
 #include "store/BookcaseFile.h"
 
+#include <cstdint>
+#include <exception>
 #include <string>
 #include <utility>
+#include <vector>
 
-#include "platform/Failure.h"
 #include "platform/Process.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/dialogs/TellKept.h"
@@ -12,7 +14,6 @@
 #include "platform/files/KeptFiles.h"
 #include "platform/files/KnownFiles.h"
 #include "platform/files/ReplaceFile.h"
-#include "platform/files/SyncFolder.h"
 #include "state/State.h"
 #include "store/BookcaseIndex.h"
 #include "store/Scrambler.h"

@@ -2,7 +2,6 @@
 // itself where that name is a symbolic link, and the copies that were kept before it was written over.
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
 

@@ -8,6 +8,7 @@
 #include "store/PageCipher.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <tuple>
 

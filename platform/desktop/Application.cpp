@@ -1,8 +1,8 @@
 #include "platform/desktop/Application.h"
 
+#include <exception>
 #include <utility>
 
-#include "platform/Failure.h"
 #include "platform/Process.h"
 #include "platform/dialogs/MessageBox.h"
 

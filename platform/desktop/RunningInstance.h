@@ -9,7 +9,6 @@
 #pragma once
 
 #include <chrono>
-#include <functional>
 #include <memory>
 
 #include <QtCore/QObject>

@@ -1,8 +1,6 @@
 // The formats of paragraphs, made of their states and of what these refer to by number: tab stops and lists.
 #pragma once
 
-#include <cstdint>
-
 #include "richtext/document/Document.h"
 #include "richtext/rtf/GroupState.h"
 #include "richtext/rtf/ListCounter.h"

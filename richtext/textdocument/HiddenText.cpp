@@ -1,6 +1,7 @@
 #include "richtext/textdocument/HiddenText.h"
 
 #include <algorithm>
+#include <vector>
 
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>

@@ -3,8 +3,6 @@
 // that the caret passes both in one step; its format holds the text.
 #pragma once
 
-#include <vector>
-
 #include <QtGui/QTextCharFormat>
 
 class QTextCursor;

@@ -1,3 +1,5 @@
+#include <string>
+
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtWidgets/QApplication>
