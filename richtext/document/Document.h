@@ -73,7 +73,8 @@ struct ListFormat {
   std::int32_t level = 0;  // 0 to 8, for lists within lists
   std::u16string before;   // text before the number, such as "("
   std::u16string
-      after;  // text behind it, such as "." or ")"; for bullets the bullet itself stands in `before`
+      after;          // text behind it, such as "." or ")"; for bullets the bullet itself stands in `before`
+  bool twin = false;  // tells a list of numbers from one of the same look that ends right before it
 
   bool operator==(const ListFormat&) const = default;
 };

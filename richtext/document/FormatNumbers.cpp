@@ -31,7 +31,7 @@ std::size_t WholeFormatHash::operator()(const ParagraphFormat& format) const {
   std::size_t hash =
       HashOf(format.alignment, format.direction, format.leftIndent, format.rightIndent,
              format.firstLineIndent, format.spaceBefore, format.spaceAfter, format.lineSpacingRule,
-             format.lineSpacing, format.list.kind, format.list.start, format.list.level,
+             format.lineSpacing, format.list.kind, format.list.start, format.list.level, format.list.twin,
              std::hash<std::u16string>()(format.list.before), std::hash<std::u16string>()(format.list.after));
   for (const TabStop& stop : format.tabs) hash = HashOf(hash, stop.position, stop.kind);
   return hash;

@@ -27,6 +27,16 @@ std::int32_t Lists::NextOf(const QTextList& list) {
   return next;
 }
 
+// `before` are the items met last of the same level.
+void Lists::SetStart(ListFormat& list, std::int32_t number, const Items& before) {
+  list.start = before.list.start;
+  list.twin = before.list.twin;
+  if (before.list == list && before.next == number) return;
+  list.start = number;
+  list.twin = false;
+  list.twin = before.list == list;
+}
+
 void Lists::Number(const QTextBlock& block, ListFormat& list) {
   if (list.kind == ListKind::None || block.textList() == nullptr) {
     open_ = {};
@@ -36,9 +46,7 @@ void Lists::Number(const QTextBlock& block, ListFormat& list) {
   for (std::size_t deeper = level + 1; deeper < open_.size(); ++deeper) open_[deeper] = {};
   const std::int32_t number = NextOf(*block.textList());
   Items& items = open_[level];
-  list.start = items.list.start;
-  const bool goesOn = items.list == list && items.next == number;
-  if (!goesOn) list.start = list.kind == ListKind::Bullet ? 1 : number;
+  if (list.kind != ListKind::Bullet) SetStart(list, number, items);
   items = {list, number + 1};
 }
 

@@ -30,6 +30,7 @@ class Lists {
   };
 
   std::int32_t NextOf(const QTextList& list);
+  static void SetStart(ListFormat& list, std::int32_t number, const Items& before);
 
   std::unordered_map<const QTextList*, std::int32_t> next_;
   std::array<Items, MaxListLevel + 1> open_;

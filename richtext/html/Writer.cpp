@@ -1,7 +1,7 @@
 #include "richtext/html/Writer.h"
 
 #include "richtext/characters/Unicode.h"
-#include "richtext/document/ListLabel.h"
+#include "richtext/document/ItemCounter.h"
 #include "richtext/document/Twips.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/Pictures.h"
@@ -113,7 +113,8 @@ class Writer {
   void WriteParagraph(const Paragraph& paragraph) {
     const ParagraphFormat& format = page_.paragraphFormats[paragraph.format];
     const bool isItem = format.list.kind != ListKind::None;
-    const QLatin1String end = isItem ? OpenItem(format.list) : QLatin1String("</p>");
+    const std::int32_t number = items_.Count(format.list);
+    const QLatin1String end = isItem ? OpenItem(format.list, number) : QLatin1String("</p>");
     html_ += QLatin1String(isItem ? "<li" : "<p");
     if (format.direction == Direction::RightToLeft) html_ += QLatin1String(" dir=\"rtl\"");
     html_ += Style(ParagraphRules(format)) + u'>';
@@ -122,18 +123,16 @@ class Writer {
   }
 
   // Each item is a list of its own, so that it keeps its number whatever stands around it.
-  QLatin1String OpenItem(const ListFormat& list) {
+  QLatin1String OpenItem(const ListFormat& list, std::int32_t number) {
     const QLatin1String types[] = {QLatin1String("1"), QLatin1String("a"), QLatin1String("A"),
                                    QLatin1String("i"), QLatin1String("I")};
     const bool bullets = list.kind == ListKind::Bullet;
-    number_ = list == list_ ? number_ + 1 : list.start;
-    list_ = list;
     if (bullets)
       html_ += QLatin1String("<ul style=\"margin: 0\">");
     else
       html_ += QStringLiteral("<ol type=\"%1\" start=\"%2\" style=\"margin: 0\">")
                    .arg(types[static_cast<std::size_t>(list.kind) - 2])
-                   .arg(number_);
+                   .arg(number);
     return QLatin1String(bullets ? "</li></ul>" : "</li></ol>");
   }
 
@@ -175,8 +174,7 @@ class Writer {
   const Document& page_;
   QString html_;
   std::vector<Picture>::const_iterator picture_;
-  ListFormat list_;
-  std::int32_t number_ = 0;
+  ItemCounter items_;
   std::size_t run_ = 0;
   std::size_t at_ = 0;
 };

@@ -166,6 +166,7 @@ constexpr ControlWord KnownWords[] = {
     Word("listid", SetInTable<&ListTable::SetListId>),
     Word("listoverride", BeginInTable<&ListTable::BeginOverride>),
     Word("lfolevel", BeginInTable<&ListTable::BeginOverrideLevel>),
+    Word("listoverridestartat", BeginInTable<&ListTable::Restart>),
     WordOf("pnlvlblt", NumberingKind, ListKind::Bullet),
     WordOf("pnlvlcont", NumberingKind, ListKind::None),
     Word("pnlvlbody", NumberingBody),
@@ -179,6 +180,7 @@ constexpr ControlWord KnownWords[] = {
     WordOf("pnlcrm", NumberingKind, ListKind::LowerRoman),
     WordOf("pnucrm", NumberingKind, ListKind::UpperRoman),
     Word("pnstart", NumberingStart, 1),
+    Word("pnrestart", NumberingTwin),
     Word("pnindent", NumberingIndent),
     Word("pnf", Font),
 

@@ -28,7 +28,8 @@ std::size_t HashOf(const ParagraphFormat& format) {
   hash.AddAll({static_cast<std::int32_t>(format.alignment), static_cast<std::int32_t>(format.direction),
                format.leftIndent, format.rightIndent, format.firstLineIndent, format.spaceBefore,
                format.spaceAfter, static_cast<std::int32_t>(format.lineSpacingRule), format.lineSpacing,
-               static_cast<std::int32_t>(format.list.kind), format.list.start, format.list.level});
+               static_cast<std::int32_t>(format.list.kind), format.list.start, format.list.level,
+               format.list.twin});
   for (const TabStop& tab : format.tabs) hash.AddAll({tab.position, static_cast<std::int32_t>(tab.kind)});
   for (const std::u16string& text : {format.list.before, format.list.after})
     for (const char16_t unit : text) hash.Add(unit);

@@ -2,22 +2,35 @@
 
 #include <algorithm>
 #include <cstddef>
-
-#include "richtext/document/Limits.h"
+#include <limits>
 
 namespace richtext::rtf {
 
-std::int32_t ListCounter::Count(std::int32_t list, std::int32_t level, std::int32_t start) {
-  for (std::int32_t deeper = level + 1; deeper <= MaxListLevel; ++deeper) {
-    open_[static_cast<std::size_t>(deeper)].reset();
-    counted_.erase({list, deeper});
+void ListCounter::Count(Key key, ListFormat& list) {
+  EndDeeperLevels(key.list, list.level);
+  std::int32_t& next = next_.try_emplace({key.list, list.level, key.override}, list.start).first->second;
+  Neighbours& open = open_[static_cast<std::size_t>(list.level)];
+  if (!GoesOn(open, key, list)) {
+    list.start = next;
+    list.twin = open.list == list;
+    open = {key, list};
   }
-  Counted& counted = counted_.try_emplace({list, level}, Counted{start, start}).first->second;
-  std::optional<std::int32_t>& open = open_[static_cast<std::size_t>(level)];
-  if (open != list) counted.first = counted.next;
-  open = list;
-  counted.next = std::min(counted.next + 1, MaxListNumber);
-  return counted.first;
+  list = open.list;
+  next = std::min(next + 1, MaxListNumber);
+}
+
+bool ListCounter::GoesOn(const Neighbours& open, Key key, const ListFormat& list) {
+  ListFormat looked = list;
+  looked.start = open.list.start;
+  looked.twin = open.list.twin;
+  return open.key == key && open.list == looked;
+}
+
+void ListCounter::EndDeeperLevels(std::int32_t list, std::int32_t level) {
+  constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
+  std::fill(open_.begin() + level + 1, open_.end(), Neighbours());
+  next_.erase(next_.lower_bound({list, level + 1, least}),
+              next_.lower_bound({list, MaxListLevel + 1, least}));
 }
 
 }  // namespace richtext::rtf

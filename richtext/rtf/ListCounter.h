@@ -4,9 +4,9 @@
 #include <array>
 #include <cstdint>
 #include <map>
-#include <optional>
-#include <utility>
+#include <tuple>
 
+#include "richtext/document/Document.h"
 #include "richtext/document/Limits.h"
 
 namespace richtext::rtf {
@@ -16,21 +16,34 @@ namespace richtext::rtf {
 // began.
 class ListCounter {
  public:
-  // Counts an item and returns the number of the first of the neighbours that it belongs to. `start` is the
-  // list's own first number. An item begins the deeper levels of its list anew.
-  std::int32_t Count(std::int32_t list, std::int32_t level, std::int32_t start);
+  // What counts together: the list, and the override where that begins a count of its own.
+  struct Key {
+    std::int32_t list = 0;
+    std::int32_t override = 0;  // 0: none
+
+    bool operator==(const Key&) const = default;
+  };
+
+  // Counts an item of the list, which tells its level and its own first number, and gives the list the number
+  // of the first of the neighbours that the item belongs to. An item begins the deeper levels of its list
+  // anew.
+  void Count(Key key, ListFormat& list);
   // A paragraph of no list: no item has a neighbour before it.
   void Interrupt() { open_ = {}; }
 
  private:
-  struct Counted {
-    std::int32_t next;   // item's number
-    std::int32_t first;  // of the neighbours, while they go on
+  // The items met last of a level, as the document tells them.
+  struct Neighbours {
+    Key key;
+    ListFormat list;
   };
 
-  std::map<std::pair<std::int32_t, std::int32_t>, Counted> counted_;  // by list and level
-  std::array<std::optional<std::int32_t>, MaxListLevel + 1>
-      open_;  // by level: the list whose neighbours go on there
+  static bool GoesOn(const Neighbours& open, Key key, const ListFormat& list);
+  void EndDeeperLevels(std::int32_t list, std::int32_t level);
+
+  std::map<std::tuple<std::int32_t, std::int32_t, std::int32_t>, std::int32_t>
+      next_;                                       // item's number, by list, level and override
+  std::array<Neighbours, MaxListLevel + 1> open_;  // by level
 };
 
 }  // namespace richtext::rtf

@@ -55,6 +55,10 @@ inline void NumberingStart(Context& context, Number, Number start) {
   context.NumberingInHand().list.start = start;
 }
 
+inline void NumberingTwin(Context& context, Number, Number) {
+  context.NumberingInHand().list.twin = true;
+}
+
 inline void NumberingIndent(Context& context, Number, Number twips) {
   context.NumberingInHand().indent = twips;
 }

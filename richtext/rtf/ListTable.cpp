@@ -34,19 +34,32 @@ ListKind KindOf(std::int32_t numberKind) {
 
 void ListTable::BeginList() {
   overriding_ = false;
+  levelInHand_ = NoLevel;
   if (lists_.size() < MaxTableEntries) lists_.push_back({levels_.size(), 0});
 }
 
+// Where there is no room for a level, its words tell nothing.
 void ListTable::BeginLevel() {
-  const auto most = static_cast<std::size_t>(MaxListLevel) + 1;
-  if (lists_.empty() || lists_.back().levels == most || levels_.size() == MaxFormats) return;
-  ++lists_.back().levels;
+  levelInHand_ = NoLevel;
+  if (levels_.size() == MaxFormats || !TakePlaceOfLevel()) return;
+  levelInHand_ = levels_.size();
   levels_.push_back({});
   levels_.back().kind = ListKind::Decimal;
 }
 
+bool ListTable::TakePlaceOfLevel() {
+  if (overriding_) {
+    if (override_.levels.empty()) return false;
+    override_.levels.back().level = levels_.size();
+    return true;
+  }
+  if (lists_.empty() || lists_.back().levels == MostLevels) return false;
+  ++lists_.back().levels;
+  return true;
+}
+
 ListFormat* ListTable::LevelInHand() {
-  return lists_.empty() || lists_.back().levels == 0 ? nullptr : &levels_.back();
+  return levelInHand_ == NoLevel ? nullptr : &levels_[levelInHand_];
 }
 
 void ListTable::SetNumberKind(std::int32_t kind) {
@@ -55,10 +68,11 @@ void ListTable::SetNumberKind(std::int32_t kind) {
 
 void ListTable::SetStart(std::int32_t start) {
   start = std::clamp(start, 0, MaxListNumber);
-  if (overriding_) {
-    if (!override_.starts.empty()) override_.starts.back() = start;
-  } else if (ListFormat* level = LevelInHand()) {
+  if (ListFormat* level = LevelInHand()) {
     level->start = start;
+  } else if (overriding_ && !override_.levels.empty()) {
+    override_.levels.back().start = start;
+    override_.levels.back().restarts = true;
   }
 }
 
@@ -85,39 +99,52 @@ void ListTable::SetListId(std::int32_t id) {
 
 void ListTable::BeginOverride() {
   overriding_ = true;
+  levelInHand_ = NoLevel;
   override_ = {};
 }
 
 void ListTable::BeginOverrideLevel() {
-  const bool room = override_.starts.size() <= static_cast<std::size_t>(MaxListLevel);
-  if (overriding_ && room) override_.starts.push_back(-1);
+  levelInHand_ = NoLevel;
+  if (overriding_ && override_.levels.size() < MostLevels) override_.levels.push_back({});
+}
+
+void ListTable::Restart() {
+  if (overriding_ && !override_.levels.empty()) override_.levels.back().restarts = true;
 }
 
 void ListTable::SetOverrideNumber(std::int32_t number) {
   if (overriding_ && overrides_.size() < MaxTableEntries) overrides_.insert_or_assign(number, override_);
 }
 
-const ListFormat& ListTable::Find(std::int32_t number, std::int32_t level) const {
-  static const ListFormat none;
-  const auto list = listOfId_.find(ListId(number));
-  if (!Has(number) || list == listOfId_.end()) return none;
-  const List& found = lists_[list->second];
-  if (found.levels == 0) return none;
-  const auto at = std::min(static_cast<std::size_t>(level), found.levels - 1);
-  return levels_[found.firstLevel + at];
-}
-
-std::int32_t ListTable::ListId(std::int32_t number) const {
-  const auto found = overrides_.find(number);
-  return found == overrides_.end() ? 0 : found->second.listId;
-}
-
-std::int32_t ListTable::Start(std::int32_t number, std::int32_t level) const {
-  const auto found = overrides_.find(number);
+ListFormat ListTable::Find(std::int32_t number, std::int32_t level) const {
+  const auto override = overrides_.find(number);
+  if (override == overrides_.end()) return {};
   const auto at = static_cast<std::size_t>(level);
-  if (found != overrides_.end() && at < found->second.starts.size() && found->second.starts[at] >= 0)
-    return found->second.starts[at];
-  return Find(number, level).start;
+  const std::vector<OverrideLevel>& own = override->second.levels;
+  const std::size_t row =
+      at < own.size() && own[at].level != NoLevel ? own[at].level : FindLevel(override->second.listId, at);
+  if (row == NoLevel) return {};
+  ListFormat found = levels_[row];
+  if (at < own.size() && own[at].start >= 0) found.start = own[at].start;
+  return found;
+}
+
+// Levels beyond a list's last one are as that.
+std::size_t ListTable::FindLevel(std::int32_t listId, std::size_t level) const {
+  const auto found = listOfId_.find(listId);
+  if (found == listOfId_.end() || lists_[found->second].levels == 0) return NoLevel;
+  const List& list = lists_[found->second];
+  return list.firstLevel + std::min(level, list.levels - 1);
+}
+
+// A level that restarts takes the deeper ones along.
+ListCounter::Key ListTable::CountOf(std::int32_t number, std::int32_t level) const {
+  const auto override = overrides_.find(number);
+  if (override == overrides_.end()) return {};
+  const std::vector<OverrideLevel>& own = override->second.levels;
+  const auto end = own.begin() + std::min(level + 1, static_cast<std::int32_t>(own.size()));
+  const bool restarts = std::any_of(own.begin(), end, [](const auto& told) { return told.restarts; });
+  return {override->second.listId, restarts ? number : 0};
 }
 
 }  // namespace richtext::rtf

@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "richtext/document/Document.h"
+#include "richtext/document/Limits.h"
+#include "richtext/rtf/ListCounter.h"
 
 namespace richtext::rtf {
 
@@ -24,30 +26,39 @@ class ListTable {
   void SetListId(std::int32_t id);
   void BeginOverride();
   void BeginOverrideLevel();
+  void Restart();  // the override's level counts for itself
   void SetOverrideNumber(std::int32_t number);
 
-  // The list of an \ls at a level; of the kind None when there is no such list. The level of what is returned
-  // is 0.
-  const ListFormat& Find(std::int32_t number, std::int32_t level) const;
+  // The list of an \ls at a level, with its first number there; of the kind None when there is no such list.
+  // The level of what is returned is 0.
+  ListFormat Find(std::int32_t number, std::int32_t level) const;
   bool Has(std::int32_t number) const { return overrides_.count(number) != 0; }
-  // The number of the list's first item at a level.
-  std::int32_t Start(std::int32_t number, std::int32_t level) const;
-  // The list that an \ls names: several \ls may count one list.
-  std::int32_t ListId(std::int32_t number) const;
+  // What the items of an \ls at a level are counted with: several \ls may count one list, until one restarts.
+  ListCounter::Key CountOf(std::int32_t number, std::int32_t level) const;
 
  private:
   struct List {
     std::size_t firstLevel = 0;  // in levels_
     std::size_t levels = 0;
   };
+  static constexpr std::size_t NoLevel = SIZE_MAX;
+  static constexpr std::size_t MostLevels = MaxListLevel + 1;
+  struct OverrideLevel {
+    bool restarts = false;
+    std::int32_t start = -1;      // -1: that of the level
+    std::size_t level = NoLevel;  // in levels_; NoLevel: the list's own
+  };
   struct Override {
     std::int32_t listId = 0;
-    std::vector<std::int32_t> starts;  // by level; -1: the list's own
+    std::vector<OverrideLevel> levels;
   };
 
   ListFormat* LevelInHand();
+  bool TakePlaceOfLevel();
+  std::size_t FindLevel(std::int32_t listId, std::size_t level) const;
 
   std::vector<ListFormat> levels_;
+  std::size_t levelInHand_ = NoLevel;
   std::vector<List> lists_;
   std::unordered_map<std::int32_t, std::size_t> listOfId_;
   std::unordered_map<std::int32_t, Override> overrides_;

@@ -16,9 +16,12 @@ std::uint32_t Numberings::NumberOf(const Numbering& numbering) {
 }
 
 std::uint32_t Numberings::NumberOfLabel(std::u16string_view label) {
-  const std::optional<ListFormat> list = ListOfLabel(label);
+  std::optional<ListFormat> list = ListOfLabel(label);
   if (!list) return 0;
-  if (!CountsOn(*list)) labelled_ = NumberOf({*list, 0});
+  if (!CountsOn(*list)) {
+    list->twin = labelled_ != 0 && At(labelled_).list == *list;
+    labelled_ = NumberOf({*list, 0});
+  }
   nextLabel_ = list->start + 1;
   return labelled_;
 }
@@ -27,6 +30,7 @@ bool Numberings::CountsOn(const ListFormat& label) const {
   if (labelled_ == 0) return false;
   ListFormat list = At(labelled_).list;
   list.start = label.start;
+  list.twin = false;
   return list == label && (label.kind == ListKind::Bullet || label.start == nextLabel_);
 }
 

@@ -35,7 +35,6 @@ bool ParagraphFormats::IsListed(const ParagraphState& state) const {
 void ParagraphFormats::SetList(const ParagraphState& state, ParagraphFormat& format) const {
   if (IsOfTable(state)) {
     format.list = lists_.Find(state.listNumber, state.listLevel);
-    format.list.start = lists_.Start(state.listNumber, state.listLevel);
   } else if (state.numbering != 0) {
     const Numbering& numbering = numberings_.At(state.numbering);
     format.list = numbering.list;
@@ -68,9 +67,9 @@ ParagraphFormat ParagraphFormats::FormatOfNext(const ParagraphState& state) {
   if (!IsOfTable(state) || format.list.kind == ListKind::None) {
     counter_.Interrupt();
   } else {
-    const std::int32_t list = lists_.ListId(state.listNumber);
-    const std::int32_t start = counter_.Count(list, state.listLevel, format.list.start);
-    if (format.list.kind != ListKind::Bullet) format.list.start = start;
+    ListFormat counted = format.list;
+    counter_.Count(lists_.CountOf(state.listNumber, state.listLevel), counted);
+    if (counted.kind != ListKind::Bullet) format.list = counted;
   }
   return format;
 }

@@ -32,10 +32,8 @@ void ParagraphWriter::Begin(const ParagraphFormat& format) {
     list_ = FittingList(format.list);
     out_.Word("pard");
   }
-  if (list_.kind == ListKind::None)
-    items_ = {};
-  else
-    WriteLabel(list_);
+  const std::int32_t number = items_.Count(list_);
+  if (list_.kind != ListKind::None) WriteLabel(list_, number);
   if (changes) WriteFormat(format);
 }
 
@@ -74,6 +72,7 @@ void ParagraphWriter::WriteList(const ListFormat& list) {
   if (bullet && list.before[0] == Bullet) out_.Word("pnf", symbolFont_);
   out_.Word("pnindent", 0);
   if (!bullet) {
+    if (list.twin) out_.Word("pnrestart");
     out_.Word("pnstart", list.start);
     out_.Word(WordOf(list.kind));
   }
@@ -91,8 +90,7 @@ void ParagraphWriter::WriteList(const ListFormat& list) {
   out_.Measure("ilvl", list.level);
 }
 
-void ParagraphWriter::WriteLabel(const ListFormat& list) {
-  const std::int32_t number = NextNumber(list);
+void ParagraphWriter::WriteLabel(const ListFormat& list, std::int32_t number) {
   out_.BeginGroup("pntext");
   if (list.kind == ListKind::Bullet && list.before[0] == Bullet) out_.Word("f", symbolFont_);
   if (!WriteSymbol(list)) out_.Text(LabelText(list, number));
@@ -104,15 +102,6 @@ bool ParagraphWriter::WriteSymbol(const ListFormat& list) {
   const bool symbol = list.kind == ListKind::Bullet && list.before[0] == Bullet;
   if (symbol) out_.Raw("\\'b7");
   return symbol;
-}
-
-// Items of deeper levels do not end a list, all else does.
-std::int32_t ParagraphWriter::NextNumber(const ListFormat& list) {
-  const auto level = static_cast<std::size_t>(list.level);
-  for (std::size_t deeper = level + 1; deeper < items_.size(); ++deeper) items_[deeper] = {};
-  Items& items = items_[level];
-  if (items.list != list) items = {list, list.start};
-  return items.next++;
 }
 
 }  // namespace richtext::rtf

@@ -1,11 +1,11 @@
 // Writes paragraph formats, and the labels of lists for readers that know no lists.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 
 #include "richtext/document/Document.h"
+#include "richtext/document/ItemCounter.h"
 #include "richtext/rtf/Output.h"
 
 namespace richtext::rtf {
@@ -19,24 +19,18 @@ class ParagraphWriter {
   void Begin(const ParagraphFormat& format);
 
  private:
-  struct Items {
-    ListFormat list;
-    std::int32_t next = 0;
-  };
-
   void WriteFormat(const ParagraphFormat& format);
   void WriteSpacing(const ParagraphFormat& format);
   void WriteTabs(const ParagraphFormat& format);
   void WriteList(const ListFormat& list);
-  void WriteLabel(const ListFormat& list);
+  void WriteLabel(const ListFormat& list, std::int32_t number);
   bool WriteSymbol(const ListFormat& list);
-  std::int32_t NextNumber(const ListFormat& list);
 
   Output& out_;
   std::int32_t symbolFont_;
   std::optional<ParagraphFormat> format_;  // in force
   ListFormat list_;                        // likewise, as written
-  std::array<Items, 9> items_;             // by level
+  ItemCounter items_;
 };
 
 }  // namespace richtext::rtf

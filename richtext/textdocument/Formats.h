@@ -24,7 +24,8 @@ enum BoxProperty : int {
   ListKindOfDocument,  // int, a ListKind
   ListStartOfDocument,
   ListLevelOfDocument,
-  TextBeforeNumber,  // QString
+  TwinListOfDocument,  // bool
+  TextBeforeNumber,    // QString
   TextAfterNumber,
 };
 

@@ -156,6 +156,7 @@ void SetList(QTextBlockFormat& made, const ParagraphFormat& format) {
   made.setProperty(ListKindOfDocument, static_cast<int>(list.kind));
   made.setProperty(ListStartOfDocument, list.start);
   made.setProperty(ListLevelOfDocument, list.level);
+  made.setProperty(TwinListOfDocument, list.twin);
   made.setProperty(TextBeforeNumber, QString::fromStdU16String(list.before));
   made.setProperty(TextAfterNumber, QString::fromStdU16String(list.after));
 }
@@ -199,9 +200,11 @@ ParagraphFormat FromBlockFormat(const QTextBlockFormat& format) {
 
 ListFormat ListOf(const QTextBlockFormat& format) {
   return {static_cast<ListKind>(format.intProperty(ListKindOfDocument)),
-          format.intProperty(ListStartOfDocument), format.intProperty(ListLevelOfDocument),
+          format.intProperty(ListStartOfDocument),
+          format.intProperty(ListLevelOfDocument),
           format.stringProperty(TextBeforeNumber).toStdU16String(),
-          format.stringProperty(TextAfterNumber).toStdU16String()};
+          format.stringProperty(TextAfterNumber).toStdU16String(),
+          format.boolProperty(TwinListOfDocument)};
 }
 
 bool IsListItem(const QTextBlockFormat& format) {

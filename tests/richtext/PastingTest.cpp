@@ -1,9 +1,11 @@
 // What comes into the text box from other programs, and what goes out to them.
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryFile>
 #include <QtCore/QTimer>
 #include <QtWidgets/QMenu>
 
 #include "richtext/html/Reader.h"
+#include "richtext/html/Writer.h"
 #include "tests/richtext/BoxFixture.h"
 
 namespace richtext {
@@ -134,6 +136,8 @@ TEST_F(PastingTest, HtmlListsKeepTheirNumbers) {
        "decimal1 #.|>decimal1 #.|>decimal1 #.|decimal1 #.|>bullet \u2022|>decimal1 #.|"},
       {"<ol><li>a</li><ol><li>b</li></ol><li>c</li></ol>", "decimal1 #.|>decimal1 #.|decimal1 #.|"},
       {"<ol start=1><li>a</ol><ol start=2><li>b</ol>", "decimal1 #.|decimal1 #.|"},
+      {"<ol><li>a<li>b</ol><ol><li>c</ol><ol><li>d</ol>",
+       "decimal1 #.|decimal1 #.|decimal1' #.|decimal1 #.|"},
   };
   for (const auto& [html, expected] : cases) {
     const Document page = Read(QString::fromUtf8(html));
@@ -142,6 +146,11 @@ TEST_F(PastingTest, HtmlListsKeepTheirNumbers) {
       lists += Dump(page.paragraphFormats[paragraph.format].list) + '|';
     EXPECT_EQ(lists, expected) << html;
   }
+  const auto page = QStringLiteral("<ol><li>a<ol><li>b</ol><li>c</ol>x<ol><li>d<li>e</ol><ol><li>f</ol>");
+  const QRegularExpression start(QStringLiteral("start=\"(\\d+)\""));
+  QString numbers;
+  for (const auto& item : start.globalMatch(WriteHtml(Read(page)))) numbers += item.captured(1);
+  EXPECT_EQ(numbers, QStringLiteral("112121")) << "as they are copied";
 }
 
 TEST_F(PastingTest, PicturesComeFromTheClipboardAlone) {

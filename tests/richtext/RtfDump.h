@@ -57,14 +57,16 @@ inline std::string Dump(const CharacterFormat& format) {
   return '(' + words.line() + ')';
 }
 
-// ">decimal2 (#)" is a list of the second level whose first number is 2, "bullet -" one of bullets.
+// ">decimal2 (#)" is a list of the second level whose first number is 2, "decimal1' #" the twin of one
+// before it, "bullet -" one of bullets.
 inline std::string Dump(const ListFormat& list) {
   if (list.kind == ListKind::None) return {};
   const std::string name(static_cast<std::size_t>(list.level), '>');
   const std::string kind =
       name + NameOf(list.kind, {"", "bullet", "decimal", "letter", "LETTER", "roman", "ROMAN"});
   if (list.kind == ListKind::Bullet) return kind + ' ' + ToUtf8(list.before);
-  return kind + std::to_string(list.start) + ' ' + ToUtf8(list.before) + '#' + ToUtf8(list.after);
+  return kind + std::to_string(list.start) + (list.twin ? "' " : " ") + ToUtf8(list.before) + '#' +
+         ToUtf8(list.after);
 }
 
 inline std::string Dump(const ParagraphFormat& format) {

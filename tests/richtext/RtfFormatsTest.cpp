@@ -90,7 +90,9 @@ TEST(RtfFormats, ReadsListsOfTables) {
       R"({\list{\listlevel\levelnfc0{\leveltext\'00;}}\listid7})"
       R"({\list{\listlevel\levelnfc3{\leveltext\'02\'00.;}}\listid8}})"
       R"({\*\listoverridetable{\listoverride\listid5\listoverridecount0\ls1})"
-      R"({\listoverride\listid-6\listoverridecount1{\lfolevel\listoverridestartat\levelstartat8}\ls2}{\listoverride\listid7\ls3}{\listoverride\listid8\ls4}})";
+      R"({\listoverride\listid-6\listoverridecount1{\lfolevel\listoverridestartat\levelstartat8}\ls2}{\listoverride\listid7\ls3}{\listoverride\listid8\ls4})"
+      R"({\listoverride\listid8\listoverridecount1{\lfolevel\listoverridestartat}\ls5})"
+      R"({\listoverride\listid8{\lfolevel\listoverrideformat{\listlevel\levelnfc1\levelstartat9}}\ls6}})";
   const Example lists[] = {
       {R"(\ls1{\listtext (b)\tab}a\par b\par\ilvl1 c\par\pard d})",
        "[letter2 (#)]a|[letter2 (#)]b|[>bullet \u25AA]c|d"},
@@ -102,6 +104,11 @@ TEST(RtfFormats, ReadsListsOfTables) {
       {R"(\ls1 a\par b\par\pard x\par\pard\ls1 c\par})", "[letter2 (#)]a|[letter2 (#)]b|x|[letter4 (#)]c"},
       {R"(\ls2 a\par\ilvl2 b\par\ilvl0 c\par\ilvl2 d\par})",
        "[decimal8 #.]a|[>>decimal1 #.]b|[decimal8 #.]c|[>>decimal1 #.]d"},
+      // An override that restarts counts for itself, right behind the list's other items too; one may have
+      // a look of its own.
+      {R"(\ls4 a\par b\par\ls5 c\par d\par\pard x\par\pard\ls5 e\par\ls4 f\par)",
+       "[LETTER1 #.]a|[LETTER1 #.]b|[LETTER1' #.]c|[LETTER1' #.]d|x|[LETTER3 #.]e|[LETTER3' #.]f"},
+      {R"(\ls6 a\par\ls4 b\par\ls4\ilvl8 c\par)", "[ROMAN9 #]a|[LETTER10 #.]b|[>>>>>>>>LETTER1 #.]c"},
   };
   for (const auto& [rtf, dump] : lists) ExpectReads(tables + rtf + '}', dump);
 }
@@ -115,6 +122,8 @@ TEST(RtfFormats, ReadsListsOfLabels) {
       {R"({\rtf1{\listtext (ii) }a\par{\listtext B)}b\par{\listtext 1.2.}c\par{\listtext X1Y}d\par})",
        "[roman2 (#)]a|[LETTER2 #)]b|[decimal2 1.#.]c|X1Yd"},
       {R"({\rtf1{\listtext 1.}a\cell b\cell\row c})", "a>b>|c"},
+      {R"({\rtf1{\listtext 1.}a\par{\listtext 1.}b\par{\listtext 2.}c\par{\listtext 1.}d})",
+       "[decimal1 #.]a|[decimal1' #.]b|[decimal1' #.]c|[decimal1 #.]d"},
   });
 }
 
