@@ -27,6 +27,11 @@ class AsideText {
     }
   }
 
+  // Whether such a text is made of words and not of what a page shows.
+  static bool IsWords(Destination destination) {
+    return destination == Destination::FieldInstruction || destination == Destination::ShapeName;
+  }
+
   void Begin() { text_.clear(); }
   std::u16string& Text() { return text_; }
   bool HasRoom() const { return text_.size() < Most; }

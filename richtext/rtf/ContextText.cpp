@@ -13,9 +13,12 @@ bool IsSign(std::int32_t number) {
 
 }  // namespace
 
+// What is told in words holds no signs, also where the font of the text around it does.
 const CodePage& Context::TextPage() const {
   const CodePage* page = fonts_.At(groups_.Top().character.font).page;
-  return page != nullptr ? *page : page_.Page();
+  if (page == nullptr) return page_.Page();
+  const bool misread = page->number == SymbolPage && AsideText::IsWords(groups_.Top().destination);
+  return misread ? page_.Page() : *page;
 }
 
 // Where text goes; nothing when it is passed over.

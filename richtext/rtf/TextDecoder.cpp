@@ -9,9 +9,11 @@ namespace richtext::rtf {
 namespace {
 
 // As in a code page: of the control characters only the blanks mean something; a picture's mark would stand
-// for a picture that is not there.
+// for a picture that is not there. No text holds the end of a paragraph: one that comes in it is a line
+// break.
 char16_t TextUnit(char16_t unit) {
   if (unit < 0x20) return WesternCodePage().units[unit];
+  if (unit == ParagraphSeparator) return LineBreak;
   return unit == PictureMark || IsNoncharacter(unit) ? Replacement : unit;
 }
 
@@ -57,7 +59,7 @@ char16_t* TextDecoder::PutUtf8Byte(unsigned char byte, const CodePage& page, cha
     leadByte_ = 0;
     std::u16string character;
     AppendCodePoint(code_, character);
-    for (const char16_t unit : character) *to++ = unit == LineBreak ? unit : TextUnit(unit);
+    for (const char16_t unit : character) *to++ = TextUnit(unit);
     return to;
   }
   if (std::exchange(leadByte_, 0) != 0) *to++ = Replacement;

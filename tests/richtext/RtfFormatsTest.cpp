@@ -151,6 +151,9 @@ TEST(RtfFormats, ReadsShapesObjectsAndFieldsThatAreSigns) {
       {R"({\rtf1{\field{\*\fldinst{symbol 0xF0B7 \\f Symbol}}}{\field{\*\fldinst SYMBOL 128}{\fldrslt{\b}}}})",
        "•€"},
       {R"({\rtf1{\field{\*\fldinst SYMBOL 74 \\f Wingdings}{\fldrslt x}}{\field{\*\fldinst SYMBOL}}})", "x"},
+      // Words that tell of something are words within a font of signs, too.
+      {R"({\rtf1{\fonttbl{\f1\fcharset2 Wingdings;}}\f1\'4a{\field{\*\fldinst SYMBOL 74 \\f Wingdings}}})",
+       "(Wingdings)\u263A\u263A"},
   });
 }
 

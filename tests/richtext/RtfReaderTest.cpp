@@ -51,6 +51,8 @@ TEST(RtfReader, ReadsBytesByTheirCodePage) {
       {R"({\rtf1{\fonttbl{\f0\fcharset136 A;}{\f1\fcharset130 B;}}\f0\'a4\'a4\'a4\f1\'b4\'e2})",
        "(A)中(B)억"},
       {"{\\rtf1\\ansicpg65001 \\'c3\\'a9\xE2\x82\xAC\xF0\x9F\x98\x80\\'c3x\\'80}", "é€😀\uFFFDx\uFFFD"},
+      // No text holds the end of a paragraph.
+      {"{\\rtf1\\ansicpg65001 a\\'e2\\'80\\'a9\xE2\x80\xA9\\u8233?c}", "a//|c"},
       {R"({\rtf1\ansi\ansicpg10007\'80\ansicpg852\'88})", "\u0410\u0142"},
       {R"({\rtf1\ansicpg10001\'82\'a8})", "お"},
   });
