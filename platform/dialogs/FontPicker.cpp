@@ -19,6 +19,7 @@ constexpr double LargestSize = 1638;  // points; what the pages' format can hold
 constexpr double SampleSize = 12;     // of a mixed text
 constexpr QSize Swatch{28, 14};       // pixels
 constexpr int SampleHeight = 84;
+constexpr QChar ArabicPoint = u'\u066B';
 
 // Without the maker, whom the toolkit adds in brackets where two make a font of one name: no other program
 // would find the font by that.
@@ -41,12 +42,29 @@ QStringList UsualSizes() {
   return sizes;
 }
 
+// In the digits of the list, whatever those of the desktop are; with its comma where it has one.
 QString SizeText(double size) {
   if (!(size > 0)) return {};
-  QLocale locale = QLocale::system();
-  locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  return locale.toString(size, 'f', QLocale::FloatingPointShortest);
+  QString text = QString::number(size, 'f', QLocale::FloatingPointShortest);
+  if (QLocale::system().decimalPoint() == u",") text.replace(u'.', u',');
+  return text;
 }
+
+// Takes the digits and points of every script, as its keyboards type them, and makes those of the list of
+// them.
+class SizeValidator : public QRegularExpressionValidator {
+ public:
+  explicit SizeValidator(QObject* parent)
+      : QRegularExpressionValidator(QRegularExpression(QStringLiteral("\\d{0,4}([.,]\\d?)?")), parent) {}
+
+  State validate(QString& input, int& place) const override {
+    for (QChar& sign : input) {
+      if (sign.isDigit()) sign = QChar(u'0' + sign.digitValue());
+      if (sign == ArabicPoint) sign = u'.';
+    }
+    return QRegularExpressionValidator::validate(input, place);
+  }
+};
 
 QLabel* LabelOf(const QString& caption, QWidget* buddy) {
   auto* label = new QLabel(caption);
@@ -81,8 +99,7 @@ void FontPicker::MakeChoices() {
   size = new ChoiceList(QStringLiteral("fontSize"), UsualSizes());
   size->edit->setAccessibleName(QStringLiteral("Size"));
   size->list->setAccessibleName(QStringLiteral("usual sizes"));
-  size->edit->setValidator(
-      new QRegularExpressionValidator(QRegularExpression(QStringLiteral("\\d{0,4}([.,]\\d?)?")), size));
+  size->edit->setValidator(new SizeValidator(size));
   size->setFixedWidth(std::max(90, 10 * fontMetrics().averageCharWidth()));
 }
 

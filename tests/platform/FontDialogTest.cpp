@@ -52,7 +52,9 @@ TEST_F(FontDialogTest, TypingLeadsTheListAndAnUnknownNameIsNotAccepted) {
     EXPECT_FALSE(picker.note->text().isEmpty());
     EXPECT_TRUE(picker.name->list->findItems(u"]"_qs, Qt::MatchEndsWith).isEmpty()) << "no makers of fonts";
     Type(picker.name, u"vu sans m"_qs);
-    Type(picker.size, u"10,5"_qs);
+    picker.size->edit->selectAll();
+    picker.size->edit->insert(u"\u06F1\u0660\u066B\u06F5"_qs);  // as a Persian keyboard types them
+    EXPECT_EQ(picker.size->edit->text(), u"10.5"_qs);
     QTest::mouseClick(picker.italic, Qt::LeftButton, {}, {8, picker.italic->height() / 2});
   });
   EXPECT_EQ(back, (FontValues{u"DejaVu Sans Mono"_qs, 10.5, false, true}));
