@@ -6,6 +6,7 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QTextCharFormat>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTableView>
@@ -96,6 +97,7 @@ void DateCalendar::OpenHeadToKeys() {
     button->setAccessibleName(QLatin1String(meaning));
     button->setFocusPolicy(Qt::TabFocus);
     button->installEventFilter(this);
+    if (button->menu()) button->menu()->setFont(font());  // a window of its own, which takes no other's font
     if (before) setTabOrder(before, button);
     before = button;
   }

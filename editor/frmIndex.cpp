@@ -73,7 +73,9 @@ bool frmIndex::eventFilter(QObject* watched, QEvent* event) {
   if (watched == TreeView1)
     return event->type() == QEvent::KeyPress && SelectsFirst(*static_cast<QKeyEvent*>(event));
   if (event->type() != QEvent::MouseButtonDblClick) return false;
-  const QTreeWidgetItem* under = TreeView1->itemAt(static_cast<QMouseEvent*>(event)->pos());
+  const auto& click = static_cast<const QMouseEvent&>(*event);
+  if (click.button() != Qt::LeftButton) return true;
+  const QTreeWidgetItem* under = TreeView1->itemAt(click.pos());
   if (under && !under->isSelected()) return false;  // on its arrow, which opens and selects nothing
   cmdGoDate_Click();
   return true;

@@ -72,7 +72,9 @@ TEST_F(PageIndexTest, PressedAgainAddsThePagesASecondTimeAndDropsWhatIsTyped) {
   const QRect other = tree().visualItemRect(tree().topLevelItem(0));
   const QPoint arrow(other.left() / 2, other.center().y());
   QTest::mouseDClick(tree().viewport(), Qt::LeftButton, {}, arrow);
-  ASSERT_TRUE(look::IsLoaded<frmIndex>()) << "two clicks on an arrow only open and close";
+  QTest::mouseDClick(tree().viewport(), Qt::RightButton, {},
+                     tree().visualItemRect(tree().currentItem()).center());
+  ASSERT_TRUE(look::IsLoaded<frmIndex>()) << "two clicks on an arrow, or of another button, lead nowhere";
   QTest::keyClick(&tree(), Qt::Key_Return);
   EXPECT_FALSE(look::IsLoaded<frmIndex>());
   EXPECT_EQ(Shown(), "day 38416Page 2: text");
@@ -108,6 +110,8 @@ TEST_F(PageIndexTest, TheCalendarDatesThePageWithoutMovingOrDirtyingIt) {
   Type("stored ");
   In<frmCal>("btnCal", [](frmCal& dialog) {
     EXPECT_EQ(dialog.Cal1->Value(), 40002);
+    for (const QWidget* part : dialog.Cal1->findChildren<QWidget*>())
+      EXPECT_EQ(part->font().family(), u"Verdana") << part->metaObject()->className();
     dialog.Cal1->setSelectedDate({1850, 5, 1});
     Click(dialog.cmdSetDate);
   });
