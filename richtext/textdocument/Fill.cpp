@@ -9,6 +9,7 @@
 #include <QtGui/QTextOption>
 
 #include "richtext/characters/Unicode.h"
+#include "richtext/document/Limits.h"
 #include "richtext/document/Twips.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/HiddenText.h"
@@ -154,6 +155,7 @@ void FillDocument(const Document& source, QTextDocument& target) {
 void FillPlain(const QString& text, const QTextCharFormat& format, QTextDocument& target) {
   target.setUndoRedoEnabled(false);
   target.clear();
+  SetTabDistance(DefaultTabDistance, target);
   QTextCursor cursor(&target);
   cursor.beginEditBlock();
   cursor.setBlockFormat(QTextBlockFormat());
