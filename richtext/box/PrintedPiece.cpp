@@ -1,6 +1,7 @@
 #include "richtext/box/PrintedPiece.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QtCore/QUrl>
 #include <QtGui/QAbstractTextDocumentLayout>
@@ -50,20 +51,23 @@ void PrintedPiece::CopyText(const QTextBlock& block, int to, QTextCursor& cursor
     const QTextFragment fragment = part.fragment();
     const int begin = std::max(from_, fragment.position());
     const int end = std::min(to, fragment.position() + fragment.length());
+    const bool beginsParagraph = begin == block.position();
     if (begin < end)
       cursor.insertText(fragment.text().mid(begin - fragment.position(), end - begin),
-                        Fitting(fragment.charFormat(), block.blockFormat()));
+                        Fitting(fragment.charFormat(), block.blockFormat(), beginsParagraph));
   }
 }
 
-// On the screen one scrolls to see the rest of a large picture. On paper it is made as small as need be.
-QTextCharFormat PrintedPiece::Fitting(const QTextCharFormat& format,
-                                      const QTextBlockFormat& paragraph) const {
+// On the screen one scrolls to see the rest of a large picture. On paper it is made as small as need be. One
+// that has other letters before it goes into a line of its own, without the first line's indent.
+QTextCharFormat PrintedPiece::Fitting(const QTextCharFormat& format, const QTextBlockFormat& paragraph,
+                                      bool beginsParagraph) const {
   if (!format.isImageFormat()) return format;
   QTextImageFormat image = format.toImageFormat();
-  const double room = std::max(1.0, sheet_.width() - paragraph.leftMargin() - paragraph.rightMargin());
-  const double share =
-      std::min({1.0, room / image.width(), TallestPicture * sheet_.height() / image.height()});
+  const double indent = beginsParagraph ? std::max(0.0, paragraph.textIndent()) : 0;
+  const double room = sheet_.width() - paragraph.leftMargin() - paragraph.rightMargin() - indent;
+  const double share = std::min({1.0, std::max(1.0, std::floor(room)) / image.width(),
+                                 TallestPicture * sheet_.height() / image.height()});
   image.setWidth(image.width() * share);
   image.setHeight(image.height() * share);
   return image;

@@ -42,7 +42,8 @@ class PrintedPiece : public QTextDocument {
  private:
   void Copy(int to);
   void CopyText(const QTextBlock& block, int to, QTextCursor& cursor) const;
-  QTextCharFormat Fitting(const QTextCharFormat& format, const QTextBlockFormat& paragraph) const;
+  QTextCharFormat Fitting(const QTextCharFormat& format, const QTextBlockFormat& paragraph,
+                          bool beginsParagraph) const;
 
   // A position in this document, as one in the source.
   int InSource(int position) const { return from_ + position; }

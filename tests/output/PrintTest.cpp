@@ -39,12 +39,15 @@ class RecordingEngine : public QPaintEngine {
     const QRectF place(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent());
     drawn.push_back({sheet, item.text(), dots_.map(at), dots_.mapRect(place), item.font(), pen_.color()});
   }
-  void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+  void drawPixmap(const QRectF& place, const QPixmap&, const QRectF&) override {
+    pictures.push_back(dots_.mapRect(place));
+  }
   void drawPath(const QPainterPath&) override {}
   void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
   Type type() const override { return User; }
 
   std::vector<Drawn> drawn;
+  std::vector<QRectF> pictures;
   std::size_t sheet = 0;
 
  private:
@@ -62,6 +65,7 @@ class Printed : public QPaintDevice {
   std::unique_ptr<richtext::Paper> Paper(bool whole = true) { return std::make_unique<Sheet>(*this, whole); }
 
   const std::vector<Drawn>& All() const { return engine_.drawn; }
+  const std::vector<QRectF>& Pictures() const { return engine_.pictures; }
   // The lines of each sheet as a person reads them, from left to right.
   Sheets Lines() const {
     std::map<std::pair<std::size_t, long>, std::multimap<double, std::string>> lines;
@@ -131,7 +135,8 @@ class Print : public fixture::OpenBook {
 };
 
 TEST_F(Print, PagesAreOnePlainTextInTheJournalsFont) {
-  Load(AddJournal({"title", "{\\fs80\\b\\i big}\\par two", "", "{\\v hidden}last\\line line"}));
+  Load(AddJournal(
+      {"title", "{\\fs80\\b\\i big}\\par two", "", "\\deftab2000{\\v hidden}last\\line\\tab line"}));
   GoNextPage();
   Printed printer;
   EXPECT_EQ(PrintOn(printer, PrintChoice::All),
@@ -142,6 +147,7 @@ TEST_F(Print, PagesAreOnePlainTextInTheJournalsFont) {
     EXPECT_FALSE(drawn.font.bold() || drawn.font.italic());
     EXPECT_EQ(drawn.color, QColor(Qt::black));
   }
+  EXPECT_NEAR(printer.All().back().at.x(), 150, 1) << "the tab stop of plain text";
   // The empty page has a line of its own between two dates.
   const double pitch = printer.All()[1].at.y() - printer.All()[0].at.y();
   EXPECT_NEAR(printer.All()[5].at.y() - printer.All()[4].at.y(), 2 * pitch, 1);
@@ -192,6 +198,23 @@ TEST_F(Print, ASelectionKeepsItsFormats) {
   EXPECT_EQ(printer.All()[1].font.pointSizeF(), 10);
   EXPECT_EQ(printer.All()[2].font.pointSizeF(), 30);
   EXPECT_TRUE(printer.All()[2].font.bold());
+}
+
+// In the first line of an indented paragraph, in that of a hanging one behind its tab, and in a later line.
+TEST_F(Print, NoPictureIsCutOff) {
+  folder.WritePicture("a.png");
+  const std::string bytes = QByteArray::fromStdString(folder.Read("a.png")).toHex().toStdString();
+  const std::string wide = "{\\pict\\pngblip\\picwgoal30000\\pichgoal900 " + bytes + "}";
+  Load(AddJournal({"\\fi2000 " + wide + "\\par\\li900\\ri700\\fi-900 " + wide + "\\par\\fi1000 a\\tab " +
+                   wide + "\\par\\fi-900 1.\\tab " + wide}));
+  text().selectAll();
+  Printed printer;
+  PrintOn(printer, PrintChoice::Selection);
+  EXPECT_EQ(printer.Pictures().size(), 4U);
+  for (const QRectF& place : printer.Pictures()) {
+    EXPECT_GE(place.left(), 0);
+    EXPECT_LE(place.right(), printer.width());
+  }
 }
 
 TEST_F(Print, WhatCannotBePrintedIsTold) {
