@@ -14,9 +14,11 @@
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
 #include "lock/frmPassChange.h"
+#include "output/PrintDialog.h"
 #include "output/frmExport.h"
 #include "pictures/frmAddPicture.h"
-#include "platform/dialogs/FontPicker.h"
+#include "platform/dialogs/ColorDialog.h"
+#include "platform/dialogs/FontDialog.h"
 #include "store/NewJournals.h"
 #include "tests/support/Windows.h"
 
@@ -68,8 +70,24 @@ TEST_F(Names, EveryControlOfEveryWindowAndEveryEntryHasOne) {
                 frmPassChange, frmJournal, frmIndex, frmCal, frmEmoticons, frmAddPicture, frmExport>();
   HelpWindow help(u"<h2><a name=\"a\">A chapter</a></h2>"_qs);
   ExpectNames(help);
-  platform::FontPicker font({}, nullptr);
-  ExpectNames(font);
+}
+
+// Which block until they are answered: hiding them ends them.
+TEST_F(Names, EveryControlOfTheDialogsHasOne) {
+  platform::SetMessageAnswerer({});
+  platform::SetOpenFileChooser({});
+  const std::function<void()> dialogs[] = {
+      [] {
+        platform::ShowMessage({"Really?", platform::Buttons::YesNo, platform::BoxIcon::Stop});
+      },
+      [] {
+        platform::AskForFile({"Open", platform::FiltersFrom("All Files|*.*")});
+      },
+      [] { platform::AskForColor({}); }, [] { platform::AskForFont({}); }, [] { ShowPrintDialog({}); }};
+  for (const auto& ask : dialogs) {
+    QTimer::singleShot(0, [] { ExpectNames(*QApplication::activeModalWidget()); });
+    ask();
+  }
 }
 
 }  // namespace

@@ -256,21 +256,25 @@ void Person::Settle() {
   Do([] {});
 }
 
+QString Person::NextPicture(const char* name) {
+  return u"%1/%2-%3.png"_qs.arg(album_).arg(number_++, 2, 10, QLatin1Char('0')).arg(QLatin1String(name));
+}
+
 void Person::Shot(const char* name) {
-  Save(u"%1-%2"_qs.arg(number_++, 2, 10, QLatin1Char('0')).arg(QLatin1String(name)),
-       [] { return QApplication::primaryScreen()->geometry(); });
+  Save(NextPicture(name), [] { return QApplication::primaryScreen()->geometry(); });
 }
 
 void Person::Portrait(const char* name) {
-  Save(QLatin1String(name), [] { return QApplication::activeWindow()->frameGeometry(); });
+  Save(u"%1/%2.png"_qs.arg(album_, QLatin1String(name)),
+       [] { return QApplication::activeWindow()->frameGeometry(); });
 }
 
-void Person::Save(const QString& name, const std::function<QRect()>& place) {
+void Person::Save(const QString& path, const std::function<QRect()>& place) {
   Settle();
   Do([&] {
     const QRect part = place();
     const QPixmap picture =
         QApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height());
-    picture.save(u"%1/%2.png"_qs.arg(album_, name));
+    picture.save(path);
   });
 }

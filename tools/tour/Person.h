@@ -43,6 +43,8 @@ class Person {
   // Presses keys that type nothing, by their keysyms of X.
   void Press(std::initializer_list<unsigned> keysyms);
   void Shot(const char* name);
+  // The path of the album's next picture, for one that comes from elsewhere.
+  QString NextPicture(const char* name);
   // The active window alone, with its frame, as `name`.png.
   void Portrait(const char* name);
 
@@ -61,7 +63,7 @@ class Person {
   void Fake(unsigned char type, unsigned char detail, QPoint place = {});
   void ClickAt(QPoint place, int times);
   void Settle();
-  void Save(const QString& name, const std::function<QRect()>& place);
+  void Save(const QString& path, const std::function<QRect()>& place);
 
   QString album_;
   int number_;

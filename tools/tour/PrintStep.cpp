@@ -2,6 +2,7 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
+#include <QtGui/QImage>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
@@ -29,11 +30,26 @@ void ChooseThePdfFile(Person& person, const QString& path) {
   person.Type(path);
 }
 
-QString TextOnPaper(const QString& pdf) {
+QByteArray Run(const QString& program, const QStringList& arguments) {
   QProcess process;
-  process.start(u"pdftotext"_qs, {pdf, u"-"_qs});
+  process.start(program, arguments);
   process.waitForFinished();
-  return QString::fromUtf8(process.readAllStandardOutput()).simplified();
+  return process.readAllStandardOutput();
+}
+
+QString TextOnPaper(const QString& pdf) {
+  return QString::fromUtf8(Run(u"pdftotext"_qs, {pdf, u"-"_qs})).simplified();
+}
+
+// Where there is ink on the first sheet, in points from its top left corner; draws it into the album.
+QRect InkOnPaper(const QString& pdf, const QString& picture) {
+  Run(u"pdftoppm"_qs, {u"-png"_qs, u"-r"_qs, u"72"_qs, u"-singlefile"_qs, pdf, picture.chopped(4)});
+  const QImage sheet(picture);
+  QRect ink;
+  for (int y = 0; y < sheet.height(); ++y)
+    for (int x = 0; x < sheet.width(); ++x)
+      if (qGray(sheet.pixel(x, y)) < 128) ink |= QRect(x, y, 1, 1);
+  return ink;
 }
 
 }  // namespace
@@ -54,5 +70,9 @@ void PrintAPage(Person& person) {
   person.Expect(u"the page's date and text on the paper"_qs, [paper = TextOnPaper(pdf)] {
     const QString page = platform::LongDate(Pages.at(1).PageDate) + u' ' + Book().face->txtM->Text();
     return paper == page.simplified();
+  });
+  const QRect ink = InkOnPaper(pdf, person.NextPicture("on-paper"));
+  person.Expect(u"three or four lines of letters at the top of the sheet"_qs, [ink] {
+    return ink.left() > 0 && ink.top() > 0 && ink.width() > 150 && ink.height() > 30 && ink.bottom() < 200;
   });
 }

@@ -7,7 +7,6 @@
 #include "bookcase/frmBookcase.h"
 #include "editor/PageFace.h"
 #include "editor/frmJournal.h"
-#include "output/frmExport.h"
 #include "platform/files/Files.h"
 #include "platform/files/InputFile.h"
 #include "platform/files/ReplaceFile.h"
@@ -26,8 +25,6 @@ void ExpectPage(Person& person, const QString& number, const QString& text) {
 }
 
 namespace {
-
-const QString FirstPage = u"It rained. We stayed in & read,\ncaf\u00E9, 5 \u20AC, \u0414\u0430."_qs;
 
 void Unlock(Person& person, const QString& password) {
   person.SeeWindow("frmPass");
@@ -84,19 +81,6 @@ void ReadItAgain(Person& person) {
   });
   person.Shot("as-it-was-left");
   person.Close("frmBookcase");
-}
-
-// The windows take no order before the last page has been written.
-void ExportTheDiary(Person& person) {
-  person.Open("cmdExport", "frmExport");
-  person.Click(u"chkShowPageNumbers"_qs);
-  person.Click(u"cmdExport"_qs);
-  person.Expect(u"the end of the export, and its file"_qs, [] {
-    return look::The<frmExport>().cmdViewWebPage->isVisible() &&
-           platform::FileExists(platform::PathOf("export/My Diary.html"));
-  });
-  person.Shot("exported");
-  person.Escape("frmBookcase");
 }
 
 void WriteInJournal(Person& person, int row, const QString& text) {

@@ -9,6 +9,9 @@ class frmJournal;
 inline const QString Rosebud = QStringLiteral("Rosebud7");
 inline const QString Thorn = QStringLiteral("Thorn 9");
 
+// What the person writes on the first page of that diary.
+inline const QString FirstPage = u"It rained. We stayed in & read,\ncaf\u00E9, 5 \u20AC, \u0414\u0430."_qs;
+
 frmJournal& Book();
 // The page's number on the head strip and its text.
 void ExpectPage(Person& person, const QString& number, const QString& text);
@@ -17,6 +20,8 @@ void ExpectPage(Person& person, const QString& number, const QString& text);
 // sitting they lie where they lay, and one is removed.
 void LayPictures(Person& person);
 void FindPicturesAgain(Person& person);
+// From and to the bookcase: exports that diary as one page, and reads it in a browser.
+void ExportTheDiary(Person& person);
 // From and to the journal: prints its page 1 to a PDF file.
 void PrintAPage(Person& person);
 
