@@ -1,12 +1,16 @@
 # One static library a room, made of the sources that lie in the room's folder; richtext/rtf makes richtext_rtf.
 
-# What every room is compiled with; thornquill_options adds the toolkit.
-add_library(thornquill_standard INTERFACE)
-target_compile_options(thornquill_standard INTERFACE -Wall -Wextra -Wshadow -Wnon-virtual-dtor
+# What everything is compiled with that is ours.
+add_library(thornquill_warnings INTERFACE)
+target_compile_options(thornquill_warnings INTERFACE -Wall -Wextra -Wshadow -Wnon-virtual-dtor
                                                      -Woverloaded-virtual -Wconversion -Wsign-conversion)
 if(THORNQUILL_WARNINGS_AS_ERRORS)
-  target_compile_options(thornquill_standard INTERFACE -Werror)
+  target_compile_options(thornquill_warnings INTERFACE -Werror)
 endif()
+
+# And every room; thornquill_options adds the toolkit.
+add_library(thornquill_standard INTERFACE)
+target_link_libraries(thornquill_standard INTERFACE thornquill_warnings)
 if(THORNQUILL_SANITIZE)
   set(sanitizers ${THORNQUILL_SANITIZE})
   if(sanitizers STREQUAL ON)
