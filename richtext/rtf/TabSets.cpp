@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <numeric>
 
 #include "richtext/document/Limits.h"
 
@@ -10,34 +11,49 @@ namespace {
 
 // Room for the tab stops of each format that a document can hold, one by one.
 constexpr std::size_t MaxSets = MaxFormats * MaxTabStops;
+constexpr std::uint32_t MaxLength = 2 * MaxTabStops;
 
 std::uint64_t KeyOf(std::uint32_t set, const TabStop& stop) {
   const auto place = static_cast<std::uint64_t>(std::int64_t{stop.position} + MaxIndent);
   return (std::uint64_t{set} << 32) | (place << 8) | static_cast<std::uint64_t>(stop.kind);
 }
 
-bool IsBefore(const TabStop& one, const TabStop& other) {
-  return one.position < other.position;
-}
-
 }  // namespace
 
 std::uint32_t TabSets::Add(std::uint32_t set, TabStop stop) {
   stop.position = FittingIndent(stop.position);
+  if (LengthOf(set) == MaxLength) {
+    if (MaxSets - sets_.size() < MaxTabStops) return set;
+    const std::vector<TabStop> kept = Kept(set);
+    set = std::accumulate(kept.rbegin(), kept.rend(), std::uint32_t{0},
+                          [this](std::uint32_t made, const TabStop& told) { return Append(made, told); });
+  }
+  return Append(set, stop);
+}
+
+std::uint32_t TabSets::Append(std::uint32_t set, const TabStop& stop) {
   const std::uint64_t key = KeyOf(set, stop);
   if (const auto known = numbers_.find(key); known != numbers_.end()) return known->second;
   if (sets_.size() == MaxSets) return set;
-  sets_.push_back({stop, set});
+  sets_.push_back({stop, set, LengthOf(set) + 1});
   return numbers_[key] = static_cast<std::uint32_t>(sets_.size());
 }
 
-std::vector<TabStop> TabSets::StopsOf(std::uint32_t set) const {
-  std::vector<TabStop> stops;
-  for (; set != 0 && stops.size() < MaxTabStops; set = sets_[set - 1].rest) {
-    const TabStop& last = sets_[set - 1].last;
-    const auto at = std::lower_bound(stops.begin(), stops.end(), last, IsBefore);
-    if (at == stops.end() || at->position != last.position) stops.insert(at, last);
+// Those told last first.
+std::vector<TabStop> TabSets::Kept(std::uint32_t set) const {
+  std::vector<TabStop> kept;
+  for (; set != 0 && kept.size() < MaxTabStops; set = sets_[set - 1].rest) {
+    const TabStop& stop = sets_[set - 1].last;
+    const auto isThere = [&](const TabStop& later) { return later.position == stop.position; };
+    if (std::none_of(kept.begin(), kept.end(), isThere)) kept.push_back(stop);
   }
+  return kept;
+}
+
+std::vector<TabStop> TabSets::StopsOf(std::uint32_t set) const {
+  std::vector<TabStop> stops = Kept(set);
+  std::sort(stops.begin(), stops.end(),
+            [](const TabStop& one, const TabStop& other) { return one.position < other.position; });
   return stops;
 }
 

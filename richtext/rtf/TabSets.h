@@ -11,7 +11,8 @@
 namespace richtext::rtf {
 
 // Each set is one stop more than a set before it; 0 is the set of none. So what groups share they share here,
-// and the same words give the same number again.
+// and the same words give the same number again. A set of twice as many stops as are kept is told anew, as
+// those that are: so nobody walks further than that, however often stops are told.
 class TabSets {
  public:
   // The number of a set with one stop more; `set` itself where there is no room for another one.
@@ -23,8 +24,12 @@ class TabSets {
  private:
   struct Set {
     TabStop last;
-    std::uint32_t rest;  // the set without it
+    std::uint32_t rest;    // the set without it
+    std::uint32_t length;  // the stops in it, also those that others outrank
   };
+  std::uint32_t LengthOf(std::uint32_t set) const { return set == 0 ? 0 : sets_[set - 1].length; }
+  std::uint32_t Append(std::uint32_t set, const TabStop& stop);
+  std::vector<TabStop> Kept(std::uint32_t set) const;
 
   std::vector<Set> sets_;                                     // number 1 is the first
   std::unordered_map<std::uint64_t, std::uint32_t> numbers_;  // by what makes a set, in few bits

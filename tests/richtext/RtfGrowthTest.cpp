@@ -28,6 +28,7 @@ TEST(RtfGrowth, TakesTimeByTheInputsLengthOnly) {
       sizes,
       "{\\rtf1{\\fonttbl{\\f0 " + Repeated("N", 10 * many) + ";}}\\f0 x",
       "{\\rtf1" + Repeated("{\\pict\\pngblip 00", many),
+      "{\\rtf1" + Repeated("\\tx5\\tx99\\par", many / 5),
       "{\\rtf1\\ansicpg932 " + Repeated("\x8C\x01", many),
       Repeated("\x01", 10 * many),
   };
