@@ -9,13 +9,11 @@
 
 #include "richtext/textdocument/PageHeight.h"
 #include "richtext/textdocument/Pictures.h"
-#include "richtext/textdocument/TextDocument.h"
 
 namespace richtext {
 namespace {
 
-constexpr double TallestPiece = 5'000'000;  // well below what the toolkit can lay out
-constexpr double TallestPicture = 0.95;     // of the sheet: letters may hang below it in its line
+constexpr double TallestPicture = 0.95;  // of the sheet: letters may hang below it in its line
 
 }  // namespace
 
@@ -74,7 +72,7 @@ QTextCharFormat PrintedPiece::Fitting(const QTextCharFormat& format, const QText
 }
 
 bool PrintedPiece::CanBeLaidOut() const {
-  return EstimatedHeight(TakeDocument(*this)) < TallestPiece;
+  return HeightBound(*this, sheet_.width()).OfAll() < TallestPage;
 }
 
 void PrintedPiece::LayOut() {

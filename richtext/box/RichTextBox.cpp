@@ -4,6 +4,7 @@
 #include <memory>
 
 #include <QtCore/QScopedValueRollback>
+#include <QtCore/QTimer>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
@@ -13,12 +14,14 @@
 
 #include "richtext/box/Pasting.h"
 #include "richtext/box/Printing.h"
+#include "richtext/box/RestNote.h"
 #include "richtext/rtf/Reader.h"
 #include "richtext/rtf/Writer.h"
 #include "richtext/textdocument/DocumentCopy.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Labels.h"
+#include "richtext/textdocument/PageHeight.h"
 #include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/TextDocument.h"
@@ -41,13 +44,17 @@ bool IsCommandOfOthers(const QKeyEvent& event) {
 }  // namespace
 
 RichTextBox::RichTextBox(QWidget* parent)
-    : QTextEdit(parent), copy_(std::make_unique<DocumentCopy>(*document())) {
+    : QTextEdit(parent),
+      copy_(std::make_unique<DocumentCopy>(*document())),
+      guard_(std::make_unique<HeightGuard>(*document())),
+      rest_(new RestNote(this)) {
   setAcceptRichText(true);
   setTabChangesFocus(false);
   document()->setDocumentMargin(DocumentMargin);
   connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::NoteEdit);
   connect(document(), &QTextDocument::contentsChange, this,
           [this](int at, int removed, int added) { copy_->NoteChange(at, removed, added); });
+  connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::GuardHeight);
   connect(document(), &QTextDocument::contentsChanged, this, &RichTextBox::TellEdits);
   connect(this, &QTextEdit::cursorPositionChanged, this, [this] { caret_.LeaveLink(); });
   SetBackColor(White);
@@ -118,6 +125,28 @@ void RichTextBox::SetText(const QString& text) {
   Q_EMIT Change();
 }
 
+void RichTextBox::GuardHeight(int at, int removed, int added) {
+  guard_->NoteChange(at, removed, added);
+  TellOfRest();
+}
+
+// The note takes its place when an edit is over, since that lays the page out.
+void RichTextBox::TellOfRest() {
+  if (guard_->Hides() == rest_->IsShown()) return;
+  QTimer::singleShot(0, this, [this] {
+    rest_->Show(guard_->Hides());
+    setViewportMargins(0, 0, 0, rest_->HeightFor(viewport()->width()));
+    rest_->PlaceBelow(*viewport());
+  });
+}
+
+void RichTextBox::resizeEvent(QResizeEvent* event) {
+  guard_->SetWidth(viewport()->width());
+  QTextEdit::resizeEvent(event);
+  TellOfRest();
+  rest_->PlaceBelow(*viewport());
+}
+
 // Paper and ink are the journal's and not the desktop's: on a dark desktop the page stays what it is.
 void RichTextBox::SetBackColor(std::uint32_t color) {
   backColor_ = color & White;
@@ -179,7 +208,7 @@ void RichTextBox::PasteWithoutFormatting() {
 // In the format that letters typed here have.
 void RichTextBox::InsertText(const QMimeData& source) {
   QTextCursor cursor = textCursor();
-  cursor.insertText(OfferedText(source), caret_.OfLetters());
+  InsertPlain(OfferedText(source), caret_.OfLetters(), cursor);
 }
 
 void RichTextBox::keyPressEvent(QKeyEvent* event) {

@@ -27,7 +27,9 @@ class QMenu;
 namespace richtext {
 
 class DocumentCopy;
+class HeightGuard;
 class Paper;
+class RestNote;
 struct ComposedWord;
 
 class RichTextBox : public QTextEdit {
@@ -49,8 +51,9 @@ class RichTextBox : public QTextEdit {
   // left to do.
   bool CopyUntil(const QDeadlineTimer& until);
 
-  // Replaces the content and forgets the undo history. An empty string empties the box. Text that is no RTF
-  // shows as plain text. The caret goes to the start. Change is raised, once, whatever stood there before.
+  // Replaces the content and forgets the undo history. What the toolkit cannot lay out stays hidden, and a
+  // note tells so; it is content as any other. An empty string empties the box. Text that is no RTF shows as
+  // plain text. The caret goes to the start. Change is raised, once, whatever stood there before.
   void SetTextRTF(std::string_view rtf);
 
   // The content as plain text: paragraphs and line breaks are '\n', a picture is U+FFFC. Hidden text and the
@@ -125,10 +128,13 @@ class RichTextBox : public QTextEdit {
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void NoteEdit();
   void TellEdits();
+  void GuardHeight(int at, int removed, int added);
+  void TellOfRest();
   void Fill(std::string_view rtf);
   void SetAttribute(const QTextCharFormat& attribute);
   int PlaceOf(int position) const;
@@ -149,6 +155,8 @@ class RichTextBox : public QTextEdit {
   bool IsLateCommit(const QInputMethodEvent& event);
 
   std::unique_ptr<DocumentCopy> copy_;
+  std::unique_ptr<HeightGuard> guard_;
+  RestNote* const rest_;
   CaretFormat caret_{*this};
   std::uint32_t backColor_ = 0xffffff;
   bool quiet_ = false;     // what happens to the document now is no edit

@@ -6,7 +6,6 @@
 #include "richtext/box/RichTextBox.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/HiddenText.h"
-#include "richtext/textdocument/TextDocument.h"
 
 namespace richtext {
 namespace {
@@ -105,11 +104,7 @@ void RichTextBox::SetSelFontSize(double points) {
   if (!(points > 0)) return;
   QTextCharFormat attribute;
   SetFontSize(attribute, points);
-  QTextCursor step = textCursor();
-  step.beginEditBlock();
   SetAttribute(attribute);
-  if (step.hasSelection()) HideWhatIsTooFar(*document());
-  step.endEditBlock();
 }
 
 void RichTextBox::SetSelBold(bool on) {

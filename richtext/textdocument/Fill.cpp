@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <climits>
 #include <iterator>
 #include <string_view>
 
@@ -36,15 +35,22 @@ char16_t WithinParagraph(char16_t unit) {
   }
 }
 
+// In pixels; of a document that nobody has laid out yet, that of a narrow window.
+double PageWidth(const QTextDocument& document) {
+  const double width = document.pageSize().width();
+  return width > 0 ? width : 400;
+}
+
 // Writes a page at a cursor. The toolkit's formats are made once for each format of the page.
 class Filler {
  public:
   Filler(const Document& source, QTextCursor& cursor) : source_(source), cursor_(cursor), text_(source.text) {
+    const double width = PageWidth(*cursor.document());
     std::transform(text_.begin(), text_.end(), text_.begin(), WithinParagraph);
     std::transform(source.formats.begin(), source.formats.end(), std::back_inserter(formats_), ToTextFormat);
     std::transform(source.formats.begin(), source.formats.end(), std::back_inserter(marks_), ToMarkFormat);
-    std::transform(source.paragraphFormats.begin(), source.paragraphFormats.end(),
-                   std::back_inserter(blockFormats_), ToBlockFormat);
+    for (const ParagraphFormat& format : source.paragraphFormats)
+      blockFormats_.push_back(ToBlockFormat(format, width));
   }
 
   // The rest of a paragraph that is parted stays as it was.
@@ -124,11 +130,16 @@ class Filler {
   std::size_t picture_ = 0;
 };
 
-// What has been hidden comes to light when the page is filled in again.
-void HideFrom(const QTextDocument& document, std::size_t count) {
-  const auto first = static_cast<int>(std::min<std::size_t>(count, INT_MAX));
-  for (QTextBlock block = document.findBlockByNumber(first); block.isValid(); block = block.next())
-    block.setVisible(false);
+// A paragraph that alone is too high gets lower lines, so that it is shown. Few letters make none.
+void Squeeze(QTextDocument& document, int from, int to) {
+  constexpr int Few = 500;
+  HeightBound bound(document, PageWidth(document));
+  for (QTextBlock block = document.findBlock(from); block.isValid() && block.position() <= to;
+       block = block.next()) {
+    if (block.length() < Few || bound.Of(block) <= TallestParagraph) continue;
+    QTextCursor(block).setBlockFormat(
+        WithLineHeight(block.blockFormat(), TallestParagraph / bound.Lines(block)));
+  }
 }
 
 void SetTabDistance(std::int32_t twips, QTextDocument& target) {
@@ -147,7 +158,7 @@ void FillDocument(const Document& source, QTextDocument& target) {
   QTextCursor cursor(&target);
   cursor.beginEditBlock();
   Filler(source, cursor).Fill();
-  HideFrom(target, ParagraphsToShow(source));
+  Squeeze(target, 0, target.characterCount());
   cursor.endEditBlock();
   target.setUndoRedoEnabled(true);
 }
@@ -161,7 +172,7 @@ void FillPlain(const QString& text, const QTextCharFormat& format, QTextDocument
   cursor.setBlockFormat(QTextBlockFormat());
   cursor.setBlockCharFormat(format);
   cursor.insertText(text, format);
-  HideWhatIsTooFar(target);
+  Squeeze(target, 0, target.characterCount());
   cursor.endEditBlock();
   target.setUndoRedoEnabled(true);
 }
@@ -169,13 +180,18 @@ void FillPlain(const QString& text, const QTextCharFormat& format, QTextDocument
 void InsertDocument(const Document& source, QTextCursor& cursor) {
   cursor.beginEditBlock();
   cursor.removeSelectedText();
+  const int from = cursor.position();
   Filler(source, cursor).Fill();
-  HideWhatIsTooFar(*cursor.document());
+  Squeeze(*cursor.document(), from, cursor.position());
   cursor.endEditBlock();
 }
 
-void HideWhatIsTooFar(const QTextDocument& document) {
-  HideFrom(document, ParagraphsToShow(TakeDocument(document)));
+void InsertPlain(const QString& text, const QTextCharFormat& format, QTextCursor& cursor) {
+  cursor.beginEditBlock();
+  const int from = cursor.selectionStart();
+  cursor.insertText(text, format);
+  Squeeze(*cursor.document(), from, cursor.position());
+  cursor.endEditBlock();
 }
 
 }  // namespace richtext

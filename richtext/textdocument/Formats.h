@@ -18,9 +18,12 @@ enum BoxProperty : int {
   PictureTwipsWide,                              // int, as the document told them
   PictureTwipsHigh,
   LineSpacingOfDocument,  // int
-  LeftIndentOfDocument,   // int, twips; of an item of a list, which is shown with room for its label
+  LeftIndentOfDocument,   // int, twips, as the others: what is shown otherwise, see Paragraphs.h
   RightIndentOfDocument,
   FirstIndentOfDocument,
+  SpaceBeforeOfDocument,
+  SpaceAfterOfDocument,
+  LineRuleOfDocument,  // int, a LineSpacingRule
   ListKindOfDocument,  // int, a ListKind
   ListStartOfDocument,
   ListLevelOfDocument,

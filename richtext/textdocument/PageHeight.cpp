@@ -3,101 +3,208 @@
 #include <algorithm>
 #include <string_view>
 
+#include <QtGui/QFontMetricsF>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextDocument>
+
 #include "richtext/characters/Unicode.h"
-#include "richtext/document/Twips.h"
+#include "richtext/textdocument/Formats.h"
 
 namespace richtext {
 namespace {
 
-// All in pixels, 96 to the inch.
-constexpr double TallestPage = 5'000'000;
-constexpr double TextWidth = 400;         // a narrow window
-constexpr double PerHalfPoint = 2 / 3.0;  // a letter's body
-constexpr double LetterWidth = 0.6;       // of its body
-constexpr double LineHeight = 1.3;        // of the tallest body in it
-constexpr double LargestPicture = 20'000;
-constexpr double PictureOfNoSize = 2'000;
+constexpr double NarrowestRoom = 4;  // pixels; a line holds one letter at least, however narrow it is
+constexpr double NarrowestPage = 20;
+constexpr double ScrollBar = 20;
+constexpr double TypedBetweenCounts = 300'000;
 
-class Estimate {
- public:
-  explicit Estimate(const Document& page) : page_(page) {}
+// Of a letter's body.
+constexpr double WidthOfBlank = 0.5;
+constexpr double WidthOfMost = 0.9;
+constexpr double WidthOfWide = 1.3;
+constexpr double WidthOfForeign = 3;
+constexpr double WidthOfPhrase = 20;  // a sentence that is one letter
+constexpr double LineOfMost = 1.5;
+constexpr double LineOfForeign = 4;
+constexpr double LeastLine = 3;  // pixels more
 
-  std::size_t Paragraphs() {
-    double height = 0;
-    std::size_t fit = 0;
-    for (const Paragraph& paragraph : page_.paragraphs) {
-      height += HeightOf(paragraph);
-      if (height > TallestPage) break;
-      ++fit;
-    }
-    return fit;
+// Latin, Greek and Cyrillic letters, marks of punctuation, and those of East Asia, which fill a square.
+bool IsFamiliar(char16_t unit) {
+  return unit < 0x530 || (unit >= 0x2000 && unit < 0x2070) || (unit >= 0x2E80 && unit < 0xA000) ||
+         (unit >= 0xAC00 && unit < 0xD7B0) || (unit >= 0xFF00 && unit < 0xFFF0);
+}
+
+double WidthOf(char16_t unit) {
+  constexpr std::u16string_view Wide = u"%&@MWmw";
+  if (unit == u' ') return WidthOfBlank;
+  if (unit < 0x80) return Wide.find(unit) == Wide.npos ? WidthOfMost : WidthOfWide;
+  if (IsFamiliar(unit)) return WidthOfWide;
+  return unit >= 0xFDF0 && unit < 0xFE00 ? WidthOfPhrase : WidthOfForeign;
+}
+
+double PixelsPerPoint() {
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  return (screen ? screen->logicalDotsPerInchY() : 96) / 72;
+}
+
+// The widest distance to the next tab stop.
+double TabWidth(const QTextBlockFormat& format, double distance, double room) {
+  return format.tabPositions().isEmpty() ? std::min(distance, room) : room;
+}
+
+// What becomes of natural lines of this height, and of pictures in them.
+double InLines(const QTextBlockFormat& format, double lines, double line, double pictures) {
+  const double natural = lines * line + pictures;
+  switch (format.lineHeightType()) {
+    case QTextBlockFormat::ProportionalHeight:
+      return natural * format.lineHeight() / 100;
+    case QTextBlockFormat::FixedHeight:
+      return lines * format.lineHeight();
+    case QTextBlockFormat::MinimumHeight:
+      return natural + lines * format.lineHeight();
+    default:
+      return natural;
   }
-
-  double Height() {
-    double height = 0;
-    for (const Paragraph& paragraph : page_.paragraphs) height += HeightOf(paragraph);
-    return height;
-  }
-
- private:
-  double HeightOf(const Paragraph& paragraph) {
-    width_ = pictures_ = breaks_ = 0;
-    body_ = BodyOf(paragraph.markFormat);
-    for (const std::size_t end = at_ + paragraph.length; at_ < end; at_ += page_.runs[run_++].length)
-      AddRun(page_.runs[run_]);
-    const ParagraphFormat& format = page_.paragraphFormats[paragraph.format];
-    // A line holds one letter at least, however narrow the window.
-    const double lines = 1 + breaks_ + width_ / std::max(TextWidth, body_ * LetterWidth);
-    return (format.spaceBefore + format.spaceAfter) / TwipsPerPixel + pictures_ +
-           lines * LineHeightOf(format);
-  }
-
-  void AddRun(const Run& run) {
-    const double body = BodyOf(run.format);
-    const std::u16string_view text = std::u16string_view(page_.text).substr(at_, run.length);
-    body_ = std::max(body_, body);
-    width_ += body * LetterWidth * static_cast<double>(run.length);
-    breaks_ += static_cast<double>(std::count(text.begin(), text.end(), LineBreak));
-    for (auto rest = std::count(text.begin(), text.end(), PictureMark); rest > 0; --rest) AddPicture();
-  }
-
-  // Each may stand in a line of its own.
-  void AddPicture() {
-    if (picture_ == page_.pictures.size()) return;
-    const Picture& picture = page_.pictures[picture_++];
-    const double height = picture.heightTwips / TwipsPerPixel;
-    pictures_ += height > 0 ? std::min(height, LargestPicture) : PictureOfNoSize;
-  }
-
-  double BodyOf(std::uint32_t format) const { return page_.formats[format].halfPoints * PerHalfPoint; }
-
-  double LineHeightOf(const ParagraphFormat& format) const {
-    const double natural = body_ * LineHeight;
-    if (format.lineSpacingRule == LineSpacingRule::Single) return natural;
-    if (format.lineSpacingRule == LineSpacingRule::Multiple)
-      return natural * std::max(1.0, format.lineSpacing / 240.0);
-    return std::max(natural, format.lineSpacing / TwipsPerPixel);
-  }
-
-  const Document& page_;
-  std::size_t at_ = 0;
-  std::size_t run_ = 0;
-  std::size_t picture_ = 0;
-  // Of the paragraph in hand.
-  double body_ = 0;
-  double width_ = 0;
-  double breaks_ = 0;
-  double pictures_ = 0;
-};
+}
 
 }  // namespace
 
-std::size_t ParagraphsToShow(const Document& page) {
-  return Estimate(page).Paragraphs();
+double HeightBound::Of(const QTextBlock& block, int from, int to) {
+  Measure(block, from, to);
+  const QTextBlockFormat format = block.blockFormat();
+  return format.topMargin() + format.bottomMargin() + InLines(format, lines_, line_, pictures_);
 }
 
-double EstimatedHeight(const Document& page) {
-  return Estimate(page).Height();
+double HeightBound::Lines(const QTextBlock& block) {
+  Measure(block, 0, INT_MAX);
+  return lines_;
+}
+
+double HeightBound::OfAll() {
+  double height = 0;
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) height += Of(block);
+  return height;
+}
+
+void HeightBound::Measure(const QTextBlock& block, int from, int to) {
+  const QTextBlockFormat format = block.blockFormat();
+  const double margins = 2 * document_.documentMargin() + format.leftMargin() + format.rightMargin();
+  room_ = std::max(width_ - margins, NarrowestRoom);
+  tab_ = TabWidth(format, document_.defaultTextOption().tabStopDistance(), room_);
+  lines_ = 2;  // the first may be indented
+  word_ = pictures_ = 0;
+  line_ = LettersOf(block).body * LineOfMost + LeastLine;
+  const QString text = block.text();
+  int at = 0;
+  for (auto it = block.begin(); !it.atEnd(); ++it) {
+    const QTextFragment fragment = it.fragment();
+    const int begin = std::max(at, from);
+    at += fragment.length();
+    const int end = std::min(at, to);
+    if (begin < end) Add(LettersOf(fragment), text, begin, end);
+  }
+}
+
+void HeightBound::Add(const Letters& letters, const QString& text, int from, int to) {
+  double tallest = LineOfMost;
+  const double body = letters.body * letters.share;
+  for (int i = from; i < to; ++i) {
+    const char16_t unit = text.at(i).unicode();
+    AddLetter(unit, letters.arePictures ? letters.width : unit == u'\t' ? tab_ : WidthOf(unit) * body);
+    if (!IsFamiliar(unit)) tallest = LineOfForeign;
+  }
+  if (letters.arePictures)
+    pictures_ += (to - from) * letters.height;
+  else
+    line_ = std::max(line_, tallest * body + LeastLine);
+}
+
+// A line that breaks before a short word or within a long one is filled but for a quarter. Before a long one
+// it breaks once. A wide letter may leave half of it free.
+void HeightBound::AddLetter(char16_t unit, double width) {
+  const double quarter = room_ / 4;
+  const bool isWide = width > quarter;
+  lines_ += isWide ? 2 * std::min(width, room_) / room_ : width / (room_ - quarter);
+  if (unit == LineBreak) ++lines_;
+  if (isWide || unit == u' ' || unit == LineBreak) {
+    word_ = 0;
+    return;
+  }
+  if (word_ <= quarter && word_ + width > quarter) lines_ += 2;
+  word_ += width;
+}
+
+template <class Piece>
+const HeightBound::Letters& HeightBound::LettersOf(const Piece& piece) {
+  const auto [known, isNew] = letters_.try_emplace(piece.charFormatIndex());
+  Letters& letters = known->second;
+  if (!isNew) return letters;
+  const QTextCharFormat format = piece.charFormat();
+  letters.arePictures = format.isImageFormat();
+  letters.width = format.toImageFormat().width();
+  letters.height = format.toImageFormat().height();
+  letters.body = FontSizeOf(format) * PixelsPerPoint();
+  letters.share = ShareOf(FontNameOf(format));
+  return letters;
+}
+
+// Some fonts are wider and taller than others.
+double HeightBound::ShareOf(const QString& family) {
+  const auto [known, isNew] = shares_.try_emplace(family.toStdString(), 1.0);
+  if (!isNew) return known->second;
+  QFont font(family);
+  constexpr int Body = 100;
+  font.setPixelSize(Body);
+  font.setBold(true);
+  const QFontMetricsF metrics(font);
+  return known->second = std::max({1.0, metrics.horizontalAdvance(u'W') / (WidthOfWide * Body),
+                                   metrics.horizontalAdvance(u'n') / (WidthOfMost * Body),
+                                   metrics.lineSpacing() / (LineOfMost * Body)});
+}
+
+// What comes in behind what is hidden is hidden, too.
+void HeightGuard::NoteChange(int at, int removed, int added) {
+  const bool isAllNew = added >= document_.characterCount() - 1;
+  if (isAllNew) bound_ = 0, recountAt_ = TallestPage;
+  HeightBound bound(document_, width_);
+  for (QTextBlock block = document_.findBlock(at); block.isValid() && block.position() <= at + added;
+       block = block.next()) {
+    if (block.previous().isValid() && !block.previous().isVisible()) block.setVisible(false);
+    bound_ += bound.Of(block, at - block.position(), at + added - block.position());
+  }
+  const bool mayShowMore = removed > 1 && Hides();
+  if (bound_ <= recountAt_ && !mayShowMore) return;
+  const int first = Recount();
+  if (first < document_.characterCount())
+    document_.markContentsDirty(first, document_.characterCount() - first);
+}
+
+void HeightGuard::SetWidth(double pixels) {
+  width_ = std::max(pixels - ScrollBar, NarrowestPage);
+  Recount();
+}
+
+bool HeightGuard::Hides() const {
+  return !document_.lastBlock().isVisible();
+}
+
+// Returns the position of the first block that is shown and was hidden, or the other way round.
+int HeightGuard::Recount() {
+  int first = document_.characterCount();
+  HeightBound bound(document_, width_);
+  bound_ = 0;
+  bool fits = true;
+  for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
+    const double height = fits ? bound.Of(block) : 0;
+    fits = fits && bound_ + height <= TallestPage;
+    if (fits) bound_ += height;
+    if (block.isVisible() != fits) first = std::min(first, block.position());
+    block.setVisible(fits);
+  }
+  recountAt_ = std::max(TallestPage, bound_ + TypedBetweenCounts);
+  return first;
 }
 
 }  // namespace richtext

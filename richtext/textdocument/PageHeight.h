@@ -1,19 +1,87 @@
-// How much of a page the text box can show. The toolkit's layout never comes back from a page that is more
-// than 8,388,607 pixels high.
+// How high a page can become on the screen. The toolkit's layout never comes back from a page that is more
+// than 8,388,607 pixels high, whether it was filled in, typed or pasted. So what is shown of a page is held
+// below that: what would be too high for it is hidden, and kept.
+//
+// How high a paragraph is is known only when it has been laid out, which is too late. What is reckoned here
+// is a height that it does not exceed, from the widths of letters in most fonts and from what a line that
+// breaks leaves free. For plain text that is two to three times what comes of it: five megabytes are shown
+// whole in a narrow window.
 #pragma once
 
-#include <cstddef>
+#include <climits>
+#include <string>
+#include <unordered_map>
 
-#include "richtext/document/Document.h"
+#include <QtCore/QString>
+
+class QTextBlock;
+class QTextBlockFormat;
+class QTextDocument;
 
 namespace richtext {
 
-// The number of paragraphs from the start that can be shown, by an estimate that keeps well below that
-// height: about 240,000 lines, or 6 MB of text. Takes time by the page's runs.
-std::size_t ParagraphsToShow(const Document& page);
+// All in pixels.
+constexpr double TallestPage = 7'000'000;
+constexpr double TallestParagraph = TallestPage / 2;
 
-// The height in pixels, 96 to the inch, that the page hardly ever exceeds, however narrow it is laid out.
-// Takes time by the page's runs.
-double EstimatedHeight(const Document& page);
+// The heights of the blocks of one document at one width.
+class HeightBound {
+ public:
+  HeightBound(const QTextDocument& document, double width) : document_(document), width_(width) {}
+
+  // What the letters between two positions of the block take at most, with its spaces before and behind.
+  double Of(const QTextBlock& block, int from = 0, int to = INT_MAX);
+  // The lines of the block at most.
+  double Lines(const QTextBlock& block);
+  double OfAll();
+
+ private:
+  struct Letters {
+    double body = 0;   // the height of a letter
+    double share = 1;  // of its width and its line to those of most fonts, if more than 1
+    double width = 0, height = 0;
+    bool arePictures = false;
+  };
+  template <class Piece>
+  const Letters& LettersOf(const Piece& piece);
+  double ShareOf(const QString& family);
+  void Measure(const QTextBlock& block, int from, int to);
+  void Add(const Letters& letters, const QString& text, int from, int to);
+  void AddLetter(char16_t unit, double width);
+
+  const QTextDocument& document_;
+  const double width_;
+  std::unordered_map<int, Letters> letters_;  // by the toolkit's number of their format
+  std::unordered_map<std::string, double> shares_;
+  // Of the block in hand.
+  double room_ = 0;  // for a line
+  double tab_ = 0;   // the widest
+  double lines_ = 0;
+  double word_ = 0;  // the width of the one in hand
+  double line_ = 0;  // the height of the tallest
+  double pictures_ = 0;
+};
+
+// Watches over what is shown of a document that is laid out.
+class HeightGuard {
+ public:
+  explicit HeightGuard(QTextDocument& document) : document_(document) {}
+
+  // To be told of each QTextDocument::contentsChange, of which the layout hears afterwards. Hides and shows
+  // again what the change calls for.
+  void NoteChange(int at, int removed, int added);
+  // To be told before the document is laid out at another width.
+  void SetWidth(double pixels);
+
+  bool Hides() const;
+
+ private:
+  int Recount();
+
+  QTextDocument& document_;
+  double width_ = 0;
+  double bound_ = 0;  // of what is shown; too much where something has gone since it was counted
+  double recountAt_ = TallestPage;
+};
 
 }  // namespace richtext

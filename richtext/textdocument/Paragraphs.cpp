@@ -15,7 +15,8 @@ namespace {
 constexpr std::int32_t RoomForLabel = 480;  // twips
 constexpr double SmallestLine = 2;          // pixels; a line of a spacing that would hide it
 constexpr double SmallestShare = 20;        // percent of a line
-constexpr char16_t StopOfIndent = 0xFFFF;   // marks the stop that a hanging indent makes by itself
+constexpr double LargestShare = 1000;
+constexpr char16_t StopOfIndent = 0xFFFF;  // marks the stop that a hanging indent makes by itself
 
 double Pixels(std::int32_t twips) {
   return FittingIndent(twips) / TwipsPerPixel;
@@ -47,19 +48,35 @@ Alignment FromAlignment(Qt::Alignment alignment) {
   return Alignment::Left;
 }
 
-void SetSpacing(QTextBlockFormat& made, const ParagraphFormat& format) {
-  if (format.spaceBefore > 0) made.setTopMargin(Pixels(format.spaceBefore));
-  if (format.spaceAfter > 0) made.setBottomMargin(Pixels(format.spaceAfter));
+// What is shown otherwise than told keeps what is told beside it.
+void Keep(QTextBlockFormat& made, BoxProperty property, std::int32_t told, std::int32_t shown) {
+  if (shown != FittingIndent(told)) made.setProperty(property, FittingIndent(told));
+}
+
+std::int32_t Told(const QTextBlockFormat& format, BoxProperty property, double pixels) {
+  return format.hasProperty(property) ? format.intProperty(property) : Twips(pixels);
+}
+
+void SetLineHeight(QTextBlockFormat& made, const ParagraphFormat& format, double highest) {
   if (format.lineSpacingRule == LineSpacingRule::Single) return;
   made.setProperty(LineSpacingOfDocument, format.lineSpacing);
-  const double pixels = std::max(Pixels(format.lineSpacing), SmallestLine);
   if (format.lineSpacingRule == LineSpacingRule::Multiple)
-    made.setLineHeight(std::max(FittingIndent(format.lineSpacing) / 2.4, SmallestShare),
+    made.setLineHeight(std::clamp(FittingIndent(format.lineSpacing) / 2.4, SmallestShare, LargestShare),
                        QTextBlockFormat::ProportionalHeight);
   else
-    made.setLineHeight(pixels, format.lineSpacingRule == LineSpacingRule::AtLeast
-                                   ? QTextBlockFormat::MinimumHeight
-                                   : QTextBlockFormat::FixedHeight);
+    made.setLineHeight(std::clamp(Pixels(format.lineSpacing), SmallestLine, highest),
+                       format.lineSpacingRule == LineSpacingRule::AtLeast ? QTextBlockFormat::MinimumHeight
+                                                                          : QTextBlockFormat::FixedHeight);
+}
+
+void SetSpacing(QTextBlockFormat& made, const ParagraphFormat& format, double highest) {
+  const std::int32_t before = std::min(format.spaceBefore, Twips(highest));
+  const std::int32_t after = std::min(format.spaceAfter, Twips(highest));
+  if (before > 0) made.setTopMargin(Pixels(before));
+  if (after > 0) made.setBottomMargin(Pixels(after));
+  Keep(made, SpaceBeforeOfDocument, format.spaceBefore, before);
+  Keep(made, SpaceAfterOfDocument, format.spaceAfter, after);
+  SetLineHeight(made, format, highest);
 }
 
 LineSpacingRule FromHeightType(int type) {
@@ -98,29 +115,40 @@ bool IsItem(const ParagraphFormat& format) {
   return format.list.kind != ListKind::None;
 }
 
+// In twips, as they are shown.
+struct Indents {
+  std::int32_t left = 0;
+  std::int32_t right = 0;
+  std::int32_t first = 0;
+};
+
 // The text of an item begins where its other lines do: the label stands in the hanging indent.
-std::int32_t ShownFirstIndent(const ParagraphFormat& format) {
-  return IsItem(format) ? std::max(0, format.firstLineIndent) : format.firstLineIndent;
+Indents RoomForLabels(const ParagraphFormat& format) {
+  Indents shown{FittingIndent(format.leftIndent), FittingIndent(format.rightIndent),
+                FittingIndent(format.firstLineIndent)};
+  if (!IsItem(format)) return shown;
+  shown.left = std::max(RoomForLabel, shown.left);
+  shown.first = std::max(0, shown.first);
+  if (format.direction == Direction::RightToLeft) shown.right = std::max(RoomForLabel, shown.right);
+  return shown;
 }
 
-std::int32_t ShownLeftIndent(const ParagraphFormat& format) {
-  return IsItem(format) ? std::max(RoomForLabel, format.leftIndent) : format.leftIndent;
+Indents ShownIndents(const ParagraphFormat& format, double width) {
+  Indents shown = RoomForLabels(format);
+  const std::int32_t most = Twips(width) / 4 * 3;
+  shown.left = std::min(shown.left, most);
+  shown.right = std::min(shown.right, most - std::max(0, shown.left));
+  shown.first = std::min(shown.first, most - std::max(0, shown.left) - std::max(0, shown.right));
+  return shown;
 }
 
-std::int32_t ShownRightIndent(const ParagraphFormat& format) {
-  const bool hasLabel = IsItem(format) && format.direction == Direction::RightToLeft;
-  return hasLabel ? std::max(RoomForLabel, format.rightIndent) : format.rightIndent;
-}
-
-void SetIndents(QTextBlockFormat& made, const ParagraphFormat& format) {
-  if (ShownLeftIndent(format) != 0) made.setLeftMargin(Pixels(ShownLeftIndent(format)));
-  if (ShownRightIndent(format) != 0) made.setRightMargin(Pixels(ShownRightIndent(format)));
-  if (ShownFirstIndent(format) != 0) made.setTextIndent(Pixels(ShownFirstIndent(format)));
-}
-
-// A page counts from the edge of the text, the toolkit from where the first line begins.
-std::int32_t WhereLineBegins(const ParagraphFormat& format) {
-  return FittingIndent(ShownLeftIndent(format)) + FittingIndent(ShownFirstIndent(format));
+void SetIndents(QTextBlockFormat& made, const ParagraphFormat& format, const Indents& shown) {
+  if (shown.left != 0) made.setLeftMargin(Pixels(shown.left));
+  if (shown.right != 0) made.setRightMargin(Pixels(shown.right));
+  if (shown.first != 0) made.setTextIndent(Pixels(shown.first));
+  Keep(made, LeftIndentOfDocument, format.leftIndent, shown.left);
+  Keep(made, RightIndentOfDocument, format.rightIndent, shown.right);
+  Keep(made, FirstIndentOfDocument, format.firstLineIndent, shown.first);
 }
 
 QChar DecimalPoint() {
@@ -128,31 +156,28 @@ QChar DecimalPoint() {
   return point.isEmpty() ? QChar(u'.') : point.front();
 }
 
-void SetTabs(QTextBlockFormat& made, const ParagraphFormat& format) {
+// A page counts from the edge of the text, the toolkit from where the first line begins.
+void SetTabs(QTextBlockFormat& made, const ParagraphFormat& format, const Indents& shown) {
   QList<QTextOption::Tab> tabs;
-  const std::int32_t begin = WhereLineBegins(format);
+  const std::int32_t begin = shown.left + shown.first;
   for (const TabStop& stop : format.tabs)
     tabs.append({(stop.position - begin) / TwipsPerPixel, ToTabType(stop.kind), DecimalPoint()});
-  if (ShownFirstIndent(format) < 0)
-    tabs.append({-Pixels(format.firstLineIndent), QTextOption::LeftTab, QChar(StopOfIndent)});
+  if (shown.first < 0) tabs.append({-Pixels(shown.first), QTextOption::LeftTab, QChar(StopOfIndent)});
   std::stable_sort(tabs.begin(), tabs.end(),
                    [](const auto& one, const auto& other) { return one.position < other.position; });
   if (!tabs.isEmpty()) made.setTabPositions(tabs);
 }
 
-std::vector<TabStop> TabsOf(const QTextBlockFormat& format, std::int32_t begin) {
+std::vector<TabStop> TabsOf(const QTextBlockFormat& format) {
   std::vector<TabStop> stops;
+  const std::int32_t begin = Twips(format.leftMargin()) + Twips(format.textIndent());
   for (const QTextOption::Tab& tab : format.tabPositions())
     if (tab.delimiter != QChar(StopOfIndent))
       stops.push_back({Twips(tab.position) + begin, FromTabType(tab.type)});
   return stops;
 }
 
-void SetList(QTextBlockFormat& made, const ParagraphFormat& format) {
-  const ListFormat& list = format.list;
-  made.setProperty(LeftIndentOfDocument, FittingIndent(format.leftIndent));
-  made.setProperty(RightIndentOfDocument, FittingIndent(format.rightIndent));
-  made.setProperty(FirstIndentOfDocument, FittingIndent(format.firstLineIndent));
+void SetList(QTextBlockFormat& made, const ListFormat& list) {
   made.setProperty(ListKindOfDocument, static_cast<int>(list.kind));
   made.setProperty(ListStartOfDocument, list.start);
   made.setProperty(ListLevelOfDocument, list.level);
@@ -161,23 +186,22 @@ void SetList(QTextBlockFormat& made, const ParagraphFormat& format) {
   made.setProperty(TextAfterNumber, QString::fromStdU16String(list.after));
 }
 
-void TakeList(const QTextBlockFormat& format, ParagraphFormat& taken) {
-  taken.leftIndent = format.intProperty(LeftIndentOfDocument);
-  taken.rightIndent = format.intProperty(RightIndentOfDocument);
-  taken.firstLineIndent = format.intProperty(FirstIndentOfDocument);
-  taken.list = ListOf(format);
+LineSpacingRule LineRuleOf(const QTextBlockFormat& format) {
+  if (!format.hasProperty(LineRuleOfDocument)) return FromHeightType(format.lineHeightType());
+  return static_cast<LineSpacingRule>(format.intProperty(LineRuleOfDocument));
 }
 
 }  // namespace
 
-QTextBlockFormat ToBlockFormat(const ParagraphFormat& format) {
+QTextBlockFormat ToBlockFormat(const ParagraphFormat& format, double width) {
   QTextBlockFormat made;
+  const Indents shown = ShownIndents(format, width);
   made.setAlignment(ToAlignment(format.alignment, format.direction));
   if (format.direction == Direction::RightToLeft) made.setLayoutDirection(Qt::RightToLeft);
-  SetIndents(made, format);
-  SetSpacing(made, format);
-  SetTabs(made, format);
-  if (IsItem(format)) SetList(made, format);
+  SetIndents(made, format, shown);
+  SetSpacing(made, format, width);
+  SetTabs(made, format, shown);
+  if (IsItem(format)) SetList(made, format.list);
   return made;
 }
 
@@ -185,17 +209,23 @@ ParagraphFormat FromBlockFormat(const QTextBlockFormat& format) {
   ParagraphFormat taken;
   taken.alignment = FromAlignment(format.alignment());
   if (format.layoutDirection() == Qt::RightToLeft) taken.direction = Direction::RightToLeft;
-  taken.leftIndent = Twips(format.leftMargin());
-  taken.rightIndent = Twips(format.rightMargin());
-  taken.firstLineIndent = Twips(format.textIndent());
-  taken.spaceBefore = Twips(format.topMargin());
-  taken.spaceAfter = Twips(format.bottomMargin());
-  taken.lineSpacingRule = FromHeightType(format.lineHeightType());
+  taken.leftIndent = Told(format, LeftIndentOfDocument, format.leftMargin());
+  taken.rightIndent = Told(format, RightIndentOfDocument, format.rightMargin());
+  taken.firstLineIndent = Told(format, FirstIndentOfDocument, format.textIndent());
+  taken.spaceBefore = Told(format, SpaceBeforeOfDocument, format.topMargin());
+  taken.spaceAfter = Told(format, SpaceAfterOfDocument, format.bottomMargin());
+  taken.lineSpacingRule = LineRuleOf(format);
   if (taken.lineSpacingRule != LineSpacingRule::Single)
     taken.lineSpacing = format.intProperty(LineSpacingOfDocument);
-  if (IsListItem(format)) TakeList(format, taken);
-  taken.tabs = TabsOf(format, WhereLineBegins(taken));
+  if (IsListItem(format)) taken.list = ListOf(format);
+  taken.tabs = TabsOf(format);
   return taken;
+}
+
+QTextBlockFormat WithLineHeight(QTextBlockFormat format, double height) {
+  format.setProperty(LineRuleOfDocument, static_cast<int>(LineRuleOf(format)));
+  format.setLineHeight(height, QTextBlockFormat::FixedHeight);
+  return format;
 }
 
 ListFormat ListOf(const QTextBlockFormat& format) {

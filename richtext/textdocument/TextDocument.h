@@ -3,9 +3,10 @@
 //
 // What the toolkit's document cannot say of itself, it carries along as properties of its formats
 // (Formats.h), so that what is taken back is what was filled in: twips and half points that it would round,
-// the list of a paragraph (Paragraphs.h), pictures in the form in which they came (Pictures.h), text that is
-// not shown (HiddenText.h). The hard part is what a person does in between: typing carries formats to where
-// they were never meant, and the toolkit's own commands know nothing of the properties.
+// the list of a paragraph and measures that no page has room for (Paragraphs.h), pictures in the form in
+// which they came (Pictures.h), text that is not shown (HiddenText.h). The hard part is what a person does in
+// between: typing carries formats to where they were never meant, and the toolkit's own commands know nothing
+// of the properties.
 #pragma once
 
 #include <cstddef>
@@ -29,9 +30,8 @@ void FillPlain(const QString& text, const QTextCharFormat& format, QTextDocument
 // came in.
 void InsertDocument(const Document& source, QTextCursor& cursor);
 
-// A document of more than PageHeight.h's measure is kept whole, and its first paragraphs are shown. Filling
-// and inserting see to it; who makes letters larger calls this before the document is laid out.
-void HideWhatIsTooFar(const QTextDocument& document);
+// The same with plain text in one format.
+void InsertPlain(const QString& text, const QTextCharFormat& format, QTextCursor& cursor);
 
 // The whole content.
 Document TakeDocument(const QTextDocument& source);

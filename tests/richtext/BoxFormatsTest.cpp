@@ -120,14 +120,57 @@ TEST_F(ListsTest, LabelsAreDrawn) {
   EXPECT_EQ(margin(), blank);
 }
 
-// The toolkit's layout would not come back from it.
-TEST_F(BoxFormatsTest, TooHighAPageIsKeptWhole) {
-  const std::string letters(9000, 'm');
-  Set(Page("first\\par\\fs" + std::to_string(MaxHalfPoints) + ' ' + letters));
-  box.grab();
-  EXPECT_TRUE(Text().ends_with(letters));
-  EXPECT_TRUE(box.document()->firstBlock().isVisible());
-  EXPECT_LT(box.document()->size().height(), 8e6);
+// The toolkit's layout would not come back from any of these.
+class TooHighTest : public BoxTest {
+ protected:
+  static std::string Times(int count, const std::string& part) {
+    return QString::fromStdString(part).repeated(count).toStdString();
+  }
+  void ExpectShown() {
+    box.grab();
+    EXPECT_LT(box.document()->size().height(), 8e6);
+    EXPECT_TRUE(box.document()->firstBlock().isVisible());
+  }
+  bool IsTold() {
+    QApplication::processEvents();
+    return box.findChild<QWidget*>(QStringLiteral("lblRest"))->isVisible();
+  }
+};
+
+TEST_F(TooHighTest, IsKeptAndShownAsFarAsItGoes) {
+  const std::pair<std::string, bool> pages[] = {
+      {"\\fs3276 " + std::string(9000, 'm'), false},
+      {"\\li7000\\sl32767\\slmult0 " + Times(4500, "a "), false},
+      {"\\deftab32767\\sl32767\\slmult1 " + Times(4500, "\\tab a"), false},
+      {"\\fs600\\li7000\\ri-9\\tx8000 " + Times(19'000, "a "), false},
+      {"\\fs600 first\\par\\ri7000\\sb32767 " + Times(6000, "a\\par "), true},
+  };
+  for (const auto& [page, isTold] : pages) {
+    ExpectHeld(Page(page));
+    ExpectShown();
+    EXPECT_EQ(IsTold(), isTold) << page.substr(0, 30);
+  }
+  box.resize(60, 300);
+  ExpectShown();
+  box.selectAll();
+  Press(Qt::Key_Delete);
+  EXPECT_FALSE(IsTold());
+}
+
+TEST_F(TooHighTest, ComesOfEditsAsWell) {
+  for (const auto& [part, isTold] : {std::pair{"a ", false}, {"a\n", true}}) {
+    Set(Page("\\fs2000\\par"));
+    Copy([&, text = part](QMimeData& data) { data.setText(QString::fromLatin1(text).repeated(4500)); });
+    Press(Qt::Key_V, Qt::ControlModifier);
+    ExpectShown();
+    EXPECT_EQ(IsTold(), isTold);
+  }
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_FALSE(IsTold());
+  Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  ExpectShown();
+  EXPECT_TRUE(IsTold());
+  EXPECT_EQ(Text().size(), 9000u);
 }
 
 TEST_F(BoxFormatsTest, KeepsPicturesOfEveryKind) {
