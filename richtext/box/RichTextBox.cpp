@@ -47,6 +47,7 @@ RichTextBox::RichTextBox(QWidget* parent)
     : QTextEdit(parent),
       copy_(std::make_unique<DocumentCopy>(*document())),
       guard_(std::make_unique<HeightGuard>(*document())),
+      labels_(std::make_unique<KeptCounters>()),
       rest_(new RestNote(this)) {
   setAcceptRichText(true);
   setTabChangesFocus(false);
@@ -54,6 +55,8 @@ RichTextBox::RichTextBox(QWidget* parent)
   connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::NoteEdit);
   connect(document(), &QTextDocument::contentsChange, this,
           [this](int at, int removed, int added) { copy_->NoteChange(at, removed, added); });
+  connect(document(), &QTextDocument::contentsChange, this,
+          [this](int at) { labels_->NoteChange(document()->findBlock(at).blockNumber()); });
   connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::GuardHeight);
   connect(document(), &QTextDocument::contentsChanged, this, &RichTextBox::TellEdits);
   connect(this, &QTextEdit::cursorPositionChanged, this, [this] { caret_.LeaveLink(); });
@@ -298,7 +301,7 @@ void RichTextBox::paintEvent(QPaintEvent* event) {
   const QPoint scrolled(isRightToLeft() ? across.maximum() - across.value() : across.value(),
                         verticalScrollBar()->value());
   painter.translate(-scrolled);
-  labelled_ = DrawLabels(painter, *document(), QRectF(event->rect().translated(scrolled)));
+  labelled_ = DrawLabels(painter, *document(), QRectF(event->rect().translated(scrolled)), *labels_);
 }
 
 }  // namespace richtext

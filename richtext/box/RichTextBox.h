@@ -28,6 +28,7 @@ namespace richtext {
 
 class DocumentCopy;
 class HeightGuard;
+class KeptCounters;
 class Paper;
 class RestNote;
 struct ComposedWord;
@@ -156,6 +157,7 @@ class RichTextBox : public QTextEdit {
 
   std::unique_ptr<DocumentCopy> copy_;
   std::unique_ptr<HeightGuard> guard_;
+  std::unique_ptr<KeptCounters> labels_;
   RestNote* const rest_;
   CaretFormat caret_{*this};
   std::uint32_t backColor_ = 0xffffff;

@@ -29,6 +29,17 @@ QFont PlainFont(QFont font) {
   return font;
 }
 
+bool FollowsAnItem(const QTextBlock& block) {
+  return block.previous().isValid() && IsListItem(block.previous().blockFormat());
+}
+
+// Asked for a place above the first line, the toolkit looks at all blocks.
+QTextBlock FirstBelow(const QPointF& place, const QTextDocument& document) {
+  const QAbstractTextDocumentLayout& layout = *document.documentLayout();
+  if (place.y() < layout.blockBoundingRect(document.begin()).bottom()) return document.begin();
+  return document.findBlock(std::max(0, layout.hitTest(place, Qt::FuzzyHit)));
+}
+
 double LeftOf(const QTextBlock& block, const QPointF& place, double width, double gap) {
   const QRectF text = block.layout()->lineAt(0).naturalTextRect().translated(place);
   if (block.textDirection() == Qt::RightToLeft) return text.right() + gap;
@@ -38,10 +49,19 @@ double LeftOf(const QTextBlock& block, const QPointF& place, double width, doubl
 
 }  // namespace
 
-LabelCounter::LabelCounter(const QTextBlock& block) {
+LabelCounter::LabelCounter(const QTextBlock& block) : LabelCounter(KeptCounters().Before(block)) {}
+
+LabelCounter KeptCounters::Before(const QTextBlock& block) {
+  int number = block.blockNumber();
   QTextBlock first = block;
-  while (first.previous().isValid() && IsListItem(first.previous().blockFormat())) first = first.previous();
-  for (; first != block; first = first.next()) Count(first);
+  for (; FollowsAnItem(first) && counters_.count(number) == 0; --number) first = first.previous();
+  const auto kept = counters_.find(number);
+  LabelCounter counter = kept == counters_.end() ? LabelCounter() : kept->second;
+  for (; first != block; first = first.next()) {
+    counter.Count(first);
+    if (++number % Distance == 0) counters_[number] = counter;
+  }
+  return counter;
 }
 
 QString LabelCounter::Count(const QTextBlock& block) {
@@ -75,12 +95,14 @@ void DrawLabel(QPainter& painter, const QTextBlock& block, const QPointF& place,
                                place.y() + beside.y() + beside.ascent() - line.ascent()));
 }
 
-bool DrawLabels(QPainter& painter, const QTextDocument& document, const QRectF& shown) {
+bool DrawLabels(QPainter& painter, const QTextDocument& document, const QRectF& shown,
+                KeptCounters& counters) {
   const QAbstractTextDocumentLayout& layout = *document.documentLayout();
-  QTextBlock block = document.findBlock(std::max(0, layout.hitTest(shown.topLeft(), Qt::FuzzyHit)));
-  LabelCounter counter(block);
+  QTextBlock block = FirstBelow(shown.topLeft(), document);
+  LabelCounter counter = counters.Before(block);
   bool drawn = false;
-  for (; block.isValid() && layout.blockBoundingRect(block).top() < shown.bottom(); block = block.next()) {
+  for (; block.isValid() && block.isVisible() && layout.blockBoundingRect(block).top() < shown.bottom();
+       block = block.next()) {
     const QString label = counter.Count(block);
     if (label.isEmpty() || block.layout()->lineCount() == 0) continue;
     DrawLabel(painter, block, block.layout()->position(), label);

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 
 #include <QtGui/QTextBlock>
 
@@ -20,6 +21,8 @@ namespace richtext {
 // and format before it; deeper items between the two do not matter, other paragraphs end the list.
 class LabelCounter {
  public:
+  // Has counted nothing, as where no item stands before.
+  LabelCounter() = default;
   // Has counted what stands before the block.
   explicit LabelCounter(const QTextBlock& block);
   // Counts the block and returns its label; empty where the block is no item.
@@ -34,6 +37,20 @@ class LabelCounter {
   std::array<List, Levels> lists_;
 };
 
+// Counters for a document that is drawn time and again: each of them goes on from one that was kept nearby,
+// and not from the list's first item.
+class KeptCounters {
+ public:
+  // The counter that has counted what stands before the block, which is the document's.
+  LabelCounter Before(const QTextBlock& block);
+  // Something has changed in this block, and not before it.
+  void NoteChange(int blockNumber) { counters_.erase(counters_.upper_bound(blockNumber), counters_.end()); }
+
+ private:
+  static constexpr int Distance = 64;     // blocks
+  std::map<int, LabelCounter> counters_;  // by the number of the block that they count next
+};
+
 // The label of an item; empty where the block is none.
 QString LabelOf(const QTextBlock& block);
 
@@ -43,6 +60,7 @@ void DrawLabel(QPainter& painter, const QTextBlock& block, const QPointF& place,
 
 // Draws the labels that can be seen of a document that is laid out. Painter and `shown` count in the
 // document's own pixels. Returns whether there was one.
-bool DrawLabels(QPainter& painter, const QTextDocument& document, const QRectF& shown);
+bool DrawLabels(QPainter& painter, const QTextDocument& document, const QRectF& shown,
+                KeptCounters& counters);
 
 }  // namespace richtext
