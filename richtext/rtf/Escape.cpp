@@ -1,23 +1,27 @@
 #include "richtext/rtf/Escape.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstddef>
 
 namespace richtext::rtf {
 namespace {
 
-constexpr char HexDigits[] = "0123456789abcdef";
+constexpr std::array<std::array<char, 2>, 256> PairTable() {
+  constexpr char digits[] = "0123456789abcdef";
+  std::array<std::array<char, 2>, 256> pairs{};
+  for (std::size_t byte = 0; byte < pairs.size(); ++byte)
+    pairs[byte] = {digits[byte / 16], digits[byte % 16]};
+  return pairs;
+}
+constexpr auto HexPairs = PairTable();
 constexpr std::size_t BytesInLine = 64;
 
 void AppendNumber(std::int32_t number, std::string& rtf) {
   char digits[12];
   const auto end = std::to_chars(digits, digits + sizeof digits, number);
   rtf.append(digits, end.ptr);
-}
-
-void AppendHexByte(unsigned char byte, std::string& rtf) {
-  rtf += HexDigits[byte >> 4];
-  rtf += HexDigits[byte & 15];
 }
 
 }  // namespace
@@ -46,13 +50,17 @@ void AppendNameUnit(char16_t unit, std::string& rtf) {
     return;
   }
   rtf += "\\'";
-  AppendHexByte(static_cast<unsigned char>(unit), rtf);
+  rtf.append(HexPairs[static_cast<unsigned char>(unit)].data(), 2);
 }
 
 void AppendHexLines(std::string_view bytes, std::string& rtf) {
+  const std::size_t start = rtf.size();
+  const std::size_t breaks = bytes.empty() ? 0 : (bytes.size() - 1) / BytesInLine;
+  rtf.resize(start + 2 * (bytes.size() + breaks));
+  char* to = rtf.data() + start;
   for (std::size_t i = 0; i < bytes.size(); ++i) {
-    if (i != 0 && i % BytesInLine == 0) rtf += "\r\n";
-    AppendHexByte(static_cast<unsigned char>(bytes[i]), rtf);
+    if (i != 0 && i % BytesInLine == 0) to = std::copy_n("\r\n", 2, to);
+    to = std::copy_n(HexPairs[static_cast<unsigned char>(bytes[i])].data(), 2, to);
   }
 }
 
