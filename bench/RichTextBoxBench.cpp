@@ -1,11 +1,16 @@
 // A page between its value and the text box, beside a fill of the toolkit's document with the same runs and
 // nothing else; and what a person waits for when a page is shown.
+#include <algorithm>
 #include <benchmark/benchmark.h>
+#include <cstdlib>
+#include <fstream>
 #include <random>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include <QtCore/QMimeData>
 #include <QtGui/QTextBlock>
 #include <QtWidgets/QApplication>
 
@@ -120,6 +125,108 @@ void ShowEmoticons(benchmark::State& state) {
   ShowPage(state, WriteRtf(page));
 }
 BENCHMARK(ShowEmoticons)->Unit(benchmark::kMillisecond);
+
+QImage Photo(int width, int height) {
+  std::mt19937 random(5);
+  QImage photo(width, height, QImage::Format_RGB32);
+  for (int y = 0; y < height; ++y)
+    for (int x = 0; x < width; ++x)
+      photo.setPixel(x, y, qRgb(x / 16 + int(random() % 4), y / 12 + int(random() % 4), (x + y) / 28));
+  return photo;
+}
+
+// Until the window goes on, and until the page could be stored.
+void PasteAPhoto(benchmark::State& state) {
+  const QImage photo = Photo(4000, 3000);
+  RichTextBox box;
+  box.resize(500, 600);
+  box.show();
+  double file = 0;
+  for ([[maybe_unused]] auto iteration : state) {
+    box.SetTextRTF({});
+    state.SetIterationTime(bench::SecondsOf([&] {
+      box.InsertBitmap(photo);
+      box.repaint();
+    }));
+    file = bench::SecondsOf([&] { box.TextRTF(); });
+  }
+  state.counters["file_ms"] = file * 1e3;
+}
+BENCHMARK(PasteAPhoto)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+
+// A bitmap that is no file.
+void CopyABitmap(benchmark::State& state) {
+  const QImage photo = Photo(1600, 1200).convertToFormat(QImage::Format_BGR888);
+  Picture bitmap{PictureKind::Dib, std::string("\x28\0\0\0\x40\x06\0\0\xb0\x04\0\0\x01\0\x18\0", 16),
+                 "\\dibitmap0", 24'000, 18'000};
+  bitmap.bytes.resize(40);
+  bitmap.bytes.append(reinterpret_cast<const char*>(photo.constBits()),
+                      static_cast<std::size_t>(photo.sizeInBytes()));
+  Document page = EmptyDocument();
+  page.runs = {{1, page.paragraphs[0].markFormat}};
+  page.text = u"\ufffc";
+  page.paragraphs[0].length = 1;
+  page.pictures = {bitmap};
+  RichTextBox box;
+  box.SetTextRTF(WriteRtf(page));
+  box.selectAll();
+  for ([[maybe_unused]] auto iteration : state) box.copy();
+}
+BENCHMARK(CopyABitmap)->Unit(benchmark::kMillisecond);
+
+// The line of the caret is drawn, at the end of a long list and at the end of as many plain paragraphs; at
+// the start of both.
+void Blink(benchmark::State& state) {
+  const auto show = [](RichTextBox& box, const std::string& format, bool atEnd) {
+    std::string rtf = "{\\rtf1" + format;
+    for (int i = 0; i < 20'000; ++i) rtf += " item\\par";
+    box.resize(500, 600);
+    box.show();
+    box.SetTextRTF(rtf + '}');
+    box.SetSelStart(atEnd ? 1 << 30 : 0);
+    box.ensureCursorVisible();
+    QCoreApplication::processEvents();
+  };
+  RichTextBox list, plain;
+  show(list, R"({\*\pn\pnlvlbody\pndec{\pntxta .}}\fi-360\li720)", state.range(0) == 1);
+  show(plain, {}, true);
+  const auto draw = [](RichTextBox& box) {
+    return bench::SecondsOf([&] { box.viewport()->repaint(box.cursorRect().adjusted(-40, 0, 40, 0)); });
+  };
+  bench::RunBeside(
+      state, [&] { return draw(list); }, [&] { return draw(plain); });
+}
+BENCHMARK(Blink)->Arg(0)->Arg(1)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+double MegabytesOf(const std::string& key) {
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);)
+    if (line.starts_with(key)) return std::stod(line.substr(key.size() + 1)) / 1024;
+  std::abort();
+}
+
+void PasteFiftyPictures(benchmark::State& state) {
+  std::mt19937 random(7);
+  std::string rtf = "{\\rtf1 ";
+  for (int i = 0; i < 50; ++i) {
+    std::string bytes(1'000'000, ' ');
+    std::generate(bytes.begin(), bytes.end(), [&] { return "0123456789abcdef"[random() % 16]; });
+    rtf += "{\\pict\\pngblip\\picwgoal900\\pichgoal900 " + bytes + bytes + '}';
+  }
+  QMimeData offer;
+  offer.setData(QStringLiteral("text/rtf"), QByteArray::fromStdString(std::exchange(rtf, {})));
+  struct Box : RichTextBox {
+    using RichTextBox::insertFromMimeData;
+  } box;
+  const double before = MegabytesOf("VmRSS:");
+  for ([[maybe_unused]] auto iteration : state) {
+    std::ofstream("/proc/self/clear_refs") << 5;  // the peak begins anew
+    box.insertFromMimeData(&offer);
+  }
+  state.counters["peak_mb"] = MegabytesOf("VmHWM:") - before;
+  state.counters["rest_mb"] = MegabytesOf("VmRSS:") - before;
+}
+BENCHMARK(PasteFiftyPictures)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include <QtGui/QTextCursor>
 
@@ -11,11 +12,14 @@
 #include "richtext/html/Writer.h"
 #include "richtext/rtf/Reader.h"
 #include "richtext/rtf/Writer.h"
+#include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/TextDocument.h"
 
 namespace richtext {
 namespace {
 
+const QLatin1String TextName("text/plain");
+const QLatin1String HtmlName("text/html");
 const QLatin1String RtfName("text/rtf");
 const QLatin1String RtfNames[] = {RtfName, QLatin1String("application/rtf"),
                                   QLatin1String("Rich Text Format")};
@@ -31,19 +35,53 @@ QString Keepable(QString text) {
   return QString::fromStdU16String(ToUtf16(ToUtf8(text.toStdU16String())));
 }
 
-Document Kept(const Document& page) {
-  return ReadRtf(WriteRtf(page));
+// A reader reckons one side of a picture by its bytes where the other one alone is told.
+bool TellsItsSize(const Picture& picture) {
+  return (picture.widthTwips > 0) == (picture.heightTwips > 0);
+}
+
+// What the writer keeps of it. The bytes of pictures are not what it changes, and need not go along.
+Document Kept(Document page) {
+  std::vector<std::string> bytes(page.pictures.size());
+  for (std::size_t i = 0; i < bytes.size(); ++i)
+    if (TellsItsSize(page.pictures[i])) bytes[i] = std::exchange(page.pictures[i].bytes, "-");
+  page = ReadRtf(WriteRtf(page));
+  for (std::size_t i = 0; i < bytes.size() && i < page.pictures.size(); ++i)
+    if (!bytes[i].empty()) page.pictures[i].bytes = std::move(bytes[i]);
+  return page;
 }
 
 bool SaysSomething(const Document& page) {
   return !page.pictures.empty() || !QString::fromStdU16String(page.text).trimmed().isEmpty();
 }
 
-std::string OfferedRtf(const QMimeData& offered) {
-  for (const QLatin1String name : RtfNames)
-    if (std::string rtf = offered.data(name).trimmed().toStdString(); IsRtf(rtf)) return rtf;
-  return {};
+std::optional<Document> OfferedRtf(const QMimeData& offered) {
+  for (const QLatin1String name : RtfNames) {
+    const QByteArray data = offered.data(name);
+    const std::string_view bytes(data.data(), static_cast<std::size_t>(data.size()));
+    const std::string_view rtf = bytes.substr(std::min(bytes.find_first_not_of(" \t\r\n\v\f"), bytes.size()));
+    if (IsRtf(rtf)) return ReadRtf(rtf);
+  }
+  return std::nullopt;
 }
+
+// The kinds of the selection that a program asks for are made when it asks.
+class SelectionOffer : public QMimeData {
+ public:
+  explicit SelectionOffer(Document page) : page_(std::move(page)) {}
+
+  QStringList formats() const override { return {TextName, HtmlName, RtfName}; }
+
+ protected:
+  QVariant retrieveData(const QString& name, QMetaType) const override {
+    if (name == TextName) return QString::fromStdString(PlainText(page_));
+    if (name == HtmlName) return WriteHtml(page_);
+    return name == RtfName ? QByteArray::fromStdString(WriteRtf(page_)) : QVariant();
+  }
+
+ private:
+  const Document page_;
+};
 
 }  // namespace
 
@@ -55,11 +93,23 @@ bool CanBePasted(const QMimeData& offered) {
 
 // A browser offers a copied picture as a bitmap and as markup that names it.
 std::optional<Document> OfferedPage(const QMimeData& offered, const CharacterFormat& caret) {
-  if (const std::string rtf = OfferedRtf(offered); !rtf.empty())
-    if (Document page = Kept(ReadRtf(rtf)); SaysSomething(page)) return page;
+  if (auto rtf = OfferedRtf(offered))
+    if (Document page = Kept(std::move(*rtf)); SaysSomething(page)) return page;
   if (!offered.hasHtml()) return std::nullopt;
-  Document page = Kept(ReadHtml(offered.html(), caret, OfferedBitmap(offered)));
+  const auto carried = [&] {
+    const auto file = OfferedFile(offered);
+    return file ? *file : FromImage(OfferedBitmap(offered));
+  };
+  Document page = Kept(ReadHtml(offered.html(), caret, carried));
   return SaysSomething(page) ? std::optional(std::move(page)) : std::nullopt;
+}
+
+std::optional<Picture> OfferedFile(const QMimeData& offered) {
+  for (const QString& name : offered.formats()) {
+    if (name != QLatin1String("image/png") && name != QLatin1String("image/jpeg")) continue;
+    if (Picture file = FromFile(offered.data(name)); !file.bytes.empty()) return file;
+  }
+  return std::nullopt;
 }
 
 QImage OfferedBitmap(const QMimeData& offered) {
@@ -73,12 +123,7 @@ QString OfferedText(const QMimeData& offered) {
 }
 
 QMimeData* Offer(const QTextCursor& selection) {
-  const Document page = TakeSelection(selection);
-  auto* offer = new QMimeData;
-  offer->setText(QString::fromStdString(PlainText(page)));
-  offer->setHtml(WriteHtml(page));
-  offer->setData(RtfName, QByteArray::fromStdString(WriteRtf(page)));
-  return offer;
+  return new SelectionOffer(TakeSelection(selection));
 }
 
 }  // namespace richtext

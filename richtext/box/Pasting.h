@@ -19,13 +19,17 @@ bool CanBePasted(const QMimeData& offered);
 // Nothing that the offer names is fetched.
 std::optional<Document> OfferedPage(const QMimeData& offered, const CharacterFormat& caret);
 
+// The file of a picture, PNG or JPEG, as it came; the first one that is offered.
+std::optional<Picture> OfferedFile(const QMimeData& offered);
+
 // A null image where there is none.
 QImage OfferedBitmap(const QMimeData& offered);
 
 // The offer as plain text, without what a page cannot keep. Markup and addresses become their text.
 QString OfferedText(const QMimeData& offered);
 
-// The selection as RTF, as HTML and as plain text. The caller owns it.
+// The selection as it is now, as RTF, as HTML and as plain text, each made when it is asked for. The caller
+// owns it.
 QMimeData* Offer(const QTextCursor& selection);
 
 }  // namespace richtext

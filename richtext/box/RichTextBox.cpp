@@ -172,9 +172,11 @@ bool RichTextBox::PrintSelection(Paper& paper) const {
 
 void RichTextBox::InsertBitmap(const QImage& image) {
   if (image.isNull() || isReadOnly()) return;
-  QTextCursor cursor = textCursor();
-  cursor.insertText(QString(QChar::ObjectReplacementCharacter),
-                    KeepPicture(FromImage(image), caret_.OfLetters(), *document()));
+  InsertPicture(KeepImage(image, caret_.OfLetters(), *document()));
+}
+
+void RichTextBox::InsertPicture(const QTextCharFormat& picture) {
+  textCursor().insertText(QString(QChar::ObjectReplacementCharacter), picture);
   ensureCursorVisible();
 }
 
@@ -195,6 +197,8 @@ void RichTextBox::insertFromMimeData(const QMimeData* source) {
   QTextCursor cursor = textCursor();
   if (const auto page = OfferedPage(*source, FromTextFormat(cursor.charFormat())))
     InsertDocument(*page, cursor);
+  else if (const auto file = OfferedFile(*source))
+    InsertPicture(KeepPicture(*file, caret_.OfLetters(), *document()));
   else if (const QImage bitmap = OfferedBitmap(*source); !bitmap.isNull())
     InsertBitmap(bitmap);
   else

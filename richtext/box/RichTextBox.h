@@ -102,7 +102,8 @@ class RichTextBox : public QTextEdit {
   // The same without asking the input method, which may be gone with the display: for the end of the program.
   void TakeComposition();
 
-  // Puts a bitmap at the caret, in the place of the selection.
+  // Puts a bitmap at the caret, in the place of the selection. Of one of more than a megapixel a thread makes
+  // the file; TextRTF, Copy and what copies the selection wait for it.
   void InsertBitmap(const QImage& image);
 
   // Puts the clipboard's text at the caret, in the place of the selection and in the caret's format.
@@ -140,6 +141,7 @@ class RichTextBox : public QTextEdit {
   void SetAttribute(const QTextCharFormat& attribute);
   int PlaceOf(int position) const;
   void InsertText(const QMimeData& source);
+  void InsertPicture(const QTextCharFormat& picture);
   void PressKey(QKeyEvent& event);
   bool LeaveList();
   void DeleteBack(QKeyEvent& event);

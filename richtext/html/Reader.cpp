@@ -68,18 +68,15 @@ QByteArray DataOf(const QString& address) {
   return isBase64 ? QByteArray::fromBase64(data) : data;
 }
 
-// PNG and JPEG files stay what they are, other pictures become PNG.
-Picture FromFile(QByteArray file) {
-  Picture picture;
+// PNG and JPEG files stay what they are, other pictures become PNG. The markup tells the size, or nobody.
+Picture OfItsOwnSize(QByteArray file) {
+  Picture picture = FromFile(file);
+  picture.widthTwips = picture.heightTwips = 0;
+  if (!picture.bytes.empty()) return picture;
   QBuffer buffer(&file);
   buffer.open(QIODevice::ReadOnly);
   const QByteArray kind = QImageReader::imageFormat(&buffer);
-  if (kind == "png" || kind == "jpeg") {
-    picture.kind = kind == "png" ? PictureKind::Png : PictureKind::Jpeg;
-    picture.bytes = file.toStdString();
-  } else if (kind == "gif" || kind == "bmp" || kind == "webp") {
-    picture.bytes = SmallestPng(DecodedFile(file));
-  }
+  if (kind == "gif" || kind == "bmp" || kind == "webp") picture.bytes = SmallPng(DecodedFile(file));
   return picture;
 }
 
@@ -114,8 +111,8 @@ class Backgrounds {
 
 class Reader {
  public:
-  Reader(const QTextDocument& html, const CharacterFormat& caret, const QImage& carried)
-      : html_(html), caret_(caret), carried_(carried), backgrounds_(html) {}
+  Reader(const QTextDocument& html, const CharacterFormat& caret, std::function<Picture()> carried)
+      : html_(html), caret_(caret), carried_(std::move(carried)), backgrounds_(html) {}
 
   Document Read() {
     for (QTextBlock block = html_.begin(); block.isValid(); block = block.next())
@@ -171,8 +168,8 @@ class Reader {
   }
 
   void TakePicture(const QTextImageFormat& format) {
-    Picture picture = FromFile(DataOf(format.name()));
-    if (picture.bytes.empty() && !carried_.isNull()) picture = FromImage(std::exchange(carried_, {}));
+    Picture picture = OfItsOwnSize(DataOf(format.name()));
+    if (picture.bytes.empty() && carried_) picture = std::exchange(carried_, {})();
     if (picture.bytes.empty())
       return AddText(format.stringProperty(QTextFormat::ImageAltText).toStdU16String(), format_);
     if (format.width() > 0 || format.height() > 0) {
@@ -202,7 +199,7 @@ class Reader {
 
   const QTextDocument& html_;
   const CharacterFormat caret_;
-  QImage carried_;
+  std::function<Picture()> carried_;
   const Backgrounds backgrounds_;
   Document page_;
   FormatNumbers<CharacterFormat> numbers_{page_.formats};
@@ -221,7 +218,8 @@ class Reader {
 
 namespace richtext {
 
-Document ReadHtml(const QString& html, const CharacterFormat& caret, const QImage& carried) {
+Document ReadHtml(const QString& html, const CharacterFormat& caret,
+                  const std::function<Picture()>& carried) {
   using namespace html;
   InertDocument document;
   document.setUndoRedoEnabled(false);

@@ -88,7 +88,7 @@ QString ImageTag(const Picture& picture) {
   const bool isWhole = picture.crop == PictureCrop();
   const bool jpeg = picture.kind == PictureKind::Jpeg && isWhole;
   const bool isFile = jpeg || (picture.kind == PictureKind::Png && isWhole);
-  const std::string bytes = isFile ? picture.bytes : SmallestPng(DecodedPicture(picture));
+  const std::string bytes = isFile ? picture.bytes : SmallPng(DecodedPicture(picture));
   if (bytes.empty()) return {};
   QString tag = QLatin1String("<img src=\"data:image/") + QLatin1String(jpeg ? "jpeg" : "png") +
                 QLatin1String(";base64,") + QLatin1String(QByteArray::fromStdString(bytes).toBase64()) + u'"';

@@ -4,6 +4,8 @@
 
 #include <QtGui/QTextDocument>
 
+#include "richtext/textdocument/Pictures.h"
+
 namespace richtext {
 namespace {
 
@@ -39,7 +41,7 @@ bool DocumentCopy::Refresh(const QDeadlineTimer& until, const ComposedWord& word
   for (std::size_t index = 0; index < parts_.size(); at += parts_[index++].length) {
     const Part& part = parts_[index];
     if (part.page && part.word == WordIn(at, part.length, word)) continue;
-    if (until.hasExpired()) return false;
+    if (until.hasExpired() || !(until.isForever() || AreFilesMade(source_))) return false;
     Take(index, at, word);
   }
   return true;

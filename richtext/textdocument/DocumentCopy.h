@@ -21,7 +21,8 @@ class DocumentCopy {
   void NoteChange(int at, int removed, int added);
 
   // Copies what is missing, in steps of about a millisecond, until the time is over. Whether the copy is
-  // whole. `word` stands in it and no other: the toolkit does not always tell that a word has come or gone.
+  // whole. Waits for a picture's file (KeepImage) only where there is no such time. `word` stands in it and
+  // no other: the toolkit does not always tell that a word has come or gone.
   bool Refresh(const QDeadlineTimer& until, const ComposedWord& word);
   // The copy, when Refresh has just told that it is whole. A part that has not changed is the same value.
   PageParts Parts() const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 #include <QtCore/QBuffer>
 #include <QtCore/QCryptographicHash>
@@ -14,6 +15,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/document/Twips.h"
 #include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/PngMaker.h"
 #include "richtext/textdocument/SmallPng.h"
 
 namespace richtext {
@@ -21,6 +23,8 @@ namespace {
 
 constexpr double LargestSide = 20000;                // pixels
 constexpr double MostPixels = 64'000'000;            // with a margin of its crop
+constexpr qint64 MostPixelsAtOnce = 1'000'000;       // which are packed while a person waits
+constexpr char MakerProperty[] = "lastPngMaker";     // of a document
 constexpr int MostMegabytes = 512;                   // of a file's pixels, with eight bytes for each
 constexpr QSize SizeOfUnknown{16, 16};               // of a picture that tells no size of its own
 const QLatin1String DrawingResource("picture:");     // name of the resource that is drawn
@@ -87,9 +91,15 @@ QVariant Source(const QByteArray& bytes, const Picture& picture) {
                       QVariant(CropOf(picture))};
 }
 
+using Maker = std::shared_ptr<const PngMaker>;
+
 // Without the size shown, which is each place's own where nothing is cut off.
 Picture FromSource(const QVariant& source) {
   Picture kept;
+  if (source.canConvert<Maker>()) {
+    kept.bytes = source.value<Maker>()->Bytes();
+    return kept;
+  }
   kept.kind = PictureKind::Other;
   const QVariantList parts = source.toList();
   if (parts.size() != 4) return kept;
@@ -122,30 +132,7 @@ QSizeF ShownSize(const Picture& picture) {
   return own;
 }
 
-QPixmap Placeholder() {
-  QPixmap field(1, 1);
-  field.fill(QColor(0, 0, 0, 40));
-  return field;
-}
-
-}  // namespace
-
-Picture FromImage(const QImage& image) {
-  const auto twips = [&](int pixels) {
-    return static_cast<std::int32_t>(std::lround(pixels * TwipsPerPixel / image.devicePixelRatio()));
-  };
-  Picture picture;
-  picture.bytes = SmallestPng(image);
-  picture.widthTwips = FittingPictureSize(twips(image.width()));
-  picture.heightTwips = FittingPictureSize(twips(image.height()));
-  return picture;
-}
-
-QTextImageFormat KeepPicture(const Picture& picture, const QTextCharFormat& text, QTextDocument& document) {
-  const QByteArray bytes = QByteArray::fromStdString(picture.bytes);
-  const QString name = DrawingName(bytes, picture);
-  document.addResource(QTextDocument::UserResource, SourceName(name), Source(bytes, picture));
-
+QTextImageFormat FormatOf(const Picture& picture, const QString& name, const QTextCharFormat& text) {
   const QSizeF shown = ShownSize(picture);
   QTextImageFormat format;
   format.merge(text);
@@ -156,6 +143,70 @@ QTextImageFormat KeepPicture(const Picture& picture, const QTextCharFormat& text
   format.setProperty(PictureTwipsWide, picture.widthTwips);
   format.setProperty(PictureTwipsHigh, picture.heightTwips);
   return format;
+}
+
+// A picture of the image's size, without bytes.
+Picture SizedAs(const QImage& image) {
+  const auto twips = [&](int pixels) {
+    return static_cast<std::int32_t>(std::lround(pixels * TwipsPerPixel / image.devicePixelRatio()));
+  };
+  Picture picture;
+  picture.widthTwips = FittingPictureSize(twips(image.width()));
+  picture.heightTwips = FittingPictureSize(twips(image.height()));
+  return picture;
+}
+
+QPixmap Placeholder() {
+  QPixmap field(1, 1);
+  field.fill(QColor(0, 0, 0, 40));
+  return field;
+}
+
+}  // namespace
+
+Picture FromImage(const QImage& image) {
+  Picture picture = SizedAs(image);
+  picture.bytes = SmallPng(image);
+  return picture;
+}
+
+Picture FromFile(const QByteArray& file) {
+  QBuffer buffer;
+  buffer.setData(file);
+  buffer.open(QIODevice::ReadOnly);
+  const QImageReader reader(&buffer);
+  const QByteArray kind = reader.format();
+  const QSize size = reader.size();
+  Picture picture;
+  if ((kind != "png" && kind != "jpeg") || size.isEmpty()) return picture;
+  picture.kind = kind == "png" ? PictureKind::Png : PictureKind::Jpeg;
+  picture.bytes = file.toStdString();
+  picture.widthTwips = FittingPictureSize(std::lround(size.width() * TwipsPerPixel));
+  picture.heightTwips = FittingPictureSize(std::lround(size.height() * TwipsPerPixel));
+  return picture;
+}
+
+QTextImageFormat KeepPicture(const Picture& picture, const QTextCharFormat& text, QTextDocument& document) {
+  const QByteArray bytes = QByteArray::fromStdString(picture.bytes);
+  const QString name = DrawingName(bytes, picture);
+  document.addResource(QTextDocument::UserResource, SourceName(name), Source(bytes, picture));
+  return FormatOf(picture, name, text);
+}
+
+QTextImageFormat KeepImage(const QImage& image, const QTextCharFormat& text, QTextDocument& document) {
+  if (qint64{image.width()} * image.height() <= MostPixelsAtOnce)
+    return KeepPicture(FromImage(image), text, document);
+  const QString name = DrawingResource + QString::number(image.cacheKey());
+  const auto maker = std::make_shared<const PngMaker>(image);
+  document.addResource(QTextDocument::UserResource, SourceName(name), QVariant::fromValue(maker));
+  document.addResource(QTextDocument::ImageResource, QUrl(name), QPixmap::fromImage(image));
+  document.setProperty(MakerProperty, QVariant::fromValue(std::weak_ptr(maker)));
+  return FormatOf(SizedAs(image), name, text);
+}
+
+bool AreFilesMade(const QTextDocument& document) {
+  const auto last = document.property(MakerProperty).value<std::weak_ptr<const PngMaker>>().lock();
+  return !last || last->IsDone();
 }
 
 Picture KeptPicture(const QTextImageFormat& format, const QTextDocument& document) {

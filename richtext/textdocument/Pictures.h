@@ -15,11 +15,18 @@ class QUrl;
 
 namespace richtext {
 
-// The image as a picture of its own size, in the smallest file that shows it unchanged.
+// The image as a picture of its own size, in a small file that shows it unchanged.
 Picture FromImage(const QImage& image);
+// A PNG or JPEG file as a picture of its own size, as it came; without bytes where it is none.
+Picture FromFile(const QByteArray& file);
 
 // Keeps the picture in the document; returns the format that shows it, with the attributes of `text`.
 QTextImageFormat KeepPicture(const Picture& picture, const QTextCharFormat& text, QTextDocument& document);
+// The same with an image. One of more than a megapixel is shown at once and made a file on a thread of its
+// own: who asks for its bytes (KeptPicture) waits for them.
+QTextImageFormat KeepImage(const QImage& image, const QTextCharFormat& text, QTextDocument& document);
+// Whether nobody would wait.
+bool AreFilesMade(const QTextDocument& document);
 // The picture that such a format shows.
 Picture KeptPicture(const QTextImageFormat& format, const QTextDocument& document);
 // The pixels of a file of any kind; a null image where there are none or more than a page shows.

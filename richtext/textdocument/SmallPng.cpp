@@ -8,6 +8,9 @@ namespace richtext {
 namespace {
 
 constexpr int PaletteSize = 256;
+constexpr qint64 MostPixelsOfSmall = 65'536;  // emoticons, icons, words of a screen
+constexpr int Tight = 100;                    // as the toolkit counts
+constexpr int Quick = 11;                     // the packer's first level
 
 const QRgb* Line(const QImage& image, int y) {
   return reinterpret_cast<const QRgb*>(image.constScanLine(y));
@@ -44,13 +47,29 @@ QImage WithPalette(const QImage& image, const QHash<QRgb, int>& numbers) {
   return made;
 }
 
-std::string Encoded(const QImage& image) {
-  QByteArray file;
-  QBuffer buffer(&file);
-  QImageWriter writer(&buffer, "png");
-  writer.setCompression(100);
-  writer.write(image);
-  return file.toStdString();
+// Takes what is written until it is told to stop.
+class File : public QBuffer {
+ public:
+  explicit File(const std::atomic<bool>* stop) : stop_(stop) {}
+
+ protected:
+  qint64 writeData(const char* bytes, qint64 size) override {
+    return stop_ && *stop_ ? -1 : QBuffer::writeData(bytes, size);
+  }
+
+ private:
+  const std::atomic<bool>* const stop_;
+};
+
+int CompressionOf(const QImage& image) {
+  return qint64{image.width()} * image.height() > MostPixelsOfSmall ? Quick : Tight;
+}
+
+std::string Encoded(const QImage& image, const std::atomic<bool>* stop) {
+  File file(stop);
+  QImageWriter writer(&file, "png");
+  writer.setCompression(CompressionOf(image));
+  return writer.write(image) ? file.data().toStdString() : std::string();
 }
 
 // The same pixels without the image's texts and colour profile.
@@ -61,13 +80,13 @@ QImage Bare(const QImage& image, QImage::Format format) {
 
 }  // namespace
 
-std::string SmallestPng(const QImage& image) {
+std::string SmallPng(const QImage& image, const std::atomic<bool>* stop) {
   if (image.isNull()) return {};
   QImage full = Bare(image, QImage::Format_ARGB32);
   if (IsOpaque(full)) full = Bare(full, QImage::Format_RGB32);
-  std::string smallest = Encoded(full);
-  if (const QHash<QRgb, int> colors = Colors(full); !colors.isEmpty()) {
-    const std::string mapped = Encoded(WithPalette(full, colors));
+  std::string smallest = Encoded(full, stop);
+  if (const QHash<QRgb, int> colors = Colors(full); !smallest.empty() && !colors.isEmpty()) {
+    const std::string mapped = Encoded(WithPalette(full, colors), stop);
     if (mapped.size() < smallest.size()) smallest = mapped;
   }
   return smallest;

@@ -1,4 +1,6 @@
 // What comes into the text box from other programs, and what goes out to them.
+#include <ctime>
+
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryFile>
 #include <QtCore/QTimer>
@@ -6,6 +8,8 @@
 
 #include "richtext/html/Reader.h"
 #include "richtext/html/Writer.h"
+#include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/SmallPng.h"
 #include "tests/richtext/BoxFixture.h"
 
 namespace richtext {
@@ -33,7 +37,7 @@ class PastingTest : public BoxTest {
     };
   }
   static Document Read(const QString& html, const QImage& carried = {}) {
-    Document page = ReadHtml(html, {}, carried);
+    Document page = ReadHtml(html, {}, [&] { return FromImage(carried); });
     for (ParagraphFormat& format : page.paragraphFormats) format.spaceBefore = format.spaceAfter = 0;
     return page;
   }
@@ -229,15 +233,44 @@ TEST_F(PastingTest, CopyOffersTheSelectionThreefold) {
   EXPECT_EQ(back.pictures.at(0).bytes, SignedPng().toStdString());
 }
 
-TEST_F(PastingTest, ABrowsersPictureComesAsItsBitmap) {
-  for (const char* html : {"<img src='http://example.invalid/a.png' alt='a'>", ""}) {
-    box.SetTextRTF("");
-    Paste([&](QMimeData& data) {
-      Offering("", html)(data);
-      data.setImageData(Checkers({64, 32}));
-    });
-    EXPECT_NE(Dump(Taken()).find(" 960x480>"), std::string::npos);
-  }
+TEST_F(PastingTest, ABrowsersPictureComesAsItsFileOrElseAsItsBitmap) {
+  for (const char* html : {"<img src='http://example.invalid/a.png' alt='a'>", ""})
+    for (const bool hasFile : {false, true}) {
+      box.SetTextRTF("");
+      Paste([&](QMimeData& data) {
+        Offering("", html)(data);
+        data.setImageData(Checkers({64, 32}));
+        if (hasFile) data.setData(QStringLiteral("image/png"), SignedPng());
+      });
+      const Picture picture = Taken().pictures.at(0);
+      EXPECT_EQ(picture.bytes == SignedPng().toStdString(), hasFile);
+      EXPECT_EQ(picture.widthTwips == 960 && picture.heightTwips == 480, !hasFile);
+    }
+}
+
+// A thread makes its file.
+TEST_F(PastingTest, ALargeBitmapIsStoredAsAnyOther) {
+  const QImage large = Checkers({1200, 1000});
+  Paste([&](QMimeData& data) { data.setImageData(large); });
+  ExpectKept();
+  EXPECT_EQ(DecodedPicture(Taken().pictures.at(0)).convertToFormat(large.format()), large);
+  box.InsertBitmap(large.mirrored());
+  box.SetTextRTF("");  // nobody waits for it
+}
+
+TEST_F(PastingTest, WhatNobodyAsksForIsNotMade) {
+  const std::string photo = SmallPng(Checkers({1000, 1000}));
+  const auto secondsOf = [](auto&& work) {
+    const std::clock_t start = std::clock();
+    work();
+    return std::clock() - start;
+  };
+  Document page = ReadRtf("{\\rtf1 {\\pict\\pngblip\\picwgoal900\\pichgoal900\\piccropl9 00}}");
+  page.pictures[0].bytes = photo;
+  FillDocument(page, *box.document());
+  box.selectAll();
+  const auto copying = secondsOf([&] { box.copy(); });
+  EXPECT_LT(3 * copying, secondsOf([] { QApplication::clipboard()->mimeData()->html(); }));
 }
 
 }  // namespace

@@ -194,7 +194,7 @@ TEST_F(RichTextBoxTest, TextCountsAsTheSelectionDoes) {
 
 TEST_F(RichTextBoxTest, ShowsThePartThatACropLeavesAndLargePhotos) {
   const QImage image = Checkers({8, 6});
-  const QImage shown = DecodedPicture({PictureKind::Png, SmallestPng(image), {}, 60, 75, {30, 15, 30, -15}});
+  const QImage shown = DecodedPicture({PictureKind::Png, SmallPng(image), {}, 60, 75, {30, 15, 30, -15}});
   EXPECT_EQ(shown.size(), QSize(5, 5));
   EXPECT_EQ(shown.copy(0, 0, 5, 4), image.copy(2, 2, 5, 4));
   EXPECT_EQ(shown.pixelColor(0, 4).alpha(), 0) << "a margin";
@@ -219,11 +219,11 @@ TEST(SmallPngTest, KeepsEveryPixel) {
   clear.setPixel(4, 4, 0x40102030);
   clear.setPixel(5, 4, 0);
   for (const QImage& image : {manyColors, clear, Checkers({1, 1}), Checkers({64, 32})}) {
-    const std::string png = SmallestPng(image);
+    const std::string png = SmallPng(image);
     EXPECT_EQ(DecodedFile(QByteArray::fromStdString(png)).convertToFormat(QImage::Format_ARGB32), image);
     EXPECT_LT(png.size(), image.width() == 64 ? 200u : 5000u) << "of two colours a palette";
   }
-  EXPECT_EQ(SmallestPng({}), "");
+  EXPECT_EQ(SmallPng({}), "");
 }
 
 TEST_F(RichTextBoxTest, NothingIsFetched) {
