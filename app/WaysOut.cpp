@@ -1,5 +1,6 @@
 #include "app/WaysOut.h"
 
+#include <chrono>
 #include <cstdio>
 #include <string>
 #include <utility>
@@ -17,6 +18,7 @@
 #include "platform/CodePage.h"
 #include "platform/Process.h"
 #include "platform/desktop/Application.h"
+#include "platform/desktop/ClipboardHandOver.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/SyncFolder.h"
 #include "state/State.h"
@@ -142,6 +144,13 @@ void SaveWhatCanBeSaved() {
   for (const Refusal& refusal : refusals) std::fprintf(stderr, "Thornquill: %s\n", refusal.asked.c_str());
 }
 
+// Before anything is saved: what is served here must not find the end half done.
+void HandTheClipboardOver() {
+  constexpr std::chrono::milliseconds longest{300};
+  const platform::ClipboardHandOver handing;
+  if (!handing.IsOver()) look::Pass().Await(longest, [&] { return handing.IsOver(); });
+}
+
 void EndWithoutAsking() {
   const NobodyThere nobody;
   if (IsDying())
@@ -154,6 +163,7 @@ void EndWithoutAsking() {
 }  // namespace
 
 void SaveAndExit() {
+  HandTheClipboardOver();
   Refusals refusals;
   SavePictures(refusals);
   SaveIndex(refusals);
@@ -169,9 +179,12 @@ void StoreOnFailure() {
 }
 
 void LeaveTheProgram() {
-  if (!look::Pass::InProgress()) return EndWithoutAsking();
-  look::Pass::RunAfterwards(&LeaveTheProgram);
-  platform::DismissMessage();
+  if (look::Pass::InProgress()) {
+    look::Pass::RunAfterwards(&LeaveTheProgram);
+    return platform::DismissMessage();
+  }
+  HandTheClipboardOver();
+  EndWithoutAsking();
 }
 
 void SaveWithoutDisplay() {

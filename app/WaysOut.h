@@ -20,6 +20,9 @@
 // CloseBox), or leaves its pages to the log. Nothing is saved, for there is nothing, at the exit of the first
 // run's dialog, at a start that finds the diary open or its index unreadable.
 //
+// On the first two roads the desktop's clipboard manager, where there is one, is handed what was copied
+// before anything is saved, and waited for a moment.
+//
 // On every road each file is tried on its own: one that cannot be written keeps none of the others from it.
 // Nothing is forgotten on the way: until the end is certain, windows, dialogs, pages and names stay as they
 // are, so that whoever stays can go on. Before the bookcase is loaded, and while a failure ends the program,

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <poll.h>
 #include <string>
 
@@ -26,15 +27,20 @@ xcb_window_t RootOf(xcb_connection_t* connection) {
   return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
 }
 
-// A window that is never shown, for as long as a question takes.
+// A window that is never shown.
+xcb_window_t CreateHiddenWindow(xcb_connection_t* connection) {
+  const xcb_window_t id = xcb_generate_id(connection);
+  const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+  xcb_create_window(connection, 0, id, RootOf(connection), -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+                    XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
+  return id;
+}
+
+// The same for as long as a question takes.
 class HiddenWindow {
  public:
   explicit HiddenWindow(xcb_connection_t* connection)
-      : connection_(connection), id_(xcb_generate_id(connection)) {
-    const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_create_window(connection, 0, id_, RootOf(connection), -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-                      XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
-  }
+      : connection_(connection), id_(CreateHiddenWindow(connection)) {}
   ~HiddenWindow() {
     xcb_destroy_window(connection_, id_);
     xcb_flush(connection_);
@@ -158,6 +164,23 @@ void ActivateX11Window(xcb_connection_t* connection, xcb_window_t window, std::u
   message.data.data32[1] = timestamp;
   SendToRoot(connection, message, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
   xcb_flush(connection);
+}
+
+xcb_window_t AskClipboardManager(xcb_connection_t* connection) {
+  const xcb_atom_t manager = Atom(connection, "CLIPBOARD_MANAGER");
+  const auto owner =
+      Own(xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, manager), nullptr));
+  if (!owner || owner->owner == XCB_WINDOW_NONE) return 0;
+  const xcb_window_t window = CreateHiddenWindow(connection);
+  const xcb_atom_t kinds[] = {Atom(connection, "UTF8_STRING"), Atom(connection, "text/plain"),
+                              Atom(connection, "text/rtf"), Atom(connection, "image/png")};
+  const xcb_atom_t list = Atom(connection, "THORNQUILL_CLIPBOARD_KINDS");
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, list, XCB_ATOM_ATOM, 32,
+                      static_cast<std::uint32_t>(std::size(kinds)), kinds);
+  xcb_convert_selection(connection, window, manager, Atom(connection, "SAVE_TARGETS"), list,
+                        XCB_CURRENT_TIME);
+  xcb_flush(connection);
+  return window;
 }
 
 }  // namespace platform
