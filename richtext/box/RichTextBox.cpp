@@ -4,7 +4,6 @@
 #include <memory>
 
 #include <QtCore/QScopedValueRollback>
-#include <QtCore/QTimer>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
@@ -126,28 +125,6 @@ void RichTextBox::SetText(const QString& text) {
     setTextCursor(QTextCursor(document()));
   }
   Q_EMIT Change();
-}
-
-void RichTextBox::GuardHeight(int at, int removed, int added) {
-  guard_->NoteChange(at, removed, added);
-  TellOfRest();
-}
-
-// The note takes its place when an edit is over, since that lays the page out.
-void RichTextBox::TellOfRest() {
-  if (guard_->Hides() == rest_->IsShown()) return;
-  QTimer::singleShot(0, this, [this] {
-    rest_->Show(guard_->Hides());
-    setViewportMargins(0, 0, 0, rest_->HeightFor(viewport()->width()));
-    rest_->PlaceBelow(*viewport());
-  });
-}
-
-void RichTextBox::resizeEvent(QResizeEvent* event) {
-  guard_->SetWidth(viewport()->width());
-  QTextEdit::resizeEvent(event);
-  TellOfRest();
-  rest_->PlaceBelow(*viewport());
 }
 
 // Paper and ink are the journal's and not the desktop's: on a dark desktop the page stays what it is.

@@ -3,9 +3,10 @@
 // The room has what a person does to a page. RTF comes in and goes out through rtf/ and textdocument/;
 // between them a page is the toolkit's text document, and each key, paste, choice of a look and word of an
 // input method is looked at here before the toolkit carries it out (RichTextBox.cpp,
-// RichTextBoxSelection.cpp, RichTextBoxComposing.cpp). Pasting.h knows what other programs offer, Printing.h
-// lays a selection out on paper. The hard part is the caret: the look of what is typed next is the toolkit's
-// guess from the letter before it, which is not always what the person means; CaretFormat.h tells when.
+// RichTextBoxSelection.cpp, RichTextBoxComposing.cpp, RichTextBoxHeight.cpp). Pasting.h knows what other
+// programs offer, Printing.h lays a selection out on paper. The hard part is the caret: the look of what is
+// typed next is the toolkit's guess from the letter before it, which is not always what the person means;
+// CaretFormat.h tells when.
 #pragma once
 
 #include <cstdint>

@@ -121,18 +121,18 @@ void HeightBound::Add(const Letters& letters, const QString& text, int from, int
     line_ = std::max(line_, tallest * body + LeastLine);
 }
 
-// A line that breaks before a short word or within a long one is filled but for a quarter. Before a long one
-// it breaks once. A wide letter may leave half of it free.
+// A line that breaks before a short word or within a long one is filled but for a third. Before a long one it
+// breaks once. A wide letter may leave half of it free.
 void HeightBound::AddLetter(char16_t unit, double width) {
-  const double quarter = room_ / 4;
-  const bool isWide = width > quarter;
-  lines_ += isWide ? 2 * std::min(width, room_) / room_ : width / (room_ - quarter);
+  const double third = room_ / 3;
+  const bool isWide = width > third;
+  lines_ += isWide ? 2 * std::min(width, room_) / room_ : width / (room_ - third);
   if (unit == LineBreak) ++lines_;
   if (isWide || unit == u' ' || unit == LineBreak) {
     word_ = 0;
     return;
   }
-  if (word_ <= quarter && word_ + width > quarter) lines_ += 2;
+  if (word_ <= third && word_ + width > third) ++lines_;
   word_ += width;
 }
 
@@ -167,12 +167,15 @@ double HeightBound::ShareOf(const QString& family) {
 // What comes in behind what is hidden is hidden, too.
 void HeightGuard::NoteChange(int at, int removed, int added) {
   const bool isAllNew = added >= document_.characterCount() - 1;
-  if (isAllNew) bound_ = 0, recountAt_ = TallestPage;
-  HeightBound bound(document_, width_);
+  if (isAllNew) {
+    heights_.emplace(document_, width_);
+    bound_ = 0;
+    recountAt_ = TallestPage;
+  }
   for (QTextBlock block = document_.findBlock(at); block.isValid() && block.position() <= at + added;
        block = block.next()) {
     if (block.previous().isValid() && !block.previous().isVisible()) block.setVisible(false);
-    bound_ += bound.Of(block, at - block.position(), at + added - block.position());
+    bound_ += heights_->Of(block, at - block.position(), at + added - block.position());
   }
   const bool mayShowMore = removed > 1 && Hides();
   if (bound_ <= recountAt_ && !mayShowMore) return;
@@ -183,6 +186,7 @@ void HeightGuard::NoteChange(int at, int removed, int added) {
 
 void HeightGuard::SetWidth(double pixels) {
   width_ = std::max(pixels - ScrollBar, NarrowestPage);
+  heights_.emplace(document_, width_);
   Recount();
 }
 
@@ -193,11 +197,10 @@ bool HeightGuard::Hides() const {
 // Returns the position of the first block that is shown and was hidden, or the other way round.
 int HeightGuard::Recount() {
   int first = document_.characterCount();
-  HeightBound bound(document_, width_);
   bound_ = 0;
   bool fits = true;
   for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
-    const double height = fits ? bound.Of(block) : 0;
+    const double height = fits ? heights_->Of(block) : 0;
     fits = fits && bound_ + height <= TallestPage;
     if (fits) bound_ += height;
     if (block.isVisible() != fits) first = std::min(first, block.position());

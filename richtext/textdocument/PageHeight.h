@@ -4,11 +4,12 @@
 //
 // How high a paragraph is is known only when it has been laid out, which is too late. What is reckoned here
 // is a height that it does not exceed, from the widths of letters in most fonts and from what a line that
-// breaks leaves free. For plain text that is two to three times what comes of it: five megabytes are shown
-// whole in a narrow window.
+// breaks leaves free. For plain text that is two to three times what comes of it: some five
+// megabytes are shown whole at the usual width.
 #pragma once
 
 #include <climits>
+#include <optional>
 #include <string>
 #include <unordered_map>
 
@@ -65,7 +66,7 @@ class HeightBound {
 // Watches over what is shown of a document that is laid out.
 class HeightGuard {
  public:
-  explicit HeightGuard(QTextDocument& document) : document_(document) {}
+  explicit HeightGuard(QTextDocument& document) : document_(document) { SetWidth(0); }
 
   // To be told of each QTextDocument::contentsChange, of which the layout hears afterwards. Hides and shows
   // again what the change calls for.
@@ -80,6 +81,7 @@ class HeightGuard {
 
   QTextDocument& document_;
   double width_ = 0;
+  std::optional<HeightBound> heights_;  // that knows the formats since the document was cleared last
   double bound_ = 0;  // of what is shown; too much where something has gone since it was counted
   double recountAt_ = TallestPage;
 };

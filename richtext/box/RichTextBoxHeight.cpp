@@ -1,0 +1,32 @@
+// The text box and the pages that are too high for the toolkit's layout.
+#include <QtCore/QTimer>
+
+#include "richtext/box/RestNote.h"
+#include "richtext/box/RichTextBox.h"
+#include "richtext/textdocument/PageHeight.h"
+
+namespace richtext {
+
+void RichTextBox::GuardHeight(int at, int removed, int added) {
+  guard_->NoteChange(at, removed, added);
+  TellOfRest();
+}
+
+// The note takes its place when an edit is over, since that lays the page out.
+void RichTextBox::TellOfRest() {
+  if (guard_->Hides() == rest_->IsShown()) return;
+  QTimer::singleShot(0, this, [this] {
+    rest_->Show(guard_->Hides());
+    setViewportMargins(0, 0, 0, rest_->HeightFor(viewport()->width()));
+    rest_->PlaceBelow(*viewport());
+  });
+}
+
+void RichTextBox::resizeEvent(QResizeEvent* event) {
+  guard_->SetWidth(viewport()->width());
+  QTextEdit::resizeEvent(event);
+  TellOfRest();
+  rest_->PlaceBelow(*viewport());
+}
+
+}  // namespace richtext
