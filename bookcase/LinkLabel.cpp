@@ -20,10 +20,17 @@ void LinkLabel::keyPressEvent(QKeyEvent* event) {
 
 void LinkLabel::mousePressEvent(QMouseEvent* event) {
   event->accept();  // so that the release comes here, wherever it happens
+  isSecondClick_ = false;
+}
+
+void LinkLabel::mouseDoubleClickEvent(QMouseEvent* event) {
+  event->accept();
+  isSecondClick_ = true;
 }
 
 void LinkLabel::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) Q_EMIT Clicked();
+  const bool isWithin = rect().contains(event->position().toPoint());
+  if (event->button() == Qt::LeftButton && isWithin && !isSecondClick_) Q_EMIT Clicked();
 }
 
 void LinkLabel::paintEvent(QPaintEvent* event) {

@@ -14,7 +14,11 @@ class LinkLabel : public QLabel {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool isSecondClick_ = false;  // of a double click, whose first one has been told
 };
