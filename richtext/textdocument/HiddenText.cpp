@@ -28,10 +28,11 @@ std::vector<int> Places(const QTextDocument& document) {
   return places;
 }
 
-bool IsSign(QTextCursor cursor, int position) {
+bool IsSign(const QTextCursor& cursor, int position) {
   if (cursor.document()->characterAt(position) != QChar(HiddenSign)) return false;
-  cursor.setPosition(position + 1);
-  return !HiddenTextOf(cursor.charFormat()).isEmpty();
+  QTextCursor sign(cursor.document());  // and not a copy, which would keep a format that was chosen
+  sign.setPosition(position + 1);
+  return !HiddenTextOf(sign.charFormat()).isEmpty();
 }
 
 }  // namespace
@@ -75,6 +76,18 @@ void SelectNextLetter(QTextCursor& cursor) {
   cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
   while (cursor.position() > cursor.anchor() && IsSign(cursor, cursor.position() - 1))
     cursor.setPosition(cursor.position() - 1, QTextCursor::KeepAnchor);
+}
+
+void RemoveShown(QTextCursor& cursor) {
+  const int from = cursor.selectionStart();
+  cursor.beginEditBlock();
+  for (int at = cursor.selectionEnd(); at > from; --at) {
+    if (IsSign(cursor, at - 1)) continue;
+    cursor.setPosition(at - 1);
+    cursor.setPosition(at, QTextCursor::KeepAnchor);  // a letter alone, and not the signs behind it too
+    cursor.removeSelectedText();
+  }
+  cursor.endEditBlock();
 }
 
 }  // namespace richtext

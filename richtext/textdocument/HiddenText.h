@@ -27,5 +27,7 @@ int FromShown(const QTextDocument& document, int position);
 void PassBack(QTextCursor& cursor);
 // Selects what the delete key takes away at the cursor: the letter that follows, without the signs around it.
 void SelectNextLetter(QTextCursor& cursor);
+// Removes the selection but for its signs, as one step of undo.
+void RemoveShown(QTextCursor& cursor);
 
 }  // namespace richtext

@@ -243,8 +243,10 @@ bool IsListItem(const QTextBlockFormat& format) {
 
 QTextBlockFormat WithoutList(const QTextBlockFormat& format) {
   ParagraphFormat left = FromBlockFormat(format);
+  left.leftIndent = ShownLeftIndent(left);
+  left.rightIndent = ShownRightIndent(left);
+  left.firstLineIndent = ShownFirstIndent(left);
   left.list = {};
-  left.firstLineIndent = std::max(0, left.firstLineIndent);
   return ToBlockFormat(left);
 }
 
