@@ -96,6 +96,7 @@ void Unlock(bool isWritable) {
   look::The<frmBookcase>().ShowModeless();
   LoadPictureStore();
   TellWhatCameBack();
+  TellLeftOutJournals();
 }
 
 void StartLocked(bool isWritable) {

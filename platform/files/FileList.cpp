@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <dirent.h>
 #include <memory>
+#include <optional>
 
 #include <QtCore/QFile>
 
@@ -23,6 +24,12 @@ bool EndsIn(std::string_view name, std::string_view ending) {
 bool Matches(std::string_view name, const std::vector<std::string_view>& endings) {
   return name.front() != '.' && std::any_of(endings.begin(), endings.end(),
                                             [name](std::string_view ending) { return EndsIn(name, ending); });
+}
+
+// Bytes that no name decodes to could never be found again by the decoded name.
+std::optional<std::string> InCodePage(const std::string& name) {
+  const QString decoded = QFile::decodeName(name.c_str());
+  return QFile::encodeName(decoded) == name.c_str() ? ToCodePage(decoded) : std::nullopt;
 }
 
 }  // namespace
@@ -47,16 +54,15 @@ std::vector<std::string> ListFiles(const std::string& folder, const std::vector<
   return names;
 }
 
-std::vector<std::string> ListJournalFiles(const std::string& folder) {
-  std::vector<std::string> journals;
+JournalFiles ListJournalFiles(const std::string& folder) {
+  JournalFiles journals;
   for (const std::string& name : NamesIn(folder)) {
     if (!Matches(name, {".tqf"}) || !FileExists(folder + "/" + name)) continue;
-    const QString decoded = QFile::decodeName(name.c_str());
-    const auto inCodePage = ToCodePage(decoded);
-    // Bytes that no name decodes to could never be found again by the decoded name.
-    if (inCodePage && QFile::encodeName(decoded) == name.c_str()) journals.push_back(*inCodePage);
+    const auto inCodePage = InCodePage(name);
+    inCodePage ? journals.names.push_back(*inCodePage) : journals.foreign.push_back(name);
   }
-  std::sort(journals.begin(), journals.end());
+  std::sort(journals.names.begin(), journals.names.end());
+  std::sort(journals.foreign.begin(), journals.foreign.end());
   return journals;
 }
 

@@ -12,8 +12,12 @@ namespace platform {
 // PathNotFound, PermissionDenied or PathAccess when the folder cannot be read.
 std::vector<std::string> ListFiles(const std::string& folder, const std::vector<std::string_view>& endings);
 
-// The names (no folder, in the code page) of the files that match "*.tqf", in the order of their bytes. A
-// name that the code page cannot hold is left out.
-std::vector<std::string> ListJournalFiles(const std::string& folder);
+// The files of a folder that match "*.tqf", each in the order of their bytes, without folders and hidden
+// ones.
+struct JournalFiles {
+  std::vector<std::string> names;    // in the code page
+  std::vector<std::string> foreign;  // the system's bytes of those that the code page cannot hold
+};
+JournalFiles ListJournalFiles(const std::string& folder);
 
 }  // namespace platform

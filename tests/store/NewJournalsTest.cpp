@@ -1,4 +1,7 @@
 // Rows that are made: for the first journal, for another one, and for files that no row knows.
+#include <filesystem>
+#include <fstream>
+
 #include "store/LostJournals.h"
 #include "store/NewJournals.h"
 #include "store/Scrambler.h"
@@ -52,7 +55,8 @@ TEST_F(NewJournalsTest, EachFileIsAdoptedThatNoRowMeansToTheLetter) {
     folder.Write(name, Sample(std::string("5-strays/") + name));
   folder.Write("Caf\xC3\xA9.TQF", Sample("5-strays/j00007.tqf"));
   folder.Write("below.tqf", With(Sample("5-strays/j00007.tqf"), 539, 0xFFFFFFFF));
-  for (const char* other : {".hidden.tqf", "\xFF.tqf", "\xD0\x96.tqf", "a.tqf.bak"}) folder.Write(other, "");
+  for (const char* other : {".hidden.tqf", "\xFF.tqf", "\xD0\x96.tqf", "a\\b.tqf", "a.tqf.bak"})
+    std::ofstream(folder.PathOf(other));
   folder.Block("folder.tqf");
   FillRows(1);
   std::string told;
@@ -63,6 +67,14 @@ TEST_F(NewJournalsTest, EachFileIsAdoptedThatNoRowMeansToTheLetter) {
   EXPECT_EQ(std::tuple(Journals.at(3).PageCount, Journals.at(4).PageCount, Journals.at(5).PageCount),
             std::tuple(0, 0, 2));
   EXPECT_TRUE(answers.messages.empty());
+  TellLeftOutJournals();
+  EXPECT_NE(answers.last().find(
+                "\n\n\xD0\x96.tqf (in its name: \xD0\x96)\n\xEF\xBF\xBD.tqf (in its name: bytes that "
+                "are no letters)\na\\b.tqf (in its name: \\)\n\nThey"),
+            std::string::npos)
+      << answers.last();
+  EXPECT_EQ(answers.messages.size(), 1u);
+  std::filesystem::remove(folder.PathOf("\xFF.tqf"));  // the toolkit cannot, at the end
 }
 
 }  // namespace
