@@ -75,7 +75,8 @@ bool ReadOldStore(const std::string& path) {
     store::DecodedPictures decoded = store::DecodeOldPictureStore(platform::ReadFile(path));
     const bool isDamaged = decoded.isDamaged;
     Take(std::move(decoded));
-    if (isDamaged) TellDamaged(oldStoreName, "The damaged file is kept as jpics.bin.damaged.");
+    if (isDamaged)
+      TellDamaged(oldStoreName, "The damaged file is kept beside, under a name that ends in .damaged.");
     return isDamaged;
   } catch (const Failure& failure) {
     Take({{{}}, true});

@@ -47,6 +47,10 @@ std::string IndexPath() {
   return platform::PathOf("journal.tqt");
 }
 
+std::string NameOf(const std::string& path) {
+  return path.substr(path.rfind('/') + 1);
+}
+
 void GiveUp(const std::string& reason) {
   platform::ShowMessage(
       reason +
@@ -60,8 +64,8 @@ void TellDamage(const std::string& problem) {
       "The file journal.tqt is damaged (" + problem + "): " + std::to_string(JournalCount) +
       (JournalCount == 1 ? " journal" : " journals") +
       " could be read from it. Journals that are missing come back under their file names as "
-      "long as their files are there.\n\nThe damaged file is kept as journal.tqt.damaged "
-      "before it is written over.");
+      "long as their files are there.\n\nThe damaged file is kept as " +
+      NameOf(platform::DamagedCopyOf(IndexPath())) + " before it is written over.");
 }
 
 void AddRow(JournalEntry entry) {

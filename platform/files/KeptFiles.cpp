@@ -48,9 +48,16 @@ bool IsOrdinaryFile(const std::string& path) {
   return lstat(path.c_str(), &entry) == 0 && S_ISREG(entry.st_mode);
 }
 
+// A copy that cannot be read is none of this file.
+bool HoldsTheSame(const std::string& path, const std::string& kept) try {
+  return IsOrdinaryFile(kept) && ReadFile(path) == ReadFile(kept);
+} catch (const Failure&) {
+  return false;
+}
+
 // Kept already, at a save that failed: under a second name, or in a copy.
 bool WasKept(const std::string& path, const std::string& kept) {
-  return SameFile(path, kept) || (IsOrdinaryFile(kept) && ReadFile(path) == ReadFile(kept));
+  return SameFile(path, kept) || HoldsTheSame(path, kept);
 }
 
 bool IsOrWasKept(const std::string& path, const std::string& kept) {
@@ -106,6 +113,13 @@ std::string MoveAside(const std::string& path) {
 std::string KeepDamaged(const std::string& path) {
   if (!FileExists(path)) throw Failure(FailureKind::FileNotFound, path);
   return KeepBeside(path, ".damaged", 0);
+}
+
+std::string DamagedCopyOf(const std::string& path) {
+  int number = 0;
+  std::string name = KeptName(path, ".damaged", number);
+  while (IsTaken(name) && !WasKept(path, name)) name = KeptName(path, ".damaged", ++number);
+  return name;
 }
 
 bool Lock(int descriptor) {

@@ -11,6 +11,9 @@ namespace platform {
 // can be no copy. The copy is for its owner alone, at the latest when ReplaceDataFile has replaced the file.
 std::string KeepDamaged(const std::string& path);
 
+// The path that KeepDamaged would return now.
+std::string DamagedCopyOf(const std::string& path);
+
 // Gives the file itself, or whatever has its name, the first such name that is free, and returns it. That
 // takes no room on a full disk. A power cut can undo it until the folder is synced
 // (platform/files/SyncFolder.h). Throws PermissionDenied, PathNotFound or PathAccess, with nothing changed.

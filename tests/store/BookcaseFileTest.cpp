@@ -94,12 +94,15 @@ TEST_F(BookcaseFileTest, ReadsTheWholeRecordsAroundAbsurdOnesAndKeepsTheDamagedF
   EXPECT_EQ(Load(Bytes(journals)), "a:a.tqf a: ");
   const std::string sound = Bytes({Entry("a.tqf"), Entry("b.tqf")});
   EXPECT_EQ(Load(sound.substr(0, sound.size() - 1)), "a:a.tqf ");
+  folder.Write("journal.tqt.damaged", "an older one");
   Load(sound + "left over");
-  EXPECT_EQ(answers.messages.size(), 1u);
-  EXPECT_EQ(folder.Names().size(), 1u);
-  for (int round = 0; round < 2; ++round) SaveJournalIndex();
-  EXPECT_EQ(folder.Read("journal.tqt.damaged"), sound + "left over");
+  ASSERT_EQ(answers.messages.size(), 1u);
+  EXPECT_NE(answers.last().find("is kept as journal.tqt.1.damaged before"), std::string::npos)
+      << answers.last();
   EXPECT_EQ(folder.Names().size(), 2u);
+  for (int round = 0; round < 2; ++round) SaveJournalIndex();
+  EXPECT_EQ(folder.Read("journal.tqt.1.damaged"), sound + "left over");
+  EXPECT_EQ(folder.Names().size(), 3u);
   Load(folder.Read(name));
   EXPECT_TRUE(answers.messages.empty());
 }
