@@ -4,6 +4,7 @@
 #include <charconv>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "bookcase/frmBookcase.h"
 #include "editor/PageFace.h"
@@ -42,15 +43,16 @@ Setting SettingIn(const std::string& text, const char* key) {
       kind, std::string(setting.key) + "=" + setting.value + " in " + platform::PathOf(FileName));
 }
 
-// The number that the value begins with; 0 where it begins with no digit. Quotes may have kept blanks before
-// it.
+// The number that the value begins with; 0 where it begins with no digit, as a sign is none. Quotes may have
+// kept blanks before it.
 std::int32_t LeadingNumber(const Setting& setting) {
   const std::string& text = setting.value;
   std::int32_t number = 0;
   const std::size_t first = std::min(text.find_first_not_of(" \t"), text.size());
+  if (text.substr(first).starts_with('-')) return 0;
   const auto [end, error] = std::from_chars(text.data() + first, text.data() + text.size(), number);
   if (error == std::errc::result_out_of_range) Refuse(setting, platform::FailureKind::Overflow);
-  return std::max(number, 0);
+  return number;
 }
 
 void TakeGotoLastPage(const Setting& setting) {
@@ -67,6 +69,14 @@ void TakeColor(const Setting& setting, std::int32_t number) {
   if (number != 0) ApplyColorTheme(static_cast<std::int16_t>(number));
 }
 
+using Settings = std::pair<std::int32_t, std::int32_t>;
+
+Settings Present() {
+  return {chkGotoLastPage, optColor};
+}
+
+Settings kept = {1, 0};  // what the next start reads: the file's, or the design's where it has none
+
 }  // namespace
 
 // Button 0 is on by design and tells of no change, so theme 0 is put on by a step of its own.
@@ -80,6 +90,7 @@ void LoadSettings() {
   guarded([&] { number = LeadingNumber(color); });
   guarded([&] { TakeColor(color, number); });
   if (number == 0) guarded([] { ApplyColorTheme(0); });
+  kept = Present();
 }
 
 void SaveSettings() {
@@ -89,7 +100,12 @@ void SaveSettings() {
   text = platform::WithProfileValue(text, Section, "chkGotoLastPage", std::to_string(chkGotoLastPage));
   text = platform::WithProfileValue(text, Section, "optColor", std::to_string(optColor));
   platform::ReplaceDataFile(path, text);
+  kept = Present();
   platform::TellKept(path);
+}
+
+bool AreSettingsUnsaved() {
+  return Present() != kept;
 }
 
 void ApplyColorTheme(std::int16_t index) {

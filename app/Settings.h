@@ -12,6 +12,9 @@ void LoadSettings();
 // with the file as it was, when it cannot be written.
 void SaveSettings();
 
+// Whether a setting in memory has changed since it was read or last written.
+bool AreSettingsUnsaved();
+
 // Dresses the bookcase and the journal's head strip in a theme, 0 to 2; the options dress themselves, and
 // every other window takes it over when it loads. Any other number leaves the pictures as they are, over a
 // black surface.

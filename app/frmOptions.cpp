@@ -1,5 +1,7 @@
 #include "app/frmOptions.h"
 
+#include <utility>
+
 #include "app/Settings.h"
 #include "lock/frmPassChange.h"
 #include "look/Theme.h"
@@ -10,15 +12,17 @@
 
 namespace {
 
-void SaveOrTell() {
-  try {
-    SaveSettings();
-  } catch (const platform::Failure& failure) {
-    platform::ShowMessage("The options could not be saved. " + std::string(failure.what()) +
-                              "\n\nThey hold until the program ends. When the cause is removed, close the "
-                              "options once more, and they are saved.",
-                          platform::BoxIcon::Stop);
-  }
+bool AsksToCloseWithout(const std::string& reason) {
+  return platform::ShowMessage({.text = "The options still could not be saved. " + reason +
+                                        "\n\nThey hold until the program ends, and are gone then. Close them "
+                                        "without saving?",
+                                .buttons = platform::Buttons::YesNo,
+                                .icon = platform::BoxIcon::Stop,
+                                .prefersNo = true}) == platform::Answer::Yes;
+}
+
+void Tell(const std::string& reason, const char* what) {
+  platform::ShowMessage("The options could not be saved. " + reason + what, platform::BoxIcon::Stop);
 }
 
 void SetBackColor(QWidget& control, const QColor& color) {
@@ -91,8 +95,7 @@ void frmOptions::cmdResetPass_Click() {
 }
 
 void frmOptions::cmdClose_Click() {
-  SaveOrTell();
-  hide();
+  if (TrySaving() != Outcome::Stays) hide();
 }
 
 void frmOptions::reject() {
@@ -100,8 +103,33 @@ void frmOptions::reject() {
 }
 
 void frmOptions::CloseBox() {
-  SaveOrTell();
+  const Outcome outcome = TrySaving();
+  if (outcome == Outcome::GoesUnsaved) hide();
+  if (outcome != Outcome::Saved) return;
   ::chkGotoLastPage = 1;
   ::optColor = 0;
   look::Discard(this);
+}
+
+frmOptions::Outcome frmOptions::TrySaving() {
+  try {
+    SaveSettings();
+  } catch (const platform::Failure& failure) {
+    return Refused(failure.what());
+  }
+  wasRefused_ = false;
+  return Outcome::Saved;
+}
+
+frmOptions::Outcome frmOptions::Refused(const std::string& reason) {
+  if (!AreSettingsUnsaved()) {
+    Tell(reason, "\n\nNothing is lost: there was nothing new to save.");
+    return Outcome::GoesUnsaved;
+  }
+  if (std::exchange(wasRefused_, true))
+    return AsksToCloseWithout(reason) ? Outcome::GoesUnsaved : Outcome::Stays;
+  Tell(reason,
+       "\n\nThey hold until the program ends. When the cause is removed, close the options once more, and "
+       "they are saved.");
+  return Outcome::Stays;
 }

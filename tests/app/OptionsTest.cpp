@@ -45,7 +45,7 @@ TEST_F(OptionsTest, ABadValueCostsOneMessageAndNoMore) {
       {"", "7", "10", 1, {"GetIniError: Invalid property value: optColor=7 in " + name}},
       {"", "", "10", 0, {}},
       {"0", "2", "02", 2, {}},
-      {"abc", "abc", "00", 0, {}},
+      {"abc", "-99999999999", "00", 0, {}},
       {" 1 and more", "1.9", "11", 1, {}},
       {"5", "-1", "10", 0, {"GetIniError: Invalid property value: chkGotoLastPage=5 in " + name}},
       {"\" 0\"", "99999999999", "00", 0, {"GetIniError: Overflow: optColor=99999999999 in " + name}},
@@ -90,6 +90,31 @@ TEST_F(OptionsTest, TheCloseBoxBringsTheDesignValuesBack) {
   QTest::keyClick(&Dialog(), Qt::Key_Escape);
   EXPECT_TRUE(look::IsLoaded<frmOptions>()) << "Escape is the button and not the close box";
   EXPECT_EQ(folder.Read("journal.ini"), "[Options]\r\nchkGotoLastPage=1\r\noptColor=0\r\n");
+}
+
+TEST_F(OptionsTest, WhatCannotBeSavedStaysAndTheSecondRefusalAsks) {
+  LoadSettings();
+  folder.Block("journal.ini");
+  Dialog().show();
+  Click(Dialog().cmdClose);
+  EXPECT_NE(answers.last().find("nothing new to save"), std::string::npos) << answers.last();
+  EXPECT_FALSE(Dialog().isVisible());
+  Dialog().show();
+  Dialog().optColor[1]->click();
+  Dialog().close();
+  EXPECT_NE(answers.last().find("close the options once more"), std::string::npos) << answers.last();
+  QTest::keyClick(&Dialog(), Qt::Key_Escape);
+  EXPECT_NE(answers.last().find("Close them without saving?"), std::string::npos) << answers.last();
+  EXPECT_TRUE(Dialog().isVisible());
+  answers.yes = 1;
+  Dialog().close();
+  EXPECT_FALSE(Dialog().isVisible());
+  EXPECT_EQ(Settings(), "11") << "they hold until the program ends";
+  EXPECT_EQ(answers.messages.size(), 4u);
+  folder.Unblock("journal.ini");
+  Dialog().show();
+  Click(Dialog().cmdClose);
+  EXPECT_EQ(folder.Read("journal.ini"), "[Options]\r\nchkGotoLastPage=1\r\noptColor=1\r\n");
 }
 
 TEST_F(OptionsTest, KeepsAFileThatAnotherProgramPutThere) {

@@ -59,7 +59,7 @@ def disks(number=None):
 
 BREAK, MEND, SHUT = ["run sh $HOME/break"], ["run sh $HOME/mend"], ["shut frmJournal"]
 TROUBLED = (unlocked("Rosebud7") + opened(0) + typed("w3") + BREAK + ["click btnBack", "click btnNext"] + DRAG + SHUT + MEND + CLOSE
-            + NEW_JOURNAL + BREAK + SHUT + MEND + CLOSE + BREAK + OPTIONS[:-2] + MEND + OPTIONS[-2:] + BREAK + ["click cmdClose"]
+            + NEW_JOURNAL + BREAK + SHUT + MEND + CLOSE + BREAK + OPTIONS[:-3] + ["click cmdClose"] + MEND + OPTIONS[-3:] + BREAK + ["click cmdClose"]
             + MEND + LEAVE)
 EXPECTED = {"j00000.tqf": [[], ["w1"], ["w2", "w3"]], "j00001.tqf": [[], ["w5"]],
             "journal.tqt": ("Quill7", [("Home", "j00000.tqf"), ("Second", "j00001.tqf")])}
