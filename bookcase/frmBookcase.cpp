@@ -77,11 +77,18 @@ void SetBold(QWidget& control) {
   control.setFont(font);
 }
 
-void TellLeft(const std::vector<std::string>& left) {
+void TellLeft(std::vector<std::string> left, const std::vector<std::string>& logs) {
+  left.insert(left.end(), logs.begin(), logs.end());
   if (left.empty()) return;
   std::string text = "The journal is deleted. What it is kept in beside its own file is still there:\n";
   for (const std::string& line : left) text += "\n" + line;
   platform::ShowMessage(text + "\n\nDelete these yourself if nobody is to read them any more.");
+}
+
+void TellShared(const std::string& fileName) {
+  const std::string name = platform::FromCodePage(fileName).toStdString();
+  platform::ShowMessage("The journal is out of the bookcase. Its file " + name +
+                        " stays with its pages and pictures: another journal of the bookcase has it, too.");
 }
 
 }  // namespace
@@ -235,13 +242,14 @@ void frmBookcase::cmdDelete_Click() {
       "Are you sure you want to delete " + platform::FromCodePage(fileName).toStdString(),
       platform::Buttons::YesNo, platform::BoxIcon::Stop};
   if (platform::ShowMessage(question) != platform::Answer::Yes) return;
-  const std::vector<std::string> traces = store::TracesOf(fileName);
+  const bool isShared = IsFileShared(row);
+  const std::vector<std::string> traces = isShared ? std::vector<std::string>() : store::TracesOf(fileName);
   if (!HasRemoved(row)) return;
   const std::vector<std::string> left = store::DeleteTraces(traces);
-  RemovePicturesOf(fileName);
+  if (!isShared) RemovePicturesOf(fileName);
   SavePictureStore();
   RefreshBookcaseList();
-  TellLeft(left);
+  isShared ? TellShared(fileName) : TellLeft(left, store::LogsWith(fileName));
 }
 
 // The journal window stays invisible: the export turns its pages.

@@ -7,9 +7,11 @@
 
 #include "platform/Failure.h"
 #include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
 #include "platform/files/SyncFolder.h"
 #include "state/State.h"
 #include "store/JournalFile.h"
+#include "store/UnstoredLog.h"
 
 namespace store {
 namespace {
@@ -75,6 +77,19 @@ std::optional<std::string> DeleteTrace(const std::string& path) {
   }
 }
 
+// Nothing when the log has none of the journal's pages.
+std::optional<std::string> WhatIsLogged(const std::string& path, const std::string& fileName) {
+  try {
+    const DecodedLog decoded = DecodeLog(platform::ReadFile(path));
+    const auto isIts = [&](const UnstoredJournal& journal) { return journal.FileName == fileName; };
+    if (std::ranges::any_of(decoded.log.journals, isIts)) return path + " (it has pages of the journal)";
+    if (decoded.health == LogHealth::Sound) return std::nullopt;
+    return path + " (it is damaged, and may have pages of the journal)";
+  } catch (const platform::Failure& failure) {
+    return failure.what();
+  }
+}
+
 }  // namespace
 
 std::vector<std::string> TracesOf(const std::string& fileName) {
@@ -89,6 +104,13 @@ std::vector<std::string> DeleteTraces(const std::vector<std::string>& paths) {
   for (const std::string& path : paths)
     if (const auto reason = DeleteTrace(path)) left.push_back(*reason);
   return left;
+}
+
+std::vector<std::string> LogsWith(const std::string& fileName) {
+  std::vector<std::string> lines;
+  for (const std::string& path : CopiesOf(platform::PathOf("journal.tql")))
+    if (const auto line = WhatIsLogged(path, fileName)) lines.push_back(*line);
+  return lines;
 }
 
 }  // namespace store

@@ -15,4 +15,8 @@ std::vector<std::string> TracesOf(const std::string& fileName);
 // another journal of the bookcase. Returns a line for each file that is still there, its path and why.
 std::vector<std::string> DeleteTraces(const std::vector<std::string>& paths);
 
+// A line for each log that was put aside (docs/file-formats.md) and has or may have pages of the journal. It
+// may have other journals' pages, too, and stays.
+std::vector<std::string> LogsWith(const std::string& fileName);
+
 }  // namespace store

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string_view>
+#include <sys/stat.h>
 #include <system_error>
 #include <unordered_set>
 
@@ -43,6 +44,15 @@ void RefuseUnusable(const std::string& password) {
   if (password.empty() || password.size() > MaxPasswordLength) {
     throw Failure(FailureKind::InvalidArgument, "a password has 1 to 128 characters");
   }
+}
+
+// A second name of a file is an entry of its own, and can go; some disks take one name for another.
+bool IsSameEntry(const std::string& one, const std::string& other) {
+  if (one == other) return true;
+  struct stat first {
+  }, second{};
+  return lstat(one.c_str(), &first) == 0 && lstat(other.c_str(), &second) == 0 && first.st_nlink == 1 &&
+         first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
 }  // namespace
@@ -94,11 +104,21 @@ void MakeJournal(const std::string& name) {
   AddJournalEntry(name);
 }
 
+bool IsFileShared(std::int32_t row) {
+  const auto index = static_cast<std::size_t>(row);
+  const std::string path = platform::PathOf(Journals.at(index).FileName);
+  for (std::size_t other = 1; other < Journals.size(); ++other)
+    if (other != index && Journals[other].Deleted == False &&
+        IsSameEntry(path, platform::PathOf(Journals[other].FileName)))
+      return true;
+  return false;
+}
+
 void RemoveJournal(std::int32_t row) {
   if (row < 1 || row > JournalCount) throw Failure(FailureKind::SubscriptOutOfRange);
   JournalEntry& entry = Journals.at(static_cast<std::size_t>(row));
   const std::string path = platform::PathOf(entry.FileName);
-  const bool hasFile = platform::FileExists(path);
+  const bool hasFile = platform::FileExists(path) && !IsFileShared(row);
   if (hasFile) platform::DeleteFile(path);
   entry.Deleted = True;
   if (hasFile) platform::SyncFolderOf(path);

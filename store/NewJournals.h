@@ -23,7 +23,11 @@ inline constexpr std::size_t MaxPasswordLength = 128;
 // Whether it is longer than that, which a message then tells.
 bool IsPasswordTooLong(const std::string& password);
 
-// Deletes the journal's file, if it has one, and marks its row. Throws platform::NotYetOnDisk when a power
-// cut could bring the file back, and any other platform::Failure, with nothing changed, when it cannot be
-// deleted.
+// Whether another journal of the bookcase has the same file, under the same name or one that the disk takes
+// for the same.
+bool IsFileShared(std::int32_t row);
+
+// Deletes the journal's file, if it has one of its own, and marks its row. Throws platform::NotYetOnDisk when
+// a power cut could bring the file back, and any other platform::Failure, with nothing changed, when it
+// cannot be deleted.
 void RemoveJournal(std::int32_t row);

@@ -14,6 +14,7 @@
 #include "store/NewJournals.h"
 #include "store/PictureStore.h"
 #include "store/Scrambler.h"
+#include "store/UnstoredLog.h"
 #include "tests/support/Windows.h"
 
 namespace {
@@ -157,6 +158,38 @@ TEST_F(BookcaseTest, WithAJournalGoItsCopiesAndWhereItsLinkLeadsAndWhatStaysIsTo
   Click(Window().cmdDelete);
   EXPECT_NE(answers.last().find("notes (this is no journal)"), std::string::npos);
   EXPECT_TRUE(!folder.Exists("j00002.tqf") && folder.Exists("notes"));
+}
+
+TEST_F(BookcaseTest, AFileThatTwoJournalsHaveGoesWithTheSecond) {
+  Show({"one", "two", "three"});
+  Journals[2].FileName = "./j00000.tqf";  // as another case is on a disk that knows none
+  Journals[3].FileName = "j00000.tqf";
+  folder.Write("j00000.tqf", "bytes");
+  folder.Write("j00000.tqf.damaged", "bytes");
+  store::UnstoredLog log;
+  log.journals.resize(1);
+  log.journals[0].FileName = "j00000.tqf";
+  log.journals[0].pages.resize(1);
+  folder.Write("journal.tql.damaged", store::EncodeLog(log));
+  log.journals[0].FileName = "j00001.tqf";
+  folder.Write("journal.tql.1.damaged", store::EncodeLog(log));
+  Pictures.resize(2);
+  PictureCount = 1;
+  Pictures[1].JournalFile = "j00000.tqf";
+  for (int shared = 2; shared > 0; --shared) {
+    answers.yes = 1;
+    Click(Window().cmdDelete);
+    EXPECT_NE(answers.last().find("j00000.tqf stays with its pages"), std::string::npos) << answers.last();
+    EXPECT_TRUE(folder.Exists("j00000.tqf") && folder.Exists("j00000.tqf.damaged"));
+    EXPECT_EQ(Pictures[1].Deleted, False);
+  }
+  answers.yes = 1;
+  Click(Window().cmdDelete);
+  EXPECT_FALSE(folder.Exists("j00000.tqf"));
+  EXPECT_EQ(Pictures[1].Deleted, True);
+  EXPECT_NE(answers.last().find("journal.tql.damaged (it has pages of the journal)\n\n"), std::string::npos)
+      << answers.last();
+  EXPECT_EQ(answers.last().find("journal.tql.1"), std::string::npos);
 }
 
 // Kept so for the sake of its order: the file goes first, and the index is not saved.
