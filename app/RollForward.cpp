@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "editor/OpenJournal.h"
-#include "platform/CodePage.h"
 #include "platform/Dates.h"
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
@@ -21,6 +20,7 @@
 #include "store/BookcaseIndex.h"
 #include "store/JournalFile.h"
 #include "store/LostJournals.h"
+#include "store/PageNames.h"
 #include "store/PictureStore.h"
 #include "store/RollForward.h"
 #include "store/UnstoredLog.h"
@@ -30,11 +30,12 @@ namespace {
 // What is done with the one log of the start.
 struct Work {
   std::optional<store::UnstoredLog> log;
-  std::vector<std::string> back;   // a line for all that came back
-  std::vector<std::string> aside;  // and for all that did not, with the reason
-  std::string copy;                // the file that holds the latter
-  std::string stays;               // why the log could not be taken away; empty when it could
-  bool isRefused = false;          // the disk or the system refused what was to be brought back last
+  std::vector<std::string> back;    // a line for all that came back
+  std::vector<std::string> unsure;  // and for all of these that a power cut could still take away
+  std::vector<std::string> aside;   // and for all that did not, with the reason
+  std::string copy;                 // the file that holds the latter
+  std::string stays;                // why the log could not be taken away; empty when it could
+  bool isRefused = false;           // the disk or the system refused what was to be brought back last
   std::vector<std::pair<std::string, std::int32_t>> damaged;  // the journals that were, and their whole pages
 };
 Work work;
@@ -45,10 +46,6 @@ std::string LogPath() {
 
 std::string NameOf(const std::string& path) {
   return path.substr(path.rfind('/') + 1);
-}
-
-std::string TextOf(const std::string& codePage) {
-  return platform::FromCodePage(codePage).toStdString();
 }
 
 // False when it must stay, since `remove` failed. Where the disk could not take the removal in, the log may
@@ -123,6 +120,16 @@ constexpr Kind PicturesKind = {
     [](const std::string& one, const std::string& other) { return one == other; },
     [](const std::string& bytes) { return !store::DecodePictureStore(bytes).isDamaged; }};
 
+// The file is the new one even where the disk could not confirm it; only the log must not go then.
+template <class Write>
+void NoteUnlessOnDisk(Write&& write, const std::string& what) {
+  try {
+    write();
+  } catch (const platform::NotYetOnDisk& failure) {
+    work.unsure.push_back(what + ": " + failure.what());
+  }
+}
+
 void KeepWhereDamaged(const Kind& kind, const std::string& path) {
   if (platform::FileExists(path) && !kind.isWhole(platform::ReadFile(path))) platform::KeepDamaged(path);
 }
@@ -133,7 +140,7 @@ void RollFile(const Kind& kind, const store::UnstoredFile& logged) {
   try {
     if (platform::IsMissing(path) || CheckOfFile(path) == logged.began) {
       KeepWhereDamaged(kind, path);
-      platform::ReplaceDataFile(path, logged.bytes);
+      NoteUnlessOnDisk([&] { platform::ReplaceDataFile(path, logged.bytes); }, what);
       work.back.push_back(what);
     } else if (!kind.isSame(platform::ReadFile(path), logged.bytes)) {
       work.aside.push_back(what + ": " + name + " has been changed by another program since");
@@ -162,23 +169,13 @@ void TellThatItMustComeBackFirst() {
       platform::BoxIcon::Stop);
 }
 
-std::string TitleOf(const std::string& fileName) {
-  const auto isIts = [&](const JournalEntry& entry) { return entry.FileName == fileName; };
-  const auto entry = std::find_if(Journals.begin() + 1, Journals.end(), isIts);
-  return TextOf(entry == Journals.end() ? fileName : entry->Name);
-}
-
-std::string PageName(std::int32_t row) {
-  return row == 0 ? "the title page" : "page " + std::to_string(row);
-}
-
 void Note(const std::string& title, const store::UnstoredPage& logged, const store::RolledPage& page) {
   const bool isBlank = logged.isNew && (!logged.Body || logged.Body->empty());
-  const std::string name = title + ": " + PageName(page.logged);
+  const std::string name = title + ": " + store::PageName(page.logged);
   if (page.how == store::Rolled::NoDocument)
     work.aside.push_back(name + ", written under a password with another last letter");
   else if (page.how == store::Rolled::AtTheEnd)
-    work.back.push_back(name + ", which is another one by now, as " + PageName(page.row));
+    work.back.push_back(name + ", which is another one by now, as " + store::PageName(page.row));
   else if (page.how == store::Rolled::IntoItsRow && !isBlank)
     work.back.push_back(name);
 }
@@ -192,14 +189,14 @@ store::DecodedJournal JournalIn(const std::string& fileName) {
 }
 
 void RollJournal(const store::UnstoredJournal& journal) {
-  const std::string title = TitleOf(journal.FileName);
+  const std::string title = store::TitleOf(journal.FileName);
   try {
     store::DecodedJournal file = JournalIn(journal.FileName);
     const std::vector<store::RolledPage> rolled = store::RollForward(journal.pages, PageShift, file.pages);
     const bool changes = std::ranges::any_of(rolled, [](const store::RolledPage& page) {
       return page.how == store::Rolled::IntoItsRow || page.how == store::Rolled::AtTheEnd;
     });
-    if (changes) store::WriteJournalFile(journal.FileName, file.pages);
+    if (changes) NoteUnlessOnDisk([&] { store::WriteJournalFile(journal.FileName, file.pages); }, title);
     if (changes && file.health == store::JournalHealth::Damaged)
       work.damaged.push_back({journal.FileName, file.wholePages});
     for (std::size_t i = 0; i < rolled.size(); ++i) Note(title, journal.pages[i], rolled[i]);
@@ -234,6 +231,20 @@ void RollPictures(const store::UnstoredFile& logged) {
   }
 }
 
+bool IsAllBack() {
+  return work.aside.empty() && work.unsure.empty();
+}
+
+std::string WhereTheRestIs(const Work& done) {
+  if (done.copy.empty()) return {};
+  if (done.aside.empty())
+    return "\n\nThey are also kept in " + done.copy +
+           ", which you can delete when the next start shows them.";
+  return "\n\nWhat has not is kept in " + done.copy +
+         ". Where something stood in its way, leave Thornquill, remove that or move it to another folder, "
+         "and give the file the name journal.tql again: the next start tries once more.";
+}
+
 std::string Lines(const std::vector<std::string>& lines) {
   std::string text;
   for (const std::string& line : lines) text += "\n" + line;
@@ -247,7 +258,7 @@ bool RollBookcaseForward(bool isWritable) {
   if (!platform::IsMissing(LogPath())) ReadLog();
   if (!work.log || !work.log->index) return true;
   RollFile(IndexKind, *work.log->index);
-  if (work.aside.empty()) TakeIndexOutOfTheLog();
+  if (IsAllBack()) TakeIndexOutOfTheLog();
   if (!MustComeBackFirst(isWritable)) return true;
   TellThatItMustComeBackFirst();
   return false;
@@ -258,22 +269,24 @@ bool RollPagesForward() {
   if (work.log->pictures) RollPictures(*work.log->pictures);
   for (const store::UnstoredJournal& journal : work.log->journals) RollJournal(journal);
   RecoverLostJournals();
-  return work.aside.empty() ? TakeLogAway() : PutLogAside();
+  return IsAllBack() ? TakeLogAway() : PutLogAside();
 }
 
 void TellWhatCameBack() {
   const Work done = std::exchange(work, {});
-  if (done.back.empty() && done.aside.empty() && done.stays.empty()) return;
+  if (done.back.empty() && done.unsure.empty() && done.aside.empty() && done.stays.empty()) return;
   std::string text = "Thornquill could not save everything before its last end, on " +
                      platform::LongDate(done.log->when).toStdString() + " at " +
                      platform::ToDateTime(done.log->when).toString(QStringLiteral("HH:mm")).toStdString() +
                      ".";
   if (!done.back.empty()) text += "\n\nThis has been brought back from its log:" + Lines(done.back);
+  if (!done.unsure.empty())
+    text +=
+        "\n\nOf these the disk could not yet confirm that it keeps them, and a power cut could take them "
+        "away:" +
+        Lines(done.unsure);
   if (!done.aside.empty()) text += "\n\nThis has not:" + Lines(done.aside);
-  if (!done.copy.empty())
-    text += "\n\nWhat has not is kept in " + done.copy +
-            ". Where something stood in its way, leave Thornquill, remove that or move it to another folder, "
-            "and give the file the name journal.tql again: the next start tries once more.";
+  text += WhereTheRestIs(done);
   if (!done.stays.empty()) text += "\n\n" + WhyLogStays(done.stays);
   platform::ShowMessage(text);
   for (const auto& [fileName, wholePages] : done.damaged) TellDamagedJournal(fileName, wholePages);

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,7 +16,6 @@
 #include "look/Form.h"
 #include "look/Pass.h"
 #include "pictures/modPictures.h"
-#include "platform/CodePage.h"
 #include "platform/Process.h"
 #include "platform/desktop/Application.h"
 #include "platform/desktop/ClipboardHandOver.h"
@@ -24,6 +24,7 @@
 #include "state/State.h"
 #include "store/BookcaseFile.h"
 #include "store/JournalFile.h"
+#include "store/PageNames.h"
 
 namespace {
 
@@ -79,9 +80,10 @@ void SaveIndex(Refusals& refusals) {
 std::string LoggedPages() {
   std::string text;
   for (const store::UnstoredJournal& journal : PagesUnstored().journals) {
-    text.append("Pages of ").append(platform::FromCodePage(journal.FileName).toStdString()).append(":");
-    for (const store::UnstoredPage& page : journal.pages) text.append(" ").append(std::to_string(page.row));
-    text.append("\n\n");
+    std::set<std::int32_t> rows;
+    for (const store::UnstoredPage& page : journal.pages) rows.insert(page.row);
+    text.append(store::TitleOf(journal.FileName)).append(": ");
+    text.append(store::PageNames(rows)).append("\n\n");
   }
   return text;
 }

@@ -16,6 +16,7 @@
 #include "richtext/box/RichTextBox.h"
 #include "state/PageInHand.h"
 #include "store/JournalFile.h"
+#include "store/PageNames.h"
 #include "store/UnstoredRows.h"
 
 namespace {
@@ -58,20 +59,12 @@ std::string NotSaved(const platform::Failure& failure) {
          " could not be written.\n" + failure.what();
 }
 
-// "the title page, page 3, page 12", and how many more there are beyond ten.
 std::string UnstoredPages() {
-  constexpr std::size_t most = 10;
   std::set<std::int32_t> rows;
   for (const auto& [row, inFile] : store::UnstoredRows())
     if (inFile.isMissed) rows.insert(row);
   if (IsTextUnstored()) rows.insert(TextPage);
-  std::string text;
-  std::size_t named = 0;
-  for (const std::int32_t row : rows) {
-    if (named++ == most) return text + " and " + std::to_string(rows.size() - most) + " more";
-    text += (text.empty() ? "" : ", ") + (row == 0 ? "the title page" : "page " + std::to_string(row));
-  }
-  return text;
+  return store::PageNames(rows);
 }
 
 bool AsksToCloseWithout(const platform::Failure& failure) {

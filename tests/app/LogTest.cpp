@@ -1,6 +1,8 @@
 // What the log of a run that ended too soon brings to the next one.
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -16,7 +18,8 @@ namespace {
 using fixture::Journey;
 using fixture::Texts;
 
-useconds_t slowness = 0;  // how long, in microseconds, a file takes to the disk
+useconds_t slowness = 0;         // how long, in microseconds, a file takes to the disk
+bool isFolderUncertain = false;  // whether the disk fails to take in a folder
 
 class Log : public Journey {
  protected:
@@ -154,6 +157,11 @@ TEST_F(Log, PagesThatAreLeftBehindFollowTheirFile) {
   EXPECT_TRUE(folder.Exists("j00000.tqf"));
   LeavePagesInTheLog();
   Pictures.resize(1);  // without a picture store a deletion is the end of the program
+  PicturesUnsaved = true;
+  folder.Block("tqpics.bin");
+  for (int refusal = 0; refusal < 2; ++refusal) Click(look::The<frmBookcase>().cmdClose);
+  EXPECT_TRUE(IsTold("\n\nMy Diary: page 1\n\n")) << answers.last();
+  folder.Unblock("tqpics.bin");
   answers.yes = 1;
   Click(look::The<frmBookcase>().cmdDelete);
   ASSERT_TRUE(BringTheLogUpToDate());
@@ -240,6 +248,18 @@ TEST_F(Log, ALogThatCannotBeReadMakesRoomForANewOneOrTellsWhyNot) {
   }
 }
 
+TEST_F(Log, WhatThePowerCouldStillTakeAwayHasComeBackAndItsLogIsKept) {
+  StartWithAFile();
+  TypeAndLog("more ");
+  isFolderUncertain = true;
+  OpenAtAStart();
+  isFolderUncertain = false;
+  EXPECT_EQ(Book().face->txtM->Text(), u"more Mine ");
+  EXPECT_TRUE(IsTold("its log:\nMy Diary: page 1\n\nOf these the disk could not yet confirm"))
+      << answers.last();
+  EXPECT_TRUE(folder.Exists("journal.tql.damaged"));
+}
+
 TEST_F(Log, ASoundEndWaitsForASlowDisk) {
   StartWithAFile();
   QTest::keyClicks(Book().face->txtM, QStringLiteral("more "));
@@ -256,5 +276,10 @@ TEST_F(Log, ASoundEndWaitsForASlowDisk) {
 
 extern "C" int fsync(int descriptor) {
   usleep(slowness);
+  struct stat entry {};
+  if (isFolderUncertain && fstat(descriptor, &entry) == 0 && S_ISDIR(entry.st_mode)) {
+    errno = EIO;
+    return -1;
+  }
   return static_cast<int>(syscall(SYS_fsync, descriptor));
 }
