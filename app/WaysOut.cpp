@@ -67,10 +67,9 @@ void SavePictures(Refusals& refusals) {
   }
 }
 
-// The names stay readable in memory when the program may have to go on.
-void SaveIndex(Refusals& refusals) {
+void SaveIndex(Refusals& refusals, void (*save)()) {
   try {
-    refusals.empty() ? SaveJournalIndex() : WriteJournalIndex();
+    save();
   } catch (const std::exception& failure) {
     refusals.push_back({NotSaved(failure), std::string(IndexAsked) + failure.what()});
   }
@@ -111,6 +110,11 @@ bool MayLeaveWithout(const Refusals& refusals) {
   return !isMissed;
 }
 
+// The names stay readable in memory when the program may have to go on.
+void SaveIndexAtTheEnd(Refusals& refusals) {
+  SaveIndex(refusals, refusals.empty() ? &SaveJournalIndex : &WriteJournalIndex);
+}
+
 bool IsDying() {
   const auto* application = dynamic_cast<platform::Application*>(qApp);
   return application && application->IsDying();
@@ -131,6 +135,25 @@ class NobodyThere {
   platform::MessageAnswerer before_;
 };
 
+// What there is to tell waits until the routine that asked for the save has its answer.
+class ToldLater {
+ public:
+  ToldLater() = default;
+  ~ToldLater() {
+    platform::SetMessageAnswerer(std::move(before_));
+    for (const platform::Message& message : messages_)
+      look::Pass::RunAfterwards([message] { platform::ShowMessage(message); });
+  }
+  Q_DISABLE_COPY_MOVE(ToldLater)
+
+ private:
+  std::vector<platform::Message> messages_;
+  platform::MessageAnswerer before_ = platform::SetMessageAnswerer([this](const platform::Message& message) {
+    messages_.push_back(message);
+    return platform::Answer::Ok;
+  });
+};
+
 // What could not be saved stays in the log, for the next start, and so do pages that a closing left behind.
 void EndOfTheLog(const Refusals& refusals) {
   const bool isAllStored = refusals.empty() && PagesUnstored().journals.empty();
@@ -141,7 +164,7 @@ void SaveWhatCanBeSaved() {
   Refusals refusals;
   SavePages(refusals);
   SavePictures(refusals);
-  SaveIndex(refusals);
+  SaveIndexAtTheEnd(refusals);
   EndOfTheLog(refusals);
   for (const Refusal& refusal : refusals) std::fprintf(stderr, "Thornquill: %s\n", refusal.asked.c_str());
 }
@@ -151,6 +174,16 @@ void HandTheClipboardOver() {
   constexpr std::chrono::milliseconds longest{300};
   const platform::ClipboardHandOver handing;
   if (!handing.IsOver()) look::Pass().Await(longest, [&] { return handing.IsOver(); });
+}
+
+void SaveWhatIsUnsaved() {
+  const ToldLater later;
+  Refusals refusals;
+  StoreOpenPage();
+  SavePictures(refusals);
+  if (IsBookcaseUnsaved()) SaveIndex(refusals, &WriteJournalIndex);
+  BringTheLogUpToDate();
+  for (const Refusal& refusal : refusals) platform::ShowMessage(refusal.told);
 }
 
 void EndWithoutAsking() {
@@ -168,7 +201,7 @@ void SaveAndExit() {
   HandTheClipboardOver();
   Refusals refusals;
   SavePictures(refusals);
-  SaveIndex(refusals);
+  SaveIndexAtTheEnd(refusals);
   if (refusals.empty()) wasRefused = false;
   if (!refusals.empty() && !MayLeaveWithout(refusals)) return;
   EndOfTheLog(refusals);
@@ -187,6 +220,13 @@ void LeaveTheProgram() {
   }
   HandTheClipboardOver();
   EndWithoutAsking();
+}
+
+bool SaveAndStay() {
+  const bool canBe = !look::Pass::InProgress();
+  if (canBe && BookcaseLoaded && !IsDying()) SaveWhatIsUnsaved();
+  if (!canBe) look::Pass::RunAfterwards([] { SaveAndStay(); });
+  return canBe;
 }
 
 void SaveWithoutDisplay() {

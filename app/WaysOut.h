@@ -8,6 +8,10 @@
 //   page, its journal's file, the pictures that were left unsaved, the index. Nobody is asked, and the end
 //   comes whatever could not be saved; the error output has it.
 //
+// The session, when it asks for a save before it ends, or at a checkpoint (SaveAndStay): what is unsaved of
+// the
+//   same. The program stays; what cannot be saved is told.
+//
 // Nobody: the display is gone (SaveWithoutDisplay). The same.
 //
 // A failure that nobody guards (StoreOnFailure): the open page, its journal's file. The index stays unsaved.
@@ -37,7 +41,11 @@ void SaveAndExit();
 // that is over, and takes away the message that may hold it up.
 void LeaveTheProgram();
 
-// The same at once, and without any call to the display.
+// Saves what is unsaved without a question, and returns. What there is to tell is told from the event loop.
+// False during a pass: then it is done when that is over.
+bool SaveAndStay();
+
+// The same as LeaveTheProgram at once, and without any call to the display.
 void SaveWithoutDisplay();
 
 // Stores the open page and brings the log up to date: the last will of a program that a failure ends.

@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
       QStringLiteral("thornquill"));  // whose icon and entry the desktop shows
   application.SetLastWill(&StoreOnFailure);
   platform::RunningInstance instance;
-  platform::ListenForTheWayOut(&LeaveTheProgram);
+  platform::ListenForTheWayOut(&LeaveTheProgram, &SaveAndStay);
   platform::ListenForTheLostDisplay(&SaveWithoutDisplay);
   // From the event loop, where a failure of the start is told like any other.
   QTimer::singleShot(0, &application, [&] { Main(instance, token); });

@@ -1,7 +1,10 @@
 #include "platform/desktop/Application.h"
 
 #include <exception>
+#include <sys/resource.h>
 #include <utility>
+
+#include <QtCore/QSettings>
 
 #include "platform/Process.h"
 #include "platform/dialogs/MessageBox.h"
@@ -21,9 +24,26 @@ void Quietly(Step&& step) {
   }
 }
 
+// The toolkit's dialogs note in the user's configuration, for every program to read, which folders and
+// colours a person has chosen. Nothing can lie behind this path.
+void KeepNoNotesOfTheToolkit() {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
+}
+
+// An image of the memory, which a crash would leave wherever the system puts it, has the open page in it.
+void LeaveNoImageOfTheMemory() {
+  rlimit limit{};
+  getrlimit(RLIMIT_CORE, &limit);
+  limit.rlim_cur = 0;
+  setrlimit(RLIMIT_CORE, &limit);
+}
+
 }  // namespace
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv) {}
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+  KeepNoNotesOfTheToolkit();
+  LeaveNoImageOfTheMemory();
+}
 
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {

@@ -10,6 +10,8 @@ namespace platform {
 
 class Application : public QApplication {
  public:
+  // A private diary leaves no trace outside its folder: from here on the toolkit keeps no settings, and a
+  // crash no image of the memory.
   Application(int& argc, char** argv);
 
   // What is to be stored before the program ends on a failure; it may itself fail, which is ignored.

@@ -48,6 +48,11 @@ std::function<void()>& Leave() {
   return leave;
 }
 
+std::function<bool()>& Save() {
+  static std::function<bool()> save;
+  return save;
+}
+
 bool leavingIsWanted = false;
 
 // A request that comes while another one is being carried out adds nothing to it.
@@ -60,12 +65,29 @@ void LeaveOnce() {
   if (leave) leave();
 }
 
-// The desktop waits for this. Whoever comes back from the way out is in the middle of a long pass, behind
-// which the program ends; so the session is asked to stay until then.
-void AtTheEndOfTheSession(QSessionManager& manager) {
-  const bool mayAsk = manager.allowsInteraction();
-  LeaveOnce();
-  if (mayAsk) manager.cancel();
+// The desktop waits for this. What could not be saved now is in the middle of a long pass, and is saved
+// behind it.
+void AtTheSaveOfTheSession(QSessionManager& manager) {
+  const std::function<bool()> save = Save();
+  if (save && !save() && manager.allowsInteraction()) manager.cancel();
+}
+
+// The toolkit tells of the end of the session so, and would close all windows on it, asking whoever asks at
+// their closing.
+class EndOfTheSession : public QObject {
+ public:
+  using QObject::QObject;
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    if (receiver != qApp || event->type() != QEvent::Quit) return false;
+    LeaveOnce();
+    return true;
+  }
+};
+
+void ListenToTheSession() {
+  qApp->installEventFilter(new EndOfTheSession(qApp));
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, AtTheSaveOfTheSession,
+                   Qt::DirectConnection);
 }
 
 void ListenToSignals() {
@@ -84,13 +106,14 @@ bool IsLeavingWanted() {
   return leavingIsWanted;
 }
 
-void ListenForTheWayOut(std::function<void()> leave) {
+void ListenForTheWayOut(std::function<void()> leave, std::function<bool()> save) {
   leavingIsWanted = false;
-  const bool first = !std::exchange(Leave(), std::move(leave));
-  if (!first) return;
+  Save() = std::move(save);
+  Leave() = std::move(leave);
+  static bool isListening = false;
+  if (std::exchange(isListening, true)) return;
   ListenToSignals();
-  QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, AtTheEndOfTheSession,
-                   Qt::DirectConnection);
+  ListenToTheSession();
 }
 
 }  // namespace platform

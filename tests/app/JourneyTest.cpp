@@ -1,4 +1,7 @@
 // The program from its start to its end, and what the next start finds.
+#include <optional>
+
+#include "look/Pass.h"
 #include "tests/app/Journey.h"
 
 namespace {
@@ -141,6 +144,27 @@ TEST_F(Journey, AnOrderToEndSavesAndForgetsNothing) {
   LeaveTheProgram();
   end.count = 1;
   ExpectAtTheNextStart(QStringLiteral("Under a calendar"));
+}
+
+TEST_F(Journey, ASaveInTheMiddleOfTheSessionIsNoEnd) {
+  StartAndWrite("Before a checkpoint");
+  std::optional<look::Pass> pass(std::in_place);
+  EXPECT_FALSE(SaveAndStay());
+  EXPECT_FALSE(folder.Exists("j00000.tqf"));
+  pass.reset();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return folder.Exists("journal.tqt"); })) << "behind the pass";
+  EXPECT_EQ(folder.Names(), (fixture::Texts{"j00000.tqf", "journal.tqt"})) << "and all is stored";
+  EXPECT_EQ(end.count, 0);
+  EXPECT_EQ(Journals.at(1).Name, "My Diary");
+  Journals[1].Icon = 2;
+  folder.Block("journal.tqt.thornquill-unfinished");
+  EXPECT_TRUE(SaveAndStay());
+  EXPECT_TRUE(answers.texts().empty());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !answers.texts().empty(); }));
+  EXPECT_NE(answers.last().find("could not be saved in journal.tqt"), std::string::npos);
+  folder.Unblock("journal.tqt.thornquill-unfinished");
+  LeaveTheProgram();
+  ExpectAtTheNextStart(QStringLiteral("Before a checkpoint"));
 }
 
 TEST_F(Journey, EachFileIsTriedOnItsOwnAndTheSecondRefusalAsks) {

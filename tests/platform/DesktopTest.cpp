@@ -2,6 +2,7 @@
 #include <csignal>
 #include <stdexcept>
 
+#include <QtGui/private/qguiapplication_p.h>
 #include <QtTest/QTest>
 #include <QtWidgets/QtWidgets>
 
@@ -65,6 +66,16 @@ TEST(Application, AFailureThatNobodyGuardsIsShownStoredAndEndsTheProcessOnce) {
   EXPECT_EQ(end.count, 2);
 }
 
+TEST(Application, LeavesNoTraceOfTheToolkitNorOfTheMemory) {
+  QSettings settings(QSettings::UserScope, QStringLiteral("QtProject"));
+  settings.setValue(QStringLiteral("FileDialog/history"), 1);
+  settings.sync();
+  EXPECT_EQ(settings.status(), QSettings::AccessError) << settings.fileName().toStdString();
+  rlimit limit{};
+  getrlimit(RLIMIT_CORE, &limit);
+  EXPECT_EQ(limit.rlim_cur, 0u);
+}
+
 TEST(WayOut, EverySignalAsksAnewButNeverTwiceAtOnce) {
   int asked = 0;
   // One that is ignored, as under nohup or in the background of a script, stays ignored.
@@ -81,5 +92,16 @@ TEST(WayOut, EverySignalAsksAnewButNeverTwiceAtOnce) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return asked > before; }));
   }
   EXPECT_EQ(asked, 3);
+  QEvent end(QEvent::Quit);
+  QCoreApplication::sendEvent(qApp, &end);
+  EXPECT_EQ(asked, 4) << "the end of the session";
+  platform::ListenForTheWayOut({});
+}
+
+TEST(WayOut, ASessionThatAsksForASaveIsNoEnd) {
+  int asked = 0, saved = 0;
+  platform::ListenForTheWayOut([&] { ++asked; }, [&] { return ++saved > 0; });
+  QGuiApplicationPrivate::instance()->commitData();
+  EXPECT_EQ(std::pair(asked, saved), std::pair(0, 1));
   platform::ListenForTheWayOut({});
 }

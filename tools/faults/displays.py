@@ -1,5 +1,5 @@
 """scripts/faults displays: takes the display away, and asks the program to end, with an unstored page on the screen."""
-import collections, contextlib, dataclasses, os, pathlib, random, re, shutil, signal, socket, struct, subprocess, sys, tempfile
+import collections, contextlib, dataclasses, os, pathlib, random, re, select, shutil, signal, socket, struct, subprocess, sys, tempfile
 import threading, time
 
 from diary import BEGIN, DATA, HOME, LIBRARY, PROGRAM, contents, furnish, opened, play, read_all, run_all, typed
@@ -12,6 +12,7 @@ class Display:
     variables: dict
     server: subprocess.Popen
     proxy: "Proxy" = None
+    session: subprocess.Popen = None
 
 def wait_for(what, seconds=60):
     """The first answer that is not empty."""
@@ -54,6 +55,13 @@ def xvfb(_):
         name = answer.readline().strip()
         try: yield Display({"QT_QPA_PLATFORM": "xcb", "DISPLAY": f":{name}"}, server)
         finally: sweep(name, server)
+
+@contextlib.contextmanager
+def xvfb_in_session(run):
+    command = [sys.executable, pathlib.Path(__file__).with_name("session.py")]
+    with xvfb(run) as display, subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True) as session:
+        try: yield Display(display.variables | {"SESSION_MANAGER": session.stdout.readline().strip()}, display.server, session=session)
+        finally: session.kill()
 
 def sweep(name, server):
     """A server that was killed leaves these."""
@@ -112,6 +120,18 @@ def both_get(number): return lambda display, program: (program.send_signal(numbe
 def log_out(display, _):
     subprocess.run(["swaymsg", "--socket", display.variables["XDG_RUNTIME_DIR"] / "orders", "exit"], capture_output=True)
 
+def order(display, words):
+    """The session manager's answer."""
+    print(words, file=display.session.stdin, flush=True)
+    if not select.select([display.session.stdout], [], [], GONE_WITHIN)[0]: raise TimeoutError
+    return display.session.stdout.readline().strip()
+
+def end_session(display, _): wait_for(lambda: order(display, "end") == "ended")
+
+def checkpoint(display, program):
+    wait_for(lambda: order(display, "save") == "saved")
+    program.kill()  # what is on the disk now is all there is
+
 def kill_client(display, _):
     where = ["-display", display.variables["DISPLAY"]]
     windows = subprocess.run(["xwininfo", *where, "-root", "-tree"], capture_output=True, text=True).stdout
@@ -119,7 +139,7 @@ def kill_client(display, _):
     subprocess.run(["xkill", *where, "-id", window], capture_output=True, check=True)
 
 WAYLAND, X11 = ["sway", "swaymsg"], ["Xvfb", "xkill", "xwininfo"]
-Kind = collections.namedtuple("Kind", "name display end tools")
+Kind = collections.namedtuple("Kind", "name display end tools codes", defaults=[(0, 1)])
 KINDS = [
     Kind("Wayland: logout", sway, log_out, WAYLAND),
     Kind("Wayland: compositor ended", sway, server_gets(signal.SIGTERM), WAYLAND),
@@ -131,6 +151,8 @@ KINDS = [
     Kind("X11: server killed", xvfb, server_gets(signal.SIGKILL), X11),
     Kind("X11: client killed", xvfb, kill_client, X11),
     Kind("X11: SIGTERM to both", xvfb, both_get(signal.SIGTERM), X11),
+    Kind("X11: end of the session", xvfb_in_session, end_session, X11),
+    Kind("X11: checkpoint, then SIGKILL", xvfb_in_session, checkpoint, X11, (-signal.SIGKILL,)),
     *(Kind(f"{number.name} to the program", xvfb, program_gets(number), X11)
       for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP)),
 ]
@@ -169,13 +191,13 @@ def lose(kind, moment):
                 code, _ = play(folder, script, GONE_WITHIN, before, end, SLOW=int(slow * SLOW * 1000))
                 seconds = time.monotonic() - begun
         except TimeoutError: return kind.name, moment, 0, ["the display or the page never came"]
-        return kind.name, moment, seconds, wrong_in(folder, code)
+        return kind.name, moment, seconds, wrong_in(folder, code, kind.codes)
 
-def wrong_in(folder, code):
+def wrong_in(folder, code, codes):
     files = contents(folder)
     alien = [name for name in files if not DATA.fullmatch(name)]
     wrong = [f"{alien} are left"] * (alien != [])
-    wrong += [f"not gone after {GONE_WITHIN} s" if code == -9 else f"ended with {code}"] * (code not in (0, 1))
+    wrong += [f"not gone after {GONE_WITHIN} s" if code == -9 else f"ended with {code}"] * (code not in codes)
     try: found = read_all(files)
     except Exception as problem: return wrong + [f"not whole: {problem}"]
     return wrong + [f"{found.get(name)} is in {name}, not {rows}" for name, rows in EXPECTED.items() if found.get(name) != rows]
@@ -185,13 +207,13 @@ def become_ordinary():
     another = ["setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups"]
     reads = ["test", "-x", PROGRAM, "-a", "-r", LIBRARY, "-a", "-r", sys.argv[0]]
     if os.getuid() or subprocess.run([*another, *reads]).returncode: return
-    os.makedirs("/tmp/.X11-unix", exist_ok=True), os.chmod("/tmp/.X11-unix", 0o1777)
+    for sockets in ("/tmp/.X11-unix", "/tmp/.ICE-unix"): os.makedirs(sockets, exist_ok=True), os.chmod(sockets, 0o1777)
     HOME.cleanup()
     os.execvp(another[0], [*another, sys.executable, *sys.argv])
 
 def obstacle(kind):
     missing = [tool for tool in kind.tools if not shutil.which(tool)]
-    plugin = list(pathlib.Path("/usr/lib").glob("*/qt6/plugins/platforms/libqwayland-generic.so")) or kind.display is xvfb
+    plugin = list(pathlib.Path("/usr/lib").glob("*/qt6/plugins/platforms/libqwayland-generic.so")) or kind.tools is X11
     return (f"{missing[0]} is missing" if missing else "the toolkit's plugin for Wayland is missing" if not plugin
             else "sway does not serve root" if kind.tools is WAYLAND and not os.getuid() else None)
 

@@ -32,7 +32,7 @@ int Sit(int argc, char** argv, int number, const QString& folder, const QString&
   if (sitting.stage) sitting.stage();
   ResetState();
   platform::RunningInstance instance;
-  platform::ListenForTheWayOut(&LeaveTheProgram);
+  platform::ListenForTheWayOut(&LeaveTheProgram, &SaveAndStay);
   std::thread person([&] {
     Person visitor(album, 10 * number + 1);
     for (const auto& step : sitting.steps) step(visitor);
