@@ -243,9 +243,10 @@ bool IsListItem(const QTextBlockFormat& format) {
 
 QTextBlockFormat WithoutList(const QTextBlockFormat& format) {
   ParagraphFormat left = FromBlockFormat(format);
-  left.leftIndent = ShownLeftIndent(left);
-  left.rightIndent = ShownRightIndent(left);
-  left.firstLineIndent = ShownFirstIndent(left);
+  const Indents shown = RoomForLabels(left);
+  left.leftIndent = shown.left;
+  left.rightIndent = shown.right;
+  left.firstLineIndent = shown.first;
   left.list = {};
   return ToBlockFormat(left);
 }
