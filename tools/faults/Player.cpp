@@ -2,6 +2,7 @@
 //   type CONTROL TEXT    keys into it, behind what it holds
 //   enter CONTROL        the Enter key, again and again until it has gone
 //   click CONTROL        the left mouse button
+//   press CONTROL WINDOW the same, again and again until the window has gone
 //   pick LIST ROW        chooses the row
 //   drag CONTROL X Y     with the left mouse button, by so many pixels
 //   see CONTROL          its text goes to the log
@@ -94,7 +95,7 @@ bool AnswerBox() {
 void Do(const QString& verb, QWidget* control, const QStringList& words) {
   if (verb == u"type") Type(control, words.mid(2).join(u' '));
   if (verb == u"enter") QTest::keyClick(control, Qt::Key_Return);
-  if (verb == u"click" || verb == u"leave") QTest::mouseClick(control, Qt::LeftButton);
+  if (verb == u"click" || verb == u"press" || verb == u"leave") QTest::mouseClick(control, Qt::LeftButton);
   if (verb == u"pick") qobject_cast<QListWidget*>(control)->setCurrentRow(words[2].toInt());
   if (verb == u"drag") Drag(control, {words[2].toInt(), words[3].toInt()});
   if (verb == u"see") LogText("see ", TextOf(control));
@@ -113,10 +114,11 @@ void TakeStep() {
   const QString& verb = words[0];
   QWidget* control = Find(words[1]);
   const bool needsNone = verb == u"end" || verb == u"run" || verb == u"rest";
-  const bool untilItGoes = verb == u"close" || verb == u"enter";
-  if (untilItGoes ? !control : (control || needsNone) && verb != u"leave" && verb != u"end")
+  const bool untilItGoes = verb == u"close" || verb == u"enter" || verb == u"press";
+  const bool isGone = untilItGoes && !Find(words.constLast());
+  if (untilItGoes ? isGone : (control || needsNone) && verb != u"leave" && verb != u"end")
     script.removeFirst();
-  if (!control && !needsNone) return;
+  if (isGone || (!control && !needsNone)) return;
   LogText("step ", QString::fromStdString(faults::Milliseconds()) + u' ' + line);
   Do(verb, control, words);
 }

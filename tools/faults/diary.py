@@ -88,7 +88,8 @@ DRAG = ["click imgPhoto(0)", "drag imgController(0) 30 60"]
 NEW_JOURNAL = ["click cmdAdd", "type txtPass Second", "click cmdOK"] + opened(1) + typed("w5")
 PASSWORD = ["click cmdResetPass", *unlocked("Rosebud7")[:1], "type txtNewPass Quill7", "type txtNewPass2 Quill7", "click cmdOK"]
 REST = ["rest 2400"]
-OPTIONS = ["click cmdOptions", "click optColor(1)", *PASSWORD, "enter optColor(1)", "click cmdOptions", "enter optColor(1)"]
+OPTIONS = ["click cmdOptions", "click optColor(1)", *PASSWORD, "press cmdClose frmOptions", "click cmdOptions",
+           "press cmdClose frmOptions"]
 FIRST = BEGIN + opened(0) + typed("w1") + ["click btnNewPage"] + typed("w2") + ADD_PICTURE + DRAG + CLOSE + LEAVE
 SITTING = (unlocked("Rosebud7") + opened(0) + typed("w3") + ["click btnFirstPage"] + typed("w4") + ["click btnLastPage"] + DRAG
            + CLOSE + NEW_JOURNAL + CLOSE + OPTIONS + LEAVE)
