@@ -1,13 +1,12 @@
 #include "richtext/box/CaretFormat.h"
 
-#include <optional>
-
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QTextEdit>
 
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/Links.h"
+#include "richtext/textdocument/Marks.h"
 
 namespace richtext {
 namespace {
@@ -19,22 +18,36 @@ QTextCharFormat LettersOnly(const QTextCharFormat& format) {
 }  // namespace
 
 QTextCharFormat CaretFormat::InHand() const {
-  return box_.textCursor().charFormat();
+  const QTextCursor caret = box_.textCursor();
+  if (IsKeptAt(caret)) return kept_->format;
+  const QTextCharFormat format = caret.hasSelection() ? LastFormat(caret) : caret.charFormat();
+  return FormatBesideLink(caret, format).value_or(format);
 }
 
 QTextCharFormat CaretFormat::OfLetters() const {
   return LettersOnly(InHand());
 }
 
-void CaretFormat::LeaveLink() {
-  if (const std::optional<QTextCharFormat> beside = FormatBesideLink(box_.textCursor()))
-    box_.setCurrentCharFormat(*beside);
+void CaretFormat::Apply() {
+  const QTextCursor caret = box_.textCursor();
+  if (caret.hasSelection()) return;
+  if (const QTextCharFormat format = InHand(); format != caret.charFormat())
+    box_.setCurrentCharFormat(format);
 }
 
-void CaretFormat::CarryOn(const QTextCharFormat& format) {
-  const QTextCursor cursor = box_.textCursor();
-  if (cursor.hasSelection() || cursor.block().length() > 1) return;
-  box_.setCurrentCharFormat(LettersOnly(format));
+void CaretFormat::Choose(const QTextCharFormat& attribute) {
+  QTextCharFormat format = InHand();
+  format.merge(attribute);
+  box_.setCurrentCharFormat(format);
+  if (box_.textCursor().block().length() <= 1) Keep(format);
+}
+
+void CaretFormat::Keep(const QTextCharFormat& format) {
+  kept_ = Kept{box_.textCursor().position(), LettersOnly(format)};
+}
+
+bool CaretFormat::IsKeptAt(const QTextCursor& caret) const {
+  return kept_ && !caret.hasSelection() && caret.position() == kept_->position;
 }
 
 }  // namespace richtext

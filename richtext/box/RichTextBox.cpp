@@ -18,10 +18,9 @@
 #include "richtext/rtf/Writer.h"
 #include "richtext/textdocument/DocumentCopy.h"
 #include "richtext/textdocument/Formats.h"
-#include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Labels.h"
+#include "richtext/textdocument/Marks.h"
 #include "richtext/textdocument/PageHeight.h"
-#include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/TextDocument.h"
 
@@ -30,15 +29,7 @@ namespace {
 
 constexpr double DocumentMargin = 4;  // pixels
 constexpr std::uint32_t White = 0xffffff;
-constexpr QKeyCombination PlainPasteKey = Qt::CTRL | Qt::SHIFT | Qt::Key_V;
 constexpr std::size_t LongPage = 10000;  // UTF-16 units; more than any window shows at once
-
-// A letter with Alt or the logo key is a command of somebody else's. AltGr is neither: it types.
-bool IsCommandOfOthers(const QKeyEvent& event) {
-  const bool withCommandKey =
-      event.modifiers().testFlag(Qt::AltModifier) || event.modifiers().testFlag(Qt::MetaModifier);
-  return withCommandKey && !event.text().isEmpty() && event.text().front().isPrint();
-}
 
 }  // namespace
 
@@ -47,6 +38,7 @@ RichTextBox::RichTextBox(QWidget* parent)
       copy_(std::make_unique<DocumentCopy>(*document())),
       guard_(std::make_unique<HeightGuard>(*document())),
       labels_(std::make_unique<KeptCounters>()),
+      firstMark_(std::make_unique<FirstMark>(*document())),
       rest_(new RestNote(this)) {
   setAcceptRichText(true);
   setTabChangesFocus(false);
@@ -58,7 +50,6 @@ RichTextBox::RichTextBox(QWidget* parent)
           [this](int at) { labels_->NoteChange(document()->findBlock(at).blockNumber()); });
   connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::GuardHeight);
   connect(document(), &QTextDocument::contentsChanged, this, &RichTextBox::TellEdits);
-  connect(this, &QTextEdit::cursorPositionChanged, this, [this] { caret_.LeaveLink(); });
   SetBackColor(White);
   Fill({});
 }
@@ -95,21 +86,33 @@ void RichTextBox::Fill(std::string_view rtf) {
     const auto asEver = qScopeGuard([this] { setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); });
     FillDocument(page, *document());
   }
-  setTextCursor(QTextCursor(document()));
-  caret_.LeaveLink();
+  Begin();
   horizontalScrollBar()->setValue(0);
+}
+
+// With new content, which has no history.
+void RichTextBox::Begin() {
+  setTextCursor(QTextCursor(document()));
+  caret_.Forget();
+  firstMark_->Begin();
 }
 
 // The document tells that contents have changed at the end of every bracket of steps, also of one in which
 // nothing was done; that something was done, and where, it tells before. Both together are an edit.
 void RichTextBox::NoteEdit() {
-  edited_ = edited_ || !quiet_;
+  if (quiet_) return;
+  edited_ = true;
+  caret_.Forget();
 }
 
 void RichTextBox::TellEdits() {
   if (!edited_) return;
   edited_ = false;
   ++edits_;
+  {
+    const QScopedValueRollback quiet(quiet_, true);
+    firstMark_->Settle();
+  }
   if (labelled_) viewport()->update();  // an edit can change the numbers of items far from it
   Q_EMIT Change();
 }
@@ -122,7 +125,7 @@ void RichTextBox::SetText(const QString& text) {
     SetFontName(format, font().family());
     SetFontSize(format, font().pointSizeF());
     FillPlain(text, format, *document());
-    setTextCursor(QTextCursor(document()));
+    Begin();
   }
   Q_EMIT Change();
 }
@@ -172,86 +175,31 @@ QMimeData* RichTextBox::createMimeDataFromSelection() const {
 void RichTextBox::insertFromMimeData(const QMimeData* source) {
   if (isReadOnly()) return;
   QTextCursor cursor = textCursor();
-  if (const auto page = OfferedPage(*source, FromTextFormat(cursor.charFormat())))
+  if (const auto page = OfferedPage(*source, FromTextFormat(caret_.InHand())))
     InsertDocument(*page, cursor);
   else if (const auto file = OfferedFile(*source))
     InsertPicture(KeepPicture(*file, caret_.OfLetters(), *document()));
   else if (const QImage bitmap = OfferedBitmap(*source); !bitmap.isNull())
     InsertBitmap(bitmap);
   else
-    InsertText(*source);
+    InsertText(OfferedText(*source));
   ensureCursorVisible();
 }
 
 void RichTextBox::PasteWithoutFormatting() {
   if (const QMimeData* offered = QGuiApplication::clipboard()->mimeData(); offered && !isReadOnly())
-    InsertText(*offered);
-  ensureCursorVisible();
+    InsertText(OfferedText(*offered));
 }
 
-// In the format that letters typed here have.
-void RichTextBox::InsertText(const QMimeData& source) {
+// In the format that letters typed here have. So has a paragraph that is left empty before it.
+void RichTextBox::InsertText(const QString& text) {
   QTextCursor cursor = textCursor();
-  InsertPlain(OfferedText(source), caret_.OfLetters(), cursor);
-}
-
-void RichTextBox::keyPressEvent(QKeyEvent* event) {
-  if (IsCommandOfOthers(*event)) return event->ignore();
-  CarryFormatOver([&] {
-    if (isReadOnly())
-      QTextEdit::keyPressEvent(event);
-    else
-      PressKey(*event);
-  });
-  caret_.LeaveLink();
-}
-
-void RichTextBox::CarryFormatOver(const std::function<void()>& act) {
-  const unsigned before = edits_;
-  const QTextCharFormat format = caret_.InHand();
-  act();
-  if (edits_ != before) caret_.CarryOn(format);
-}
-
-void RichTextBox::PressKey(QKeyEvent& event) {
-  const bool bare = !textCursor().hasSelection() && event.modifiers() == Qt::NoModifier;
-  if (event.keyCombination() == PlainPasteKey) return PasteWithoutFormatting();
-  if (event.matches(QKeySequence::InsertParagraphSeparator)) return InsertParagraph();
-  if (bare && event.key() == Qt::Key_Backspace) return DeleteBack(event);
-  if (bare && event.key() == Qt::Key_Delete) return DeleteNext(event);
-  QTextEdit::keyPressEvent(&event);
-}
-
-// At the start of an item the key takes away its label and nothing more. Hidden text stays: what a person
-// cannot see she does not mean to delete.
-void RichTextBox::DeleteBack(QKeyEvent& event) {
-  QTextCursor cursor = textCursor();
-  PassBack(cursor);
-  setTextCursor(cursor);
-  if (cursor.atBlockStart() && LeaveList()) return;
-  QTextEdit::keyPressEvent(&event);
-}
-
-void RichTextBox::DeleteNext(QKeyEvent& event) {
-  QTextCursor cursor = textCursor();
-  SelectNextLetter(cursor);
-  setTextCursor(cursor);
-  QTextEdit::keyPressEvent(&event);
-}
-
-bool RichTextBox::LeaveList() {
-  QTextCursor cursor = textCursor();
-  const QTextBlockFormat format = cursor.blockFormat();
-  if (!IsListItem(format)) return false;
-  cursor.setBlockFormat(WithoutList(format));
-  return true;
-}
-
-// The toolkit's own Enter drops all formats after an empty paragraph, and now and then makes no paragraph. An
-// empty list item is where a list ends.
-void RichTextBox::InsertParagraph() {
-  const bool isEmpty = textCursor().block().length() <= 1;
-  if (!(isEmpty && LeaveList())) textCursor().insertBlock();
+  const int start = cursor.selectionStart();
+  const QTextCharFormat format = caret_.OfLetters();
+  cursor.beginEditBlock();
+  InsertPlain(text, format, cursor);
+  if (const QTextBlock first = document()->findBlock(start); first.length() <= 1) SetMark(first, format);
+  cursor.endEditBlock();
   ensureCursorVisible();
 }
 

@@ -2,7 +2,7 @@
 //
 // The room has what a person does to a page. RTF comes in and goes out through rtf/ and textdocument/;
 // between them a page is the toolkit's text document, and each key, paste, choice of a look and word of an
-// input method is looked at here before the toolkit carries it out (RichTextBox.cpp,
+// input method is looked at here before the toolkit carries it out (RichTextBox.cpp, RichTextBoxKeys.cpp,
 // RichTextBoxSelection.cpp, RichTextBoxComposing.cpp, RichTextBoxHeight.cpp). Pasting.h knows what other
 // programs offer, Printing.h lays a selection out on paper. The hard part is the caret: the look of what is
 // typed next is the toolkit's guess from the letter before it, which is not always what the person means;
@@ -28,6 +28,7 @@ class QMenu;
 namespace richtext {
 
 class DocumentCopy;
+class FirstMark;
 class HeightGuard;
 class KeptCounters;
 class Paper;
@@ -134,6 +135,8 @@ class RichTextBox : public QTextEdit {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  static constexpr QKeyCombination PlainPasteKey = Qt::CTRL | Qt::SHIFT | Qt::Key_V;
+
   void NoteEdit();
   void TellEdits();
   void GuardHeight(int at, int removed, int added);
@@ -141,12 +144,15 @@ class RichTextBox : public QTextEdit {
   void Fill(std::string_view rtf);
   void SetAttribute(const QTextCharFormat& attribute);
   int PlaceOf(int position) const;
-  void InsertText(const QMimeData& source);
+  void Begin();
+  void InsertText(const QString& text);
   void InsertPicture(const QTextCharFormat& picture);
   void PressKey(QKeyEvent& event);
+  bool TypeOver(const QKeyEvent& event);
   bool LeaveList();
   void DeleteBack(QKeyEvent& event);
   void DeleteNext(QKeyEvent& event);
+  void DeleteWord(QTextCursor::MoveOperation across);
   void InsertParagraph();
   void CarryFormatOver(const std::function<void()>& act);
   std::unique_ptr<QMenu> ContextMenu(const QPoint& place);
@@ -157,10 +163,12 @@ class RichTextBox : public QTextEdit {
   void DropComposition();
   void AwaitLateCommit(const QString& word);
   bool IsLateCommit(const QInputMethodEvent& event);
+  bool ComposeOver(const QInputMethodEvent& event);
 
   std::unique_ptr<DocumentCopy> copy_;
   std::unique_ptr<HeightGuard> guard_;
   std::unique_ptr<KeptCounters> labels_;
+  std::unique_ptr<FirstMark> firstMark_;
   RestNote* const rest_;
   CaretFormat caret_{*this};
   std::uint32_t backColor_ = 0xffffff;

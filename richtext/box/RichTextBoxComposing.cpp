@@ -89,14 +89,28 @@ bool RichTextBox::IsLateCommit(const QInputMethodEvent& event) {
   return !awaited.isEmpty() && !awaiting_.hasExpired() && event.commitString() == awaited;
 }
 
+// The toolkit would take a selection away first, and its format with it. Whether nothing is left to do.
+bool RichTextBox::ComposeOver(const QInputMethodEvent& event) {
+  const bool isWord = !event.preeditString().isEmpty();
+  if (!textCursor().hasSelection() || isReadOnly() || (!isWord && event.commitString().isEmpty()))
+    return false;
+  if (!isWord) return InsertText(event.commitString()), true;
+  const QTextCharFormat format = caret_.OfLetters();
+  CarryFormatOver([this] { textCursor().removeSelectedText(); });
+  setCurrentCharFormat(format);
+  return false;
+}
+
 // What is shown while a word is being composed is no change yet.
 void RichTextBox::inputMethodEvent(QInputMethodEvent* event) {
   if (IsLateCommit(*event)) event->setCommitString({});
+  if (!event->commitString().isEmpty()) ++commits_;
+  if (ComposeOver(*event)) return event->accept();
+  caret_.Apply();
   const bool composing =
       event->commitString().isEmpty() && event->replacementLength() == 0 && !textCursor().hasSelection();
   const QScopedValueRollback quiet(quiet_, quiet_ || composing);
   QTextEdit::inputMethodEvent(event);
-  if (!event->commitString().isEmpty()) ++commits_;
   if (!event->preeditString().isEmpty()) composing_ = textCursor();
 }
 

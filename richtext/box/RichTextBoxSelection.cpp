@@ -1,32 +1,30 @@
 // The text box by places and attributes, as the journal asks for them.
 #include <algorithm>
 
-#include <QtGui/QTextBlock>
+#include <QtGui/QTextCursor>
 
 #include "richtext/box/RichTextBox.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/HiddenText.h"
+#include "richtext/textdocument/Marks.h"
 
 namespace richtext {
 namespace {
 
-// What `attribute` gives for all of the selection, or for the caret; nothing where it differs within.
+// What `attribute` gives for all of the selection, or for a caret that has `inHand`; nothing where it differs
+// within.
 template <class Attribute>
-auto Common(const QTextCursor& cursor, Attribute attribute)
-    -> std::optional<decltype(attribute(QTextCharFormat()))> {
-  std::optional<decltype(attribute(QTextCharFormat()))> common;
-  const int from = cursor.selectionStart();
-  const int to = cursor.selectionEnd();
-  for (QTextBlock block = cursor.document()->findBlock(from); block.isValid() && block.position() < to;
-       block = block.next())
-    for (auto part = block.begin(); !part.atEnd(); ++part) {
-      const QTextFragment fragment = part.fragment();
-      if (fragment.position() >= to || fragment.position() + fragment.length() <= from) continue;
-      const auto value = attribute(fragment.charFormat());
-      if (common && *common != value) return std::nullopt;
-      common = value;
-    }
-  return common ? common : attribute(cursor.charFormat());
+auto Common(const QTextCursor& cursor, const QTextCharFormat& inHand, Attribute attribute)
+    -> std::optional<decltype(attribute(inHand))> {
+  if (!cursor.hasSelection()) return attribute(inHand);
+  std::optional<decltype(attribute(inHand))> common;
+  VisitFormats(cursor, [&](const QTextCharFormat& format) {
+    const auto value = attribute(format);
+    if (common && *common != value) return common.reset(), false;
+    common = value;
+    return true;
+  });
+  return common;
 }
 
 }  // namespace
@@ -65,32 +63,34 @@ int RichTextBox::PlaceOf(int position) const {
 }
 
 std::optional<QString> RichTextBox::SelFontName() const {
-  return Common(textCursor(), FontNameOf);
+  return Common(textCursor(), caret_.InHand(), FontNameOf);
 }
 
 std::optional<double> RichTextBox::SelFontSize() const {
-  return Common(textCursor(), FontSizeOf);
+  return Common(textCursor(), caret_.InHand(), FontSizeOf);
 }
 
 std::optional<bool> RichTextBox::SelBold() const {
-  return Common(textCursor(),
+  return Common(textCursor(), caret_.InHand(),
                 [](const QTextCharFormat& format) { return format.fontWeight() > QFont::Medium; });
 }
 
 std::optional<bool> RichTextBox::SelItalic() const {
-  return Common(textCursor(), [](const QTextCharFormat& format) { return format.fontItalic(); });
+  return Common(textCursor(), caret_.InHand(),
+                [](const QTextCharFormat& format) { return format.fontItalic(); });
 }
 
 std::optional<bool> RichTextBox::SelUnderline() const {
-  return Common(textCursor(), IsUnderlined);
+  return Common(textCursor(), caret_.InHand(), IsUnderlined);
 }
 
 std::optional<bool> RichTextBox::SelStrikeThru() const {
-  return Common(textCursor(), [](const QTextCharFormat& format) { return format.fontStrikeOut(); });
+  return Common(textCursor(), caret_.InHand(),
+                [](const QTextCharFormat& format) { return format.fontStrikeOut(); });
 }
 
 std::optional<std::uint32_t> RichTextBox::SelColor() const {
-  return Common(textCursor(), ColorOf);
+  return Common(textCursor(), caret_.InHand(), ColorOf);
 }
 
 void RichTextBox::SetSelFontName(const QString& name) {
@@ -138,7 +138,11 @@ void RichTextBox::SetSelColor(std::uint32_t color) {
 }
 
 void RichTextBox::SetAttribute(const QTextCharFormat& attribute) {
-  if (!isReadOnly()) mergeCurrentCharFormat(attribute);
+  if (isReadOnly()) return;
+  if (const QTextCursor cursor = textCursor(); cursor.hasSelection())
+    MergeFormat(cursor, attribute);
+  else
+    caret_.Choose(attribute);
 }
 
 }  // namespace richtext

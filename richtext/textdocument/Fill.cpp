@@ -12,6 +12,7 @@
 #include "richtext/document/Twips.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/HiddenText.h"
+#include "richtext/textdocument/Marks.h"
 #include "richtext/textdocument/PageHeight.h"
 #include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
@@ -61,7 +62,7 @@ class Filler {
     FillIn();
     if (!parts) return;
     cursor_.setBlockFormat(format);
-    cursor_.setBlockCharFormat(mark);
+    SetMark(cursor_.block(), mark);
   }
 
  private:
@@ -82,7 +83,7 @@ class Filler {
     const bool joins = !cursor_.atBlockStart() || (!cursor_.atBlockEnd() && source_.paragraphs.size() == 1);
     if (joins || KeepsFormat(cursor_.block())) return;
     cursor_.setBlockFormat(format);
-    cursor_.setBlockCharFormat(mark);
+    SetMark(cursor_.block(), mark);
   }
 
   // A few words that come into an empty list item do not end the list.

@@ -2,15 +2,17 @@
 
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
 
 #include "richtext/textdocument/Formats.h"
 
 namespace richtext {
 namespace {
 
-// The link of the block's letter at a place; empty where there is no letter.
-QString LinkAt(const QTextBlock& block, int place) {
-  if (place < block.position() || place >= block.position() + block.length() - 1) return {};
+// The link of the letter behind a place; empty where there is no letter.
+QString LinkBehind(const QTextDocument& document, int place) {
+  const QTextBlock block = document.findBlock(place);
+  if (place < 0 || place >= block.position() + block.length() - 1) return {};
   QTextCursor letter(block);
   letter.setPosition(place + 1);  // a cursor has the format of the letter before it
   return letter.charFormat().anchorHref();
@@ -31,12 +33,13 @@ QTextCharFormat FormatAround(const QTextBlock& block, int caret) {
 
 }  // namespace
 
-std::optional<QTextCharFormat> FormatBesideLink(const QTextCursor& caret) {
-  if (caret.hasSelection() || !caret.charFormat().isAnchor()) return std::nullopt;
-  const QString before = LinkAt(caret.block(), caret.position() - 1);
-  const bool isWithin = !before.isEmpty() && before == LinkAt(caret.block(), caret.position());
+std::optional<QTextCharFormat> FormatBesideLink(const QTextCursor& caret, const QTextCharFormat& format) {
+  if (!format.isAnchor()) return std::nullopt;
+  const QTextDocument& document = *caret.document();
+  const QString before = LinkBehind(document, caret.selectionStart() - 1);
+  const bool isWithin = !before.isEmpty() && before == LinkBehind(document, caret.selectionEnd());
   if (isWithin) return std::nullopt;
-  return FormatAround(caret.block(), caret.position());
+  return FormatAround(document.findBlock(caret.selectionStart()), caret.selectionStart());
 }
 
 }  // namespace richtext

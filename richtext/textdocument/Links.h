@@ -9,8 +9,9 @@ class QTextCursor;
 
 namespace richtext {
 
-// The format of letters typed at the caret where they would else carry on a link: at its start and at its
-// end, not within it. It is that of the text around the link. Nothing where the caret carries on no link.
-std::optional<QTextCharFormat> FormatBesideLink(const QTextCursor& caret);
+// The format of letters typed at a caret, or in the place of a selection, where `format` would carry on a
+// link: at its start and at its end, not within it. It is that of the text around the link. Nothing where
+// `format` carries on no link.
+std::optional<QTextCharFormat> FormatBesideLink(const QTextCursor& caret, const QTextCharFormat& format);
 
 }  // namespace richtext

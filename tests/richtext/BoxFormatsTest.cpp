@@ -54,10 +54,15 @@ TEST_F(HiddenTextTest, StaysWhenLettersBesideItComeAndGo) {
   EXPECT_EQ(Text(), "onextwo");
   EXPECT_EQ(FormatAt(box.textCursor().position()), Loud) << "and not hidden";
   Press(Qt::Key_Backspace);
-  for (const auto& [key, start, text] :
-       {std::tuple{Qt::Key_Backspace, 3, "ontwo"}, {Qt::Key_Delete, 2, "onwo"}, {Qt::Key_Delete, 1, "owo"}}) {
+  const std::tuple<Qt::Key, Qt::KeyboardModifiers, int, const char*> keys[] = {
+      {Qt::Key_Backspace, Qt::ShiftModifier, 3, "ontwo"},
+      {Qt::Key_Delete, Qt::KeypadModifier, 2, "onwo"},
+      {Qt::Key_Delete, {}, 1, "owo"},
+      {Qt::Key_Backspace, Qt::ControlModifier, 2, "o"},
+  };
+  for (const auto& [key, modifiers, start, text] : keys) {
     box.SetSelStart(start);
-    Press(key);
+    Press(key, modifiers);
     EXPECT_EQ(Text(), text);
   }
   EXPECT_NE(Taken().text.find(u"hid\ufffcen"), std::u16string::npos);

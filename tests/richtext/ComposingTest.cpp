@@ -37,6 +37,10 @@ TEST_P(Composing, AWordComesIntoTheTextOnceAndInTheCaretsFormat) {
   box.undo();
   box.undo();
   EXPECT_EQ(Text(), "ab");
+  Select(1, 1);
+  method.Compose(u"word"_qs);
+  box.CommitComposition();
+  EXPECT_EQ(Text() + FormatAt(2), "aword(b 20 Arial)") << "over a selection in its format";
 }
 
 TEST_P(Composing, ItNeverComesIntoTheNextText) {

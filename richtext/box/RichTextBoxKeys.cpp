@@ -1,0 +1,133 @@
+// The text box and its keys. The toolkit carries out most of them; those are looked at first whose own way
+// would lose a format, a list or hidden text.
+#include <QtCore/QScopedValueRollback>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QTextBlock>
+
+#include "richtext/box/RichTextBox.h"
+#include "richtext/textdocument/HiddenText.h"
+#include "richtext/textdocument/Marks.h"
+#include "richtext/textdocument/Paragraphs.h"
+
+namespace richtext {
+namespace {
+
+// A letter with Alt or the logo key is a command of somebody else's. AltGr is neither: it types.
+bool IsCommandOfOthers(const QKeyEvent& event) {
+  const bool withCommandKey =
+      event.modifiers().testFlag(Qt::AltModifier) || event.modifiers().testFlag(Qt::MetaModifier);
+  return withCommandKey && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+// What the toolkit would put in for the key; empty where it would do something else.
+QString TypedText(const QKeyEvent& event) {
+  if (event.matches(QKeySequence::InsertLineSeparator)) return QChar(QChar::LineSeparator);
+  const QString text = event.text();
+  if (text.isEmpty() || event.modifiers().testFlag(Qt::ControlModifier)) return {};
+  const QChar first = text.front();
+  const bool isText =
+      first.isPrint() || first.isSurrogate() || first == u'\t' || first.category() == QChar::Other_Format;
+  return isText ? text : QString();
+}
+
+bool IsBackspace(const QKeyEvent& event) {
+  constexpr Qt::KeyboardModifiers passedOver =
+      Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier;
+  return event.key() == Qt::Key_Backspace && !(event.modifiers() & ~passedOver);
+}
+
+}  // namespace
+
+void RichTextBox::keyPressEvent(QKeyEvent* event) {
+  if (IsCommandOfOthers(*event)) return event->ignore();
+  CarryFormatOver([&] {
+    if (isReadOnly()) return QTextEdit::keyPressEvent(event);
+    caret_.Apply();
+    PressKey(*event);
+  });
+}
+
+// A person who goes on typing in a paragraph that she has just emptied means the format that she had. The end
+// of a page's first paragraph may have one that nobody ever chose, and takes this one on; but an empty page
+// stays the empty document.
+void RichTextBox::CarryFormatOver(const std::function<void()>& act) {
+  const unsigned before = edits_;
+  const QTextCharFormat format = caret_.InHand();
+  const int paragraph = document()->findBlock(textCursor().selectionStart()).blockNumber();
+  act();
+  const QTextBlock block = textCursor().block();
+  if (edits_ == before || textCursor().hasSelection() || block.length() > 1 ||
+      block.blockNumber() != paragraph)
+    return;
+  caret_.Keep(format);
+  const QScopedValueRollback quiet(quiet_, true);
+  if (paragraph == 0 && !document()->isEmpty()) firstMark_->Follow(caret_.OfLetters());
+}
+
+void RichTextBox::PressKey(QKeyEvent& event) {
+  if (event.keyCombination() == PlainPasteKey) return PasteWithoutFormatting();
+  if (event.matches(QKeySequence::InsertParagraphSeparator)) return InsertParagraph();
+  if (textCursor().hasSelection()) {
+    if (!TypeOver(event)) QTextEdit::keyPressEvent(&event);
+    return;
+  }
+  if (IsBackspace(event)) return DeleteBack(event);
+  if (event.matches(QKeySequence::Delete)) return DeleteNext(event);
+  if (event.matches(QKeySequence::DeleteStartOfWord)) return DeleteWord(QTextCursor::PreviousWord);
+  if (event.matches(QKeySequence::DeleteEndOfWord)) return DeleteWord(QTextCursor::NextWord);
+  QTextEdit::keyPressEvent(&event);
+}
+
+bool RichTextBox::TypeOver(const QKeyEvent& event) {
+  const QString text = TypedText(event);
+  if (!text.isEmpty()) InsertText(text);
+  return !text.isEmpty();
+}
+
+// At the start of an item the key takes away its label and nothing more. Hidden text stays: what a person
+// cannot see she does not mean to delete.
+void RichTextBox::DeleteBack(QKeyEvent& event) {
+  QTextCursor cursor = textCursor();
+  PassBack(cursor);
+  setTextCursor(cursor);
+  if (cursor.atBlockStart() && LeaveList()) return;
+  QTextEdit::keyPressEvent(&event);
+}
+
+void RichTextBox::DeleteNext(QKeyEvent& event) {
+  QTextCursor cursor = textCursor();
+  SelectNextLetter(cursor);
+  setTextCursor(cursor);
+  QTextEdit::keyPressEvent(&event);
+}
+
+void RichTextBox::DeleteWord(QTextCursor::MoveOperation across) {
+  QTextCursor cursor = textCursor();
+  cursor.movePosition(across, QTextCursor::KeepAnchor);
+  RemoveShown(cursor);
+  ensureCursorVisible();
+}
+
+bool RichTextBox::LeaveList() {
+  QTextCursor cursor = textCursor();
+  const QTextBlockFormat format = cursor.blockFormat();
+  if (!IsListItem(format)) return false;
+  cursor.setBlockFormat(WithoutList(format));
+  return true;
+}
+
+// The toolkit's own Enter drops all formats after an empty paragraph, and now and then makes no paragraph. An
+// empty list item is where a list ends. What is left empty on either side has the format in hand.
+void RichTextBox::InsertParagraph() {
+  QTextCursor cursor = textCursor();
+  const QTextBlock block = document()->findBlock(cursor.selectionEnd());
+  if (!cursor.hasSelection() && block.length() <= 1 && LeaveList()) return;
+  const QTextCharFormat format = caret_.OfLetters();
+  cursor.beginEditBlock();
+  cursor.insertBlock(block.blockFormat(), format);
+  if (const QTextBlock before = cursor.block().previous(); before.length() <= 1) SetMark(before, format);
+  cursor.endEditBlock();
+  ensureCursorVisible();
+}
+
+}  // namespace richtext
