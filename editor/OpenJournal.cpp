@@ -66,10 +66,12 @@ bool TakePages(const std::string& fileName) {
   return true;
 }
 
+// The header comes before the page here, and what it gives the caret outlasts the coming of the text.
 void ShowFirstPage() {
   PageInHand::TurnedTo(chkGotoLastPage == 1 ? PageCount : 0);
   ShowPageHeader();
   ShowCurrentPage();
+  GiveCaretJournalFont();
 }
 
 }  // namespace

@@ -143,9 +143,13 @@ void ShowPageHeader() {
 }
 
 void ApplyJournalFont() {
+  Face().txtM->SetSelStart(std::numeric_limits<int>::max());  // the very end
+  GiveCaretJournalFont();
+}
+
+void GiveCaretJournalFont() {
   const JournalEntry& entry = OpenEntry();
   richtext::RichTextBox& text = *Face().txtM;
-  text.SetSelStart(std::numeric_limits<int>::max());  // the very end
   text.SetSelFontName(platform::FromCodePage(entry.FontName));
   text.SetSelFontSize(entry.FontSize);
   text.SetSelBold(entry.FontBold != False);

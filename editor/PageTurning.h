@@ -15,6 +15,8 @@ void AddNewPage();
 void ShowPageHeader();
 // The caret goes to the end of the text and takes the journal's default font.
 void ApplyJournalFont();
+// The caret takes it where it stands.
+void GiveCaretJournalFont();
 // Blanks the text box for the page just made and dates that page now.
 void StartNewPage();
 // Pages for a journal that has no file yet: a title page and page 1, both dated now.

@@ -54,6 +54,23 @@ TEST_F(Reading, ANewJournalStartsOnItsTitlePageOrOnPageOneInItsFont) {
   EXPECT_EQ(folder.Names(), (Texts{"j1.tqf", "journal.journalfile"}));
 }
 
+TEST_F(Reading, WhatIsTypedFirstHasTheJournalsFontWhateverKeysComeBefore) {
+  const auto row = AddJournal({"cover", ""});
+  for (const int last : {0, 1}) {
+    chkGotoLastPage = last;
+    Open(row);
+    EXPECT_EQ(text().SelStart(), 0);
+    EXPECT_FALSE(text().document()->isUndoAvailable());
+    EXPECT_EQ(PageDirty, last ? True : False) << "only a page never stored counts as changed";
+    for (const Qt::Key key : {Qt::Key_End, Qt::Key_A})
+      if (last) QTest::keyClick(&text(), key, Qt::ControlModifier);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Delete})
+      if (last) QTest::keyClick(&text(), key);
+    Type("x");
+    EXPECT_EQ(FontAt(0), (platform::FontValues{u"DejaVu Serif"_qs, 16})) << last;
+  }
+}
+
 TEST_F(Reading, ShowsEachPageWithItsDateAndNumber) {
   const auto row = Begin({"cover", "one", "two"});
   EXPECT_EQ(Shown(), "Title Page: cover") << "it has a date and shows none";
