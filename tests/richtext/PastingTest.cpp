@@ -74,17 +74,6 @@ TEST_F(PastingTest, PlainPasteAndCuttingKeepTheCaretsFormat) {
   EXPECT_EQ(Text() + FormatAt(1), "x" + Loud);
 }
 
-TEST_F(PastingTest, AParagraphThatIsPartedKeepsItsFormat) {
-  for (const auto& [place, paragraphs] : {std::pair{2, "[right]abone|[right]twocd"},
-                                          {0, "[center]one|[right]twoabcd"},
-                                          {4, "[right]abcdone|two"}}) {
-    box.SetTextRTF("{\\rtf1\\qr abcd\\par}");
-    box.SetSelStart(place);
-    Paste(Offering("{\\rtf1\\qc one\\par\\pard two\\par}"));
-    EXPECT_EQ(Dump(Taken()), paragraphs);
-  }
-}
-
 TEST_F(PastingTest, HtmlBecomesWhatAPageKeeps) {
   ExpectEachHtml({
       {"a<b>b</b><i>c</i><u>d</u><s>e</s>", "a(b)b(i)c(u)d(s)e"},

@@ -87,25 +87,6 @@ TEST_F(RichTextBoxTest, CaretFormatGovernsWhatIsTyped) {
   }
 }
 
-TEST_F(RichTextBoxTest, TypingBesideALinkIsNoPartOfIt) {
-  const std::string link = R"({\field{\*\fldinst HYPERLINK x}{\fldrslt link}})";
-  for (const auto& [page, around] : {std::pair{Page(link), Plain}, {Page(InLoud("a" + link + "b")), Loud}}) {
-    Set(page);
-    const int start = static_cast<int>(Text().find('l'));
-    for (const int place : {0, 5, 3}) {
-      box.SetSelStart(start + place);
-      Type("x");
-    }
-    box.SetSelStart(start + 6);
-    Press(Qt::Key_Return);
-    Type("y");
-    const std::string before = around == Loud ? "ax" : "x", dump = Dump(Taken());
-    const std::string linked = around.substr(0, around.size() - 1) + " -> x)lixnk(";
-    EXPECT_NE(dump.find(around + before + linked), std::string::npos) << dump;
-    EXPECT_EQ(FormatAt(start + 8), around);
-  }
-}
-
 TEST_F(RichTextBoxTest, SelectionReadsAsMixedAndTakesAttributes) {
   Set(Page("plain" + InLoud("loud")));
   const auto attributes = [this] {
