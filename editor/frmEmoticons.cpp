@@ -5,12 +5,12 @@
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QClipboard>
-#include <QtGui/QImageReader>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 
 #include "editor/PageFace.h"
+#include "pictures/PictureFile.h"
 #include "platform/Colors.h"
 #include "platform/Failure.h"
 #include "platform/desktop/Keystroke.h"
@@ -32,15 +32,11 @@ std::string Folder() {
   return platform::ProgramFolder() + "/emoticons";
 }
 
-// Null for a file that is no picture. Of a moving picture the first one.
-QImage LoadPicture(const std::string& fileName, QSize most = {}) {
-  QImageReader reader(QFile::decodeName((Folder() + "/" + fileName).c_str()));
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  const QSize size = reader.size();
-  if (most.isValid() && (size.width() > most.width() || size.height() > most.height()))
-    reader.setScaledSize(size.scaled(most, Qt::KeepAspectRatio));
-  return reader.read();
+// Null for what is no picture, and no ordinary file. Of a moving picture the first one.
+QImage LoadPicture(const std::string& fileName, QSize most = {}) try {
+  return pictures::LoadUpTo(Folder() + "/" + fileName, most);
+} catch (const platform::Failure&) {
+  return {};
 }
 
 // A transparent picture comes out on the colour of the page.

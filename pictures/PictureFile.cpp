@@ -118,16 +118,23 @@ QImage LoadScaled(const std::string& path, QSize shown, double devicePixelRatio)
   return image;
 }
 
-QImage LoadForPreview(const std::string& path) {
+QImage LoadUpTo(const std::string& path, QSize most) {
   Source source(path);
+  const auto isLarger = [](QSize size, QSize bound) {
+    return bound.isValid() && size.boundedTo(bound) != size;
+  };
+  const auto fitting = [](QSize size, QSize bound) {
+    return size.scaled(bound, Qt::KeepAspectRatio).expandedTo({1, 1});
+  };
   const QSize stored = source.reader.size();
-  const QSize most(PreviewSide, PreviewSide);
-  if (stored.width() > PreviewSide || stored.height() > PreviewSide)
-    source.reader.setScaledSize(stored.scaled(most, Qt::KeepAspectRatio).expandedTo({1, 1}));
+  const QSize bound = source.IsTurned() ? most.transposed() : most;
+  if (isLarger(stored, bound)) source.reader.setScaledSize(fitting(stored, bound));
   const QImage image = source.Decode();
-  return image.size().boundedTo(most) == image.size()
-             ? image
-             : Stretched(image, image.size().scaled(most, Qt::KeepAspectRatio).expandedTo({1, 1}));
+  return isLarger(image.size(), most) ? Stretched(image, fitting(image.size(), most)) : image;
+}
+
+QImage LoadForPreview(const std::string& path) {
+  return LoadUpTo(path, {PreviewSide, PreviewSide});
 }
 
 }  // namespace pictures

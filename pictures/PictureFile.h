@@ -27,7 +27,10 @@ QSize UprightSize(const std::string& path);
 // a screen could use comes back smaller, in the same shape, for the control to stretch.
 QImage LoadScaled(const std::string& path, QSize shown, double devicePixelRatio = 1);
 
-// The picture upright, its longer side reduced to about 2000 pixels where it is longer; never enlarged.
+// The picture upright, in its own shape and size, or as large as fits where it is larger than `most` pixels;
+// an invalid size is no bound.
+QImage LoadUpTo(const std::string& path, QSize most);
+// The same, its longer side up to 2000 pixels.
 QImage LoadForPreview(const std::string& path);
 
 }  // namespace pictures

@@ -1,4 +1,7 @@
 // The font of the text, and the emoticons that go into it.
+#include <filesystem>
+#include <sys/stat.h>
+
 #include <QtGui/QClipboard>
 
 #include "editor/frmEmoticons.h"
@@ -84,6 +87,11 @@ TEST_F(EmoticonTest, ShowsNoneThatIsNoPictureAndPutsOneOnThePapersColour) {
   EXPECT_NE(answers.last().find(folder.PathOf("emoticons")), std::string::npos) << answers.last();
   Put(2);
   for (const char* name : {"B.GIF", "c.png"}) folder.Write("emoticons/" + std::string(name), "no picture");
+  EXPECT_EQ(mkfifo(folder.PathOf("emoticons/z.gif").c_str(), 0600), 0);
+  const std::string undecodable = folder.PathOf("\xE9t\xE9");
+  std::filesystem::create_directory(undecodable);
+  std::filesystem::rename(folder.PathOf("emoticons"), undecodable + "/emoticons");
+  platform::SetProgramFolder(undecodable);
   text().SetBackColor(0x99CCFF);
   text().SetSelStart(1);
   text().SetSelLength(3);
@@ -93,6 +101,8 @@ TEST_F(EmoticonTest, ShowsNoneThatIsNoPictureAndPutsOneOnThePapersColour) {
     QTest::keyClick(picker.focusWidget(), Qt::Key_Right);
     QTest::keyClick(picker.focusWidget(), Qt::Key_Return);
   });
+  platform::SetProgramFolder(folder.path());
+  std::filesystem::remove_all(undecodable);
   EXPECT_EQ(QApplication::clipboard()->image().pixelColor(0, 0), QColor(0xFF, 0xCC, 0x99));
   Press("btnFirstPage");
   EXPECT_EQ(TextsIn(row)[0], "c\uFFFCr");
