@@ -1,12 +1,13 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
 
 #include "editor/PageFace.h"
 #include "editor/frmJournal.h"
 #include "look/PictureBox.h"
 #include "pictures/PictureSlots.h"
 #include "pictures/StretchedImage.h"
-#include "platform/dialogs/OpenFileDialog.h"
 #include "platform/files/Files.h"
 #include "platform/files/InputFile.h"
 #include "state/State.h"
@@ -20,8 +21,13 @@ PictureSlots& OnThePage() {
 }
 
 void Add(Person& person, const char* photograph, int frame) {
-  person.Do([&] { platform::SetOpenFileChooser([photograph](const auto&) { return photograph; }); });
-  person.Open("btnInsertPicture", "frmAddPicture");
+  person.Open("btnInsertPicture", "OpenFileDialog");
+  person.Do([&] {
+    QApplication::activeModalWidget()
+        ->findChild<QLineEdit*>(u"fileNameEdit"_qs)
+        ->setText(QLatin1String(photograph));
+  });
+  person.Enter({}, "frmAddPicture");
   person.Click(u"List1"_qs, frame);
   person.Click(u"cmdResizeFactorDN"_qs);
   person.Shot("a-frame-for-it");

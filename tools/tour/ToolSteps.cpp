@@ -1,6 +1,7 @@
 #include <QtCore/QFile>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
 
 #include "editor/PageFace.h"
 #include "editor/frmIndex.h"
@@ -22,7 +23,12 @@ void ChooseColor(Person& person, const QString& digits, const char* window) {
     for (auto* box : QApplication::activeModalWidget()->findChildren<QLineEdit*>())
       if (box->text().startsWith(u'#')) box->setFocus(Qt::ShortcutFocusReason);
   });
-  person.Enter(u'#' + digits, window);
+  person.Type(u'#' + digits);
+  person.Do([] {
+    for (auto* button : QApplication::activeModalWidget()->findChildren<QPushButton*>())
+      if (button->text().contains(u"Custom")) button->click();
+  });
+  person.Enter({}, window);
 }
 
 }  // namespace
