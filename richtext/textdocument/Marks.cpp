@@ -35,7 +35,8 @@ struct Ends {
   QTextBlock last;
 };
 
-// Of a first paragraph nothing would come into the history by it: the paragraph's own format, unchanged, does.
+// Of a first paragraph nothing would come into the history by it: the paragraph's own format, unchanged,
+// does.
 void PutMark(const QTextBlock& paragraph, const QTextCharFormat& format) {
   QTextCursor cursor(paragraph);
   if (paragraph.blockNumber() == 0) cursor.setBlockFormat(cursor.blockFormat());
