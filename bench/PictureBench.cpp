@@ -10,7 +10,7 @@
 #include <QtGui/QImage>
 
 #include "bench/Beside.h"
-#include "pictures/PictureFile.h"
+#include "pictures/decoding/PictureFile.h"
 #include "pictures/PictureSlots.h"
 #include "pictures/PictureToAdd.h"
 #include "pictures/frmAddPicture.h"

@@ -7,7 +7,7 @@
 #include <QtGui/QMouseEvent>
 
 #include "look/PictureBox.h"
-#include "pictures/PictureFile.h"
+#include "pictures/decoding/PictureFile.h"
 #include "pictures/StretchedImage.h"
 #include "pictures/modPictures.h"
 #include "platform/Failure.h"

@@ -7,7 +7,7 @@
 #include "look/AiryRows.h"
 #include "look/Shortening.h"
 #include "pictures/NewRow.h"
-#include "pictures/PictureFile.h"
+#include "pictures/decoding/PictureFile.h"
 #include "pictures/PictureSlots.h"
 #include "pictures/PictureToAdd.h"
 #include "pictures/modPictures.h"

@@ -1,7 +1,7 @@
 // The user's picture files: sound ones of each kind, and what else a path can lead to.
 #include <sys/stat.h>
 
-#include "pictures/PictureFile.h"
+#include "pictures/decoding/PictureFile.h"
 #include "platform/files/InputFile.h"
 #include "tests/support/Fixtures.h"
 

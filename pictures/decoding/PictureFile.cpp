@@ -1,4 +1,4 @@
-#include "pictures/PictureFile.h"
+#include "pictures/decoding/PictureFile.h"
 
 #include <cmath>
 
