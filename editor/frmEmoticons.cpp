@@ -10,7 +10,7 @@
 #include <QtWidgets/QApplication>
 
 #include "editor/PageFace.h"
-#include "pictures/PictureFile.h"
+#include "pictures/decoding/PictureFile.h"
 #include "platform/Colors.h"
 #include "platform/Failure.h"
 #include "platform/desktop/Keystroke.h"

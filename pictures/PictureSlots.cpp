@@ -1,13 +1,13 @@
 #include "pictures/PictureSlots.h"
 
 #include <algorithm>
+#include <chrono>
 
 #include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 
 #include "look/PictureBox.h"
-#include "pictures/decoding/PictureFile.h"
 #include "pictures/StretchedImage.h"
 #include "pictures/modPictures.h"
 #include "platform/Failure.h"
@@ -26,6 +26,7 @@ constexpr int HandleTop = 1;
 constexpr int HandleHeight = 20;
 constexpr int FrameLeft = 1;
 constexpr int TitleBarAllowance = 32;
+constexpr std::chrono::milliseconds Lingering(500);
 
 // The toolkit's own limit for a control's size, and far beyond any screen as a place. Rows may hold any
 // number.
@@ -46,9 +47,18 @@ PagePicture& Row(std::int32_t row) {
   return Pictures.at(static_cast<std::size_t>(row));
 }
 
-bool BelongsHere(const PagePicture& picture, const std::string& journalFile) {
-  return picture.PageNumber == CurrentPage && picture.JournalFile == journalFile && picture.Deleted != True &&
+bool BelongsTo(std::int32_t page, const PagePicture& picture, const std::string& journalFile) {
+  return picture.PageNumber == page && picture.JournalFile == journalFile && picture.Deleted != True &&
          platform::FileExists(picture.PictureFile);
+}
+
+// Of the open journal, those whose picture files are there.
+std::vector<std::int32_t> RowsOf(std::int32_t page) {
+  const std::string& journalFile = Journals.at(static_cast<std::size_t>(CurrentJournal)).FileName;
+  std::vector<std::int32_t> rows;
+  for (std::int32_t row = 1; row <= PictureCount; ++row)
+    if (BelongsTo(page, Row(row), journalFile)) rows.push_back(row);
+  return rows;
 }
 
 QImage HandleBar(double devicePixelRatio) {
@@ -62,6 +72,9 @@ PictureSlots::PictureSlots(QWidget* page) : QObject(page), page_(page) {
   theSlots = this;
   LinkResources();
   for (std::size_t slot = 0; slot < Count; ++slot) MakeSlot(slot, page);
+  lingers_.setSingleShot(true);
+  lingers_.setInterval(Lingering);
+  connect(&lingers_, &QTimer::timeout, this, &PictureSlots::PrepareNeighbours);
 }
 
 PictureSlots::~PictureSlots() = default;
@@ -109,7 +122,7 @@ void PictureSlots::ConnectSlot(std::size_t slot) {
 void PictureSlots::Show(std::size_t slot, std::int32_t row) {
   PagePicture& picture = Row(row);
   const QSize size = SizeOf(picture);
-  imgPhoto[slot]->SetPicture(pictures::LoadScaled(picture.PictureFile, size, page_->devicePixelRatioF()));
+  imgPhoto[slot]->SetPicture(ready_.Get({picture.PictureFile, size, page_->devicePixelRatioF()}));
   imgPhoto[slot]->resize(size);
   rows_[slot] = row;
   picDisplayPics[slot]->resize(size);
@@ -127,7 +140,7 @@ void PictureSlots::ShowFrame(std::size_t slot, PagePicture& picture) {
   }
   if (picture.FrameIndex < 1) return imgFrame[slot]->SetPicture({});
   const QSize size = SizeOf(picture);
-  imgFrame[slot]->SetPicture(pictures::LoadScaled(picture.FrameFile, size, page_->devicePixelRatioF()));
+  imgFrame[slot]->SetPicture(ready_.Get({picture.FrameFile, size, page_->devicePixelRatioF()}));
   imgFrame[slot]->resize(size);
   imgFrame[slot]->show();
 }
@@ -195,13 +208,25 @@ bool PictureSlots::eventFilter(QObject* /*watched*/, QEvent* event) {
   return true;
 }
 
+std::vector<pictures::WantedPicture> PictureSlots::WantedBy(const std::vector<std::int32_t>& rows) const {
+  std::vector<pictures::WantedPicture> wanted;
+  const double ratio = page_->devicePixelRatioF();
+  for (const std::int32_t row : rows) {
+    const PagePicture& picture = Row(row);
+    wanted.push_back({picture.PictureFile, SizeOf(picture), ratio});
+    if (picture.FrameIndex >= 1) wanted.push_back({picture.FrameFile, SizeOf(picture), ratio});
+  }
+  return wanted;
+}
+
 // Deals the rows out to the slots; returns the first failure. A row that cannot be shown leaves no gap.
 std::optional<platform::Failure> PictureSlots::DealOut() {
-  const std::string& journalFile = Journals.at(static_cast<std::size_t>(CurrentJournal)).FileName;
+  const std::vector<std::int32_t> rows = RowsOf(CurrentPage);
+  ready_.Visit(WantedBy({rows.begin(), rows.size() < Count ? rows.end() : rows.begin() + Count}));
+  lingers_.start();
   std::optional<platform::Failure> failure;
   std::size_t next = 0;
-  for (std::int32_t row = 1; row <= PictureCount; ++row) {
-    if (!BelongsHere(Row(row), journalFile)) continue;
+  for (const std::int32_t row : rows) {
     if (next == Count) return platform::Failure(platform::FailureKind::SubscriptOutOfRange);
     try {
       Show(next, row);
@@ -212,6 +237,19 @@ std::optional<platform::Failure> PictureSlots::DealOut() {
   }
   ForgetImagesFrom(next);
   return failure;
+}
+
+void PictureSlots::PrepareNeighbours() {
+  std::vector<std::int32_t> rows = RowsOf(CurrentPage + 1);
+  for (const std::int32_t row : RowsOf(CurrentPage - 1)) rows.push_back(row);
+  ready_.Prepare(WantedBy(rows));
+}
+
+void PictureSlots::Forget() {
+  lingers_.stop();
+  ready_.Forget();
+  Hide();
+  ForgetImagesFrom(0);
 }
 
 void ShowPagePictures() {
@@ -232,8 +270,7 @@ void HidePagePictures() {
 }
 
 void ForgetPagePictures() {
-  theSlots->Hide();
-  theSlots->ForgetImagesFrom(0);
+  theSlots->Forget();
 }
 
 int PageClientHeight() {

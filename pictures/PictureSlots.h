@@ -10,8 +10,10 @@
 #include <optional>
 
 #include <QtCore/QObject>
+#include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
+#include "pictures/decoding/ReadyPictures.h"
 #include "platform/Failure.h"
 #include "platform/desktop/cMouse.h"
 
@@ -48,8 +50,8 @@ class PictureSlots : public QObject {
   // it; SubscriptOutOfRange when there are more rows than slots.
   std::optional<platform::Failure> DealOut();
   void Hide();
-  // Lets go of what is on show no more, from this slot on.
-  void ForgetImagesFrom(std::size_t slot);
+  // Lets go of all pixels, also of those that are kept for other pages.
+  void Forget();
   void HideControllers();
   // The paper's colour, 0x00BBGGRR, which shows where a photograph is transparent.
   void SetPaper(std::uint32_t color);
@@ -67,6 +69,12 @@ class PictureSlots : public QObject {
   void MakeSlot(std::size_t slot, QWidget* page);
   StretchedImage* MakeImage(std::size_t slot, const char* array, const char* role);
   void ConnectSlot(std::size_t slot);
+  // Lets go of what is on show no more, from this slot on.
+  void ForgetImagesFrom(std::size_t slot);
+  // What the rows show on the screen: photographs and frames.
+  std::vector<pictures::WantedPicture> WantedBy(const std::vector<std::int32_t>& rows) const;
+  // The pages before and behind this one, on which somebody lingers.
+  void PrepareNeighbours();
   // Puts the row into the slot and shows it; drops a frame from the row that is not there.
   void Show(std::size_t slot, std::int32_t row);
   void ShowFrame(std::size_t slot, PagePicture& picture);
@@ -78,6 +86,8 @@ class PictureSlots : public QObject {
   void imgController_DblClick(std::size_t slot);
 
   QWidget* page_;
+  pictures::ReadyPictures ready_;
+  QTimer lingers_;
   std::array<std::int32_t, Count> rows_{};
   std::optional<std::size_t> dragged_;  // the slot whose handle a button holds
 };

@@ -7,9 +7,9 @@
 #include "look/AiryRows.h"
 #include "look/Shortening.h"
 #include "pictures/NewRow.h"
-#include "pictures/decoding/PictureFile.h"
 #include "pictures/PictureSlots.h"
 #include "pictures/PictureToAdd.h"
+#include "pictures/decoding/PictureFile.h"
 #include "pictures/modPictures.h"
 #include "platform/Failure.h"
 #include "platform/desktop/Keystroke.h"
@@ -246,8 +246,8 @@ void frmAddPicture::ShowFrame() {
   imgFrameSet->hide();
   if (AddFrameIndex < 1) return imgFrameSet->SetPicture({});
   const QSize size = picResize2->size();
-  imgFrameSet->SetPicture(pictures::LoadScaled(
-      FrameFile(AddFrameIndex), size.boundedTo({LargestFrame, LargestFrame}), devicePixelRatioF()));
+  const QSize decoded = size.boundedTo({LargestFrame, LargestFrame});
+  imgFrameSet->SetPicture(pictures::Decode({FrameFile(AddFrameIndex), decoded, devicePixelRatioF()}).image);
   imgFrameSet->resize(size);
   imgFrameSet->show();
 }

@@ -6,6 +6,7 @@
 #include <QtCore/QLocale>
 #include <QtGui/QImageReader>
 
+#include "pictures/decoding/TrueColors.h"
 #include "platform/Failure.h"
 #include "platform/files/InputFile.h"
 
@@ -15,7 +16,7 @@ namespace {
 using platform::Failure;
 using platform::FailureKind;
 
-constexpr int MostMegabytes = 1024;         // what decoding a picture of MostPixels may take
+constexpr int MostMegabytes = 2048;         // what decoding a picture of MostPixels, 8 bytes each, may take
 constexpr double MostShownPixels = 16.0e6;  // twice what the largest screens show
 constexpr int MostSide = 32767;             // what a painter takes
 constexpr int PreviewSide = 2000;           // twice the side of the preview's drawing surface
@@ -39,11 +40,27 @@ Failure TooLarge(const std::string& path, QSize size) {
                              english.toString(qlonglong{MostPixels})));
 }
 
+// Ends where it was read to, once nobody wants it any more.
+class DroppableFile : public QFile {
+ public:
+  explicit DroppableFile(const std::atomic<bool>* isDropped) : isDropped_(isDropped) {}
+
+ protected:
+  qint64 readData(char* data, qint64 most) override {
+    return isDropped_ && *isDropped_ ? -1 : QFile::readData(data, most);
+  }
+
+ private:
+  const std::atomic<bool>* isDropped_;
+};
+
 // An open file and the reader over it. The kind of picture is told by the bytes, not by the name.
 class Source {
  public:
-  explicit Source(const std::string& path) : path_(path), file_(path) {
+  explicit Source(const std::string& path, const std::atomic<bool>* isDropped = nullptr)
+      : path_(path), file_(path), device_(isDropped) {
     if (file_.size() == 0) throw Unshowable(path, QStringLiteral("It is empty."));
+    QImageReader::setAllocationLimit(MostMegabytes);
     device_.open(file_.descriptor(), QFile::ReadOnly, QFile::DontCloseHandle);
     reader.setDevice(&device_);
     reader.setDecideFormatFromContent(true);
@@ -58,13 +75,16 @@ class Source {
   // Invalid for a format that does not tell before it is decoded.
   QSize UprightSize() const { return IsTurned() ? reader.size().transposed() : reader.size(); }
 
-  // Never null.
-  QImage Decode() {
-    QImageReader::setAllocationLimit(MostMegabytes);
-    QImage image = reader.read();
+  // Never null. In 8 bits, about as large as `stored`, the size before a mark is obeyed, where the format
+  // allows it; as large as it is where that is invalid.
+  QImage Decode(QSize stored = {}) {
+    if (stored.isValid() && !IsScaledAfterReading(reader.imageFormat())) reader.setScaledSize(stored);
+    const QImage image = reader.read();
     if (image.isNull()) throw NoPicture(path_);
-    return image;
+    return InEightBits(image);
   }
+
+  platform::Identity Identity() const { return platform::IdentityOf(file_.entry()); }
 
   QImageReader reader;
 
@@ -77,7 +97,7 @@ class Source {
 
   std::string path_;
   platform::InputFile file_;
-  QFile device_;
+  DroppableFile device_;
 };
 
 QImage Stretched(const QImage& image, QSize size) {
@@ -106,16 +126,16 @@ QSize UprightSize(const std::string& path) {
   return size.isValid() ? size : source.Decode().size();
 }
 
-QImage LoadScaled(const std::string& path, QSize shown, double devicePixelRatio) {
-  if (shown.isEmpty()) return {};
-  Source source(path);
-  const bool setUpright = !source.IsTurned() || !HasTheShapeLying(shown, source.UprightSize());
+DecodedPicture Decode(const WantedPicture& wanted, const std::atomic<bool>* isDropped) {
+  if (wanted.shown.isEmpty()) return {};
+  Source source(wanted.path, isDropped);
+  const bool setUpright = !source.IsTurned() || !HasTheShapeLying(wanted.shown, source.UprightSize());
   source.reader.setAutoTransform(setUpright);
-  const QSize size = DevicePixels(shown, devicePixelRatio);
-  source.reader.setScaledSize(setUpright && source.IsTurned() ? size.transposed() : size);
-  QImage image = Stretched(source.Decode(), size);
-  image.setDevicePixelRatio(devicePixelRatio);
-  return image;
+  const QSize size = DevicePixels(wanted.shown, wanted.devicePixelRatio);
+  const QImage read = source.Decode(setUpright && source.IsTurned() ? size.transposed() : size);
+  QImage image = ForTheScreen(Stretched(read, size));
+  image.setDevicePixelRatio(wanted.devicePixelRatio);
+  return {image, source.Identity()};
 }
 
 QImage LoadUpTo(const std::string& path, QSize most) {
@@ -128,13 +148,12 @@ QImage LoadUpTo(const std::string& path, QSize most) {
   };
   const QSize stored = source.reader.size();
   const QSize bound = source.IsTurned() ? most.transposed() : most;
-  if (isLarger(stored, bound)) source.reader.setScaledSize(fitting(stored, bound));
-  const QImage image = source.Decode();
-  return isLarger(image.size(), most) ? Stretched(image, fitting(image.size(), most)) : image;
+  const QImage read = source.Decode(isLarger(stored, bound) ? fitting(stored, bound) : QSize());
+  return isLarger(read.size(), most) ? Stretched(read, fitting(read.size(), most)) : read;
 }
 
 QImage LoadForPreview(const std::string& path) {
-  return LoadUpTo(path, {PreviewSide, PreviewSide});
+  return ForTheScreen(LoadUpTo(path, {PreviewSide, PreviewSide}));
 }
 
 }  // namespace pictures

@@ -32,16 +32,6 @@ bool IsTheSame(const KnownFile& one, const KnownFile& other) {
 
 }  // namespace
 
-Identity IdentityOf(const struct stat& entry) {
-  return {static_cast<std::int64_t>(entry.st_dev),
-          static_cast<std::int64_t>(entry.st_ino),
-          entry.st_size,
-          entry.st_mtim.tv_sec,
-          entry.st_mtim.tv_nsec,
-          entry.st_ctim.tv_sec,
-          entry.st_ctim.tv_nsec};
-}
-
 void Remember(const std::string& path, const struct stat& entry, std::optional<std::uint64_t> checksum) {
   KnownFiles().insert_or_assign(path, KnownFile{IdentityOf(entry), checksum});
 }

@@ -1,31 +1,15 @@
 #include "platform/files/LogWriter.h"
 
-#include <csignal>
 #include <exception>
 #include <utility>
 
+#include "platform/SignalsBlocked.h"
 #include "platform/files/Files.h"
 #include "platform/files/ReplaceFile.h"
 #include "platform/files/SyncFolder.h"
 
 namespace platform {
 namespace {
-
-// Signals stay with the thread that made this one's.
-class SignalsBlocked {
- public:
-  SignalsBlocked() {
-    sigset_t all;
-    sigfillset(&all);
-    pthread_sigmask(SIG_SETMASK, &all, &before_);
-  }
-  ~SignalsBlocked() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
-  SignalsBlocked(const SignalsBlocked&) = delete;
-  SignalsBlocked& operator=(const SignalsBlocked&) = delete;
-
- private:
-  sigset_t before_;
-};
 
 void Write(const std::string& path, const std::string& bytes) {
   if (!bytes.empty()) return ReplaceFile(path, bytes);

@@ -30,9 +30,9 @@ class PictureFile : public fixture::Desk {
 
 TEST_F(PictureFile, IsStretchedToTheSizeShownWhateverItsName) {
   const std::string path = Put("photo.any", Photograph("lake.png"));
-  EXPECT_EQ(pictures::LoadScaled(path, {90, 70}, 2).size(), QSize(180, 140));
-  EXPECT_TRUE(pictures::LoadScaled(path, {90, 0}).isNull());
-  EXPECT_EQ(pictures::LoadScaled(path, {2000000000, 1000}).width(), 32767);
+  EXPECT_EQ(pictures::Decode({path, {90, 70}, 2}).image.size(), QSize(180, 140));
+  EXPECT_TRUE(pictures::Decode({path, {90, 0}}).image.isNull());
+  EXPECT_EQ(pictures::Decode({path, {2000000000, 1000}}).image.width(), 32767);
 }
 
 TEST_F(PictureFile, StandsUprightUnlessItsRowHasTheLyingShape) {
@@ -47,8 +47,37 @@ TEST_F(PictureFile, StandsUprightUnlessItsRowHasTheLyingShape) {
   for (const auto& [orientation, shown, corners] : cases) {
     const std::string path = Put("phone.jpg", Photograph("phone.jpg").replace(30, 1, &orientation, 1));
     EXPECT_EQ(pictures::UprightSize(path), orientation < 5 ? QSize(400, 200) : QSize(200, 400));
-    EXPECT_EQ(Corners(pictures::LoadScaled(path, shown)), corners) << int{orientation};
+    EXPECT_EQ(Corners(pictures::Decode({path, shown}).image), corners) << int{orientation};
   }
+}
+
+// By the bytes of each file as another program decodes them, over white.
+TEST_F(PictureFile, ShowsTheColorsOfItsFileScaledOrNot) {
+  const QList<QColor> colors{{195, 230, 245}, {20, 30, 40}, {200, 60, 50}, {70, 140, 60}};
+  const QDir samples(QStringLiteral(TEST_SAMPLES "/photographs/colors"));
+  const QStringList names = samples.entryList(QDir::Files);
+  ASSERT_EQ(names.size(), 13);
+  for (const QString& name : names)
+    for (const int side : {32, 13, 77}) {
+      QImage over(side, side, QImage::Format_RGB32);
+      over.fill(Qt::white);
+      const std::string path = samples.filePath(name).toStdString();
+      QPainter(&over).drawImage(0, 0, pictures::Decode({path, {side, side}}).image);
+      for (int i = 0; i < 4; ++i) {
+        const QColor found = over.pixelColor(side / 4 + i % 2 * side / 2, side / 4 + i / 2 * side / 2);
+        const int gray = QList<int>{224, 29, 89, 119}[i];
+        const bool isGray = name.contains(QStringLiteral("gray"));
+        const bool isHalf = name.contains(QRegularExpression(QStringLiteral("(rgb|gray)a\\d")));
+        const QColor color = isGray ? QColor(gray, gray, gray) : colors[i];
+        const auto difference = [&](int level, int meant) {
+          return std::abs(level - (isHalf ? (meant + 255) / 2 : meant));
+        };
+        EXPECT_LE(std::max({difference(found.red(), color.red()), difference(found.green(), color.green()),
+                            difference(found.blue(), color.blue())}),
+                  3)
+            << path << " at " << side << ", square " << i << ": " << found.name().toStdString();
+      }
+    }
 }
 
 TEST_F(PictureFile, ThatCannotBeShownIsNamed) {
@@ -65,7 +94,7 @@ TEST_F(PictureFile, ThatCannotBeShownIsNamed) {
       {InvalidPicture, "cut.png", Put("cut.png", Photograph("lake.png").left(200))},
   };
   for (const auto& [kind, words, path] : cases) {
-    fixture::ExpectFailure(kind, words, [&file = path] { pictures::LoadScaled(file, {80, 40}); });
+    fixture::ExpectFailure(kind, words, [&file = path] { pictures::Decode({file, {80, 40}}); });
     fixture::ExpectFailure(kind, words, [&file = path] { pictures::LoadForPreview(file); });
   }
 }
