@@ -8,6 +8,7 @@
 
 #include "bench/Beside.h"
 #include "bench/Diary.h"
+#include "bench/Memory.h"
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
@@ -25,22 +26,15 @@ using bench::Diary;
 
 const char* const JournalName = "j00000.tqf";
 
-// Resident memory of this process.
-double MegabytesInUse() {
-  long pages = 0;
-  std::ifstream("/proc/self/statm") >> pages >> pages;
-  return static_cast<double>(pages) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
-}
-
 void OpenJournal(benchmark::State& state) {
   look::The<frmJournal>();
   Diary diary(static_cast<std::int32_t>(state.range(0)));
   for ([[maybe_unused]] auto iteration : state) {
     diary.Open();
     state.PauseTiming();
-    state.counters["resident_mb"] = MegabytesInUse();
+    state.counters["resident_mb"] = bench::MegabytesInUse();
     diary.Close();
-    state.counters["closed_mb"] = MegabytesInUse();
+    state.counters["closed_mb"] = bench::MegabytesInUse();
     state.ResumeTiming();
   }
 }

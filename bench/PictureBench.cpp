@@ -4,15 +4,19 @@
 #include <string>
 #include <vector>
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QThread>
 #include <QtGui/QImage>
 
 #include "bench/Beside.h"
-#include "pictures/decoding/PictureFile.h"
+#include "bench/Memory.h"
 #include "pictures/PictureSlots.h"
 #include "pictures/PictureToAdd.h"
+#include "pictures/decoding/PictureFile.h"
 #include "pictures/frmAddPicture.h"
 #include "tests/support/Staging.h"
 
@@ -50,6 +54,11 @@ class Album {
   QTemporaryDir folder_;
 };
 
+const Album& TheAlbum() {
+  static const Album album;
+  return album;
+}
+
 void DecodeInFull(const std::vector<std::string>& paths) {
   for (const std::string& path : paths) benchmark::DoNotOptimize(QImage(QFile::decodeName(path.c_str())));
 }
@@ -75,24 +84,113 @@ void LayOut(const Album& album, double scale) {
   PictureCount = Photos;
 }
 
-// A turn to the page. The argument is the scale of the dialog in percent.
+// Page 0 has them; the pages on either side of it have none.
+class Pages {
+ public:
+  explicit Pages(std::int64_t percent) {
+    page_.resize(565, 648);
+    LayOut(TheAlbum(), static_cast<double>(percent) / 100);
+  }
+  // Until the page is painted.
+  void TurnTo(std::int32_t page) {
+    Staged().CurrentPage = page;
+    ShowPagePictures();
+    page_.render(&screen_);
+  }
+  // Somebody looks at a page until its neighbour is ready, or for half a minute.
+  void Linger() {
+    const auto width = static_cast<std::size_t>(Pictures[1].PictureWidth);
+    const auto height = static_cast<std::size_t>(Pictures[1].PictureHeight);
+    QElapsedTimer timer;
+    for (timer.start(); timer.elapsed() < 30000 && slots_.BytesKept() < Photos * 3 * width * height;) {
+      QThread::msleep(20);
+      QCoreApplication::processEvents();
+    }
+  }
+
+ private:
+  QWidget page_;
+  QImage screen_{565, 648, QImage::Format_RGB32};
+  PictureSlots slots_{&page_};
+};
+
+// The first visit of the page. The argument is the scale of the dialog in percent.
 void SevenPhotographs(benchmark::State& state) {
-  static const Album album;
-  QWidget page;
-  page.resize(565, 648);
-  PictureSlots slots_(&page);
-  LayOut(album, static_cast<double>(state.range(0)) / 100);
+  Pages pages(state.range(0));
   bench::RunBeside(
-      state, [] { return bench::SecondsOf([] { ShowPagePictures(); }); },
-      [] { return bench::SecondsOf([] { DecodeInFull(album.paths); }); });
+      state,
+      [&] {
+        ForgetPagePictures();
+        return bench::SecondsOf([&] { pages.TurnTo(0); });
+      },
+      [] { return bench::SecondsOf([] { DecodeInFull(TheAlbum().paths); }); });
 }
 BENCHMARK(SevenPhotographs)->Arg(10)->Arg(25)->Iterations(3)->UseManualTime()->Unit(benchmark::kMillisecond);
 
+// The same beside decoding them at their size on the page, one after another.
+void SevenSideBySide(benchmark::State& state) {
+  Pages pages(25);
+  bench::RunBeside(
+      state,
+      [&] {
+        ForgetPagePictures();
+        return bench::SecondsOf([&] { pages.TurnTo(0); });
+      },
+      [] {
+        return bench::SecondsOf([] {
+          for (const std::string& path : TheAlbum().paths)
+            benchmark::DoNotOptimize(
+                pictures::Decode({path, {Pictures[1].PictureWidth, Pictures[1].PictureHeight}}));
+        });
+      });
+}
+BENCHMARK(SevenSideBySide)->Iterations(3)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// Coming back to the page, from one without pictures.
+void SevenSeenBefore(benchmark::State& state) {
+  Pages pages(25);
+  pages.TurnTo(0);
+  for ([[maybe_unused]] auto iteration : state) {
+    pages.TurnTo(1);
+    state.SetIterationTime(bench::SecondsOf([&] { pages.TurnTo(0); }));
+  }
+}
+BENCHMARK(SevenSeenBefore)->Iterations(20)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// To a page that was never seen, from its neighbour, on which somebody has lingered.
+void SevenOfANeighbour(benchmark::State& state) {
+  Pages pages(25);
+  for ([[maybe_unused]] auto iteration : state) {
+    ForgetPagePictures();
+    pages.TurnTo(1);
+    pages.Linger();
+    state.SetIterationTime(bench::SecondsOf([&] { pages.TurnTo(0); }));
+  }
+}
+BENCHMARK(SevenOfANeighbour)->Iterations(2)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+// What the program takes more after 200 pages of photographs than before them, and the bytes of pixels that
+// it keeps.
+void TwoHundredPages(benchmark::State& state) {
+  Pages pages(10);
+  for ([[maybe_unused]] auto iteration : state) {
+    pages.TurnTo(1);
+    const double before = bench::MegabytesInUse();
+    for (int i = 0; i < 200; ++i) {
+      for (std::int32_t row = 1; row <= PictureCount; ++row)
+        ++Pictures[static_cast<std::size_t>(row)].PictureWidth;
+      pages.TurnTo(0);
+    }
+    pages.TurnTo(1);
+    state.counters["more_mb"] = bench::MegabytesInUse() - before;
+  }
+}
+BENCHMARK(TwoHundredPages)->Iterations(1)->Unit(benchmark::kSecond);
+
 // A press of a scale button. The argument is the scale in percent.
 void ScaleSeenLive(benchmark::State& state) {
-  static const Album album;
   auto& dialog = look::The<frmAddPicture>();
-  dialog.picTemp->SetPicture(QPixmap::fromImage(pictures::LoadForPreview(album.paths[0])));
+  dialog.picTemp->SetPicture(QPixmap::fromImage(pictures::LoadForPreview(TheAlbum().paths[0])));
   dialog.picTemp->resize(PhotoSize);
   AddScale = static_cast<double>(state.range(0)) / 100;
   for ([[maybe_unused]] auto iteration : state) look::The<frmAddPicture>().ShowScaledPreview();

@@ -52,6 +52,8 @@ class PictureSlots : public QObject {
   void Hide();
   // Lets go of all pixels, also of those that are kept for other pages.
   void Forget();
+  // Bytes of pixels that are kept for other pages than the one that is shown.
+  std::size_t BytesKept() const { return ready_.Bytes(); }
   void HideControllers();
   // The paper's colour, 0x00BBGGRR, which shows where a photograph is transparent.
   void SetPaper(std::uint32_t color);
