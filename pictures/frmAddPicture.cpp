@@ -10,6 +10,7 @@
 #include "pictures/PictureSlots.h"
 #include "pictures/PictureToAdd.h"
 #include "pictures/decoding/PictureFile.h"
+#include "pictures/decoding/WholeJpeg.h"
 #include "pictures/modPictures.h"
 #include "platform/Failure.h"
 #include "platform/desktop/Keystroke.h"
@@ -213,6 +214,7 @@ void frmAddPicture::InsertPicture() {
     box->SetBackColor(Journals.at(static_cast<std::size_t>(CurrentJournal)).PaperColor);
   try {
     LoadPicture();
+    TellBrokenOff();
   } catch (const platform::Failure& failure) {
     return platform::ReportFailure({}, failure);
   }
@@ -225,6 +227,14 @@ void frmAddPicture::LoadPicture() {
   const QSize size = pictures::UprightSize(AddFile);
   picTemp->SetPicture(QPixmap::fromImage(pictures::LoadForPreview(AddFile)));
   picTemp->resize(size);
+}
+
+void frmAddPicture::TellBrokenOff() {
+  if (pictures::IsWhole(AddFile)) return;
+  platform::ShowMessage(
+      AddFile +
+      "\n\nThis picture is not whole: its file ends too soon, as when its copying was broken off. It "
+      "shows as far as it goes. Copy it once more from where it came, if you can.");
 }
 
 void frmAddPicture::SetFrame(std::int16_t index) {

@@ -76,6 +76,7 @@ class frmAddPicture : public look::Form {
   void SetScale(double scale);
   void ShowPreviewOrDropFrame();
   void LoadPicture();
+  void TellBrokenOff();
   void ShowFrame();
   void cmdOK_Click();
 };

@@ -1,12 +1,12 @@
 // The user's own picture files, as they come: decoded for the page and for the preview.
 //
 // A path is the system's bytes. Every failure is a platform::Failure whose sentence names the file: one that
-// is gone, is a folder, a pipe or a device, is empty, is no picture, or is larger than MostPixels. Nothing
+// is gone, is a folder, a pipe or a device, is empty, is no picture, or is larger than
+// MostPixels (pictures/decoding/PictureSource.h). Nothing
 // here blocks on a pipe. Of a moving picture only the first one shows. All may be called on any thread.
 #pragma once
 
 #include <atomic>
-#include <cstdint>
 #include <string>
 
 #include <QtCore/QSize>
@@ -15,9 +15,6 @@
 #include "platform/files/Identity.h"
 
 namespace pictures {
-
-// The largest picture that is decoded: what the largest cameras take.
-inline constexpr std::int64_t MostPixels = 200'000'000;
 
 // A file stretched to `shown` logical pixels, times the ratio in device pixels.
 struct WantedPicture {

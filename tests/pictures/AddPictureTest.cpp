@@ -2,6 +2,7 @@
 #include "pictures/AddPicture.h"
 #include "pictures/PictureToAdd.h"
 #include "pictures/frmAddPicture.h"
+#include "platform/files/InputFile.h"
 #include "tests/pictures/PicturePage.h"
 
 namespace {
@@ -103,6 +104,19 @@ TEST_F(AddPicture, LaysPicturesInAColumnUntilThePageIsFull) {
   EXPECT_EQ(chooser.asked.size(), 7U);
   Pictures[3].Deleted = True;
   EXPECT_TRUE(Insert(photo));
+}
+
+// A camera's small copy within the file has an end of its own.
+TEST_F(AddPicture, TellsOfAPhotographThatEndsTooSoon) {
+  std::string jpeg = platform::ReadFile(TEST_SAMPLES "/photographs/phone.jpg");
+  jpeg.insert(2, std::string("\xFF\xE2\x00\x06\xFF\xD8\xFF\xD9", 8));
+  for (const auto& [bytes, isWhole] :
+       {std::pair{jpeg, true}, {jpeg + "trailer", true}, {jpeg.substr(0, 3000), false}}) {
+    folder.Write("photo.jpg", bytes);
+    EXPECT_TRUE(Add(folder.PathOf("photo.jpg"), [](frmAddPicture&) {}));
+    EXPECT_EQ(answers.texts().empty(), isWhole) << bytes.size();
+  }
+  EXPECT_NE(answers.last().find("not whole"), std::string::npos);
 }
 
 TEST_F(AddPicture, StoresNothingThatCannotBeShown) {

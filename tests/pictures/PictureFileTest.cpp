@@ -80,6 +80,35 @@ TEST_F(PictureFile, ShowsTheColorsOfItsFileScaledOrNot) {
     }
 }
 
+TEST_F(PictureFile, OfADrawingOpensNoOther) {
+  const std::string lake = Put("lake.png", Photograph("lake.png"));
+  const QByteArray held = Photograph("lake.png").toBase64();
+  const auto drawn = [&](const QByteArray& within) {
+    const QByteArray head =
+        "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' width='40' "
+        "height='40'><rect width='40' height='40' fill='red'/>";
+    return pictures::Decode({Put("drawing.svg", head + within + "</svg>"), {40, 40}}).image.pixelColor(20, 4);
+  };
+  const QByteArray image = "<image width='40' height='40' xlink:href='";
+  EXPECT_EQ(drawn(image + QByteArray::fromStdString(lake) + "'/>"), QColor(Qt::red));
+  EXPECT_EQ(drawn(image + "file://" + QByteArray::fromStdString(lake) + "'/>"), QColor(Qt::red));
+  EXPECT_NE(drawn(image + "data:image/png;base64," + held + "'/>"), QColor(Qt::red)) << "this one it holds";
+}
+
+TEST_F(PictureFile, OfKindsThatAPackageReadsIsShownWithIt) {
+  for (const char* name : {"squares.webp", "squares.tiff"}) {
+    const std::string path = TEST_SAMPLES "/photographs/" + std::string(name);
+    if (QImageReader::supportedImageFormats().contains(
+            QFileInfo(QString::fromStdString(path)).suffix().toLatin1()))
+      EXPECT_EQ(pictures::Decode({path, {32, 32}}).image.pixelColor(24, 8).red() / 8, 20 / 8) << name;
+    else
+      fixture::ExpectFailure(platform::FailureKind::InvalidPicture,
+                             "What can be read here is BMP, GIF, JPEG, PNG", [&] {
+                               pictures::Decode({path, {32, 32}});
+                             });
+  }
+}
+
 TEST_F(PictureFile, ThatCannotBeShownIsNamed) {
   using enum platform::FailureKind;
   const std::string pipe = folder.PathOf("pipe.jpg");
@@ -90,6 +119,7 @@ TEST_F(PictureFile, ThatCannotBeShownIsNamed) {
       {PathAccess, "pipe.jpg", pipe},
       {InvalidPicture, "empty.jpg\n\nIt is empty", Put("empty.jpg", {})},
       {InvalidPicture, "letter.jpg\n\nIt is damaged, or of a kind", Put("letter.jpg", "Dear diary")},
+      {InvalidPicture, "packed.svg", Put("packed.svg", "\x1f\x8b\x08 drawing")},
       {InvalidPicture, "50,000 by 50,000 pixels", Put("huge.jpg", huge)},
       {InvalidPicture, "cut.png", Put("cut.png", Photograph("lake.png").left(200))},
   };
