@@ -44,7 +44,7 @@ bool TellsItsSize(const Picture& picture) {
 Document Kept(Document page) {
   std::vector<std::string> bytes(page.pictures.size());
   for (std::size_t i = 0; i < bytes.size(); ++i)
-    if (TellsItsSize(page.pictures[i])) bytes[i] = std::exchange(page.pictures[i].bytes, "-");
+    if (TellsItsSize(page.pictures[i])) bytes[i] = std::exchange(page.pictures[i].bytes, std::string(1, '-'));
   page = ReadRtf(WriteRtf(page));
   for (std::size_t i = 0; i < bytes.size() && i < page.pictures.size(); ++i)
     if (!bytes[i].empty()) page.pictures[i].bytes = std::move(bytes[i]);
