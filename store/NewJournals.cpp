@@ -50,9 +50,11 @@ void RefuseUnusable(const std::string& password) {
 bool IsSameEntry(const std::string& one, const std::string& other) {
   if (one == other) return true;
   struct stat first {
-  }, second{};
-  return lstat(one.c_str(), &first) == 0 && lstat(other.c_str(), &second) == 0 && first.st_nlink == 1 &&
-         first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+  }, second{}, behind{};
+  if (lstat(one.c_str(), &first) != 0 || lstat(other.c_str(), &second) != 0) return false;
+  if (stat(other.c_str(), &behind) != 0 || first.st_dev != behind.st_dev || first.st_ino != behind.st_ino)
+    return false;
+  return first.st_nlink == 1 || S_ISLNK(second.st_mode);  // of two second names, the other one stays
 }
 
 }  // namespace

@@ -40,15 +40,27 @@ bool TellsItsSize(const Picture& picture) {
   return (picture.widthTwips > 0) == (picture.heightTwips > 0);
 }
 
-// What the writer keeps of it. The bytes of pictures are not what it changes, and need not go along.
-Document Kept(Document page) {
+// The bytes of the page's pictures that writing and reading does not change, out of the page.
+std::vector<std::string> TakenBytes(Document& page) {
   std::vector<std::string> bytes(page.pictures.size());
   for (std::size_t i = 0; i < bytes.size(); ++i)
     if (TellsItsSize(page.pictures[i])) bytes[i] = std::exchange(page.pictures[i].bytes, std::string(1, '-'));
-  page = ReadRtf(WriteRtf(page));
-  for (std::size_t i = 0; i < bytes.size() && i < page.pictures.size(); ++i)
+  return bytes;
+}
+
+void PutBack(std::vector<std::string> bytes, Document& page) {
+  for (std::size_t i = 0; i < bytes.size(); ++i)
     if (!bytes[i].empty()) page.pictures[i].bytes = std::move(bytes[i]);
-  return page;
+}
+
+// What the writer keeps of it. The bytes of pictures need not go along, unless one of them is lost on the
+// way.
+Document Kept(Document page) {
+  std::vector<std::string> bytes = TakenBytes(page);
+  Document kept = ReadRtf(WriteRtf(page));
+  const bool areAllThere = kept.pictures.size() == page.pictures.size();
+  PutBack(std::move(bytes), areAllThere ? kept : page);
+  return areAllThere ? kept : ReadRtf(WriteRtf(page));
 }
 
 bool SaysSomething(const Document& page) {

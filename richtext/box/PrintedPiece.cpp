@@ -8,6 +8,7 @@
 #include <QtGui/QTextCursor>
 
 #include "richtext/textdocument/PageHeight.h"
+#include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
 
 namespace richtext {
@@ -28,17 +29,22 @@ PrintedPiece::PrintedPiece(const QTextDocument& source, int from, int to, const 
   Copy(to);
 }
 
+// What the page tells, which the screen may show with smaller indents and lower lines.
+QTextBlockFormat PrintedPiece::OnPaper(const QTextBlock& block) const {
+  return ToBlockFormat(FromBlockFormat(block.blockFormat()), sheet_.width());
+}
+
 // `to` and the blocks are the source's.
 void PrintedPiece::Copy(int to) {
   QTextCursor cursor(this);
   cursor.beginEditBlock();
   const QTextBlock first = source_.findBlock(from_);
-  QTextBlockFormat format = first.blockFormat();
+  QTextBlockFormat format = OnPaper(first);
   if (from_ > first.position()) format.setTextIndent(0);
   cursor.setBlockFormat(format);
   cursor.setBlockCharFormat(first.charFormat());
   for (QTextBlock block = first; block.isValid() && block.position() < to; block = block.next()) {
-    if (block != first) cursor.insertBlock(block.blockFormat(), block.charFormat());
+    if (block != first) cursor.insertBlock(OnPaper(block), block.charFormat());
     CopyText(block, to, cursor);
   }
   cursor.endEditBlock();
@@ -52,7 +58,7 @@ void PrintedPiece::CopyText(const QTextBlock& block, int to, QTextCursor& cursor
     const bool beginsParagraph = begin == block.position();
     if (begin < end)
       cursor.insertText(fragment.text().mid(begin - fragment.position(), end - begin),
-                        Fitting(fragment.charFormat(), block.blockFormat(), beginsParagraph));
+                        Fitting(fragment.charFormat(), cursor.blockFormat(), beginsParagraph));
   }
 }
 

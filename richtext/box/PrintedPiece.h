@@ -40,6 +40,7 @@ class PrintedPiece : public QTextDocument {
   QVariant loadResource(int type, const QUrl& name) override;
 
  private:
+  QTextBlockFormat OnPaper(const QTextBlock& block) const;
   void Copy(int to);
   void CopyText(const QTextBlock& block, int to, QTextCursor& cursor) const;
   QTextCharFormat Fitting(const QTextCharFormat& format, const QTextBlockFormat& paragraph,

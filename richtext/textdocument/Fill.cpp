@@ -46,12 +46,11 @@ double PageWidth(const QTextDocument& document) {
 class Filler {
  public:
   Filler(const Document& source, QTextCursor& cursor) : source_(source), cursor_(cursor), text_(source.text) {
-    const double width = PageWidth(*cursor.document());
     std::transform(text_.begin(), text_.end(), text_.begin(), WithinParagraph);
     std::transform(source.formats.begin(), source.formats.end(), std::back_inserter(formats_), ToTextFormat);
     std::transform(source.formats.begin(), source.formats.end(), std::back_inserter(marks_), ToMarkFormat);
     for (const ParagraphFormat& format : source.paragraphFormats)
-      blockFormats_.push_back(ToBlockFormat(format, width));
+      blockFormats_.push_back(ToBlockFormat(format));
   }
 
   // The rest of a paragraph that is parted stays as it was.

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <memory>
+#include <vector>
 
 #include <QtCore/QBuffer>
 #include <QtCore/QCryptographicHash>
@@ -24,11 +26,30 @@ namespace {
 constexpr double LargestSide = 20000;                // pixels
 constexpr double MostPixels = 64'000'000;            // with a margin of its crop
 constexpr qint64 MostPixelsAtOnce = 1'000'000;       // which are packed while a person waits
-constexpr char MakerProperty[] = "lastPngMaker";     // of a document
+constexpr char MakersProperty[] = "pngMakers";       // of a document
 constexpr int MostMegabytes = 512;                   // of a file's pixels, with eight bytes for each
 constexpr QSize SizeOfUnknown{16, 16};               // of a picture that tells no size of its own
 const QLatin1String DrawingResource("picture:");     // name of the resource that is drawn
 const QLatin1String SourceResource("picturefile:");  // name of the resource that is the picture as it came
+
+// Those of a document that are still wanted.
+using Makers = std::vector<std::weak_ptr<const PngMaker>>;
+
+Makers MakersOf(const QTextDocument& document) {
+  return document.property(MakersProperty).value<Makers>();
+}
+
+bool IsAtWork(const std::weak_ptr<const PngMaker>& maker) {
+  const auto wanted = maker.lock();
+  return wanted && !wanted->IsDone();
+}
+
+void NoteMaker(const std::shared_ptr<const PngMaker>& maker, QTextDocument& document) {
+  Makers makers = MakersOf(document);
+  makers.erase(std::remove_if(makers.begin(), makers.end(), std::not_fn(IsAtWork)), makers.end());
+  makers.push_back(maker);
+  document.setProperty(MakersProperty, QVariant::fromValue(makers));
+}
 
 QUrl SourceName(const QString& drawing) {
   return QUrl(SourceResource + drawing.mid(DrawingResource.size()));
@@ -200,13 +221,13 @@ QTextImageFormat KeepImage(const QImage& image, const QTextCharFormat& text, QTe
   const auto maker = std::make_shared<const PngMaker>(image);
   document.addResource(QTextDocument::UserResource, SourceName(name), QVariant::fromValue(maker));
   document.addResource(QTextDocument::ImageResource, QUrl(name), QPixmap::fromImage(image));
-  document.setProperty(MakerProperty, QVariant::fromValue(std::weak_ptr(maker)));
+  NoteMaker(maker, document);
   return FormatOf(SizedAs(image), name, text);
 }
 
 bool AreFilesMade(const QTextDocument& document) {
-  const auto last = document.property(MakerProperty).value<std::weak_ptr<const PngMaker>>().lock();
-  return !last || last->IsDone();
+  const Makers makers = MakersOf(document);
+  return std::none_of(makers.begin(), makers.end(), IsAtWork);
 }
 
 Picture KeptPicture(const QTextImageFormat& format, const QTextDocument& document) {

@@ -3,7 +3,7 @@
 // That takes some tenths of a second a megapixel, and a person goes on writing meanwhile. So a thread of its
 // own makes it: it takes the image, which nobody changes any more, and gives the bytes of a file. Who needs
 // them before they are there, as a page that is stored, waits. When nobody wants them any more the thread is
-// told to stop, and waited for.
+// told to stop, and waited for. It takes no signals.
 #pragma once
 
 #include <atomic>
@@ -16,6 +16,7 @@ namespace richtext {
 
 class PngMaker {
  public:
+  // Where the system has no thread left, the file is made at once.
   explicit PngMaker(const QImage& image);
   ~PngMaker() { stop_ = true; }
   PngMaker(const PngMaker&) = delete;

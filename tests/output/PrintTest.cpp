@@ -217,6 +217,18 @@ TEST_F(Print, NoPictureIsCutOff) {
   }
 }
 
+// A narrow window shows a smaller indent than paper has room for.
+TEST_F(Print, PaperHasTheIndentsOfThePage) {
+  folder.WritePicture("a.png");
+  const std::string bytes = QByteArray::fromStdString(folder.Read("a.png")).toHex().toStdString();
+  Load(AddJournal({"\\li5040 {\\pict\\pngblip\\picwgoal300\\pichgoal300 " + bytes + "}"}));
+  text().selectAll();
+  Printed printer;
+  PrintOn(printer, PrintChoice::Selection);
+  ASSERT_EQ(printer.Pictures().size(), 1U);
+  EXPECT_NEAR(printer.Pictures().front().left() / printer.Pictures().front().width(), 5040 / 300.0, 1.5);
+}
+
 TEST_F(Print, WhatCannotBePrintedIsTold) {
   Load(AddJournal({"text", "more"}));
   EXPECT_EQ(FirstSheet(PrintChoice::Selection), Texts());

@@ -50,6 +50,18 @@ TEST_F(NewJournalsTest, TakesTheFirstNameThatNeitherFileFolderNorRowHas) {
   EXPECT_EQ(answers.texts(), fixture::Texts{"Error, unable to find free journal file name."});
 }
 
+// One that another row's link leads to is that row's, too; of two second names the other one stays.
+TEST_F(NewJournalsTest, AFileIsSharedByRowsThatLoseItTogether) {
+  FillRows(3);
+  folder.Write("j00000.tqf", "pages");
+  std::filesystem::create_symlink("j00000.tqf", folder.PathOf("j00001.tqf"));
+  EXPECT_TRUE(IsFileShared(1));
+  EXPECT_FALSE(IsFileShared(2)) << "the link can go";
+  std::filesystem::remove(folder.PathOf("j00001.tqf"));
+  std::filesystem::create_hard_link(folder.PathOf("j00000.tqf"), folder.PathOf("j00002.tqf"));
+  EXPECT_FALSE(IsFileShared(1));
+}
+
 TEST_F(NewJournalsTest, EachFileIsAdoptedThatNoRowMeansToTheLetter) {
   for (const char* name : {"j00000.tqf", "J00000.tqf", "holiday.tqf", "notes.TXT"})
     folder.Write(name, Sample(std::string("5-strays/") + name));
