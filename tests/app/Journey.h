@@ -1,8 +1,6 @@
 // The program from its start to its end, over a scratch folder.
 #pragma once
 
-#include <QtCore/QTimer>
-
 #include "app/KeptLog.h"
 #include "app/Start.h"
 #include "app/WaysOut.h"

@@ -1,6 +1,4 @@
 // The program from its start to its end, and what the next start finds.
-#include <optional>
-
 #include "look/Pass.h"
 #include "tests/app/Journey.h"
 

@@ -1,10 +1,7 @@
 // What the log of a run that ended too soon brings to the next one.
-#include <algorithm>
 #include <cerrno>
 #include <filesystem>
-#include <sys/stat.h>
 #include <sys/syscall.h>
-#include <unistd.h>
 
 #include "bookcase/frmBookcase.h"
 #include "editor/OpenJournal.h"

@@ -1,6 +1,4 @@
 // What a screen reader says: every control that takes the keyboard or the mouse has a name.
-#include <QtGui/QAccessible>
-
 #include "app/HelpWindow.h"
 #include "app/frmOptions.h"
 #include "bookcase/frmAbout.h"

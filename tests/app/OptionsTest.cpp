@@ -1,6 +1,4 @@
 // The settings from their file to the windows and back, and the help.
-#include <QtWidgets/QApplication>
-
 #include "app/Help.h"
 #include "app/HelpWindow.h"
 #include "app/Settings.h"

@@ -1,6 +1,3 @@
-#include <QtCore/QSet>
-#include <QtGui/QWindow>
-
 #include "bookcase/JournalIcons.h"
 #include "bookcase/frmAbout.h"
 #include "bookcase/frmBookcase.h"

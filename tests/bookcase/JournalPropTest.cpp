@@ -1,5 +1,3 @@
-#include <QtGui/QWindow>
-
 #include "bookcase/JournalIcons.h"
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmJournalProp.h"

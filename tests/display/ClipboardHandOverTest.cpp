@@ -2,10 +2,6 @@
 #include <cstdlib>
 #include <thread>
 
-#include <QtGui/QClipboard>
-#include <QtGui/QGuiApplication>
-#include <QtTest/QTest>
-
 #include "platform/desktop/ClipboardHandOver.h"
 #include "platform/desktop/X11.h"
 #include "tests/support/Fixtures.h"

@@ -1,9 +1,4 @@
 // What the pointer class does for real: nothing in the program moves the pointer or presses a button.
-#include <QtGui/QGuiApplication>
-#include <QtGui/QMouseEvent>
-#include <QtTest/QTest>
-#include <QtWidgets/QWidget>
-
 #include "platform/desktop/cMouse.h"
 #include "tests/support/Fixtures.h"
 

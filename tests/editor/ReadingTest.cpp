@@ -1,6 +1,4 @@
 // Opening journals, sound and bad ones, turning their pages, and whose pages are whose.
-#include <algorithm>
-
 #include <QtNetwork/QLocalServer>
 
 #include "tests/editor/OpenBook.h"

@@ -1,13 +1,3 @@
-#include <QtGui/QClipboard>
-#include <QtGui/QHelpEvent>
-#include <QtGui/QInputMethodEvent>
-#include <QtGui/QScreen>
-#include <QtGui/QWindow>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QToolTip>
-
 #include "look/CodePageEdit.h"
 #include "look/Emblem.h"
 #include "look/Pass.h"

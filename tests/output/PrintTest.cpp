@@ -1,9 +1,6 @@
 #include <cmath>
 #include <map>
 
-#include <QtGui/QPaintDevice>
-#include <QtGui/QPaintEngine>
-
 #include "output/PrintDialog.h"
 #include "output/PrintRange.h"
 #include "output/frmPrintRTF.h"

@@ -1,6 +1,3 @@
-#include <QtCore/QRegularExpression>
-#include <QtTest/QTest>
-
 #include "output/CopyFile.h"
 #include "output/HtmlSections.h"
 #include "output/ReplaceText.h"

@@ -1,8 +1,6 @@
 // Page 2 of an open journal, and pictures to lay on it.
 #pragma once
 
-#include <QtGui/QImage>
-
 #include "pictures/PictureSlots.h"
 #include "tests/support/Windows.h"
 

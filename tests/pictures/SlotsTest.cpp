@@ -1,7 +1,5 @@
 // The pictures of a page, as they show and as a mouse handles them. The events come from the window, as the
 // display system's do, so that the toolkit itself decides who gets them.
-#include <QtGui/QWindow>
-
 #include "look/PictureBox.h"
 #include "pictures/StretchedImage.h"
 #include "store/PictureStore.h"

@@ -1,10 +1,7 @@
 // Boxes, failures that nobody guards and the ways out, through real events.
-#include <csignal>
 #include <stdexcept>
 
 #include <QtGui/private/qguiapplication_p.h>
-#include <QtTest/QTest>
-#include <QtWidgets/QtWidgets>
 
 #include "platform/desktop/Application.h"
 #include "platform/desktop/WayOut.h"

@@ -1,9 +1,7 @@
 #include <fcntl.h>
 #include <set>
 #include <sys/file.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
-#include <unistd.h>
 
 #include "platform/dialogs/TellKept.h"
 #include "platform/files/Checksum.h"

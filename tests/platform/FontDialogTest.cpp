@@ -1,7 +1,3 @@
-#include <QtCore/QTimer>
-#include <QtGui/QFontDatabase>
-#include <QtTest/QTest>
-
 #include "platform/dialogs/ColorDialog.h"
 #include "platform/dialogs/FontDialog.h"
 #include "platform/dialogs/FontPicker.h"

@@ -1,9 +1,5 @@
-#include <csignal>
 #include <stdexcept>
 #include <sys/inotify.h>
-#include <unistd.h>
-
-#include <QtTest/QTest>
 
 #include "platform/files/LogWriter.h"
 #include "tests/support/Fixtures.h"

@@ -5,9 +5,6 @@
 #include <atomic>
 #include <chrono>
 #include <thread>
-#include <unistd.h>
-
-#include <QtTest/QTest>
 
 #include "platform/desktop/WayOut.h"
 #include "tests/support/Fixtures.h"

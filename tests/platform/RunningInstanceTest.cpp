@@ -1,20 +1,9 @@
 #include <array>
-#include <csignal>
 #include <fcntl.h>
-#include <memory>
-#include <optional>
-#include <sys/stat.h>
 #include <sys/wait.h>
-#include <unistd.h>
-#include <utility>
 
-#include <QtCore/QProcess>
-#include <QtCore/QThread>
-#include <QtCore/QTimer>
 #include <QtNetwork/QLocalServer>
 #include <QtNetwork/QLocalSocket>
-#include <QtTest/QTest>
-#include <QtWidgets/QtWidgets>
 
 #include "platform/desktop/RunningInstance.h"
 #include "tests/support/Fixtures.h"

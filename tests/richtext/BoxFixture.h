@@ -1,15 +1,11 @@
 // The text box as a person uses it, shown, with real keys; and pages to put into it.
 #pragma once
 
-#include <QtCore/QMimeData>
-#include <QtGui/QClipboard>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
-
 #include "platform/files/InputFile.h"
 #include "richtext/box/RichTextBox.h"
 #include "richtext/textdocument/TextDocument.h"
 #include "tests/richtext/RtfDump.h"
+#include "tests/support/Toolkit.h"
 
 namespace richtext {
 

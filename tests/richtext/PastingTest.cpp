@@ -1,11 +1,6 @@
 // What comes into the text box from other programs, and what goes out to them.
 #include <ctime>
 
-#include <QtCore/QRegularExpression>
-#include <QtCore/QTemporaryFile>
-#include <QtCore/QTimer>
-#include <QtWidgets/QMenu>
-
 #include "richtext/html/Reader.h"
 #include "richtext/html/Writer.h"
 #include "richtext/textdocument/Pictures.h"

@@ -1,9 +1,4 @@
 // The text box as a person uses it: shown, with real keys and clicks.
-#include <QtCore/QBuffer>
-#include <QtCore/QTemporaryFile>
-#include <QtGui/QAbstractTextDocumentLayout>
-#include <QtWidgets/QScrollBar>
-
 #include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/SmallPng.h"
 #include "tests/richtext/BoxFixture.h"

@@ -1,22 +1,7 @@
 // What stands in for the desktop in a test. Each stands in for as long as it lives.
 #pragma once
 
-#include <algorithm>
-#include <csignal>
-#include <functional>
-#include <gtest/gtest.h>
-#include <optional>
-#include <string>
-#include <string_view>
 #include <sys/resource.h>
-#include <unistd.h>
-#include <utility>
-#include <vector>
-
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
-#include <QtGui/QImage>
 
 #include "platform/Failure.h"
 #include "platform/Process.h"
@@ -24,6 +9,7 @@
 #include "platform/dialogs/OpenFileDialog.h"
 #include "platform/files/Files.h"
 #include "tests/support/Staging.h"
+#include "tests/support/Toolkit.h"
 
 namespace fixture {
 

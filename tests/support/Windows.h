@@ -1,11 +1,6 @@
 // The windows over a scratch folder, all unloaded at the end.
 #pragma once
 
-#include <QtCore/QTimer>
-#include <QtTest/QTest>
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QApplication>
-
 #include "look/Form.h"
 #include "tests/support/Fixtures.h"
 
