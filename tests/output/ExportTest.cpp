@@ -3,32 +3,10 @@
 #include "output/modExport.h"
 #include "pictures/PictureSlots.h"
 #include "platform/desktop/RunUrl.h"
+#include "platform/files/InputFile.h"
 #include "tests/editor/OpenBook.h"
 
 namespace {
-
-std::string Lines(const std::string& text) {
-  return QString::fromLatin1(text).replace(u'\n', u"\r\n"_qs).toLatin1().toStdString();
-}
-
-const std::string Font = "<font face=\"Verdana\", \"MS Sans Serif\", \"Arial\">\n";
-
-std::string Head(const std::string& title, const std::string& headline) {
-  return "<HTML>\n<HEAD>\n<TITLE>" + title + R"~(</TITLE>
-<meta name="Content-Type" content="text/html; charset=iso-8859-1">
-<meta name="GENERATOR" content="Thorn Quill (http://www.zandolk.example/)">
-</HEAD>
-<BODY BGCOLOR=#FFFFFF>
-<font face="Verdana", "MS Sans Serif", "Arial">
-<BR>
-<CENTER>
-<h3>)~" + headline +
-         "</h3>\n\n<TABLE BORDER=0 width=640>\n<TR>\n<TD>\n" + Font;
-}
-
-const std::string Cell = "<TABLE BORDER=0 width=100% height=300>\n<TR>\n<TD>\n" + Font;
-const std::string TableEnd = "</TD>\n</TD>\n</TABLE>\n";
-const std::string FileEnd = "</CENTER>\n</BODY>\n</HTML>\n";
 
 class Export : public fixture::OpenBook {
  protected:
@@ -44,6 +22,10 @@ class Export : public fixture::OpenBook {
   static frmExport& dialog() { return look::The<frmExport>(); }
   void Run() { Click(dialog().cmdExport); }
   std::string Read(const std::string& name) const { return folder.Read("export/" + name); }
+  // The file is the sample, byte for byte.
+  void ExpectAsIn(const std::string& sample, const std::string& file) const {
+    EXPECT_EQ(Read(file), platform::ReadFile((TEST_SAMPLES "/exports/") + sample)) << sample;
+  }
   // A run that fails tells why and can be repeated.
   void ExpectFailure(const std::string& words) {
     Run();
@@ -60,15 +42,8 @@ TEST_F(Export, OneDatedPageMakesTwoFiles) {
   dialog().txtH3headline->setText(u"\u0416"_qs);
   dialog().txtFooter->setPlainText(u"<i>foot\nnote</i>\u00A0"_qs);
   Run();
-  const std::string head = Head("Home & <b>", "&#1046;");
-  EXPECT_EQ(Read("j1/index.html"),
-            Lines(head + Cell + "A title<BR>1 < 2 & 3\n\n<BR>\n" + TableEnd + "<BR>\n\n" +
-                  "<CENTER>\n[<a href=page1.html>Next Page</a>]\n</CENTER>\n" + TableEnd +
-                  "<i>foot\nnote</i>\xA0\n" + FileEnd));
-  EXPECT_EQ(Read("j1/page1.html"),
-            Lines(head + "<CENTER> day 40001 </CENTER><BR>\n" + Cell + "\xE9 &#1046;<BR>b<BR>\n\n" +
-                  TableEnd + "<BR>\n\n" + "<CENTER>\n[<a href=index.html>Home Page</a>]\n</CENTER>\n" +
-                  TableEnd + "<i>foot\nnote</i>\xA0\n" + FileEnd));
+  ExpectAsIn("one-page-index.html", "j1/index.html");
+  ExpectAsIn("one-page-page1.html", "j1/page1.html");
   EXPECT_EQ(dialog().ProgressBar1->maximum(), 3);
 }
 
@@ -78,18 +53,7 @@ TEST_F(Export, ElevenPagesCarryTheirBarAtTheTopAndTheFirstAnIndexOfDates) {
        {dialog().chkMulti, dialog().chkTopMenu, dialog().chkDateIndex, dialog().chkShowPageNumbers})
     Click(choice);
   Run();
-  std::string bar = "<CENTER>\n[Home] \n", index;
-  for (int k = 1; k <= 11; ++k) {
-    const std::string link = "<a href=page" + std::to_string(k) + ".html>";
-    if (k <= 10) bar += link + std::to_string(k) + "</a>\n";
-    index += link + "day " + std::to_string(40000 + k) + "</a><BR><BR>\n";
-  }
-  bar += "...\n [<a href=page1.html>Next</a>]\n [<a href=page11.html>Last</a>]\n</CENTER><BR>\n";
-  EXPECT_EQ(Read("j1/index.html"),
-            Lines(Head("Home & <b>", "Home & <b>") + bar + Cell +
-                  "text\n\n<BR>\n<BR>\n<TABLE BORDER=0 width=300>\n<TR>\n<TD>\n" + Font +
-                  "<font size=-1>Journal Entries by Date</font><BR><BR>\n" + index + TableEnd + TableEnd +
-                  "<BR>\n\n" + TableEnd + "\n" + FileEnd));
+  ExpectAsIn("eleven-pages-index.html", "j1/index.html");
   EXPECT_NE(Read("j1/page11.html").find("<CENTER>Page #11  </CENTER><BR>"), std::string::npos);
   Click(dialog().chkMulti);
   for (const QCheckBox* choice : {dialog().chkTopMenu, dialog().chkDateIndex})
@@ -104,15 +68,7 @@ TEST_F(Export, OneFileHoldsAllPagesAndTheClosingNone) {
   Click(dialog().chkShowDates);
   Click(dialog().chkShowPageNumbers);
   Run();
-  const auto page = [](int k, const std::string& content) {
-    const std::string number = std::to_string(k);
-    return "<TABLE BORDER=0  width=100%>\n<TR>\n<TD>\n" + Font + "<CENTER>Page #" + number + ", day 4000" +
-           number + " </CENTER><BR>\n" + content + "\n\n" + TableEnd + "<HR>\n\n";
-  };
-  const std::string tag = "<a href=\"a.png\"><img src=\"a.png\"  align=left width=0 height=0 border=0></a>\n";
-  EXPECT_EQ(Read("Caf\xC3\xA9 #1%.html"),
-            Lines(Head("Caf\xE9 #1%", "Caf\xE9 #1%") + Cell + "\n\n" + TableEnd + "<HR>\n\n" + page(1, "") +
-                  page(2, tag + "end<BR>") + TableEnd + "\n" + FileEnd));
+  ExpectAsIn("one-file.html", "Caf\xC3\xA9 #1%.html");
   std::string opened;
   platform::SetUrlRunner([&](const std::string& url) { opened = url; });
   Click(dialog().cmdViewWebPage);
