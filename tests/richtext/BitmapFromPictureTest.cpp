@@ -1,9 +1,8 @@
-#include <cstdio>
 #include <ctime>
-#include <gtest/gtest.h>
 
 #include "platform/files/InputFile.h"
 #include "richtext/bitmaps/BitmapFromPicture.h"
+#include "tests/richtext/RtfDump.h"
 
 using namespace richtext;
 
@@ -44,46 +43,7 @@ std::string Shown(const Picture& picture) {
 const std::string FourColors = "ff0000 00ff00|0000ff ffffff";
 
 TEST(BitmapFromPicture, ReadsEveryKind) {
-  const std::pair<const char*, std::string> samples[] = {
-      {"dib1", "0000ff ff0000 0000ff|ff0000 0000ff ff0000"},
-      {"dib4", "ff0000 0000ff 000000"},
-      {"dib8", "0000ff ff0000"},
-      {"dib15", "ff0000 0000ff"},
-      {"dib16", "ff0000 008200"},
-      {"dib24", FourColors},
-      {"dib24-palette", FourColors},  // which is passed over
-      {"dib24-top-down", "0000ff ffffff|ff0000 00ff00"},
-      {"dib32", "80123456 654321"},
-      {"dib32-masks", "563412"},
-      {"dib32-no-alpha", "123456 654321"},  // though there is room for it
-      {"dib32-plain", "123456 654321"},
-      {"dib-core", "ff0000 0000ff"},
-      {"dib-core24", FourColors},
-      {"runs8-mixed", "0000ff ff0000 0000ff 0000ff|ff0000 ff0000 ff0000 ff0000"},
-      {"runs8-skips", "- 0000ff 0000ff 0000ff|- - - -"},
-      {"runs8-too-long", "- - - -|0000ff ff0000 ff0000 ff0000"},
-      {"runs4", "0000ff ff0000 0000ff ff0000 0000ff"},
-      {"runs4-pairs", "ff0000 0000ff ff0000 0000ff 0000ff"},
-      {"wmf-pasted", FourColors},
-      {"wmf-stretch-dib", FourColors},
-      {"wmf-placeable", FourColors},
-      {"wmf-to-device", FourColors},
-      {"wmf-blt", FourColors},
-      // A window that counts upwards turns the picture once, a negative extent turns it back.
-      {"wmf-turned", "0000ff ffffff|ff0000 00ff00"},
-      {"wmf-turned-twice", FourColors},
-      {"wmf-mirrored", "00ff00 ff0000|ffffff 0000ff"},
-      {"wmf-part", "00ff00"},
-      {"wmf-stretch-dib-part", "ffffff"},
-      {"wmf-two", "ff0000 00ff00 00ff00 -"},  // beside each other, and a margin
-      {"wmf-icon", "030201 -|- -"},           // whose surroundings stay clear
-      {"wmf-no-bitmap", "none"},
-      {"emf", FourColors},
-      {"emf-in-name", FourColors},  // it is what it is, not what it is called
-      {"emf-endless", "none"},
-      {"emf-empty", "none"},
-  };
-  for (const auto& [name, dump] : samples) EXPECT_EQ(Shown(Sample(name)), dump) << name;
+  for (const auto& [name, dump] : ExamplesOf("pictures.txt")) EXPECT_EQ(Shown(Sample(name)), dump) << name;
 }
 
 // Where numbers lie in the pictures above.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdio>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -129,8 +130,18 @@ inline std::string Dump(const Document& document) {
 }
 
 struct Example {
-  std::string rtf, dump;
+  std::string source, dump;
 };
+
+// Those of a sample: a line, and the next one says behind "= " what becomes of it.
+inline std::vector<Example> ExamplesOf(const std::string& sample) {
+  std::vector<Example> examples;
+  std::ifstream file((TEST_SAMPLES "/examples/") + sample);
+  for (std::string line, before; std::getline(file, line); before = line)
+    if (line.starts_with("= ")) examples.push_back({before, line.substr(2)});
+  EXPECT_FALSE(examples.empty()) << sample;
+  return examples;
+}
 
 // Read as told, and the same after it was written and read again, in the same bytes.
 inline void ExpectReads(const std::string& rtf, const std::string& dump) {
