@@ -1,4 +1,8 @@
-// What a screen reader says: every control that takes the keyboard or the mouse has a name.
+// Every window as it comes up: what stands where on it, what a screen reader says, and where its help leads.
+#include <fstream>
+#include <sstream>
+
+#include "app/Help.h"
 #include "app/HelpWindow.h"
 #include "app/frmOptions.h"
 #include "bookcase/frmAbout.h"
@@ -17,6 +21,7 @@
 #include "pictures/frmAddPicture.h"
 #include "platform/dialogs/ColorDialog.h"
 #include "platform/dialogs/FontDialog.h"
+#include "platform/dialogs/FontPicker.h"
 #include "store/NewJournals.h"
 #include "tests/support/Windows.h"
 
@@ -50,28 +55,70 @@ void ExpectNames(QWidget& window) {
   window.hide();
 }
 
-template <class... Windows>
-void ExpectNamesIn() {
-  (ExpectNames(look::The<Windows>()), ...);
+// "  cmdOpen 16,92 120x30 text 'Open' default off hidden": a word only where it is so, and no place where the
+// letters of the desktop make it.
+std::string RowOf(const QWidget& control, bool isPlaced) {
+  const QRect place = control.geometry();
+  QString row = control.objectName();
+  if (isPlaced && control.size() != control.sizeHint())
+    row += u" %1,%2 %3x%4"_qs.arg(place.x()).arg(place.y()).arg(place.width()).arg(place.height());
+  for (const char* name : {"text", "title", "accessibleName", "toolTip"})
+    if (const QString words = control.property(name).toString(); !words.isEmpty())
+      row += u" %1 '%2'"_qs.arg(QLatin1String(name), words);
+  for (const char* name : {"default", "checked"})
+    if (control.property(name).toBool()) row += u' ' + QLatin1String(name);
+  if (control.font().bold()) row += u" bold"_qs;
+  if (!control.isEnabled()) row += u" off"_qs;
+  if (control.isHidden()) row += u" hidden"_qs;
+  return row.toStdString() + '\n';
 }
 
-using Names = fixture::Windows;
+// The window, its controls, and the way of the Tab key.
+void Draw(const QWidget& window, std::string& sheet) {
+  const bool isPlaced = window.objectName() != u"frmExport";  // it flows down
+  const auto isOurs = [](const QWidget* control) {
+    return !control->objectName().isEmpty() && !control->objectName().startsWith(u"qt_");
+  };
+  sheet += window.windowTitle().toStdString() + ": " + RowOf(window, isPlaced);
+  for (const QWidget* control : window.findChildren<QWidget*>())
+    if (isOurs(control)) sheet += "  " + RowOf(*control, isPlaced);
+  sheet += "  Tab:";
+  for (const QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain())
+    if (isOurs(next) && next->focusPolicy() & Qt::TabFocus) sheet += ' ' + next->objectName().toStdString();
+  sheet += '\n';
+}
 
-TEST_F(Names, EveryControlOfEveryWindowAndEveryEntryHasOne) {
-  MakeFirstJournal("", "p");
-  Pages.resize(2);
-  PageCount = 1;
-  Staged().CurrentJournal = 1;
-  QDir().mkpath(QString::fromStdString(folder.PathOf("emoticons")));
-  folder.WritePicture("emoticons/1-smile.gif");
-  ExpectNamesIn<frmPass, frmInitJournal, frmBookcase, frmNewJournal, frmJournalProp, frmAbout, frmOptions,
-                frmPassChange, frmJournal, frmIndex, frmCal, frmEmoticons, frmAddPicture, frmExport>();
+// Over a diary of two pages.
+class EveryWindow : public fixture::Windows {
+ protected:
+  EveryWindow() {
+    MakeFirstJournal("", "p");
+    Pages.resize(2);
+    PageCount = 1;
+    Staged().CurrentJournal = 1;
+    QDir().mkpath(QString::fromStdString(folder.PathOf("emoticons")));
+    folder.WritePicture("emoticons/1-smile.gif");
+  }
+  static void ForAll(const std::function<void(look::Form&)>& act) {
+    ForEach<frmPass, frmInitJournal, frmBookcase, frmNewJournal, frmJournalProp, frmAbout, frmOptions,
+            frmPassChange, frmJournal, frmIndex, frmCal, frmEmoticons, frmAddPicture, frmExport>(act);
+  }
+
+ private:
+  template <class... All>
+  static void ForEach(const std::function<void(look::Form&)>& act) {
+    (act(look::The<All>()), ...);
+  }
+};
+
+TEST_F(EveryWindow, HasANameForEachControlAndEntry) {
+  ForAll([](QWidget& window) { ExpectNames(window); });
   HelpWindow help(u"<h2><a name=\"a\">A chapter</a></h2>"_qs);
   ExpectNames(help);
 }
 
 // Which block until they are answered: hiding them ends them.
-TEST_F(Names, EveryControlOfTheDialogsHasOne) {
+TEST_F(EveryWindow, OfTheDesktopHasANameForEachControlToo) {
   platform::SetMessageAnswerer({});
   platform::SetOpenFileChooser({});
   const std::function<void()> dialogs[] = {
@@ -86,6 +133,36 @@ TEST_F(Names, EveryControlOfTheDialogsHasOne) {
     QTimer::singleShot(0, [] { ExpectNames(*QApplication::activeModalWidget()); });
     ask();
   }
+}
+
+TEST_F(EveryWindow, StandsAsOnItsSheet) {
+  std::string sheet, is, shouldBe;
+  ForAll([&](QWidget& window) { Draw(window, sheet); });
+  std::istringstream drawn(sheet);
+  std::ifstream designed(TEST_SAMPLES "/examples/windows.txt");
+  while (std::getline(designed, shouldBe) && std::getline(drawn, is)) EXPECT_EQ(is, shouldBe);
+  EXPECT_TRUE(!std::getline(drawn, is) && designed.eof()) << "drawn on: " << is;
+}
+
+// By its button where it has one, by F1 elsewhere.
+TEST_F(EveryWindow, LeadsToItsChapterOfTheHelp) {
+  QFile::copy(QStringLiteral(TEST_SAMPLES "/../../help/THORNQUILL.HLP"),
+              QString::fromStdString(folder.PathOf("THORNQUILL.HLP")));
+  AnswerF1();
+  ForAll([](look::Form& window) {
+    window.ShowModeless();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    auto* button = window.findChild<QAbstractButton*>(u"cmdHelp"_qs);
+    if (!button) button = window.findChild<QAbstractButton*>(u"btnHelp"_qs);
+    button ? Click(button) : QTest::keyClick(&window, Qt::Key_F1);
+    QCoreApplication::processEvents();
+    auto* help = qobject_cast<HelpWindow*>(QApplication::activeWindow());
+    ASSERT_TRUE(help) << window.objectName().toStdString();
+    EXPECT_EQ(help->lstContents->currentItem()->data(Qt::UserRole), window.objectName());
+    help->close();
+    window.hide();
+    QTest::qWait(0);  // what was closed goes
+  });
 }
 
 }  // namespace
