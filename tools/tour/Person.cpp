@@ -1,71 +1,24 @@
 #include "tools/tour/Person.h"
 
 #include <cstdio>
-#include <cstdlib>
-#include <memory>
 #include <unistd.h>
-#include <xcb/xcb.h>
-#include <xcb/xtest.h>
-
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QSemaphore>
-#include <QtCore/QThread>
-#include <QtGui/QScreen>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QMessageBox>
-#include <QtWidgets/QPushButton>
 
 namespace {
 
 constexpr int PatienceMs = 10000;
-constexpr unsigned ReturnKey = 0xff0d, TabKey = 0xff09, EscapeKey = 0xff1b, ShiftKey = 0xffe1,
-                   AltKey = 0xffe9, F4Key = 0xffc1;
 
-struct KeyPlace {
-  unsigned char keycode;
-  bool shift;
-};
-
-template <class Answer>
-using Reply = std::unique_ptr<Answer, decltype(&std::free)>;
-
-// Finds the key of a symbol; one that no key has is put on the last keycode, as input tools do.
-KeyPlace FindKey(xcb_connection_t* connection, unsigned keysym) {
-  const xcb_setup_t* setup = xcb_get_setup(connection);
-  const int first = setup->min_keycode, count = setup->max_keycode - first + 1;
-  const auto cookie = xcb_get_keyboard_mapping(connection, setup->min_keycode, static_cast<uint8_t>(count));
-  const Reply<xcb_get_keyboard_mapping_reply_t> reply(
-      xcb_get_keyboard_mapping_reply(connection, cookie, nullptr), &std::free);
-  const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
-  const int perKey = reply->keysyms_per_keycode;
-  for (int level = 0; level < 2; ++level)
-    for (int key = 0; key < count; ++key)
-      if (symbols[key * perKey + level] == keysym)
-        return {static_cast<unsigned char>(first + key), level == 1};
-  const xcb_keysym_t borrowed[2] = {keysym, keysym};
-  xcb_change_keyboard_mapping(connection, 1, setup->max_keycode, 2, borrowed);
-  xcb_flush(connection);
-  QThread::msleep(200);  // the program has to hear of the new symbol before the key goes down
-  return {setup->max_keycode, false};
+QString PlaceOf(QPoint place) {
+  return u"mousemove %1 %2"_qs.arg(place.x()).arg(place.y());
 }
 
-unsigned KeysymOf(char32_t character) {
-  if (character == U'\n') return ReturnKey;
-  if (character == U'\t') return TabKey;
-  return character < 0x100 ? character : 0x01000000 + character;
+// By the number that Unicode gives it.
+QString KeyOf(char32_t character) {
+  if (character == U'\n') return u"Return"_qs;
+  if (character == U'\t') return u"Tab"_qs;
+  return u"U%1"_qs.arg(static_cast<uint>(character), 4, 16, QLatin1Char('0'));
 }
 
 }  // namespace
-
-Person::Person(QString album, int firstNumber)
-    : album_(std::move(album)), number_(firstNumber), connection_(xcb_connect(nullptr, nullptr)) {
-  if (xcb_connection_has_error(connection_)) Fail(u"there is no X server to press keys at"_qs);
-}
-
-Person::~Person() {
-  xcb_disconnect(connection_);
-}
 
 // A second failure is one on the way to the last picture: the program answers no more.
 void Person::Fail(const QString& why) {
@@ -96,9 +49,7 @@ void Person::Expect(const QString& expected, const std::function<bool()>& questi
 
 // The toolkit may hear later, or earlier, than the window manager does which window is the active one.
 bool Person::HasTheKeys(const QWidget& window) {
-  const Reply<xcb_get_input_focus_reply_t> reply(
-      xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr), &std::free);
-  return reply->focus == window.effectiveWinId();
+  return Play(u"getwindowfocus -f"_qs).toULongLong() == window.effectiveWinId();
 }
 
 void Person::SeeWindow(const char* name, const char* shot) {
@@ -122,7 +73,7 @@ void Person::Enter(const QString& text, const char* window) {
 }
 
 void Person::Escape(const char* window) {
-  Press({EscapeKey});
+  Press(u"Escape"_qs);
   SeeWindow(window);
 }
 
@@ -181,11 +132,11 @@ void Person::DoubleClick(const QString& control, int row) {
 
 QPoint Person::Drag(const QString& control, QPoint by) {
   const QPoint start = MiddleOf(control);
-  Fake(XCB_MOTION_NOTIFY, 0, start);
+  Play(PlaceOf(start));
   Settle();
-  Fake(XCB_BUTTON_PRESS, 1);
-  for (int step = 1; step <= 10; ++step) Fake(XCB_MOTION_NOTIFY, 0, start + by * step / 10);
-  Fake(XCB_BUTTON_RELEASE, 1);
+  QString orders = u"mousedown 1"_qs;
+  for (int step = 1; step <= 10; ++step) orders += u" sleep 0.008 "_qs + PlaceOf(start + by * step / 10);
+  Play(orders + u" mouseup 1"_qs);
   Settle();
   return start + by;
 }
@@ -193,65 +144,41 @@ QPoint Person::Drag(const QString& control, QPoint by) {
 // The clicks of a double click, and a key's going down and up, leave together: on a busy machine the second
 // click would come too late, and the key would repeat itself.
 void Person::ClickAt(QPoint place, int times) {
-  Fake(XCB_MOTION_NOTIFY, 0, place);
+  Play(PlaceOf(place));
   Settle();
-  for (; times > 0; --times) {
-    Queue(XCB_BUTTON_PRESS, 1);
-    Queue(XCB_BUTTON_RELEASE, 1);
-  }
-  xcb_flush(connection_);
+  Play(u"click --delay 0 --repeat %1 1"_qs.arg(times));
   Settle();
 }
 
-void Person::Queue(unsigned char type, unsigned char detail, QPoint place) {
-  const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
-  xcb_test_fake_input(connection_, type, detail, XCB_CURRENT_TIME, root, static_cast<int16_t>(place.x()),
-                      static_cast<int16_t>(place.y()), 0);
-}
-
-void Person::Fake(unsigned char type, unsigned char detail, QPoint place) {
-  Queue(type, detail, place);
-  xcb_flush(connection_);
-  QThread::msleep(8);
-}
-
-void Person::PressKeysym(unsigned keysym) {
-  const KeyPlace key = FindKey(connection_, keysym);
-  const unsigned char shift = key.shift ? FindKey(connection_, ShiftKey).keycode : 0;
-  if (key.shift) Queue(XCB_KEY_PRESS, shift);
-  Queue(XCB_KEY_PRESS, key.keycode);
-  Queue(XCB_KEY_RELEASE, key.keycode);
-  if (key.shift) Queue(XCB_KEY_RELEASE, shift);
-  xcb_flush(connection_);
-  QThread::msleep(8);
-}
-
+// A sign that no key has borrows one, which is given back after half the delay: the program has to ask
+// meanwhile what it stands for.
 void Person::Type(const QString& text) {
-  for (const char32_t character : text.toUcs4()) {
-    PressKeysym(KeysymOf(character));
-    if (character > U'~') Settle();  // before the next one borrows its key
-  }
+  QString orders;
+  for (const char32_t character : text.toUcs4())
+    orders += (character > U'~' ? u" key --delay 400 "_qs : u" key --delay 8 "_qs) + KeyOf(character);
+  Play(orders.trimmed());
   Settle();
 }
 
-void Person::Press(std::initializer_list<unsigned> keysyms) {
-  for (const unsigned keysym : keysyms) PressKeysym(keysym);
+void Person::Press(const QString& keys) {
+  Play(u"key --delay 8 "_qs + keys);
   Settle();
 }
 
-// All four at once: the program may end on the third, and the last key must not stay down for its successor.
 void Person::CloseWindow() {
-  const unsigned char alt = FindKey(connection_, AltKey).keycode, f4 = FindKey(connection_, F4Key).keycode;
-  Queue(XCB_KEY_PRESS, alt);
-  Queue(XCB_KEY_PRESS, f4);
-  Queue(XCB_KEY_RELEASE, f4);
-  Queue(XCB_KEY_RELEASE, alt);
-  xcb_flush(connection_);
+  Play(u"key --delay 0 alt+F4"_qs);
 }
 
-// What was pressed has reached the program once the server has answered and its events have been served.
+// The server has what was ordered when the tool ends.
+QByteArray Person::Play(const QString& orders) {
+  QProcess tool;
+  tool.start(u"xdotool"_qs, orders.split(u' '));
+  if (!tool.waitForFinished() || tool.exitCode() != 0) Fail(u"the X server does not take: "_qs + orders);
+  return tool.readAllStandardOutput();
+}
+
+// What was pressed has reached the program once its events have been served.
 void Person::Settle() {
-  std::free(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
   QThread::msleep(60);
   Do([] {});
 }

@@ -1,23 +1,17 @@
-// A person at the program: looks at the screen, presses keys and mouse buttons through the X server, and says
-// aloud what is not as it should be.
+// A person at the program: looks at the screen, presses keys and mouse buttons through the X server, with the
+// tool xdotool, and says aloud what is not as it should be.
 //
 // The person lives on a thread of its own, so that a tour reads from top to bottom; whatever touches a widget
 // runs on the window thread. Nobody waits for ever: what has not come after ten seconds ends the tour, which
 // then says what it waited for.
 #pragma once
 
-#include <functional>
-
-#include <QtCore/QString>
-#include <QtWidgets/QWidget>
-
-struct xcb_connection_t;
+#include <QtWidgets/QtWidgets>
 
 class Person {
  public:
   // Screenshots go to `album` as two digits, a dash, a name and ".png", counted on from `firstNumber`.
-  Person(QString album, int firstNumber);
-  ~Person();
+  Person(QString album, int firstNumber) : album_(std::move(album)), number_(firstNumber) {}
   Q_DISABLE_COPY_MOVE(Person)
 
   // Waits until a window of that object name is on the screen, and the window manager's keys go to it.
@@ -40,8 +34,8 @@ class Person {
   void Type(const QString& text);
   // Alt and F4: what the window manager makes the close box's order of.
   void CloseWindow();
-  // Presses keys that type nothing, by their keysyms of X.
-  void Press(std::initializer_list<unsigned> keysyms);
+  // Presses keys that type nothing, by the names that X has for them.
+  void Press(const QString& keys);
   void Shot(const char* name);
   // The path of the album's next picture, for one that comes from elsewhere.
   QString NextPicture(const char* name);
@@ -58,9 +52,7 @@ class Person {
   QPoint StandingStill(const QString& what, const std::function<QPoint()>& find);
   QPoint MiddleOf(const QString& control, int row = -1);
   bool HasTheKeys(const QWidget& window);
-  void PressKeysym(unsigned keysym);
-  void Queue(unsigned char type, unsigned char detail, QPoint place = {});
-  void Fake(unsigned char type, unsigned char detail, QPoint place = {});
+  QByteArray Play(const QString& orders);
   void ClickAt(QPoint place, int times);
   void Settle();
   void Save(const QString& path, const std::function<QRect()>& place);
@@ -68,5 +60,4 @@ class Person {
   QString album_;
   int number_;
   bool failed_ = false;
-  xcb_connection_t* connection_;
 };

@@ -1,19 +1,4 @@
-#include <string>
-
-#include <QtCore/QFile>
-#include <QtCore/QProcess>
-#include <QtGui/QImage>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLineEdit>
-
-#include "editor/PageFace.h"
-#include "editor/frmJournal.h"
 #include "platform/Dates.h"
-#include "platform/files/Files.h"
-#include "platform/files/InputFile.h"
-#include "richtext/box/RichTextBox.h"
-#include "state/State.h"
 #include "tools/tour/Steps.h"
 
 namespace {

@@ -1,18 +1,8 @@
-#include <QtCore/QFile>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QListWidget>
-
 #include "app/HelpWindow.h"
 #include "app/frmOptions.h"
 #include "bookcase/frmBookcase.h"
-#include "editor/PageFace.h"
-#include "editor/frmJournal.h"
-#include "look/PictureBox.h"
 #include "look/Theme.h"
-#include "platform/files/Files.h"
-#include "platform/files/InputFile.h"
 #include "platform/files/ReplaceFile.h"
-#include "state/State.h"
 #include "tools/tour/Steps.h"
 
 namespace {
@@ -45,8 +35,7 @@ void ExpectJournals(Person& person, const QString& names) {
 }
 
 void PressF1(Person& person, const QString& chapter) {
-  constexpr unsigned f1Key = 0xffbe;  // its keysym
-  person.Press({f1Key});
+  person.Press(u"F1"_qs);
   person.SeeWindow("HelpWindow");
   person.Expect(u"the help's chapter "_qs + chapter, [&] {
     return static_cast<HelpWindow*>(QApplication::activeWindow())->lstContents->currentItem()->text() ==

@@ -2,16 +2,8 @@
 
 #include <csignal>
 
-#include <QtCore/QDir>
-
 #include "bookcase/frmBookcase.h"
-#include "editor/PageFace.h"
-#include "editor/frmJournal.h"
-#include "platform/files/Files.h"
-#include "platform/files/InputFile.h"
 #include "platform/files/ReplaceFile.h"
-#include "richtext/box/RichTextBox.h"
-#include "state/State.h"
 #include "tools/tour/Steps.h"
 
 frmJournal& Book() {

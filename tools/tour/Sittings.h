@@ -1,9 +1,6 @@
 // What the person does, sitting by sitting.
 #pragma once
 
-#include <functional>
-#include <vector>
-
 #include "tools/tour/Person.h"
 
 struct Sitting {

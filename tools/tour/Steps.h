@@ -1,9 +1,14 @@
 // What the person does in a sitting, step by step.
 #pragma once
 
+#include "editor/PageFace.h"
+#include "editor/frmJournal.h"
+#include "look/PictureBox.h"
+#include "platform/files/Files.h"
+#include "platform/files/InputFile.h"
+#include "richtext/box/RichTextBox.h"
+#include "state/State.h"
 #include "tools/tour/Person.h"
-
-class frmJournal;
 
 // The passwords of the person's own diary, the first and the later one.
 inline const QString Rosebud = QStringLiteral("Rosebud7");

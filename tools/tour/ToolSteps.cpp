@@ -5,16 +5,10 @@
 
 #include "editor/PageFace.h"
 #include "editor/frmIndex.h"
-#include "editor/frmJournal.h"
 #include "platform/Dates.h"
-#include "platform/files/Files.h"
-#include "richtext/box/RichTextBox.h"
-#include "state/State.h"
 #include "tools/tour/Steps.h"
 
 namespace {
-
-constexpr unsigned Right = 0xff53, Down = 0xff54;  // keysyms of X
 
 // In the desktop's dialog, as red, green and blue in two hexadecimal digits each. Ends at the window.
 void ChooseColor(Person& person, const QString& digits, const char* window) {
@@ -35,14 +29,14 @@ void ChooseColor(Person& person, const QString& digits, const char* window) {
 
 void FindAndDateAPage(Person& person) {
   person.Open("btnIndex", "frmIndex");
-  person.Press({Down, Right, Right, Right, Right, Down});
+  person.Press(u"Down Right Right Right Right Down"_qs);
   person.Shot("index");
   QString entry;
   person.Do([&entry] { entry = look::The<frmIndex>().TreeView1->currentItem()->text(0); });
   person.Enter({}, "frmJournal");
   person.Expect(u"the page of "_qs + entry, [&] { return Book().face->lblDate->text() == entry; });
   person.Open("btnCal", "frmCal");
-  person.Press({Right, Down});
+  person.Press(u"Right Down"_qs);
   person.Shot("calendar");
   person.Enter({}, "frmJournal");
   person.Expect(u"a date eight days later"_qs, [&] {

@@ -1,11 +1,6 @@
-#include <QtCore/QUrl>
-#include <QtWidgets/QTextBrowser>
-
 #include "output/frmExport.h"
 #include "platform/CodePage.h"
 #include "platform/desktop/RunUrl.h"
-#include "platform/files/Files.h"
-#include "platform/files/InputFile.h"
 #include "tools/tour/Steps.h"
 
 namespace {

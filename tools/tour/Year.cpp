@@ -1,5 +1,4 @@
 #include "pictures/modPictures.h"
-#include "platform/files/InputFile.h"
 #include "store/BookcaseFile.h"
 #include "store/JournalFile.h"
 #include "store/NewJournals.h"

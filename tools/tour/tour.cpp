@@ -7,10 +7,6 @@
 #include <cstdio>
 #include <thread>
 
-#include <QtCore/QDir>
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
-
 #include "app/Start.h"
 #include "app/WaysOut.h"
 #include "platform/desktop/Application.h"
