@@ -16,6 +16,7 @@
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
 #include "lock/frmPassChange.h"
+#include "look/frmWait.h"
 #include "output/PrintDialog.h"
 #include "output/frmExport.h"
 #include "pictures/frmAddPicture.h"
@@ -62,11 +63,13 @@ std::string RowOf(const QWidget& control, bool isPlaced) {
   QString row = control.objectName();
   if (isPlaced && control.size() != control.sizeHint())
     row += u" %1,%2 %3x%4"_qs.arg(place.x()).arg(place.y()).arg(place.width()).arg(place.height());
-  for (const char* name : {"text", "title", "accessibleName", "toolTip"})
+  for (const char* name : {"text", "title", "placeholderText", "accessibleName", "toolTip"})
     if (const QString words = control.property(name).toString(); !words.isEmpty())
       row += u" %1 '%2'"_qs.arg(QLatin1String(name), words);
   for (const char* name : {"default", "checked"})
     if (control.property(name).toBool()) row += u' ' + QLatin1String(name);
+  const auto* label = qobject_cast<const QLabel*>(&control);
+  if (label && label->buddy()) row += u" for "_qs + label->buddy()->objectName();
   if (control.font().bold()) row += u" bold"_qs;
   if (!control.isEnabled()) row += u" off"_qs;
   if (control.isHidden()) row += u" hidden"_qs;
@@ -75,7 +78,7 @@ std::string RowOf(const QWidget& control, bool isPlaced) {
 
 // The window, its controls, and the way of the Tab key.
 void Draw(const QWidget& window, std::string& sheet) {
-  const bool isPlaced = window.objectName() != u"frmExport";  // it flows down
+  const bool isPlaced = !window.layout() && window.objectName() != u"frmExport";  // which flows down
   const auto isOurs = [](const QWidget* control) {
     return !control->objectName().isEmpty() && !control->objectName().startsWith(u"qt_");
   };
@@ -138,6 +141,9 @@ TEST_F(EveryWindow, OfTheDesktopHasANameForEachControlToo) {
 TEST_F(EveryWindow, StandsAsOnItsSheet) {
   std::string sheet, is, shouldBe;
   ForAll([&](QWidget& window) { Draw(window, sheet); });
+  Draw(look::The<look::frmWait>(), sheet);
+  Draw(HelpWindow(u"<h2><a name=\"a\">A chapter</a></h2>"_qs), sheet);
+  Draw(platform::FontPicker({}, nullptr), sheet);
   std::istringstream drawn(sheet);
   std::ifstream designed(TEST_SAMPLES "/examples/windows.txt");
   while (std::getline(designed, shouldBe) && std::getline(drawn, is)) EXPECT_EQ(is, shouldBe);

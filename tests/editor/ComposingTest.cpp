@@ -43,7 +43,15 @@ TEST_P(ComposingOnAPage, IsUnstoredBeforeThePageHasChanged) {
   EXPECT_EQ(PageDirty, False);
 }
 
-TEST_P(ComposingOnAPage, IsStoredOnEveryWayOut) {
+TEST_P(ComposingOnAPage, IsThereForWhatReadsThePageAndIsStoredOnEveryWayOut) {
+  std::string printed;
+  Compose();
+  QObject::connect(&window(), &frmJournal::PrintRequested, &window(), [&] { printed = Text(); });
+  Press("btnPrint");
+  window().disconnect();
+  EXPECT_EQ(printed, "word cover");
+  EXPECT_EQ(PageDirty, True) << "printing stores nothing";
+  window().CloseBox();
   auto row = Compose();
   StoreOpenPage();
   EXPECT_EQ(TextsIn(row)[0], "word cover");
@@ -53,16 +61,6 @@ TEST_P(ComposingOnAPage, IsStoredOnEveryWayOut) {
   method.DeliverLate();
   EXPECT_EQ(TextsIn(row)[0], "word cover");
   EXPECT_EQ(Text(), "");
-}
-
-TEST_P(ComposingOnAPage, IsThereForWhatReadsThePageInItsPlace) {
-  Compose();
-  std::string printed;
-  QObject::connect(&window(), &frmJournal::PrintRequested, &window(), [&] { printed = Text(); });
-  Press("btnPrint");
-  window().disconnect();
-  EXPECT_EQ(printed, "word cover");
-  EXPECT_EQ(PageDirty, True) << "printing stores nothing";
 }
 
 }  // namespace

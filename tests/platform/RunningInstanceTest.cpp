@@ -1,6 +1,3 @@
-#include <array>
-#include <fcntl.h>
-#include <sys/wait.h>
 
 #include <QtNetwork/QLocalServer>
 #include <QtNetwork/QLocalSocket>
@@ -23,34 +20,28 @@ struct First : RunningInstance {
   QList<ActivationToken> asked;
 };
 
-// A first instance in a process of its own, which is too busy to answer until it is killed.
-class BusyProcess {
+// A first instance on a thread of its own, which is too busy to answer until it ends.
+class BusyInstance {
  public:
-  BusyProcess() {
-    std::array<int, 2> pipe{};
-    EXPECT_EQ(pipe2(pipe.data(), O_CLOEXEC), 0);
-    id_ = fork();
-    if (id_ == 0) BeBusy(pipe[1]);
-    char first = 0;
-    EXPECT_TRUE(read(pipe[0], &first, 1) == 1 && first);
-    for (const int end : pipe) close(end);
+  BusyInstance() {
+    thread_->start();
+    isThere_.acquire();
   }
-  ~BusyProcess() { Kill(); }
-  Q_DISABLE_COPY_MOVE(BusyProcess)
-  void Kill() {
-    if (id_ <= 0) return;
-    kill(id_, SIGKILL);
-    waitpid(std::exchange(id_, -1), nullptr, 0);
+  ~BusyInstance() {
+    End();
+    thread_->wait();
   }
+  Q_DISABLE_COPY_MOVE(BusyInstance)
+  void End() { mayEnd_.release(); }
 
  private:
-  [[noreturn]] static void BeBusy(int tell) {
+  QSemaphore isThere_, mayEnd_;
+  const std::unique_ptr<QThread> thread_{QThread::create([this] {
     const RunningInstance instance;
-    const char first = instance.IsFirst();
-    if (write(tell, &first, 1) == 1) raise(SIGSTOP);
-    _exit(1);
-  }
-  pid_t id_;
+    EXPECT_TRUE(instance.IsFirst());
+    isThere_.release();
+    mayEnd_.acquire();
+  })};
 };
 
 // What another user does, as far as root can be one: the nobody of the system.
@@ -98,11 +89,11 @@ TEST(RunningInstance, OneForEachProgramFolder) {
 
 TEST(RunningInstance, ABusyOneIsWaitedForAndItsPlaceTakenWhenItEnds) {
   const fixture::Folder folder;
-  BusyProcess busy;
+  BusyInstance busy;
   EXPECT_EQ(RunningInstance(200ms).HandOver({}), Meeting::Silent);
   RunningInstance second;
   EXPECT_FALSE(second.IsFirst());
-  QTimer::singleShot(300, [&] { busy.Kill(); });
+  QTimer::singleShot(300, [&] { busy.End(); });
   EXPECT_EQ(second.HandOver({}), Meeting::IsFirst);
   RunningInstance third;
   EXPECT_FALSE(second.IsFirst() && third.IsFirst());

@@ -1,5 +1,3 @@
-#include "tools/tour/Sittings.h"
-
 #include <csignal>
 
 #include "bookcase/frmBookcase.h"

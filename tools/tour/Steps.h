@@ -1,4 +1,4 @@
-// What the person does in a sitting, step by step.
+// What the person does, sitting by sitting and step by step.
 #pragma once
 
 #include "editor/PageFace.h"
@@ -48,3 +48,14 @@ void AskForHelpEverywhere(Person& person);
 
 // A diary as it looks after a year, in the program's folder; the password is "p". The README shows it.
 void StageAYear();
+
+struct Sitting {
+  using Step = std::function<void(Person&)>;
+
+  const char* title;
+  std::vector<Step> steps;
+  Step leave;                        // what ends the program, with exit code 0
+  std::function<void()> stage = {};  // fills the fresh folder to sit down before; empty: the person's own
+};
+
+const std::vector<Sitting>& Sittings();

@@ -13,8 +13,7 @@
 #include "platform/desktop/WayOut.h"
 #include "platform/files/Files.h"
 #include "tests/support/Staging.h"
-#include "tools/tour/Sittings.h"
-
+#include "tools/tour/Steps.h"
 namespace {
 
 constexpr int SittingLimitMs = 180000;
