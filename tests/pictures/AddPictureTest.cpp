@@ -25,7 +25,10 @@ class AddPicture : public PicturePage {
     return opened;
   }
   bool Insert(const std::string& path) {
-    return Add(path, [](frmAddPicture& dialog) { Click(dialog.cmdOK); });
+    return Add(path, [](frmAddPicture& dialog) {
+      Click(dialog.cmdOK);
+      EXPECT_FALSE(dialog.isVisible());
+    });
   }
   static QColor At(const frmAddPicture& dialog, int x, int y) {
     return dialog.picResize2->grab().toImage().pixelColor(x, y);

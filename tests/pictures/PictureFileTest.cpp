@@ -48,6 +48,11 @@ TEST_F(PictureFile, StandsUprightUnlessItsRowHasTheLyingShape) {
     const std::string path = Put("phone.jpg", Photograph("phone.jpg").replace(30, 1, &orientation, 1));
     EXPECT_EQ(pictures::UprightSize(path), orientation < 5 ? QSize(400, 200) : QSize(200, 400));
     EXPECT_EQ(Corners(pictures::Decode({path, shown}).image), corners) << int{orientation};
+    QImageReader reader(QString::fromStdString(path));
+    reader.setAutoTransform(true);
+    EXPECT_EQ(pictures::Decode({path, pictures::UprightSize(path)}).image.convertToFormat(QImage::Format_RGB32),
+              reader.read())
+        << "of its own size it is not stretched on the way";
   }
 }
 
