@@ -56,6 +56,13 @@ void ExpectNames(QWidget& window) {
   window.hide();
 }
 
+// What is on a button or a label besides words.
+QSize PictureOn(const QWidget& control) {
+  const auto* button = qobject_cast<const QAbstractButton*>(&control);
+  const auto picture = control.property("pixmap").value<QPixmap>();
+  return button ? button->icon().pixmap(button->iconSize()).size() : picture.size();
+}
+
 // "  cmdOpen 16,92 120x30 text 'Open' default off hidden": a word only where it is so, and no place where the
 // letters of the desktop make it.
 std::string RowOf(const QWidget& control, bool isPlaced) {
@@ -66,6 +73,8 @@ std::string RowOf(const QWidget& control, bool isPlaced) {
   for (const char* name : {"text", "title", "placeholderText", "accessibleName", "toolTip"})
     if (const QString words = control.property(name).toString(); !words.isEmpty())
       row += u" %1 '%2'"_qs.arg(QLatin1String(name), words);
+  if (const QSize size = PictureOn(control); !size.isEmpty())
+    row += u" picture %1x%2"_qs.arg(size.width()).arg(size.height());
   for (const char* name : {"default", "checked"})
     if (control.property(name).toBool()) row += u' ' + QLatin1String(name);
   const auto* label = qobject_cast<const QLabel*>(&control);

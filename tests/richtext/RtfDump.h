@@ -133,12 +133,15 @@ struct Example {
   std::string source, dump;
 };
 
-// Those of a sample: a line, and the next one says behind "= " what becomes of it.
+// Those of a sample: a line, and the next one says behind "= " what becomes of it. What stands behind "@ "
+// comes before each one as far as the next empty line.
 inline std::vector<Example> ExamplesOf(const std::string& sample) {
   std::vector<Example> examples;
   std::ifstream file((TEST_SAMPLES "/examples/") + sample);
-  for (std::string line, before; std::getline(file, line); before = line)
-    if (line.starts_with("= ")) examples.push_back({before, line.substr(2)});
+  for (std::string line, before, all; std::getline(file, line); before = line) {
+    if (line.starts_with("= ")) examples.push_back({all + before, line.substr(2)});
+    if (line.starts_with("@ ") || line.empty()) all = line.substr(line.empty() ? 0 : 2);
+  }
   EXPECT_FALSE(examples.empty()) << sample;
   return examples;
 }
