@@ -47,4 +47,13 @@ TEST_F(Window, TogglingTheCaptionsGoesByTheOldPositions) {
   EXPECT_EQ(text().geometry(), page);
 }
 
+TEST_F(Window, F6LeadsFromThePageToTheToolbarAndBack) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+  for (const QWidget* target :
+       {static_cast<QWidget*>(window().Toolbar1->Button(1)), static_cast<QWidget*>(face().txtM)}) {
+    QTest::keyClick(window().focusWidget(), Qt::Key_F6);
+    EXPECT_EQ(window().focusWidget(), target);
+  }
+}
+
 }  // namespace

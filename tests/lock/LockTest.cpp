@@ -33,16 +33,18 @@ TEST_F(LockTest, OpensOnceWithThePasswordAloneAndKeepsWhatIsToBeMended) {
 
 TEST_F(LockTest, ThePasswordChangesOnlyWhenEverythingIsRight) {
   const std::string tooLong(129, 'a');
-  const struct {
-    std::string old, fresh, again, message;
-    bool clears = false;
-  } cases[] = {{"Old ", "", "", "Old password incorrect!"},
-               {"Old", "", "b", "You have not entered a new password!"},
-               {"Old", "b", "", "You have not re-entered your new password!"},
-               {"Old", "b", "B", "New password entries do not match!", true},
-               {"Old", tooLong, tooLong, "The password has 129 characters. It can have at most 128."}};
   PageShift = 'd';
   auto& dialog = look::The<frmPassChange>();
+  const struct {
+    std::string old, fresh, again, message;
+    const QWidget* toMend;
+    bool clears = false;
+  } cases[] = {{"Old ", "", "", "Old password incorrect!", dialog.txtPass},
+               {"Old", "", "b", "You have not entered a new password!", dialog.txtNewPass},
+               {"Old", "b", "", "You have not re-entered your new password!", dialog.txtNewPass2},
+               {"Old", "b", "B", "New password entries do not match!", dialog.txtNewPass, true},
+               {"Old", tooLong, tooLong, "The password has 129 characters. It can have at most 128.",
+                dialog.txtNewPass}};
   dialog.show();
   const auto enter = [&](const std::string& old, const std::string& fresh, const std::string& again) {
     dialog.txtPass->setText(QString::fromStdString(old));
@@ -50,9 +52,10 @@ TEST_F(LockTest, ThePasswordChangesOnlyWhenEverythingIsRight) {
     dialog.txtNewPass2->setText(QString::fromStdString(again));
     Click(dialog.cmdOK);
   };
-  for (const auto& [old, fresh, again, message, clears] : cases) {
+  for (const auto& [old, fresh, again, message, toMend, clears] : cases) {
     enter(old, fresh, again);
     EXPECT_EQ(answers.last(), message);
+    EXPECT_EQ(dialog.focusWidget(), toMend) << message;
     EXPECT_EQ(dialog.txtNewPass->text().isEmpty(), clears || fresh.empty()) << message;
     EXPECT_EQ(UnscrambleText(MasterPassword), "Old");
     EXPECT_TRUE(dialog.isVisible());

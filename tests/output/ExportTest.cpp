@@ -118,6 +118,8 @@ TEST_F(Export, WhatCannotBeWrittenIsToldAndTheNextRunGoesWell) {
   platform::DeleteFile(folder.PathOf("export/j1"));
   Run();
   EXPECT_TRUE(dialog().cmdViewWebPage->isVisible());
+  Click(dialog().chkMulti);
+  ExpectFailure("No file can have this name: ");  // and what was made before is offered no more
   platform::SetProgramFolder("/proc/self");
   EXPECT_EQ(EnsureExportFolder(), 1);
   EXPECT_EQ(answers.last(),

@@ -151,6 +151,8 @@ TEST_F(RichTextBoxTest, TurningToAnotherTallPageKeepsTheWidth) {
                    [&] { widest = std::max(widest, box.viewport()->width()); });
   box.SetTextRTF(tall + "}");
   EXPECT_EQ(widest, narrow);
+  for (int line = 0; line < 60; ++line) Press(Qt::Key_Return);
+  EXPECT_TRUE(box.viewport()->rect().contains(box.cursorRect())) << "the caret stays in sight";
   box.SetTextRTF("{\\rtf1 a}");
   EXPECT_GT(box.viewport()->width(), narrow);
 }
