@@ -178,6 +178,8 @@ TEST_F(EveryWindow, LeadsToItsChapterOfTheHelpAndGoesByItsButton) {
     auto* help = qobject_cast<HelpWindow*>(QApplication::activeWindow());
     ASSERT_TRUE(help) << window.objectName().toStdString();
     EXPECT_EQ(help->lstContents->currentItem()->data(Qt::UserRole), window.objectName());
+    for (const auto& dialog : {u"FontDialog"_qs, u"ColorDialog"_qs, u"OpenFileDialog"_qs, u"PrintDialog"_qs})
+      EXPECT_TRUE(help->HasTopic(dialog)) << dialog.toStdString();
     help->close();
     const QRegularExpression away(u"^cmd(Cancel|Close)$"_qs);
     for (auto* leave : window.findChildren<QAbstractButton*>(away)) Click(leave);

@@ -154,12 +154,4 @@ TEST_F(OptionsTest, F1LeadsToTheChapterOfTheWindow) {
   EXPECT_FALSE(help->isVisible());
 }
 
-TEST_F(OptionsTest, TheHelpHasAChapterForEachDialogOfTheDesktop) {
-  QFile file(QStringLiteral(TEST_SAMPLES "/../../help/THORNQUILL.HLP"));
-  ASSERT_TRUE(file.open(QFile::ReadOnly));
-  const HelpWindow help(QString::fromUtf8(file.readAll()));
-  for (const auto& name : {u"FontDialog"_qs, u"ColorDialog"_qs, u"OpenFileDialog"_qs, u"PrintDialog"_qs})
-    EXPECT_TRUE(help.HasTopic(name)) << name.toStdString();
-}
-
 }  // namespace

@@ -62,6 +62,14 @@ TEST_F(FontDialogTest, TypingLeadsTheListAndAnUnknownNameIsNotAccepted) {
   EXPECT_TRUE(back.name.startsWith(u"DejaVu S") && QFontDatabase::hasFamily(back.name))
       << back.name.toStdString();
   EXPECT_EQ(back.size, 1638);
+  back = After({u"DejaVu Sans"_qs, 16}, [](FontPicker& picker) {
+    QListWidget& sizes = *picker.size->list;
+    ASSERT_TRUE(sizes.isVisible());
+    sizes.scrollToTop();
+    QTest::mouseClick(sizes.viewport(), Qt::LeftButton, {}, sizes.visualItemRect(sizes.item(1)).center());
+    EXPECT_EQ(picker.size->edit->text(), sizes.item(1)->text());
+  });
+  EXPECT_NE(back.size, 16);
   back = After(start, [](FontPicker& picker) { Type(picker.name, u"no such font"_qs); });
   EXPECT_EQ(back.name, u"cancelled");
 }
