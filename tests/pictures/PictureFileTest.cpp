@@ -50,8 +50,9 @@ TEST_F(PictureFile, StandsUprightUnlessItsRowHasTheLyingShape) {
     EXPECT_EQ(Corners(pictures::Decode({path, shown}).image), corners) << int{orientation};
     QImageReader reader(QString::fromStdString(path));
     reader.setAutoTransform(true);
-    EXPECT_EQ(pictures::Decode({path, pictures::UprightSize(path)}).image.convertToFormat(QImage::Format_RGB32),
-              reader.read())
+    EXPECT_EQ(
+        pictures::Decode({path, pictures::UprightSize(path)}).image.convertToFormat(QImage::Format_RGB32),
+        reader.read())
         << "of its own size it is not stretched on the way";
   }
 }
