@@ -36,7 +36,7 @@ class BoxWalk : public BoxTest {
     for (int paragraphs = 1 + Any(most); paragraphs > 0; --paragraphs) {
       for (int letters = Any(4); letters > 0; --letters) {
         page.signs.push_back({static_cast<char16_t>(u'a' + Any(26)), AnyLook()});
-        if (Any(6) != 0) continue;
+        if (Any(3) != 0) continue;
         page.signs.push_back({u'h', AnyLook()});
         page.signs.back().look.hidden = true;
       }
