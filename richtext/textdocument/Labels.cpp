@@ -66,14 +66,8 @@ LabelCounter KeptCounters::Before(const QTextBlock& block) {
 
 QString LabelCounter::Count(const QTextBlock& block) {
   const ListFormat list = ListOf(block.blockFormat());
-  const int level = list.kind == ListKind::None ? 0 : std::clamp(list.level, 0, Levels - 1);
-  const auto counting = lists_.begin() + level;
-  std::fill(counting + 1, lists_.end(), List());
-  List& counted = *counting;
-  counted.next = counted.format == list ? counted.next : list.start;
-  counted.format = list;
-  const std::u16string label = LabelText(list, counted.next++);
-  return list.kind == ListKind::None ? QString() : QString::fromStdU16String(label);
+  const std::int32_t number = items_.Count(list);
+  return list.kind == ListKind::None ? QString() : QString::fromStdU16String(LabelText(list, number));
 }
 
 QString LabelOf(const QTextBlock& block) {

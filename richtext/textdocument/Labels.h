@@ -3,13 +3,11 @@
 // the square of a list's length.
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <map>
 
 #include <QtGui/QTextBlock>
 
-#include "richtext/document/Document.h"
+#include "richtext/document/ItemCounter.h"
 
 class QPainter;
 class QPointF;
@@ -29,12 +27,7 @@ class LabelCounter {
   QString Count(const QTextBlock& block);
 
  private:
-  struct List {
-    ListFormat format;
-    std::int32_t next = 1;
-  };
-  static constexpr int Levels = 9;
-  std::array<List, Levels> lists_;
+  ItemCounter items_;
 };
 
 // Counters for a document that is drawn time and again: each of them goes on from one that was kept nearby,

@@ -96,6 +96,26 @@ TEST_F(ListsTest, CountsOnOverDeeperItemsAlone) {
   EXPECT_EQ(Labels(), "a) 1. a) IX. X.");
 }
 
+// What was counted to draw a long list is counted anew behind a change.
+TEST_F(ListsTest, ALongListIsDrawnAsItIsAfterAChangeFarAbove) {
+  const auto drawn = [](RichTextBox& shown) {
+    shown.verticalScrollBar()->setValue(shown.verticalScrollBar()->maximum());
+    return shown.viewport()->grab().toImage();
+  };
+  std::string items;
+  for (int item = 0; item < 200; ++item) items += "\\pard" + number + " a\\par";
+  Set(Page(items));
+  const QImage before = drawn(box);
+  box.SetSelStart(4);  // the third item
+  Press(Qt::Key_Backspace);
+  RichTextBox fresh;
+  fresh.resize(box.size());
+  fresh.SetTextRTF(box.TextRTF());
+  fresh.show();
+  EXPECT_NE(drawn(box), before);
+  EXPECT_EQ(drawn(box), drawn(fresh));
+}
+
 TEST_F(ListsTest, EnterGoesOnAndBackspaceLeaves) {
   SetItems({number, number});
   box.SetSelStart(1);
