@@ -164,7 +164,7 @@ void CopyABitmap(benchmark::State& state) {
                       static_cast<std::size_t>(photo.sizeInBytes()));
   Document page = EmptyDocument();
   page.runs = {{1, page.paragraphs[0].markFormat}};
-  page.text = u"\ufffc";
+  page.text.assign(1, u'\ufffc');
   page.paragraphs[0].length = 1;
   page.pictures = {bitmap};
   RichTextBox box;

@@ -24,8 +24,8 @@ install_packages() {
     command -v sudo >/dev/null || { echo "Please install these packages as root first:$missing" >&2; exit 1; }
     as_root=sudo
   fi
-  $as_root apt-get update -q >/dev/null || echo "The list of packages could not be renewed; trying with the old one." >&2
+  $as_root apt-get -o DPkg::Lock::Timeout=300 update -q >/dev/null || echo "The list of packages could not be renewed; trying with the old one." >&2
   # shellcheck disable=SC2086
-  $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $missing >/dev/null ||
+  $as_root env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=300 install -y -q --no-install-recommends $missing >/dev/null ||
     { echo "These packages could not be installed:$missing" >&2; exit 1; }
 }

@@ -6,7 +6,7 @@ import pathlib, re, sys
 KEPT_BY_OTHERS = {
     r"/dev/(null|tty)": "nothing is kept there",
     r"/proc/self/.*|/proc/\d+/.*": "the system's picture of the process",
-    r".*/\.cache/fontconfig(/.*)?": "what fonts the machine has, by the fonts' library, where the system's own list is out of date",
+    r".*/\.cache/fontconfig(/.*)?|/var/cache/fontconfig/.*": "what fonts the machine has, by the fonts' library, where the system's own list is out of date",
     r".*/\.cache/mesa_shader_cache(/.*)?": "programs for the screen's processor, by its driver",
 }
 CALLS = re.compile(r'(?:open|creat|rename|link|symlink|mkdir|mknod|truncate|bind)\w*\((.*)\) = \d')
