@@ -15,6 +15,7 @@ void ListCounter::Count(Key key, ListFormat& list) {
     list.twin = open.list == list;
     open = {key, list};
   }
+  openLevels_ = list.level + 1;
   list = open.list;
   next = std::min(next + 1, MaxListNumber);
 }
@@ -28,9 +29,15 @@ bool ListCounter::GoesOn(const Neighbours& open, Key key, const ListFormat& list
 
 void ListCounter::EndDeeperLevels(std::int32_t list, std::int32_t level) {
   constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
-  std::fill(open_.begin() + level + 1, open_.end(), Neighbours());
+  CloseFrom(level + 1);
   next_.erase(next_.lower_bound({list, level + 1, least}),
               next_.lower_bound({list, MaxListLevel + 1, least}));
+}
+
+// Most paragraphs stand in no list: nothing is open before them.
+void ListCounter::CloseFrom(std::int32_t level) {
+  if (level < openLevels_) std::fill(open_.begin() + level, open_.begin() + openLevels_, Neighbours());
+  openLevels_ = std::min(openLevels_, level);
 }
 
 }  // namespace richtext::rtf

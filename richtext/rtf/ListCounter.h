@@ -29,7 +29,7 @@ class ListCounter {
   // anew.
   void Count(Key key, ListFormat& list);
   // A paragraph of no list: no item has a neighbour before it.
-  void Interrupt() { open_ = {}; }
+  void Interrupt() { CloseFrom(0); }
 
  private:
   // The items met last of a level, as the document tells them.
@@ -40,10 +40,12 @@ class ListCounter {
 
   static bool GoesOn(const Neighbours& open, Key key, const ListFormat& list);
   void EndDeeperLevels(std::int32_t list, std::int32_t level);
+  void CloseFrom(std::int32_t level);
 
   std::map<std::tuple<std::int32_t, std::int32_t, std::int32_t>, std::int32_t>
       next_;                                       // item's number, by list, level and override
   std::array<Neighbours, MaxListLevel + 1> open_;  // by level
+  std::int32_t openLevels_ = 0;                    // behind them none is open
 };
 
 }  // namespace richtext::rtf
