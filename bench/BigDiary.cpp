@@ -45,6 +45,16 @@ void OneJournal() {
   Staged().CurrentJournal = 1;
 }
 
+void MoreJournals(std::int32_t count) {
+  while (JournalCount < count) {
+    JournalEntry row = Journals.at(1);
+    row.Icon = ++JournalCount;
+    row.Name += " " + std::to_string(JournalCount);
+    row.FileName = "j" + std::to_string(10000 + JournalCount) + ".tqf";
+    Journals.push_back(row);
+  }
+}
+
 void WriteJournal(std::int32_t pages, std::size_t pageBytes) {
   const double today = platform::Now();
   for (std::int32_t page = 0; page <= pages; ++page)

@@ -1,9 +1,10 @@
 // Process start to the first window on the screen, and the resident memory three seconds later: the program
 // beside a bare window of the same toolkit, in turns, in one run.
 //
-//   bench_start PROGRAM FLOOR [ROUNDS]      needs an X server; scripts/bench brings one
+//   bench_start PROGRAM FLOOR [WITH [ROUNDS]]      needs an X server; scripts/bench brings one
 //
-// PROGRAM is started in its own folder, with whatever diary lies there. The medians go out in the form of the
+// PROGRAM is started in its own folder, with whatever diary lies there, of which WITH is the name behind
+// those of the figures. FLOOR may be the program with another diary. The medians go out in the form of the
 // benchmarks, for scripts/bench.
 #include <chrono>
 #include <csignal>
@@ -75,8 +76,9 @@ Figures Start(const char* program) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 3) return std::fprintf(stderr, "usage: bench_start PROGRAM FLOOR [ROUNDS]\n"), 2;
-  const int rounds = argc > 3 ? std::atoi(argv[3]) : 15;
+  if (argc < 3) return std::fprintf(stderr, "usage: bench_start PROGRAM FLOOR [WITH [ROUNDS]]\n"), 2;
+  const char* with = argc > 3 ? argv[3] : "";
+  const int rounds = argc > 4 ? std::atoi(argv[4]) : 15;
   std::vector<double> starts[2], memory[2];
   for (int round = 0; round <= rounds; ++round) {
     for (int which : {0, 1}) {
@@ -86,10 +88,10 @@ int main(int argc, char** argv) {
       memory[which].push_back(figures.residentMb);
     }
   }
-  const auto figure = [](const char* name, const char* unit, const std::vector<double>* values) {
+  const auto figure = [with](const char* name, const char* unit, const std::vector<double>* values) {
     const double work = bench::MedianOf(values[0]), floor = bench::MedianOf(values[1]);
-    std::printf("{\"name\": \"%s\", \"work_%s\": %.1f, \"floor_%s\": %.1f, \"times_floor\": %.3f}", name,
-                unit, work, unit, floor, work / floor);
+    std::printf("{\"name\": \"%s%s\", \"work_%s\": %.1f, \"floor_%s\": %.1f, \"times_floor\": %.3f}", name,
+                with, unit, work, unit, floor, work / floor);
   };
   std::printf("{\"benchmarks\": [\n");
   figure("StartToFirstWindow", "ms", starts);

@@ -95,6 +95,7 @@ ROWS = [
     (time, "the check of 2 MB", "CheckTwoMegabytes", 4),
     (beside_floor, "start to the first window; a bare one", "StartToFirstWindow", 1.3),
     (beside_floor, "resident memory after 3 s; a bare window", "ResidentAtRest", 1.3, "MB"),
+    (beside_floor, "start with fifty journals; with one", "StartToFirstWindowWithFifty", 1.1),
     (time, "open 10,000 pages, to the page drawn", "OpenJournal/10000", 100),
     (memory, "resident memory with them open", "OpenJournal/10000", "resident_mb", 132),
     (memory, "and when they are closed again", "OpenJournal/10000", "closed_mb", 45),

@@ -3,8 +3,8 @@
 
 #include <QtGui/QIcon>
 
-// 63 icons of 32 by 32 pixels, indexes 1 to 63, drawn or decoded when first asked for. Any other index gives
-// the first one. The order is part of the data: an index stands in the index file.
+// 63 icons of 32 by 32 pixels, indexes 1 to 63, each size of one drawn when it is first seen. Any other index
+// gives the first one. The order is part of the data: an index stands in the index file.
 inline constexpr int JournalIconCount = 63;
 QIcon JournalIcon(int index);
 
