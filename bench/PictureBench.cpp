@@ -1,15 +1,19 @@
 // What a page with pictures costs: seven photographs of 12 megapixels, beside decoding them in full.
+#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QRandomGenerator>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QThread>
+#include <QtCore/QTimer>
 #include <QtGui/QImage>
 
 #include "bench/Beside.h"
@@ -18,6 +22,7 @@
 #include "pictures/PictureToAdd.h"
 #include "pictures/decoding/PictureFile.h"
 #include "pictures/frmAddPicture.h"
+#include "platform/files/Files.h"
 #include "tests/support/Staging.h"
 
 namespace {
@@ -68,20 +73,20 @@ std::int32_t AtScale(int pixels, double scale) {
 }
 
 // The rows of the page, each at this scale of the dialog.
-void LayOut(const Album& album, double scale) {
+void LayOut(const std::vector<std::string>& paths, double scale) {
   ResetState();
   Journals.resize(2);
   Staged().CurrentJournal = 1;
   Journals[1].FileName = "j00000.tqf";
   Pictures.resize(1);
-  for (const std::string& path : album.paths) {
+  for (const std::string& path : paths) {
     PagePicture& row = Pictures.emplace_back();
     row.PictureFile = path;
     row.PictureWidth = AtScale(PhotoSize.width(), scale);
     row.PictureHeight = AtScale(PhotoSize.height(), scale);
     row.JournalFile = Journals[1].FileName;
   }
-  PictureCount = Photos;
+  PictureCount = static_cast<std::int32_t>(paths.size());
 }
 
 // Page 0 has them; the pages on either side of it have none.
@@ -89,7 +94,7 @@ class Pages {
  public:
   explicit Pages(std::int64_t percent) {
     page_.resize(565, 648);
-    LayOut(TheAlbum(), static_cast<double>(percent) / 100);
+    LayOut(TheAlbum().paths, static_cast<double>(percent) / 100);
   }
   // Until the page is painted.
   void TurnTo(std::int32_t page) {
@@ -190,11 +195,47 @@ BENCHMARK(TwoHundredPages)->Iterations(1)->Unit(benchmark::kSecond);
 // A press of a scale button. The argument is the scale in percent.
 void ScaleSeenLive(benchmark::State& state) {
   auto& dialog = look::The<frmAddPicture>();
-  dialog.picTemp->SetPicture(QPixmap::fromImage(pictures::LoadForPreview(TheAlbum().paths[0])));
+  dialog.picTemp->SetPicture(QPixmap::fromImage(pictures::LoadForPreview(TheAlbum().paths[0]).image));
   dialog.picTemp->resize(PhotoSize);
   AddScale = static_cast<double>(state.range(0)) / 100;
   for ([[maybe_unused]] auto iteration : state) look::The<frmAddPicture>().ShowScaledPreview();
 }
 BENCHMARK(ScaleSeenLive)->Arg(10)->Arg(25)->Arg(200)->Unit(benchmark::kMillisecond);
+
+// Add Picture of 48 megapixels, 0 as JPEG and 1 as PNG: milliseconds to its window, to the picture in it, and
+// the longest that the window was deaf in between.
+void AddALargePhoto(benchmark::State& state) {
+  const char* format = state.range(0) == 0 ? "JPG" : "PNG";
+  QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("large"));
+  if (!Photo(1).scaled(2 * PhotoSize).save(path, format, 90)) std::abort();
+  QDir(folder.path()).mkdir(QStringLiteral("frames"));
+  platform::SetProgramFolder(QFile::encodeName(folder.path()).toStdString());
+  auto& dialog = look::The<frmAddPicture>();
+  double window = 0, picture = 0, deaf = 0;
+  for ([[maybe_unused]] auto iteration : state) {
+    LayOut({}, 1);
+    window = deaf = 0;
+    QElapsedTimer timer;
+    double last = 0;
+    QTimer turns;
+    QObject::connect(&turns, &QTimer::timeout, [&] {
+      const double now = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+      if (!dialog.isVisible()) return;
+      if (window == 0) window = last = now;
+      deaf = std::max(deaf, now - std::exchange(last, now));
+      if (!dialog.cmdOK->isEnabled()) return;
+      picture = now;
+      dialog.CloseBox();
+    });
+    turns.start(0);
+    timer.start();
+    dialog.InsertPicture(QFile::encodeName(path).toStdString());
+  }
+  state.counters["window_ms"] = window;
+  state.counters["picture_ms"] = picture;
+  state.counters["deaf_ms"] = deaf;
+}
+BENCHMARK(AddALargePhoto)->Arg(0)->Arg(1)->Iterations(2)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -134,6 +134,10 @@ ROWS = [
     (beside_floor, "their first visit, 25 %; decoding them for it one after another", "SevenSideBySide", 0.6),
     (time, "their second visit", "SevenSeenBefore", 16),
     (time, "their first visit from a page on which one has lingered", "SevenOfANeighbour", 16),
+    *((counted, f"Add Picture of 48 megapixels, {name}: {what}", f"AddALargePhoto/{kind}", key, most)
+      for kind, name in enumerate(["JPEG", "PNG"])
+      for what, key, most in [("to its window", "window_ms", 100), ("its window's longest wait", "deaf_ms", 50)]),
+    *((time, f"a press of a scale button, {percent} %", f"ScaleSeenLive/{percent}", 33) for percent in (10, 25, 200)),
     (memory, "what 200 such pages, 10 %, leave in memory", "TwoHundredPages", "more_mb", 64),
     (rate, "export 1,000 pages as one file", "Export/multi:0", 250),
     (rate, "export 1,000 pages as a site", "Export/multi:1", 250),

@@ -5,3 +5,7 @@
 void StartAddPicture() {
   look::The<frmAddPicture>().InsertPicture();
 }
+
+void AddPicture(const std::string& path) {
+  look::The<frmAddPicture>().InsertPicture(path);
+}

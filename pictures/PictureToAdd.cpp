@@ -37,6 +37,13 @@ QImage ReducedTo(QSize size, const QImage& image) {
   return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+QPixmap Paper(QSize size, std::uint32_t color, double ratio) {
+  QPixmap surface((QSizeF(size) * ratio).toSize());
+  surface.setDevicePixelRatio(ratio);
+  surface.fill(platform::ToColor(color));
+  return surface;
+}
+
 // The picture without its first row and column, stretched from the pixel (1, 1) of the surface.
 void PaintPicture(QPainter& painter, const QPixmap& picture, QSize natural) {
   const QSize shown(AddWidth, AddHeight);
@@ -60,11 +67,20 @@ void MeasureAtScale(QSize picture) {
 }
 
 QPixmap DrawPreview(const QPixmap& picture, QSize natural, std::uint32_t paper, double ratio) {
-  QPixmap surface((QSizeF(SurfaceSide, SurfaceSide) * ratio).toSize());
-  surface.setDevicePixelRatio(ratio);
-  surface.fill(platform::ToColor(paper));
+  QPixmap surface = Paper({SurfaceSide, SurfaceSide}, paper, ratio);
   QPainter painter(&surface);
   PaintPicture(painter, picture, natural);
+  painter.end();
+  return surface;
+}
+
+QPixmap DrawWaiting(QSize size, std::uint32_t paper, double ratio) {
+  QPixmap surface = Paper(size, paper, ratio);
+  QPainter painter(&surface);
+  QFont font;
+  font.setPixelSize(size.height() / 8);
+  painter.setFont(font);
+  painter.drawText(QRect(QPoint(), size), Qt::AlignCenter, QStringLiteral("…"));
   painter.end();
   return surface;
 }

@@ -21,5 +21,8 @@ void MeasureAtScale(QSize picture);
 // reduced copy; `ratio` is device pixels to a logical pixel.
 QPixmap DrawPreview(const QPixmap& picture, QSize natural, std::uint32_t paper, double ratio);
 
+// Paper with the sign of something that is still to come.
+QPixmap DrawWaiting(QSize size, std::uint32_t paper, double ratio);
+
 // "Scale: 25%"; "Scale: %" for what rounds to none.
 std::string ScaleText();

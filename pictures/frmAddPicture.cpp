@@ -1,6 +1,8 @@
 #include "pictures/frmAddPicture.h"
 
 #include <algorithm>
+#include <chrono>
+#include <optional>
 
 #include <QtCore/QFile>
 
@@ -10,7 +12,6 @@
 #include "pictures/PictureSlots.h"
 #include "pictures/PictureToAdd.h"
 #include "pictures/decoding/PictureFile.h"
-#include "pictures/decoding/WholeJpeg.h"
 #include "pictures/modPictures.h"
 #include "platform/Failure.h"
 #include "platform/desktop/Keystroke.h"
@@ -28,6 +29,9 @@ constexpr int ButtonEdge = 4;  // pixels that a caption leaves free
 constexpr double ScaleStep = 0.01;
 constexpr int ExtensionLength = 4;  // ".gif"
 constexpr double OpeningScale = 0.25;
+constexpr QSize PreviewRoom(500, 456);
+// A picture that takes longer to decode is awaited by the open dialog; one that does not comes with it.
+constexpr std::chrono::milliseconds MostWait{60};
 constexpr int LargestFrame = 1000;         // pixels to decode a frame in; the control stretches it beyond
 constexpr int MostControlSide = 16777215;  // the toolkit's limit for a control
 
@@ -39,10 +43,19 @@ std::string FramesFolder() {
   return platform::PathOf("frames");
 }
 
-bool AskForPicture() {
-  const auto path = platform::AskForFile({"Open", platform::FiltersFrom(Filter), 1});
-  if (path) AddFile = *path;
-  return path.has_value();
+std::optional<std::string> AskForPicture() {
+  return platform::AskForFile({"Open", platform::FiltersFrom(Filter), 1});
+}
+
+void TellFull() {
+  platform::ShowMessage("Maximum pictures for this page.");
+}
+
+void TellBrokenOff() {
+  platform::ShowMessage(
+      AddFile +
+      "\n\nThis picture is not whole: its file ends too soon, as when its copying was broken off. It "
+      "shows as far as it goes. Copy it once more from where it came, if you can.");
 }
 
 }  // namespace
@@ -117,9 +130,9 @@ void frmAddPicture::PlacePreview() {
     return Place(new look::PictureBox(this), name, 168 * Twips, 82 * Twips, width * Twips, height * Twips,
                  role);
   };
-  picResize2 = box("picResize2", 500, 456, QStringLiteral("Preview"));
-  imgFrameSet = Place(new StretchedImage(picResize2), "imgFrameSet", 0, 0, 500 * Twips, 456 * Twips,
-                      QStringLiteral("Frame of the preview"));
+  picResize2 = box("picResize2", PreviewRoom.width(), PreviewRoom.height(), QStringLiteral("Preview"));
+  imgFrameSet = Place(new StretchedImage(picResize2), "imgFrameSet", 0, 0, PreviewRoom.width() * Twips,
+                      PreviewRoom.height() * Twips, QStringLiteral("Frame of the preview"));
   imgFrameSet->hide();
   picTemp = box("picTemp", 0, 0, QStringLiteral("the chosen picture"));
   PicResize = box("PicResize", 1000, 1000, QStringLiteral("the drawing surface"));
@@ -137,7 +150,8 @@ void frmAddPicture::ConnectScaleButtons() {
   connect(cmdResizeFactorDN, &QPushButton::clicked, this, &frmAddPicture::cmdResizeFactorDN_Click);
 }
 
-void frmAddPicture::Open() {
+// With the preview in it, and no frame.
+void frmAddPicture::ShowPicture() {
   Form_Activate();
   List1->setFocus();
   ShowModal();
@@ -205,36 +219,52 @@ void frmAddPicture::ShowPreviewOrDropFrame() {
 }
 
 void frmAddPicture::InsertPicture() {
-  if (PageIsFull()) {
-    platform::ShowMessage("Maximum pictures for this page.");
-    return;
-  }
-  if (!AskForPicture()) return;
+  if (PageIsFull()) return TellFull();
+  if (const auto path = AskForPicture()) Open(*path);
+}
+
+void frmAddPicture::InsertPicture(const std::string& path) {
+  PageIsFull() ? TellFull() : Open(path);
+}
+
+void frmAddPicture::Open(const std::string& path) {
+  AddFile = path;
   for (look::PictureBox* box : {PicResize, picResize2, picTemp})
     box->SetBackColor(Journals.at(static_cast<std::size_t>(CurrentJournal)).PaperColor);
-  try {
-    LoadPicture();
-    TellBrokenOff();
-  } catch (const platform::Failure& failure) {
-    return platform::ReportFailure({}, failure);
-  }
   AddScale = OpeningScale;
-  Open();  // shows the preview as well, with no frame
+  ForgetPicture();
+  decoder_.Decode(path);
+  if (decoder_.IsReadyWithin(MostWait) && !TakePicture()) return;
+  cmdOK->setEnabled(!decoder_.IsAwaited());
+  ShowPicture();
+  decoder_.Drop();
 }
 
-// The box is as large as the picture; it may hold a reduced copy.
-void frmAddPicture::LoadPicture() {
-  const QSize size = pictures::UprightSize(AddFile);
-  picTemp->SetPicture(QPixmap::fromImage(pictures::LoadForPreview(AddFile)));
-  picTemp->resize(size);
+void frmAddPicture::ForgetPicture() {
+  picTemp->SetPicture({});
+  picTemp->resize(0, 0);
 }
 
-void frmAddPicture::TellBrokenOff() {
-  if (pictures::IsWhole(AddFile)) return;
-  platform::ShowMessage(
-      AddFile +
-      "\n\nThis picture is not whole: its file ends too soon, as when its copying was broken off. It "
-      "shows as far as it goes. Copy it once more from where it came, if you can.");
+// The box is as large as the picture; it may hold a reduced copy. False where there is none, which is told.
+bool frmAddPicture::TakePicture() {
+  try {
+    const pictures::Preview preview = decoder_.Take();
+    file_ = preview.shown.file;
+    picTemp->SetPicture(QPixmap::fromImage(preview.shown.image));
+    picTemp->resize(preview.natural);
+    if (!preview.isWhole) TellBrokenOff();
+    return true;
+  } catch (const platform::Failure& failure) {
+    platform::ReportFailure({}, failure);
+    return false;
+  }
+}
+
+// The dialog stands open already.
+void frmAddPicture::TakeLatePicture() {
+  if (!TakePicture()) return hide();
+  cmdOK->setEnabled(true);
+  ShowPreviewOrDropFrame();
 }
 
 void frmAddPicture::SetFrame(std::int16_t index) {
@@ -243,6 +273,7 @@ void frmAddPicture::SetFrame(std::int16_t index) {
 }
 
 void frmAddPicture::ShowScaledPreview() {
+  if (decoder_.IsAwaited()) return ShowThatItComes();
   MeasureAtScale(picTemp->size());
   PicResize->SetPicture(
       DrawPreview(picTemp->Picture(), picTemp->size(), PicResize->BackColor(), devicePixelRatioF()));
@@ -250,6 +281,13 @@ void frmAddPicture::ShowScaledPreview() {
   picResize2->resize(std::min(AddWidth, MostControlSide), std::min(AddHeight, MostControlSide));
   lblScale->setText(QString::fromStdString(ScaleText()));
   ShowFrame();  // the last step, since it can fail
+}
+
+void frmAddPicture::ShowThatItComes() {
+  lblScale->setText(QString::fromStdString(ScaleText()));
+  imgFrameSet->hide();
+  picResize2->resize(PreviewRoom);
+  picResize2->SetPicture(DrawWaiting(PreviewRoom, picResize2->BackColor(), devicePixelRatioF()));
 }
 
 void frmAddPicture::ShowFrame() {
@@ -267,9 +305,10 @@ void frmAddPicture::cmdOK_Click() {
   AddPictureToPage();
 }
 
+// The file may have gone or changed while the dialog was open.
 void frmAddPicture::AddPictureToPage() {
   try {
-    pictures::LoadForPreview(AddFile);  // it may have gone or changed while the dialog was open
+    if (!pictures::IsStill(AddFile, file_)) pictures::LoadForPreview(AddFile);
   } catch (const platform::Failure& failure) {
     return platform::ReportFailure({}, failure);
   }

@@ -12,6 +12,7 @@
 #include "look/Form.h"
 #include "look/PictureBox.h"
 #include "pictures/StretchedImage.h"
+#include "pictures/decoding/PreviewDecoder.h"
 
 class frmAddPicture : public look::Form {
   Q_OBJECT
@@ -42,8 +43,9 @@ class frmAddPicture : public look::Form {
   // The full path of a frame file, 1 for the first.
   std::string FrameFile(std::int32_t index) const;
 
-  // What StartAddPicture tells, which is the way here from outside.
+  // What AddPicture.h tells, which is the way here from outside.
   void InsertPicture();
+  void InsertPicture(const std::string& path);
 
   // Sets AddWidth and AddHeight for the picture in picTemp at AddScale, and the preview. Throws
   // platform::Failure when the frame that AddFrameIndex names cannot be shown; the rest is done and the frame
@@ -66,17 +68,23 @@ class frmAddPicture : public look::Form {
   void EvenScaleRow();
   void PlacePreview();
   void ConnectScaleButtons();
+  void Open(const std::string& path);
   // Shows it with a fresh list of frames and none of them chosen; returns when it has been hidden. A folder
   // of frames that is not there is told in a message first.
-  void Open();
+  void ShowPicture();
   void Form_Activate();
   void ReadFrames();
   void List1_Click(int index);
   void cmdResizeFactorDN_Click();
   void SetScale(double scale);
   void ShowPreviewOrDropFrame();
-  void LoadPicture();
-  void TellBrokenOff();
+  bool TakePicture();
+  void TakeLatePicture();
+  void ForgetPicture();
+  void ShowThatItComes();
   void ShowFrame();
   void cmdOK_Click();
+
+  pictures::PreviewDecoder decoder_{[this] { TakeLatePicture(); }};
+  platform::Identity file_{};  // that the picture in picTemp is of
 };

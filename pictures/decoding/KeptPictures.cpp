@@ -4,15 +4,6 @@
 #include <numeric>
 
 namespace pictures {
-namespace {
-
-bool IsStill(const std::string& path, const platform::Identity& file) {
-  struct stat entry {};
-  return stat(path.c_str(), &entry) == 0 && platform::IdentityOf(entry) == file;
-}
-
-}  // namespace
-
 void KeptPictures::BeginVisit(const std::vector<WantedPicture>& wanted) {
   ++visit_;
   for (const WantedPicture& picture : wanted) Find(picture);

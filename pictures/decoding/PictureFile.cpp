@@ -30,7 +30,29 @@ bool HasTheShapeLying(QSize shown, QSize upright) {
   return (excessOf(shown) < 0 && excessOf(upright) > 0) || (excessOf(shown) > 0 && excessOf(upright) < 0);
 }
 
+QImage ReadUpTo(PictureSource& source, QSize most) {
+  const auto isLarger = [](QSize size, QSize bound) {
+    return bound.isValid() && size.boundedTo(bound) != size;
+  };
+  const auto fitting = [](QSize size, QSize bound) {
+    return size.scaled(bound, Qt::KeepAspectRatio).expandedTo({1, 1});
+  };
+  const QSize stored = source.reader.size();
+  const QSize bound = source.IsTurned() ? most.transposed() : most;
+  const QImage read = source.Decode(isLarger(stored, bound) ? fitting(stored, bound) : QSize());
+  return isLarger(read.size(), most) ? Stretched(read, fitting(read.size(), most)) : read;
+}
+
 }  // namespace
+
+bool IsPicture(const std::string& path) {
+  const platform::InputFile file(path);
+  QFile device;
+  device.open(file.descriptor(), QFile::ReadOnly, QFile::DontCloseHandle);
+  QImageReader reader(&device);
+  reader.setDecideFormatFromContent(true);
+  return reader.canRead();
+}
 
 QSize UprightSize(const std::string& path) {
   PictureSource source(path);
@@ -50,22 +72,19 @@ DecodedPicture Decode(const WantedPicture& wanted, const std::atomic<bool>* isDr
   return {image, source.Identity()};
 }
 
-QImage LoadUpTo(const std::string& path, QSize most) {
-  PictureSource source(path);
-  const auto isLarger = [](QSize size, QSize bound) {
-    return bound.isValid() && size.boundedTo(bound) != size;
-  };
-  const auto fitting = [](QSize size, QSize bound) {
-    return size.scaled(bound, Qt::KeepAspectRatio).expandedTo({1, 1});
-  };
-  const QSize stored = source.reader.size();
-  const QSize bound = source.IsTurned() ? most.transposed() : most;
-  const QImage read = source.Decode(isLarger(stored, bound) ? fitting(stored, bound) : QSize());
-  return isLarger(read.size(), most) ? Stretched(read, fitting(read.size(), most)) : read;
+bool IsStill(const std::string& path, const platform::Identity& file) {
+  struct stat entry {};
+  return stat(path.c_str(), &entry) == 0 && platform::IdentityOf(entry) == file;
 }
 
-QImage LoadForPreview(const std::string& path) {
-  return ForTheScreen(LoadUpTo(path, {PreviewSide, PreviewSide}));
+QImage LoadUpTo(const std::string& path, QSize most) {
+  PictureSource source(path);
+  return ReadUpTo(source, most);
+}
+
+DecodedPicture LoadForPreview(const std::string& path, const std::atomic<bool>* isDropped) {
+  PictureSource source(path, isDropped);
+  return {ForTheScreen(ReadUpTo(source, {PreviewSide, PreviewSide})), source.Identity()};
 }
 
 }  // namespace pictures

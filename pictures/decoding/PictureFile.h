@@ -29,6 +29,9 @@ struct DecodedPicture {
   platform::Identity file{};
 };
 
+// Whether the file begins as a picture does of a kind that can be read here. Fails where it cannot be opened.
+bool IsPicture(const std::string& path);
+
 // The picture's size in its own pixels, as it stands when its orientation mark is obeyed. Reads the head of
 // the file alone where the format allows it.
 QSize UprightSize(const std::string& path);
@@ -41,10 +44,13 @@ QSize UprightSize(const std::string& path);
 // true, the file counts as broken off where it was read to.
 DecodedPicture Decode(const WantedPicture& wanted, const std::atomic<bool>* isDropped = nullptr);
 
+// Whether the path still leads to that file, unchanged.
+bool IsStill(const std::string& path, const platform::Identity& file);
+
 // The picture upright, in its own shape and size, or as large as fits where it is larger than `most` pixels;
 // an invalid size is no bound.
 QImage LoadUpTo(const std::string& path, QSize most);
-// The same, its longer side up to 2000 pixels.
-QImage LoadForPreview(const std::string& path);
+// The same in the screen's colours, its longer side up to 2000 pixels.
+DecodedPicture LoadForPreview(const std::string& path, const std::atomic<bool>* isDropped = nullptr);
 
 }  // namespace pictures

@@ -30,8 +30,12 @@ std::size_t BeginOfTheScan(std::string_view bytes) {
 }  // namespace
 
 bool IsWhole(const std::string& path) {
+  {
+    char begin[StartOfImage.size()];
+    platform::InputFile file(path);
+    if (std::string_view(begin, file.Read(begin, sizeof begin)) != StartOfImage) return true;
+  }
   const std::string bytes = platform::ReadFile(path);
-  if (!bytes.starts_with(StartOfImage)) return true;
   const std::size_t scan = BeginOfTheScan(bytes);
   return scan != std::string_view::npos && bytes.find(EndOfImage, scan) != std::string::npos;
 }

@@ -16,6 +16,7 @@ class AddPicture : public PicturePage {
     chooser.file = path;
     QTimer::singleShot(0, &page, [&] {
       auto& dialog = look::The<frmAddPicture>();
+      EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.isVisible() || dialog.cmdOK->isEnabled(); }));
       opened = dialog.isVisible();
       if (opened) act(dialog);
       dialog.CloseBox();
@@ -120,6 +121,28 @@ TEST_F(AddPicture, TellsOfAPhotographThatEndsTooSoon) {
     EXPECT_EQ(answers.texts().empty(), isWhole) << bytes.size();
   }
   EXPECT_NE(answers.last().find("not whole"), std::string::npos);
+}
+
+// 48 megapixels: the window is there before they are, takes the scale meanwhile, and can be left.
+TEST_F(AddPicture, OpensBeforeALargePictureIsDecoded) {
+  QImage large(8000, 6000, QImage::Format_Grayscale8);
+  large.fill(Qt::red);
+  const std::string path = folder.PathOf("large.png");
+  ASSERT_TRUE(large.save(QString::fromStdString(path), "PNG"));
+  chooser.file = path;
+  for (const bool waits : {true, false}) {
+    QTimer::singleShot(0, &page, [waits] {
+      auto& dialog = look::The<frmAddPicture>();
+      EXPECT_TRUE(dialog.isVisible() && !dialog.cmdOK->isEnabled());
+      Click(dialog.cmdResizeFactor50);
+      EXPECT_EQ(dialog.lblScale->text(), u"Scale: 50%");
+      EXPECT_EQ(QTest::qWaitFor([&] { return dialog.cmdOK->isEnabled(); }, waits ? 5000 : 1), waits);
+      EXPECT_EQ(AddWidth == 7056, waits) << AddWidth;
+      dialog.CloseBox();
+    });
+    AddWidth = 0;
+    StartAddPicture();
+  }
 }
 
 TEST_F(AddPicture, StoresNothingThatCannotBeShown) {
