@@ -7,6 +7,7 @@
 #include <QtWidgets/QScrollBar>
 
 #include "editor/BindingPicture.h"
+#include "editor/FilesOnPage.h"
 #include "look/Form.h"
 #include "look/PictureBox.h"
 #include "look/Theme.h"
@@ -66,6 +67,7 @@ PageFace::PageFace(QWidget* parent) : QWidget(parent) {
   MakePictures();
   DockStrips();
   FitText();
+  new FilesOnPage(this, txtM);
 }
 
 PageFace::~PageFace() = default;

@@ -173,7 +173,7 @@ QMimeData* RichTextBox::createMimeDataFromSelection() const {
 }
 
 void RichTextBox::insertFromMimeData(const QMimeData* source) {
-  if (isReadOnly()) return;
+  if (isReadOnly() || (TakeElsewhere && TakeElsewhere(*source))) return;
   QTextCursor cursor = textCursor();
   if (const auto page = OfferedPage(*source, FromTextFormat(caret_.InHand())))
     InsertDocument(*page, cursor);

@@ -111,6 +111,11 @@ class RichTextBox : public QTextEdit {
   // Puts the clipboard's text at the caret, in the place of the selection and in the caret's format.
   void PasteWithoutFormatting();
 
+  // Puts in what another program offers, as a paste does; nothing while the box is read-only.
+  void InsertOffered(const QMimeData& offered) { insertFromMimeData(&offered); }
+  // Asked first about what is pasted or dropped; what it takes is not put into the text.
+  std::function<bool(const QMimeData& offered)> TakeElsewhere;
+
   // Prints the selection, as Printing.h tells.
   bool PrintSelection(Paper& paper) const;
 

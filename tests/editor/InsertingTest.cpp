@@ -5,6 +5,8 @@
 #include <QtGui/QClipboard>
 
 #include "editor/frmEmoticons.h"
+#include "pictures/PictureToAdd.h"
+#include "pictures/frmAddPicture.h"
 #include "tests/editor/OpenBook.h"
 
 namespace {
@@ -106,6 +108,99 @@ TEST_F(EmoticonTest, ShowsNoneThatIsNoPictureAndPutsOneOnThePapersColour) {
   EXPECT_EQ(QApplication::clipboard()->image().pixelColor(0, 0), QColor(0xFF, 0xCC, 0x99));
   Press("btnFirstPage");
   EXPECT_EQ(TextsIn(row)[0], "c\uFFFCr");
+}
+
+// Another program offers files. Each Add Picture that opens is answered by pressing its default button or
+// Escape.
+class FilesOnAPage : public fixture::OpenBook {
+ protected:
+  FilesOnAPage() {
+    for (const char* name : {"frames", "folder"}) QDir().mkpath(QString::fromStdString(folder.PathOf(name)));
+    for (const char* name : {"a.png", "b%20.png"}) folder.WritePicture(name);
+    folder.Write("note.txt", "\xE4 note\n");
+    folder.Write("letter.odd", "{\\rtf1 \\b bold}");
+    folder.Write("data", std::string("PK\3\4", 4));
+    QObject::connect(&answering_, &QTimer::timeout, [this] {
+      auto* dialog = qobject_cast<frmAddPicture*>(QApplication::activeModalWidget());
+      if (!dialog || !dialog->cmdOK->isEnabled()) return;
+      opened += AddFile.substr(AddFile.rfind('/')) + (inserts ? " in" : " no");
+      QTest::keyClick(dialog, inserts ? Qt::Key_Return : Qt::Key_Escape);
+    });
+    answering_.start(1);
+  }
+  std::unique_ptr<QMimeData> Offer(const fixture::Texts& names) const {
+    QByteArray list;
+    for (const std::string& name : names)
+      list += name.find(':') == std::string::npos
+                  ? QUrl::fromLocalFile(QString::fromStdString(folder.PathOf(name))).toEncoded() + "\r\n"
+                  : QByteArray::fromStdString(name) + "\r\n";
+    auto offer = std::make_unique<QMimeData>();
+    offer->setData(u"text/uri-list"_qs, list);
+    return offer;
+  }
+  // What becomes of it; a move would cost its owner the file.
+  Qt::DropAction Drop(QWidget* target, const QMimeData& offer) {
+    const auto all = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent over({30, 30}, all, &offer, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &over);
+    QDropEvent drop({30, 30}, all, &offer, Qt::LeftButton, Qt::NoModifier);
+    drop.setDropAction(Qt::MoveAction);
+    QCoreApplication::sendEvent(target, &drop);
+    QTest::qWait(20);
+    return over.isAccepted() && drop.isAccepted() ? drop.dropAction() : Qt::IgnoreAction;
+  }
+  std::string Opened() { return std::exchange(opened, {}); }
+
+  bool inserts = false;
+  std::string opened;
+
+ private:
+  QTimer answering_;
+};
+
+TEST_F(FilesOnAPage, OpenAddPictureOneAfterTheOtherAndTextsGoInAsPasted) {
+  Begin({"cover", "one"});
+  for (QWidget* target : {static_cast<QWidget*>(window().face), text().viewport()}) {
+    EXPECT_EQ(Drop(target, *Offer({"a.png", "b%20.png"})), Qt::CopyAction);
+    EXPECT_EQ(Opened(), "/a.png no/b%20.png no");
+  }
+  EXPECT_EQ(PictureCount, 0);
+  inserts = true;
+  text().SetSelStart(5);
+  EXPECT_EQ(Drop(window().face, *Offer({"note.txt", "a.png", "letter.odd"})), Qt::CopyAction);
+  EXPECT_EQ(Text(), "cover\u00E4 note\nbold");
+  EXPECT_EQ(FontAt(12).bold, true);
+  EXPECT_EQ(Pictures.back().PictureFile, folder.PathOf("a.png"));
+  auto copied = std::make_unique<QMimeData>();
+  copied->setText(u"a.png"_qs);
+  copied->setData(u"x-special/gnome-copied-files"_qs,
+                  "copy\n" + Offer({"a.png"})->data(u"text/uri-list"_qs).trimmed());
+  QApplication::clipboard()->setMimeData(copied.release());
+  QTest::keySequence(&text(), QKeySequence::Paste);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return PictureCount == 2; }));
+  EXPECT_EQ(Opened(), "/a.png in/a.png in");
+  EXPECT_EQ(answers.texts(), fixture::Texts());
+}
+
+TEST_F(FilesOnAPage, ThatCannotBeTakenAreToldTogetherAndALinkIsText) {
+  Begin({"cover", "one"});
+  inserts = true;
+  PictureCount = 6;
+  Pictures.resize(7);
+  for (PagePicture& row : Pictures) row.JournalFile = FileOf(1);
+  Drop(window().face, *Offer({"folder", "sftp://far/a.png", "gone.png", "data", "a.png", "b%20.png"}));
+  EXPECT_EQ(Opened(), "/a.png in");
+  ASSERT_EQ(answers.messages.size(), 1U);
+  for (const char* words : {"/folder\n", "sftp://far/a.png\nIt lies on another", "/gone.png\n",
+                            "/data\nIt is neither", "/b%20.png\nMaximum pictures"})
+    EXPECT_NE(answers.last().find(words), std::string::npos) << words << answers.last();
+  EXPECT_EQ(Text(), "cover");
+  auto link = Offer({"https://example.org/"});
+  link->setText(u" a link"_qs);
+  text().SetSelStart(5);
+  QApplication::clipboard()->setMimeData(link.release());
+  QTest::keySequence(&text(), QKeySequence::Paste);
+  EXPECT_EQ(Text(), "cover a link");
 }
 
 }  // namespace
