@@ -30,7 +30,8 @@ frmPass::frmPass()
 void frmPass::cmdOK_Click() {
   if (UnscrambleText(MasterPassword) != txtPass->Bytes()) {
     platform::ShowMessage("password incorrect!", platform::BoxIcon::Stop);
-    txtPass->setFocus(Qt::OtherFocusReason);  // the text stays, to be mended or typed anew
+    txtPass->setFocus(Qt::OtherFocusReason);
+    txtPass->selectAll();  // the text stays, to be mended, and what is typed now takes its place
     return;
   }
   look::Discard(this);

@@ -9,9 +9,15 @@
 
 namespace {
 
-void ShowStop(const char* text, QWidget* toMend) {
+// What is typed next takes the place of what was wrong.
+void LetMend(QLineEdit& box) {
+  box.setFocus(Qt::OtherFocusReason);
+  box.selectAll();
+}
+
+void ShowStop(const char* text, QLineEdit* toMend) {
   platform::ShowMessage(text, platform::BoxIcon::Stop);
-  toMend->setFocus(Qt::OtherFocusReason);
+  LetMend(*toMend);
 }
 
 }  // namespace
@@ -55,7 +61,7 @@ bool frmPassChange::Complain() {
     txtNewPass->clear();
     txtNewPass2->clear();
   } else if (IsPasswordTooLong(txtNewPass->Bytes())) {
-    txtNewPass->setFocus(Qt::OtherFocusReason);
+    LetMend(*txtNewPass);
   } else {
     return false;
   }

@@ -17,7 +17,7 @@ TEST_F(LockTest, OpensOnceWithThePasswordAloneAndKeepsWhatIsToBeMended) {
   int unlocked = 0;
   QObject::connect(&lock, &frmPass::Unlocked, [&] { ++unlocked; });
   lock.ShowModeless();
-  for (const char* wrong : {"old", "Ol", "Old1", " Old", ""}) {
+  for (const char* wrong : {"", "old", "Ol", "Old1", " Old"}) {
     answers.messages.clear();
     lock.txtPass->setText(QLatin1String(wrong));
     QTest::keyClick(lock.txtPass, Qt::Key_Return);
@@ -25,7 +25,7 @@ TEST_F(LockTest, OpensOnceWithThePasswordAloneAndKeepsWhatIsToBeMended) {
     EXPECT_EQ(lock.txtPass->text(), QLatin1String(wrong));
   }
   EXPECT_EQ(unlocked, 0);
-  lock.txtPass->setText(QStringLiteral("Old"));
+  QTest::keyClicks(lock.txtPass, u"Old"_qs);  // over what was wrong
   Click(lock.cmdOK);
   EXPECT_EQ(unlocked, 1);
   EXPECT_FALSE(look::IsLoaded<frmPass>());
@@ -37,7 +37,7 @@ TEST_F(LockTest, ThePasswordChangesOnlyWhenEverythingIsRight) {
   auto& dialog = look::The<frmPassChange>();
   const struct {
     std::string old, fresh, again, message;
-    const QWidget* toMend;
+    const QLineEdit* toMend;
     bool clears = false;
   } cases[] = {{"Old ", "", "", "Old password incorrect!", dialog.txtPass},
                {"Old", "", "b", "You have not entered a new password!", dialog.txtNewPass},
@@ -56,6 +56,7 @@ TEST_F(LockTest, ThePasswordChangesOnlyWhenEverythingIsRight) {
     enter(old, fresh, again);
     EXPECT_EQ(answers.last(), message);
     EXPECT_EQ(dialog.focusWidget(), toMend) << message;
+    EXPECT_EQ(toMend->selectedText().size(), toMend->text().size()) << "to be typed over";
     EXPECT_EQ(dialog.txtNewPass->text().isEmpty(), clears || fresh.empty()) << message;
     EXPECT_EQ(UnscrambleText(MasterPassword), "Old");
     EXPECT_TRUE(dialog.isVisible());
