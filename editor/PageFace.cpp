@@ -100,6 +100,7 @@ void PageFace::MakePictures() {
   Placed(new look::PictureBox(this), QStringLiteral("picTemp"), 1320, 4545, 1020, 885)->hide();
   pictures = new PictureSlots(this);
   connect(txtM, &richtext::RichTextBox::MousePressed, pictures, &PictureSlots::HideControllers);
+  connect(pictures, &PictureSlots::Left, txtM, [this] { txtM->setFocus(); });
   connect(pictures, &PictureSlots::WheelTurned, this,
           [this](QWheelEvent* event) { QCoreApplication::sendEvent(txtM->viewport(), event); });
 }

@@ -1,5 +1,8 @@
 #include "editor/frmJournal.h"
 
+#include <algorithm>
+#include <vector>
+
 #include <QtGui/QKeyEvent>
 
 #include "editor/PageFace.h"
@@ -84,9 +87,13 @@ void frmJournal::CloseBox() {
 
 void frmJournal::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_F6) return Form::keyPressEvent(event);
-  const bool onTheToolbar = Toolbar1->isAncestorOf(focusWidget());
-  QWidget* target = onTheToolbar ? static_cast<QWidget*>(face->txtM) : Toolbar1->Button(1);
-  target->setFocus(Qt::ShortcutFocusReason);
+  std::vector<QWidget*> stops = {face->txtM, Toolbar1->Button(1)};
+  for (QWidget* picture : face->pictures->Stops()) stops.push_back(picture);
+  QWidget* const here = Toolbar1->isAncestorOf(focusWidget()) ? Toolbar1->Button(1) : focusWidget();
+  const auto stop = std::find(stops.begin(), stops.end(), here) - stops.begin();
+  const auto count = static_cast<std::ptrdiff_t>(stops.size());
+  const auto next = stop + (event->modifiers() & Qt::ShiftModifier ? count - 1 : 1);
+  stops[static_cast<std::size_t>(next % count)]->setFocus(Qt::ShortcutFocusReason);
 }
 
 void frmJournal::resizeEvent(QResizeEvent* event) {
@@ -95,33 +102,36 @@ void frmJournal::resizeEvent(QResizeEvent* event) {
 }
 
 // What puts another page into the text box, or looks one up, stores the page first; what acts on the page in
-// place stores nothing.
+// place stores nothing. Behind a command with a window of its own the keyboard is in the page again; one that
+// turns pages leaves it on its button, to be pressed once more.
 void frmJournal::Toolbar1_ButtonClick(const QString& key) {
   struct Command {
     const char16_t* key;
     bool stores;
+    bool leadsToThePage;
     void (*act)(frmJournal&);
   };
   static constexpr Command commands[] = {
-      {u"btnNewPage", true, [](frmJournal&) { AddNewPage(); }},
-      {u"btnFirstPage", true, [](frmJournal&) { GoFirstPage(); }},
-      {u"btnBack", true, [](frmJournal&) { GoBackPage(); }},
-      {u"btnNext", true, [](frmJournal&) { GoNextPage(); }},
-      {u"btnLastPage", true, [](frmJournal&) { GoLastPage(); }},
-      {u"btnPrint", false, [](frmJournal& window) { Q_EMIT window.PrintRequested(); }},
-      {u"btnIndex", true, [](frmJournal&) { ShowJournalIndex(); }},
-      {u"btnCal", true, [](frmJournal& window) { window.OpenCalendar(); }},
-      {u"btnInsertEmoticon", false, [](frmJournal&) { ShowEmoticonPicker(); }},
-      {u"btnInsertPicture", false, [](frmJournal&) { StartAddPicture(); }},
-      {u"btnFont", false, [](frmJournal&) { ChangeSelectionFont(); }},
-      {u"btnOptions", false, [](frmJournal& window) { window.OpenOptions(); }},
-      {u"btnJournalProperties", false, [](frmJournal& window) { window.OpenJournalProperties(); }},
-      {u"btnHelp", false, [](frmJournal&) { platform::SendKey(Qt::Key_F1); }},
+      {u"btnNewPage", true, false, [](frmJournal&) { AddNewPage(); }},
+      {u"btnFirstPage", true, false, [](frmJournal&) { GoFirstPage(); }},
+      {u"btnBack", true, false, [](frmJournal&) { GoBackPage(); }},
+      {u"btnNext", true, false, [](frmJournal&) { GoNextPage(); }},
+      {u"btnLastPage", true, false, [](frmJournal&) { GoLastPage(); }},
+      {u"btnPrint", false, true, [](frmJournal& window) { Q_EMIT window.PrintRequested(); }},
+      {u"btnIndex", true, true, [](frmJournal&) { ShowJournalIndex(); }},
+      {u"btnCal", true, true, [](frmJournal& window) { window.OpenCalendar(); }},
+      {u"btnInsertEmoticon", false, true, [](frmJournal&) { ShowEmoticonPicker(); }},
+      {u"btnInsertPicture", false, true, [](frmJournal&) { StartAddPicture(); }},
+      {u"btnFont", false, true, [](frmJournal&) { ChangeSelectionFont(); }},
+      {u"btnOptions", false, true, [](frmJournal& window) { window.OpenOptions(); }},
+      {u"btnJournalProperties", false, true, [](frmJournal& window) { window.OpenJournalProperties(); }},
+      {u"btnHelp", false, false, [](frmJournal&) { platform::SendKey(Qt::Key_F1); }},
   };
   for (const Command& command : commands) {
     if (key != QStringView(command.key)) continue;
     face->txtM->CommitComposition();
     if (command.stores) StoreCurrentPage();
+    if (command.leadsToThePage) face->txtM->setFocus();
     command.act(*this);
   }
 }

@@ -41,7 +41,7 @@ class frmJournal : public look::Form {
   void PrintRequested();
 
  protected:
-  // F6 leads the keyboard from the page to the toolbar and back.
+  // F6 leads the keyboard from the page to the toolbar, to each picture, and back; Shift+F6 the other way.
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 

@@ -3,11 +3,15 @@
 #include <algorithm>
 #include <chrono>
 
+#include <QtCore/QFile>
 #include <QtCore/QPointer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 
 #include "look/PictureBox.h"
+#include "look/Spoken.h"
+#include "pictures/PageRows.h"
+#include "pictures/PictureKeys.h"
 #include "pictures/StretchedImage.h"
 #include "pictures/modPictures.h"
 #include "platform/Failure.h"
@@ -28,37 +32,22 @@ constexpr int FrameLeft = 1;
 constexpr int TitleBarAllowance = 32;
 constexpr std::chrono::milliseconds Lingering(500);
 
-// The toolkit's own limit for a control's size, and far beyond any screen as a place. Rows may hold any
-// number.
-constexpr int MostPixels = 16'000'000;
-
 QPointer<PictureSlots> theSlots;
 
-QPoint PlaceOf(const PagePicture& picture) {
-  return {std::clamp(picture.Left, -MostPixels, MostPixels),
-          std::clamp(picture.Top, -MostPixels, MostPixels)};
+QString FileNameOf(const std::string& path) {
+  return QFile::decodeName(path.c_str()).section(u'/', -1);
 }
 
-QSize SizeOf(const PagePicture& picture) {
-  return {std::clamp(picture.PictureWidth, 0, MostPixels), std::clamp(picture.PictureHeight, 0, MostPixels)};
+QString PlaceInWords(const QWidget& box) {
+  return QStringLiteral("%1 pixels from the left, %2 from the top").arg(box.x()).arg(box.y());
 }
 
-PagePicture& Row(std::int32_t row) {
-  return Pictures.at(static_cast<std::size_t>(row));
-}
-
-bool BelongsTo(std::int32_t page, const PagePicture& picture, const std::string& journalFile) {
-  return picture.PageNumber == page && picture.JournalFile == journalFile && picture.Deleted != True &&
-         platform::FileExists(picture.PictureFile);
-}
-
-// Of the open journal, those whose picture files are there.
-std::vector<std::int32_t> RowsOf(std::int32_t page) {
-  const std::string& journalFile = Journals.at(static_cast<std::size_t>(CurrentJournal)).FileName;
-  std::vector<std::int32_t> rows;
-  for (std::int32_t row = 1; row <= PictureCount; ++row)
-    if (BelongsTo(page, Row(row), journalFile)) rows.push_back(row);
-  return rows;
+// "Picture 1: lake.jpg, frame Lace"
+QString Spoken(std::size_t slot, const PagePicture& picture) {
+  const QString name =
+      QStringLiteral("Picture %1: %2").arg(QString::number(slot + 1), FileNameOf(picture.PictureFile));
+  if (picture.FrameIndex < 1) return name;
+  return name + QStringLiteral(", frame ") + FileNameOf(picture.FrameFile).section(u'.', 0, -2);
 }
 
 QImage HandleBar(double devicePixelRatio) {
@@ -83,6 +72,7 @@ void PictureSlots::MakeSlot(std::size_t slot, QWidget* page) {
   constexpr int left[Count] = {100, 320, 160, 340, 80, 240, 300};
   constexpr int top[Count] = {80, 100, 220, 280, 380, 420, 460};
   auto* box = new look::PictureBox(page);
+  look::SpeakAs(*box, QAccessible::Graphic);
   box->setObjectName(QStringLiteral("picDisplayPics(%1)").arg(slot));
   box->setAccessibleName(QStringLiteral("Picture %1").arg(slot + 1));
   box->setGeometry(left[slot], top[slot], 202, 163);
@@ -116,11 +106,35 @@ void PictureSlots::ConnectSlot(std::size_t slot) {
   connect(handle, &StretchedImage::MouseMove, this, [this, slot] { imgController_MouseMove(slot); });
   connect(handle, &StretchedImage::MouseUp, this, &PictureSlots::imgController_MouseUp);
   connect(handle, &StretchedImage::DblClick, this, [this, slot] { imgController_DblClick(slot); });
+  ListenToKeys(slot);
+}
+
+// What the mouse does with the handle.
+void PictureSlots::ListenToKeys(std::size_t slot) {
+  auto* keys = new PictureKeys(picDisplayPics[slot]);
+  connect(keys, &PictureKeys::Chosen, this, [this, slot] { imgPhoto_Click(slot); });
+  connect(keys, &PictureKeys::Dropped, this, &PictureSlots::HideControllers);
+  connect(keys, &PictureKeys::Moved, this,
+          [this, slot](QPoint pixels) { MoveTo(slot, PlaceOf(PictureRow(RowOf(slot))) + pixels); });
+  connect(keys, &PictureKeys::Put, this, &PictureSlots::imgController_MouseUp);
+  connect(keys, &PictureKeys::Removed, this, [this, slot] {
+    Remove(slot);
+    imgController_MouseUp();
+    Q_EMIT Left();
+  });
+  connect(keys, &PictureKeys::Left, this, &PictureSlots::Left);
+}
+
+std::vector<QWidget*> PictureSlots::Stops() const {
+  std::vector<QWidget*> stops;
+  for (look::PictureBox* box : picDisplayPics)
+    if (box->isVisible()) stops.push_back(box);
+  return stops;
 }
 
 // The handle's visibility is left alone: one that shows goes over to whatever picture comes into its slot.
 void PictureSlots::Show(std::size_t slot, std::int32_t row) {
-  PagePicture& picture = Row(row);
+  PagePicture& picture = PictureRow(row);
   const QSize size = SizeOf(picture);
   imgPhoto[slot]->SetPicture(ready_.Get({picture.PictureFile, size, page_->devicePixelRatioF()}));
   imgPhoto[slot]->resize(size);
@@ -138,6 +152,8 @@ void PictureSlots::ShowFrame(std::size_t slot, PagePicture& picture) {
     picture.FrameFile.clear();
     picture.FrameIndex = 0;
   }
+  picDisplayPics[slot]->setAccessibleName(Spoken(slot, picture));
+  picDisplayPics[slot]->setAccessibleDescription(PlaceInWords(*picDisplayPics[slot]));
   if (picture.FrameIndex < 1) return imgFrame[slot]->SetPicture({});
   const QSize size = SizeOf(picture);
   imgFrame[slot]->SetPicture(ready_.Get({picture.FrameFile, size, page_->devicePixelRatioF()}));
@@ -179,10 +195,15 @@ void PictureSlots::imgController_MouseDown(std::size_t slot) {
 void PictureSlots::imgController_MouseMove(std::size_t slot) {
   if (!dragged_) return;
   const QPoint corner = page_->window()->frameGeometry().topLeft();
-  PagePicture& picture = Row(RowOf(slot));
-  picture.Left = MouseTracker.X() - corner.x();
-  picture.Top = MouseTracker.Y() - corner.y() - TitleBarAllowance;
-  picDisplayPics[*dragged_]->move(PlaceOf(picture));
+  MoveTo(slot, QPoint(MouseTracker.X(), MouseTracker.Y() - TitleBarAllowance) - corner);
+}
+
+void PictureSlots::MoveTo(std::size_t slot, QPoint place) {
+  PagePicture& picture = PictureRow(RowOf(slot));
+  picture.Left = place.x();
+  picture.Top = place.y();
+  picDisplayPics[slot]->move(PlaceOf(picture));
+  picDisplayPics[slot]->setAccessibleDescription(PlaceInWords(*picDisplayPics[slot]));
 }
 
 void PictureSlots::imgController_MouseUp() {
@@ -193,11 +214,15 @@ void PictureSlots::imgController_MouseUp() {
 // The button-up that follows saves. The handle has lost the mouse by being hidden, and the text beneath must
 // not get it. Where a message stood meanwhile, the button is up already.
 void PictureSlots::imgController_DblClick(std::size_t slot) {
-  Row(RowOf(slot)).Deleted = True;
-  ShowPagePicturesOrTell();
+  Remove(slot);
   if (QGuiApplication::mouseButtons() == Qt::NoButton) return imgController_MouseUp();
   page_->installEventFilter(this);
   page_->grabMouse();
+}
+
+void PictureSlots::Remove(std::size_t slot) {
+  PictureRow(RowOf(slot)).Deleted = True;
+  ShowPagePicturesOrTell();
 }
 
 bool PictureSlots::eventFilter(QObject* /*watched*/, QEvent* event) {
@@ -212,7 +237,7 @@ std::vector<pictures::WantedPicture> PictureSlots::WantedBy(const std::vector<st
   std::vector<pictures::WantedPicture> wanted;
   const double ratio = page_->devicePixelRatioF();
   for (const std::int32_t row : rows) {
-    const PagePicture& picture = Row(row);
+    const PagePicture& picture = PictureRow(row);
     wanted.push_back({picture.PictureFile, SizeOf(picture), ratio});
     if (picture.FrameIndex >= 1) wanted.push_back({picture.FrameFile, SizeOf(picture), ratio});
   }
@@ -221,7 +246,7 @@ std::vector<pictures::WantedPicture> PictureSlots::WantedBy(const std::vector<st
 
 // Deals the rows out to the slots; returns the first failure. A row that cannot be shown leaves no gap.
 std::optional<platform::Failure> PictureSlots::DealOut() {
-  const std::vector<std::int32_t> rows = RowsOf(CurrentPage);
+  const std::vector<std::int32_t> rows = PictureRowsOf(CurrentPage);
   ready_.Visit(WantedBy({rows.begin(), rows.size() < Count ? rows.end() : rows.begin() + Count}));
   lingers_.start();
   std::optional<platform::Failure> failure;
@@ -240,8 +265,8 @@ std::optional<platform::Failure> PictureSlots::DealOut() {
 }
 
 void PictureSlots::PrepareNeighbours() {
-  std::vector<std::int32_t> rows = RowsOf(CurrentPage + 1);
-  for (const std::int32_t row : RowsOf(CurrentPage - 1)) rows.push_back(row);
+  std::vector<std::int32_t> rows = PictureRowsOf(CurrentPage + 1);
+  for (const std::int32_t row : PictureRowsOf(CurrentPage - 1)) rows.push_back(row);
   ready_.Prepare(WantedBy(rows));
 }
 

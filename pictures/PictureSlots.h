@@ -59,7 +59,13 @@ class PictureSlots : public QObject {
   void SetPaper(std::uint32_t color);
   int PageHeight() const { return page_->height(); }
 
+  // The slots that show a picture, in their order: each is a stop of the keyboard, where the arrows move the
+  // picture by 8 pixels, with Ctrl by 1, and Delete takes it off the page.
+  std::vector<QWidget*> Stops() const;
+
  Q_SIGNALS:
+  // The keyboard is done with a picture.
+  void Left();
   // The wheel was turned over a picture: it is the text's.
   void WheelTurned(QWheelEvent* event);
 
@@ -80,6 +86,10 @@ class PictureSlots : public QObject {
   // Puts the row into the slot and shows it; drops a frame from the row that is not there.
   void Show(std::size_t slot, std::int32_t row);
   void ShowFrame(std::size_t slot, PagePicture& picture);
+
+  void ListenToKeys(std::size_t slot);
+  void MoveTo(std::size_t slot, QPoint place);
+  void Remove(std::size_t slot);
 
   void imgPhoto_Click(std::size_t slot);
   void imgController_MouseDown(std::size_t slot);

@@ -1,5 +1,6 @@
 // The window itself: its measures and its toolbar.
 #include "look/PictureBox.h"
+#include "pictures/PictureSlots.h"
 #include "tests/editor/OpenBook.h"
 
 namespace {
@@ -47,13 +48,36 @@ TEST_F(Window, TogglingTheCaptionsGoesByTheOldPositions) {
   EXPECT_EQ(text().geometry(), page);
 }
 
-TEST_F(Window, F6LeadsFromThePageToTheToolbarAndBack) {
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
-  for (const QWidget* target :
-       {static_cast<QWidget*>(window().Toolbar1->Button(1)), static_cast<QWidget*>(face().txtM)}) {
+TEST_F(Window, F6LeadsRoundThePageTheToolbarAndThePictures) {
+  folder.WritePicture("photo.png");
+  PictureCount = 1;
+  Pictures.resize(2);
+  Pictures[1].PictureFile = folder.PathOf("photo.png");
+  Pictures[1].PictureWidth = Pictures[1].PictureHeight = 50;
+  Pictures[1].JournalFile = Journals[1].FileName;
+  ShowPagePictures();
+  QWidget* const round[] = {window().Toolbar1->Button(1), face().pictures->picDisplayPics[0], &text()};
+  for (const QWidget* target : round) {
     QTest::keyClick(window().focusWidget(), Qt::Key_F6);
     EXPECT_EQ(window().focusWidget(), target);
   }
+  for (const int target : {1, 0, 2}) {
+    QTest::keyClick(window().focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
+    EXPECT_EQ(window().focusWidget(), round[target]);
+  }
+}
+
+TEST_F(Window, AfterACommandWithAWindowOfItsOwnTheKeysAreInThePage) {
+  platform::SetFontChooser([](const auto&) { return platform::DialogResult<platform::FontValues>{}; });
+  const fixture::Dismissal dismissal;
+  for (const char* key : {"btnFont", "btnInsertPicture", "btnCal", "btnInsertEmoticon", "btnIndex"}) {
+    auto* button = window().Toolbar1->Button(QString::fromLatin1(key));
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Space);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window().focusWidget(), &text()) << key;
+  }
+  platform::SetFontChooser({});
 }
 
 }  // namespace

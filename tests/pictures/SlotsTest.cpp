@@ -159,4 +159,32 @@ TEST_F(Slots, ADoubleClickRemovesAndItsEndSavesWhoeverLiesBeneath) {
   EXPECT_EQ(text->events, 2) << "the mouse is free again";
 }
 
+TEST_F(Slots, KeysMoveAPictureAndTakeItOffAndEachChangeIsSaved) {
+  Add(photo, {30, 40, 50, 50});
+  Add(photo, {100, 0, 50, 50});
+  ShowPagePictures();
+  int left = 0;
+  QObject::connect(pictures, &PictureSlots::Left, text, [&] { text->setFocus(), ++left; });
+  const std::vector<QWidget*> stops = pictures->Stops();
+  ASSERT_EQ(stops.size(), 2U);
+  stops[1]->setFocus();
+  EXPECT_EQ(Rows(), "1[2]");
+  QTest::keyPress(stops[1], Qt::Key_Left, Qt::ControlModifier);
+  EXPECT_FALSE(folder.Exists("tqpics.bin")) << "saved when the key is up";
+  QTest::keyRelease(stops[1], Qt::Key_Left, Qt::ControlModifier);
+  QTest::keyClick(stops[1], Qt::Key_Down);
+  EXPECT_EQ(Saved(), "30,40 99,8 ");
+  auto* spoken = QAccessible::queryAccessibleInterface(stops[1]);
+  EXPECT_EQ(spoken->role(), QAccessible::Graphic);
+  EXPECT_EQ(spoken->text(QAccessible::Name), u"Picture 2: photo.png");
+  EXPECT_EQ(spoken->text(QAccessible::Description), u"99 pixels from the left, 8 from the top");
+  QTest::keyClick(stops[1], Qt::Key_Escape);
+  EXPECT_EQ(Rows(), "12");
+  stops[0]->setFocus();
+  QTest::keyClick(stops[0], Qt::Key_Delete);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Rows() + Saved(), "299,8 ");
+  EXPECT_TRUE(text->hasFocus() && left >= 2);
+}
+
 }  // namespace
