@@ -22,6 +22,7 @@
 #include "platform/desktop/Keystroke.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/SyncFolder.h"
+#include "richtext/box/RichTextBox.h"
 #include "state/PageInHand.h"
 #include "store/JournalTraces.h"
 #include "store/NewJournals.h"
@@ -220,7 +221,9 @@ bool frmBookcase::DressJournalWindow() {
 void frmBookcase::cmdOpen_Click() {
   if (ListView1->count() == 0) return;
   if (!DressJournalWindow()) return;
-  look::The<frmJournal>().ShowModeless();
+  auto& book = look::The<frmJournal>();
+  book.face->txtM->setFocus();  // wherever the keyboard was when the journal before was closed
+  book.ShowModeless();
   hide();
 }
 
@@ -229,7 +232,11 @@ void frmBookcase::ShowAgain() {
 }
 
 void frmBookcase::cmdAdd_Click() {
+  const int before = ListView1->count();
   look::The<frmNewJournal>().ShowModal();
+  if (ListView1->count() == before) return;
+  ListView1->setCurrentRow(ListView1->count() - 1);
+  ListView1->setFocus();
 }
 
 // Only the file's own deletion is guarded: in a run without a picture store the save fails, which ends the
@@ -249,6 +256,7 @@ void frmBookcase::cmdDelete_Click() {
   if (!isShared) RemovePicturesOf(fileName);
   SavePictureStore();
   RefreshBookcaseList();
+  ListView1->setFocus();
   isShared ? TellShared(fileName) : TellLeft(left, store::LogsWith(fileName));
 }
 

@@ -3,6 +3,7 @@
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmNewJournal.h"
 #include "editor/PageFace.h"
+#include "editor/Toolbar.h"
 #include "editor/frmJournal.h"
 #include "output/frmExport.h"
 #include "platform/desktop/RunUrl.h"
@@ -68,6 +69,7 @@ TEST_F(BookcaseTest, OpensTheRowOfTheItemAndComesBackAtItsClosing) {
   answers.yes = 1;
   Click(Window().cmdDelete);
   EXPECT_EQ(Listed(), "two2 [*]3 ");
+  EXPECT_TRUE(List().hasFocus());
   for (const std::int32_t row : {2, 3}) {
     List().setCurrentRow(row - 2);
     row == 2 ? Click(Window().cmdOpen) : QTest::keyClick(&List(), Qt::Key_Return);
@@ -77,6 +79,8 @@ TEST_F(BookcaseTest, OpensTheRowOfTheItemAndComesBackAtItsClosing) {
     EXPECT_EQ(Book().face->txtM->BackColor(), entry.PaperColor);
     EXPECT_EQ(Book().windowIcon().cacheKey(), JournalIcon(row == 3 ? 63 : 1).cacheKey());
     EXPECT_FALSE(Window().isVisible());
+    EXPECT_EQ(Book().focusWidget(), Book().face->txtM) << "wherever the keyboard was at the closing";
+    Book().Toolbar1->Button(15)->setFocus();
     Book().close();
     EXPECT_TRUE(Window().isVisible());
   }
@@ -215,6 +219,7 @@ TEST_F(BookcaseTest, AddsAJournalThroughTheDialogAndEscapeIsNoWayOut) {
     QTest::keyClick(dialog.txtPass, Qt::Key_Return);
   });
   Click(Window().cmdAdd);
+  EXPECT_TRUE(List().currentRow() == 1 && Window().focusWidget() == &List()) << "the new one is chosen";
   QTimer::singleShot(0, [] { QTest::keyClick(&look::The<frmNewJournal>(), Qt::Key_Escape); });
   Click(Window().cmdAdd);
   EXPECT_EQ(answers.texts(), fixture::Texts{"Please enter a name for this journal!"});
