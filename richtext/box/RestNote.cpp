@@ -3,10 +3,9 @@
 namespace richtext {
 
 RestNote::RestNote(QWidget* parent)
-    : QLabel(
-          tr("This page is too high to be shown whole. What is missing here is kept: it is stored, printed "
-             "and exported with the page."),
-          parent) {
+    : QLabel(tr("This page is too high to be shown as it is. What is missing or smaller here is kept: it is "
+                "stored, printed and exported with the page."),
+             parent) {
   setObjectName(QStringLiteral("lblRest"));
   setTextFormat(Qt::PlainText);
   setWordWrap(true);

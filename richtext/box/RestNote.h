@@ -1,4 +1,4 @@
-// The note under a page that is too high to be shown whole.
+// The note under a page that is too high to be shown as it is.
 #pragma once
 
 #include <QtWidgets/QLabel>

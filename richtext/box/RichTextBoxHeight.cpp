@@ -14,9 +14,9 @@ void RichTextBox::GuardHeight(int at, int removed, int added) {
 
 // The note takes its place when an edit is over, since that lays the page out.
 void RichTextBox::TellOfRest() {
-  if (guard_->Hides() == rest_->IsShown()) return;
+  if (guard_->IsAllShown() != rest_->IsShown()) return;
   QTimer::singleShot(0, this, [this] {
-    rest_->Show(guard_->Hides());
+    rest_->Show(!guard_->IsAllShown());
     setViewportMargins(0, 0, 0, rest_->HeightFor(viewport()->width()));
     rest_->PlaceBelow(*viewport());
   });

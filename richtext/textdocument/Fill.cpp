@@ -130,13 +130,20 @@ class Filler {
   std::size_t picture_ = 0;
 };
 
+// Whether smaller letters (HeightGuard) make them lower.
+bool AreLinesAsHighAsLetters(const QTextBlockFormat& format) {
+  return format.lineHeightType() == QTextBlockFormat::SingleHeight ||
+         format.lineHeightType() == QTextBlockFormat::ProportionalHeight;
+}
+
 // A paragraph that alone is too high gets lower lines, so that it is shown. Few letters make none.
 void Squeeze(QTextDocument& document, int from, int to) {
   constexpr int Few = 500;
   HeightBound bound(document, PageWidth(document));
   for (QTextBlock block = document.findBlock(from); block.isValid() && block.position() <= to;
        block = block.next()) {
-    if (block.length() < Few || bound.Of(block) <= TallestParagraph) continue;
+    if (block.length() < Few || AreLinesAsHighAsLetters(block.blockFormat())) continue;
+    if (bound.Of(block) <= TallestParagraph) continue;
     QTextCursor(block).setBlockFormat(
         WithLineHeight(block.blockFormat(), TallestParagraph / bound.Lines(block)));
   }

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
+#include <QtGui/QTextLayout>
 
 #include "richtext/characters/Unicode.h"
 #include "richtext/textdocument/Formats.h"
@@ -19,6 +21,8 @@ constexpr double NarrowestRoom = 4;  // pixels; a line holds one letter at least
 constexpr double NarrowestPage = 20;
 constexpr double ScrollBar = 20;
 constexpr double TypedBetweenCounts = 300'000;
+constexpr double LowerLetters[] = {96, 48, 24, 12, 6, 3, 1};  // points
+constexpr int IsLowered = QTextFormat::UserProperty;          // bool, of a layout's format
 
 // Of a letter's body.
 constexpr double WidthOfBlank = 0.5;
@@ -69,12 +73,43 @@ double InLines(const QTextBlockFormat& format, double lines, double line, double
   }
 }
 
+// What an input method shows has formats of its own there, which the toolkit gives it in the place of all
+// others. Returns whether something is new.
+bool ShowLetters(const QTextBlock& block, std::optional<double> points) {
+  const auto isOurs = [](const QTextLayout::FormatRange& range) {
+    return range.format.hasProperty(IsLowered);
+  };
+  QList<QTextLayout::FormatRange> formats = block.layout()->formats();
+  formats.removeIf(isOurs);
+  if (points) {
+    QTextCharFormat format;
+    format.setFontPointSize(*points);
+    format.setProperty(IsLowered, true);
+    formats.prepend({0, INT_MAX, format});
+  }
+  if (formats == block.layout()->formats()) return false;
+  block.layout()->setFormats(formats);
+  return true;
+}
+
 }  // namespace
 
 double HeightBound::Of(const QTextBlock& block, int from, int to) {
   Measure(block, from, to);
   const QTextBlockFormat format = block.blockFormat();
   return format.topMargin() + format.bottomMargin() + InLines(format, lines_, line_, pictures_);
+}
+
+// Pictures and what stands empty behind a last line break stay as they are.
+double HeightBound::OfLettersIn(double points, const QTextBlock& block) {
+  body_ = points * PixelsPerPoint();
+  const double height = Of(block);
+  body_.reset();
+  return height + LettersOf(block).body * LineOfForeign;
+}
+
+double HeightBound::BodyOf(const Letters& letters) const {
+  return body_.value_or(letters.body);
 }
 
 double HeightBound::Lines(const QTextBlock& block) {
@@ -95,7 +130,7 @@ void HeightBound::Measure(const QTextBlock& block, int from, int to) {
   tab_ = TabWidth(format, document_.defaultTextOption().tabStopDistance(), room_);
   lines_ = 2;  // the first may be indented
   word_ = pictures_ = 0;
-  line_ = LettersOf(block).body * LineOfMost + LeastLine;
+  line_ = BodyOf(LettersOf(block)) * LineOfMost + LeastLine;
   const QString text = block.text();
   int at = 0;
   for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -109,7 +144,7 @@ void HeightBound::Measure(const QTextBlock& block, int from, int to) {
 
 void HeightBound::Add(const Letters& letters, const QString& text, int from, int to) {
   double tallest = LineOfMost;
-  const double body = letters.body * letters.share;
+  const double body = BodyOf(letters) * letters.share;
   for (int i = from; i < to; ++i) {
     const char16_t unit = text.at(i).unicode();
     AddLetter(unit, letters.arePictures ? letters.width : unit == u'\t' ? tab_ : WidthOf(unit) * body);
@@ -164,7 +199,8 @@ double HeightBound::ShareOf(const QString& family) {
                                    metrics.lineSpacing() / (LineOfMost * Body)});
 }
 
-// What comes in behind what is hidden is hidden, too.
+// What comes in behind what is hidden is hidden, too. What becomes of smaller letters is not reckoned piece
+// by piece: another paragraph may have them now.
 void HeightGuard::NoteChange(int at, int removed, int added) {
   const bool isAllNew = added >= document_.characterCount() - 1;
   if (isAllNew) {
@@ -178,14 +214,15 @@ void HeightGuard::NoteChange(int at, int removed, int added) {
     bound_ += heights_->Of(block, at - block.position(), at + added - block.position());
   }
   const bool mayShowMore = removed > 1 && Hides();
-  if (bound_ <= recountAt_ && !mayShowMore) return;
+  if (bound_ <= recountAt_ && !mayShowMore && !lowers_) return;
   const int first = Recount();
   if (first < document_.characterCount())
     document_.markContentsDirty(first, document_.characterCount() - first);
 }
 
 void HeightGuard::SetWidth(double pixels) {
-  width_ = std::max(pixels - ScrollBar, NarrowestPage);
+  const double width = std::max(pixels - ScrollBar, NarrowestPage);
+  if (std::exchange(width_, width) == width) return;
   heights_.emplace(document_, width_);
   Recount();
 }
@@ -194,20 +231,33 @@ bool HeightGuard::Hides() const {
   return !document_.lastBlock().isVisible();
 }
 
-// Returns the position of the first block that is shown and was hidden, or the other way round.
+// Returns the position of the first block that is shown in another way than before.
 int HeightGuard::Recount() {
   int first = document_.characterCount();
   bound_ = 0;
   bool fits = true;
+  lowers_ = false;
   for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
-    const double height = fits ? heights_->Of(block) : 0;
+    const auto [height, points] = fits ? Shown(block) : Look();
     fits = fits && bound_ + height <= TallestPage;
     if (fits) bound_ += height;
-    if (block.isVisible() != fits) first = std::min(first, block.position());
+    lowers_ = lowers_ || (fits && points);
+    const bool isNew = ShowLetters(block, points);
+    if (isNew || block.isVisible() != fits) first = std::min(first, block.position());
     block.setVisible(fits);
   }
   recountAt_ = std::max(TallestPage, bound_ + TypedBetweenCounts);
   return first;
+}
+
+// One that is too high in any letters keeps its own.
+HeightGuard::Look HeightGuard::Shown(const QTextBlock& block) {
+  const double height = heights_->Of(block);
+  if (height <= TallestParagraph) return {height, std::nullopt};
+  for (const double points : LowerLetters)
+    if (const double lower = heights_->OfLettersIn(points, block); lower <= TallestParagraph)
+      return {lower, points};
+  return {height, std::nullopt};
 }
 
 }  // namespace richtext

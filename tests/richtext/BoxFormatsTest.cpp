@@ -164,10 +164,10 @@ class TooHighTest : public BoxTest {
 
 TEST_F(TooHighTest, IsKeptAndShownAsFarAsItGoes) {
   const std::pair<std::string, bool> pages[] = {
-      {"\\fs3276 " + std::string(9000, 'm'), false},
+      {"\\fs3276 " + std::string(9000, 'm'), true},
       {"\\li7000\\sl32767\\slmult0 " + Times(4500, "a "), false},
       {"\\deftab32767\\sl32767\\slmult1 " + Times(4500, "\\tab a"), false},
-      {"\\fs600\\li7000\\ri-9\\tx8000 " + Times(19'000, "a "), false},
+      {"\\fs600\\li7000\\ri-9\\tx8000 " + Times(19'000, "a "), true},
       {"\\fs600 first\\par\\ri7000\\sb32767 " + Times(6000, "a\\par "), true},
   };
   for (const auto& [page, isTold] : pages) {
@@ -183,12 +183,12 @@ TEST_F(TooHighTest, IsKeptAndShownAsFarAsItGoes) {
 }
 
 TEST_F(TooHighTest, ComesOfEditsAsWell) {
-  for (const auto& [part, isTold] : {std::pair{"a ", false}, {"a\n", true}}) {
+  for (const char* text : {"a ", "a\n"}) {
     Set(Page("\\fs2000\\par"));
-    Copy([&, text = part](QMimeData& data) { data.setText(QString::fromLatin1(text).repeated(4500)); });
+    Copy([&](QMimeData& data) { data.setText(QString::fromLatin1(text).repeated(4500)); });
     Press(Qt::Key_V, Qt::ControlModifier);
     ExpectShown();
-    EXPECT_EQ(IsTold(), isTold);
+    EXPECT_TRUE(IsTold());
   }
   Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_FALSE(IsTold());
@@ -196,6 +196,51 @@ TEST_F(TooHighTest, ComesOfEditsAsWell) {
   ExpectShown();
   EXPECT_TRUE(IsTold());
   EXPECT_EQ(Text().size(), 9000u);
+}
+
+// A paragraph that alone is too high, in letters that fit; its own are kept.
+TEST_F(TooHighTest, IsShownInSmallerLetters) {
+  const auto expectLower = [&](bool isLower) {
+    ExpectShown();
+    EXPECT_EQ(IsTold(), isLower);
+    EXPECT_EQ(FormatAt(3000), isLower ? "(800 Arial)" : Plain);
+  };
+  Set(Page(Times(6400, "m")));
+  box.selectAll();
+  for (const double size : {400, 10, 400}) {
+    box.SetSelFontSize(size);
+    expectLower(size > 10);
+  }
+  box.undo();
+  expectLower(false);
+  box.redo();
+  expectLower(true);
+  box.SetSelStart(3000);
+  QInputMethodEvent composing(u"ni"_qs, {{QInputMethodEvent::TextFormat, 0, 2, QTextCharFormat()}});
+  QApplication::sendEvent(&box, &composing);
+  expectLower(true);
+  box.CommitComposition();
+  Type("x");
+  Press(Qt::Key_Return);
+  expectLower(true);
+  Press(Qt::Key_Backspace);
+  box.resize(60, 300);
+  expectLower(true);
+  box.resize(6000, 300);
+  ExpectShown();
+  EXPECT_FALSE(IsTold());
+}
+
+// After letters have gone one by one, more would fit.
+TEST_F(TooHighTest, AHigherWindowShowsNothingThatIsNotLaidOut) {
+  Set(Page("\\fs3276 " + Times(400, "mm\\par ")));
+  ExpectShown();
+  EXPECT_TRUE(IsTold());
+  for (int i = 0; i < 8; ++i) Press(Qt::Key_Delete), Press(Qt::Key_Down);
+  box.resize(400, 500);
+  ExpectShown();
+  for (QTextBlock block = box.document()->begin(); block.isVisible(); block = block.next())
+    ASSERT_GT(block.layout()->lineCount(), 0);
 }
 
 TEST_F(BoxFormatsTest, KeepsPicturesOfEveryKind) {
