@@ -18,7 +18,11 @@ constexpr std::size_t BytesOfLinkByte = 4;  // escaped
 std::size_t MostBytes(const richtext::Document& document, std::size_t size) {
   const bool hasLinks = std::any_of(document.formats.begin(), document.formats.end(),
                                     [](const auto& format) { return !format.link.empty(); });
-  return HeaderAndTables + MostBytesForOne * size + (hasLinks ? BytesOfLinkByte * richtext::MaxLinkText : 0);
+  const bool hasLists =
+      std::any_of(document.paragraphFormats.begin(), document.paragraphFormats.end(),
+                  [](const auto& format) { return format.list.kind != richtext::ListKind::None; });
+  return HeaderAndTables + MostBytesForOne * size + (hasLinks ? BytesOfLinkByte * richtext::MaxLinkText : 0) +
+         (hasLists ? richtext::MaxListTable : 0);
 }
 
 }  // namespace

@@ -88,13 +88,21 @@ struct ParagraphFormat {
   std::int32_t firstLineIndent = 0;  // added to leftIndent for the first line; negative: hanging
   std::int32_t spaceBefore = 0;
   std::int32_t spaceAfter = 0;
+  bool autoBefore = false;  // as on a web page, whatever measure is told
+  bool autoAfter = false;
   LineSpacingRule lineSpacingRule = LineSpacingRule::Single;
   std::int32_t lineSpacing = 0;  // Multiple: 240ths of a line; AtLeast, Exact: twips
   std::vector<TabStop> tabs;     // by position
   ListFormat list;
+  std::optional<std::uint32_t> ground;  // 0x00BBGGRR behind all of it; nothing: the paper
 
   bool operator==(const ParagraphFormat&) const = default;
 };
+
+// The spaces before and after a paragraph as they are shown: where they are automatic, none between the items
+// of a list.
+std::int32_t ShownSpaceBefore(const ParagraphFormat& format);
+std::int32_t ShownSpaceAfter(const ParagraphFormat& format);
 
 // What of a picture is cut off at its edges, in twips of the size it is shown in; negative: a margin.
 struct PictureCrop {

@@ -17,10 +17,11 @@ std::size_t HashOf(const Parts&... parts) {
   return Mixed({static_cast<std::size_t>(parts)...});
 }
 
+constexpr std::uint32_t None = 0xFF000000;  // no color
+
 }  // namespace
 
 std::size_t WholeFormatHash::operator()(const CharacterFormat& format) const {
-  constexpr std::uint32_t None = 0xFF000000;
   return HashOf(std::hash<std::string>()(format.fontName), std::hash<std::string>()(format.link),
                 format.halfPoints, format.bold + 2 * format.italic + 4 * format.strikethrough,
                 8 * format.hidden, format.underline, format.capitals, format.place,
@@ -28,11 +29,12 @@ std::size_t WholeFormatHash::operator()(const CharacterFormat& format) const {
 }
 
 std::size_t WholeFormatHash::operator()(const ParagraphFormat& format) const {
-  std::size_t hash =
-      HashOf(format.alignment, format.direction, format.leftIndent, format.rightIndent,
-             format.firstLineIndent, format.spaceBefore, format.spaceAfter, format.lineSpacingRule,
-             format.lineSpacing, format.list.kind, format.list.start, format.list.level, format.list.twin,
-             std::hash<std::u16string>()(format.list.before), std::hash<std::u16string>()(format.list.after));
+  std::size_t hash = HashOf(
+      format.alignment, format.direction, format.leftIndent, format.rightIndent, format.firstLineIndent,
+      format.spaceBefore, format.spaceAfter, format.autoBefore + 2 * format.autoAfter, format.lineSpacingRule,
+      format.lineSpacing, format.list.kind, format.list.start, format.list.level, format.list.twin,
+      format.ground.value_or(None), std::hash<std::u16string>()(format.list.before),
+      std::hash<std::u16string>()(format.list.after));
   for (const TabStop& stop : format.tabs) hash = HashOf(hash, stop.position, stop.kind);
   return hash;
 }

@@ -10,6 +10,7 @@
 namespace richtext {
 namespace {
 
+constexpr std::u16string_view BulletSign(&Bullet, 1);
 constexpr char16_t MiddleDot = 0xB7;  // a bullet whose font was lost
 
 constexpr std::u16string_view Bullets =
@@ -79,6 +80,8 @@ std::u16string Letters(std::int32_t number) {
   return text;
 }
 
+}  // namespace
+
 std::u16string NumberText(ListKind kind, std::int32_t number) {
   const bool written = number >= 1 && number <= 4999;
   switch (kind) {
@@ -94,6 +97,8 @@ std::u16string NumberText(ListKind kind, std::int32_t number) {
       return Decimal(number);
   }
 }
+
+namespace {
 
 // The number that the digits or letters tell in a way of counting; 0 when they are none of it.
 std::int32_t NumberOf(std::u16string_view counted, ListKind kind) {
@@ -143,11 +148,9 @@ ListFormat BulletList(std::u16string_view text) {
   ListFormat list;
   list.kind = ListKind::Bullet;
   const std::u16string clean = FittingListText(Trimmed(text));
-  const bool pair = clean.size() > 1 && IsHighSurrogate(clean[0]);
-  list.before = pair ? clean.substr(0, 2)
-                : clean.empty() || clean[0] < u' '
-                    ? std::u16string(1, Bullet)
-                    : std::u16string(1, clean[0] == MiddleDot ? Bullet : ShownBullet(clean[0]));
+  list.before = Trimmed(clean);
+  if (list.before.empty() || list.before == std::u16string_view(&MiddleDot, 1)) list.before = BulletSign;
+  for (char16_t& unit : list.before) unit = ShownBullet(unit);
   return list;
 }
 

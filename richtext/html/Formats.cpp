@@ -102,6 +102,7 @@ ParagraphFormat FromHtmlBlock(const QTextBlock& block) {
   made.spaceBefore = std::clamp(made.spaceBefore, 0, MaxIndent);
   made.spaceAfter = std::clamp(made.spaceAfter, 0, MaxIndent);
   made.tabs.clear();
+  made.ground.reset();
   SetLineHeight(made, format);
   made.leftIndent = FittingIndent(made.leftIndent + format.indent() * ListStep);
   if (const QTextList* list = block.textList()) SetList(made, list->format());

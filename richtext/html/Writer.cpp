@@ -70,12 +70,14 @@ QString LineHeight(const ParagraphFormat& format) {
 QString ParagraphRules(const ParagraphFormat& format) {
   const QLatin1String alignments[] = {QLatin1String("left"), QLatin1String("right"), QLatin1String("center"),
                                       QLatin1String("justify")};
-  QString rules = QLatin1String("margin: ") + Points(format.spaceBefore) + u' ' + Points(format.rightIndent) +
-                  u' ' + Points(format.spaceAfter) + u' ' + Points(format.leftIndent) + QLatin1String("; ");
+  QString rules = QLatin1String("margin: ") + Points(ShownSpaceBefore(format)) + u' ' +
+                  Points(format.rightIndent) + u' ' + Points(ShownSpaceAfter(format)) + u' ' +
+                  Points(format.leftIndent) + QLatin1String("; ");
   if (format.list.kind == ListKind::None)
     rules += Measure(QLatin1String("text-indent"), format.firstLineIndent);
   if (format.alignment != Alignment::Left)
     rules += Rule(QLatin1String("text-align"), alignments[static_cast<std::size_t>(format.alignment)]);
+  if (format.ground) rules += Rule(QLatin1String("background-color"), ColorName(*format.ground));
   return rules + LineHeight(format) + QLatin1String("white-space: pre-wrap; ");
 }
 

@@ -82,6 +82,7 @@ void Context::PutPicture() {
   if (!picture || (around != Destination::Body && around != Destination::ShapePicture)) return;
   SettleLabel();
   EndText();
+  if (around == Destination::ShapePicture) shapes_.Fit(*picture);
   shapes_.NotePicture();
   builder_.AddPicture(std::move(*picture));
   ClaimText();

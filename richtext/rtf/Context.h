@@ -75,6 +75,7 @@ class Context {
   void PutCharacter(char16_t character);
   void EndParagraph();
   void EndCell();
+  void EndRow();
   void SetTabDistance(std::int32_t twips) { builder_.SetTabDistance(FittingTabDistance(twips)); }
   // Text begins that stands for itself, not within the paragraph around it.
   void EndOpenParagraph();

@@ -99,6 +99,15 @@ void Context::EndCell() {
   label_.ForgetList();
 }
 
+// What is told of the row before its end is no format of its cells' paragraphs.
+void Context::EndRow() {
+  if (State().destination != Destination::Body) return;
+  EndText();
+  if (!builder_.HasOpenText()) return EndParagraph();
+  builder_.EndParagraph(ParagraphNumber(openParagraph_), MarkNumber());
+  linkTally_.EndParagraph();
+}
+
 // A label is no text where a list makes one, and else as much of a list as it tells.
 void Context::SettleLabel() {
   const WrittenLabel::Kind kind = label_.TakeWaiting();

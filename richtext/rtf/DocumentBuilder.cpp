@@ -27,9 +27,10 @@ std::size_t HashOf(const ParagraphFormat& format) {
   Hash hash;
   hash.AddAll({static_cast<std::int32_t>(format.alignment), static_cast<std::int32_t>(format.direction),
                format.leftIndent, format.rightIndent, format.firstLineIndent, format.spaceBefore,
-               format.spaceAfter, static_cast<std::int32_t>(format.lineSpacingRule), format.lineSpacing,
+               format.spaceAfter, format.autoBefore + 2 * format.autoAfter,
+               static_cast<std::int32_t>(format.lineSpacingRule), format.lineSpacing,
                static_cast<std::int32_t>(format.list.kind), format.list.start, format.list.level,
-               format.list.twin});
+               format.list.twin, static_cast<std::int32_t>(format.ground.value_or(0xFF000000))});
   for (const TabStop& tab : format.tabs) hash.AddAll({tab.position, static_cast<std::int32_t>(tab.kind)});
   for (const std::u16string& text : {format.list.before, format.list.after})
     for (const char16_t unit : text) hash.Add(unit);

@@ -36,21 +36,23 @@ void AppendWord(std::string_view name, std::int32_t parameter, std::string& rtf)
   AppendNumber(parameter, rtf);
 }
 
-// The parameter is a signed 16-bit number, as the oldest readers know it.
+// The parameter is a signed 16-bit number, as the oldest readers know it. Without the blank, some readers
+// take the sign that stands for the character and the letter behind that.
 void AppendUnicode(char16_t unit, std::string& rtf) {
   AppendWord("u", static_cast<std::int16_t>(unit), rtf);
-  rtf += '?';
+  rtf += " ?";
+}
+
+void AppendHexByte(char byte, std::string& rtf) {
+  rtf += "\\'";
+  rtf.append(HexPairs[static_cast<unsigned char>(byte)].data(), 2);
 }
 
 void AppendNameUnit(char16_t unit, std::string& rtf) {
   if (unit >= 0x80) return AppendUnicode(unit, rtf);
   const bool syntax = unit == u';' || unit == u'\\' || unit == u'{' || unit == u'}';
-  if (!syntax) {
-    rtf += static_cast<char>(unit);
-    return;
-  }
-  rtf += "\\'";
-  rtf.append(HexPairs[static_cast<unsigned char>(unit)].data(), 2);
+  if (syntax) return AppendHexByte(static_cast<char>(unit), rtf);
+  rtf += static_cast<char>(unit);
 }
 
 void AppendHexLines(std::string_view bytes, std::string& rtf) {

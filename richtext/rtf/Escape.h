@@ -11,8 +11,10 @@ namespace richtext::rtf {
 void AppendWord(std::string_view name, std::string& rtf);
 void AppendWord(std::string_view name, std::int32_t parameter, std::string& rtf);
 
-// A character as \uN?, which is right for each.
+// A character as "\uN ?", which is right for each.
 void AppendUnicode(char16_t unit, std::string& rtf);
+// A byte as \'hh.
+void AppendHexByte(char byte, std::string& rtf);
 // A character of a font's name, which a semicolon would end.
 void AppendNameUnit(char16_t unit, std::string& rtf);
 

@@ -56,12 +56,15 @@ struct ParagraphState {
   Direction direction = Direction::LeftToRight;
   TabKind nextTab = TabKind::Left;  // \tqr and its like come before their \tx
   bool multipleSpacing = false;     // \slmult
+  bool autoBefore = false;
+  bool autoAfter = false;
   std::int32_t leftIndent = 0;
   std::int32_t rightIndent = 0;
   std::int32_t firstLineIndent = 0;
   std::int32_t spaceBefore = 0;
   std::int32_t spaceAfter = 0;
   std::int32_t lineSpacing = 0;
+  std::int32_t ground = AutomaticColor;
   std::uint32_t tabs = 0;
   std::uint32_t numbering = 0;  // list of a \pn
   std::int32_t listNumber = 0;  // \ls

@@ -21,6 +21,10 @@ inline void CellEnd(Context& context, Number, Number) {
   context.EndCell();
 }
 
+inline void RowEnd(Context& context, Number, Number) {
+  context.EndRow();
+}
+
 inline void ParagraphEnd(Context& context, Number, Number) {
   context.EndParagraph();
 }
@@ -86,10 +90,18 @@ inline void Highlight(Context& context, Number, Number index) {
 }
 
 // White is what some programs write for none; on coloured paper it would stand out.
-inline void Background(Context& context, Number, Number index) {
+inline std::int32_t GroundColor(Context& context, Number index) {
   constexpr std::int32_t White = 0xFFFFFF;
   const std::int32_t color = index == 0 ? AutomaticColor : context.Colors().Find(index);
-  context.ChangeCharacter().background = color == White ? AutomaticColor : color;
+  return color == White ? AutomaticColor : color;
+}
+
+inline void Background(Context& context, Number, Number index) {
+  context.ChangeCharacter().background = GroundColor(context, index);
+}
+
+inline void ParagraphGround(Context& context, Number, Number index) {
+  context.ChangeParagraph().ground = GroundColor(context, index);
 }
 
 // Characters' looks.
@@ -153,6 +165,11 @@ inline void Indent(Context& context, Number, Number twips) {
 template <Number ParagraphState::*Measure>
 inline void Space(Context& context, Number, Number twips) {
   context.ChangeParagraph().*Measure = FittingSpace(twips);
+}
+
+template <bool ParagraphState::*Flag>
+inline void AutoSpace(Context& context, Number, Number on) {
+  context.ChangeParagraph().*Flag = on != 0;
 }
 
 inline void MultipleSpacing(Context& context, Number, Number on) {

@@ -20,6 +20,11 @@ void ListCounter::Count(Key key, ListFormat& list) {
   next = std::min(next + 1, MaxListNumber);
 }
 
+std::optional<std::int32_t> ListCounter::Last(Key key, std::int32_t level) const {
+  const auto next = next_.find({key.list, level, key.override});
+  return next == next_.end() ? std::nullopt : std::optional(next->second - 1);
+}
+
 bool ListCounter::GoesOn(const Neighbours& open, Key key, const ListFormat& list) {
   ListFormat looked = list;
   looked.start = open.list.start;

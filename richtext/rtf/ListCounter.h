@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <tuple>
 
 #include "richtext/document/Document.h"
@@ -28,6 +29,8 @@ class ListCounter {
   // of the first of the neighbours that the item belongs to. An item begins the deeper levels of its list
   // anew.
   void Count(Key key, ListFormat& list);
+  // The number of the item met last of a level, to which deeper items may refer; nothing where there is none.
+  std::optional<std::int32_t> Last(Key key, std::int32_t level) const;
   // A paragraph of no list: no item has a neighbour before it.
   void Interrupt() { CloseFrom(0); }
 

@@ -10,6 +10,8 @@ namespace richtext::rtf::handlers {
 inline void ListOfTable(Context& context, Number, Number number) {
   if (context.State().destination == Destination::ListTable)
     context.Paragraphs().Lists().SetOverrideNumber(number);
+  else if (context.State().destination == Destination::Numbering)
+    context.NumberingInHand().isOfTable = true;
   else
     context.ChangeParagraph().listNumber = number;
 }

@@ -9,8 +9,6 @@
 namespace richtext::rtf {
 namespace {
 
-constexpr char16_t LevelMarks = 9;  // units below it stand for the numbers of levels
-
 ListKind KindOf(std::int32_t numberKind) {
   switch (numberKind) {
     case 1:
@@ -76,17 +74,16 @@ void ListTable::SetStart(std::int32_t start) {
   }
 }
 
-// Of a text that shows the numbers of several levels, only the last is the item's own.
 void ListTable::SetText(std::u16string_view text) {
   ListFormat* level = LevelInHand();
   if (level == nullptr || text.empty()) return;
   text = text.substr(1, text[0]);
-  if (text.empty()) level->kind = ListKind::None;  // an outline's level that shows no number
-  const auto isMark = [](char16_t unit) { return unit < LevelMarks; };
-  const auto first = std::find_if(text.begin(), text.end(), isMark);
-  const auto last = std::find_if(text.rbegin(), text.rend(), isMark).base();
-  level->before = FittingListText(std::u16string(text.begin(), first));
-  level->after = first == text.end() ? std::u16string() : FittingListText(std::u16string(last, text.end()));
+  const std::size_t own = text.find_last_of(LevelMarks);
+  level->before = text.substr(0, std::min(own, MaxListText));
+  level->after = own == text.npos ? std::u16string() : FittingListText(text.substr(own + 1));
+  if (own != text.npos) return;
+  const bool isBlank = text.find_first_not_of(u' ') == text.npos;  // an outline's level that shows no number
+  level->kind = isBlank && level->kind != ListKind::Bullet ? ListKind::None : ListKind::Bullet;
 }
 
 void ListTable::SetListId(std::int32_t id) {

@@ -21,7 +21,10 @@ class ListTable {
   void BeginLevel();
   void SetNumberKind(std::int32_t kind);  // \levelnfc
   void SetStart(std::int32_t start);
-  // A level's text: its length, then characters, of which those below 9 stand for a level's number.
+  // A level's text: its length, then characters, of which LevelMarks stand for the number of a level, the
+  // last for the item's own. A text without one is a bullet.
+  static constexpr std::u16string_view LevelMarks{u"\0\1\2\3\4\5\6\7\b", 9};
+  static bool IsLevelMark(char16_t unit) { return unit < LevelMarks.size(); }
   void SetText(std::u16string_view text);
   void SetListId(std::int32_t id);
   void BeginOverride();
@@ -30,7 +33,7 @@ class ListTable {
   void SetOverrideNumber(std::int32_t number);
 
   // The list of an \ls at a level, with its first number there; of the kind None when there is no such list.
-  // The level of what is returned is 0.
+  // The level of what is returned is 0, and `before` may hold marks of outer levels.
   ListFormat Find(std::int32_t number, std::int32_t level) const;
   bool Has(std::int32_t number) const { return overrides_.count(number) != 0; }
   // What the items of an \ls at a level are counted with: several \ls may count one list, until one restarts.

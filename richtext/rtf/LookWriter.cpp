@@ -17,7 +17,7 @@ std::string_view WordOf(UnderlineKind kind) {
 }
 
 std::string_view WordOf(VerticalPlace place) {
-  constexpr std::string_view Words[] = {"nosupersub", "super", "sub"};
+  constexpr std::string_view Words[] = {"", "super", "sub"};
   return Words[static_cast<std::size_t>(place)];
 }
 
@@ -58,8 +58,14 @@ void LookWriter::SetMark(std::uint32_t format) {
   SetLook(looks_[format]);
 }
 
+void LookWriter::EndParagraph() {
+  EndGroup();
+}
+
+// The group of a look lies within the field.
 void LookWriter::SetLink(std::string_view link) {
   if (link == link_) return;
+  EndGroup();
   if (!link_.empty()) {
     out_.Raw("}}");
     look_ = lookAround_;
@@ -79,18 +85,35 @@ void LookWriter::SetLink(std::string_view link) {
 
 void LookWriter::SetLook(const Look& look) {
   if (look == look_) return;
+  SetGrouped(look);
   if (look.color != look_.color) out_.Word("cf", static_cast<std::int32_t>(look.color));
-  if (look.highlight != look_.highlight) out_.Word("highlight", static_cast<std::int32_t>(look.highlight));
   out_.Switch("b", look_.bold, look.bold);
   out_.Switch("i", look_.italic, look.italic);
   if (look.underline != look_.underline) out_.Word(WordOf(look.underline));
   out_.Switch("strike", look_.strikethrough, look.strikethrough);
   SetCapitals(look.capitals);
-  if (look.place != look_.place) out_.Word(WordOf(look.place));
   out_.Switch("v", look_.hidden, look.hidden);
   if (look.font != look_.font) out_.Word("f", static_cast<std::int32_t>(look.font));
   if (look.halfPoints != look_.halfPoints) out_.Word("fs", look.halfPoints);
   look_ = look;
+}
+
+void LookWriter::SetGrouped(const Look& look) {
+  if (look.highlight == look_.highlight && look.place == look_.place) return;
+  EndGroup();
+  if (!look.IsGrouped()) return;
+  lookAroundGroup_ = look_;
+  out_.Raw("{");
+  if (look.highlight != 0) out_.Word("highlight", static_cast<std::int32_t>(look.highlight));
+  if (look.place != VerticalPlace::Baseline) out_.Word(WordOf(look.place));
+  look_.highlight = look.highlight;
+  look_.place = look.place;
+}
+
+void LookWriter::EndGroup() {
+  if (!look_.IsGrouped()) return;
+  out_.Raw("}");
+  look_ = lookAroundGroup_;
 }
 
 void LookWriter::SetCapitals(Capitals capitals) {

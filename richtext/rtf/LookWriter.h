@@ -20,6 +20,8 @@ class LookWriter {
   void SetText(std::uint32_t format);
   // A paragraph's end follows, which no link goes across.
   void SetMark(std::uint32_t format);
+  // It has been written. No group is open.
+  void EndParagraph();
 
  private:
   // A character format as the control words tell it.
@@ -36,11 +38,17 @@ class LookWriter {
     Capitals capitals = Capitals::AsWritten;
     VerticalPlace place = VerticalPlace::Baseline;
     bool operator==(const Look&) const = default;
+
+    // What some readers end with the group alone: by "\\highlight0" they black out the text, and
+    // "\\nosupersub" they do not know.
+    bool IsGrouped() const { return highlight != 0 || place != VerticalPlace::Baseline; }
   };
 
   static Look LookOf(const CharacterFormat& format, std::uint32_t number, const Tables& tables);
   void SetLink(std::string_view link);
   void SetLook(const Look& look);
+  void SetGrouped(const Look& look);
+  void EndGroup();
   void SetCapitals(Capitals capitals);
 
   const Document& document_;
@@ -48,6 +56,7 @@ class LookWriter {
   std::vector<Look> looks_;  // of the document's formats
   Look look_;                // in force
   Look lookAround_;          // in force around the open field
+  Look lookAroundGroup_;     // likewise, around the group of a look that IsGrouped
   std::string_view link_;    // of the open field; empty: none is open
 };
 

@@ -8,7 +8,7 @@
 namespace richtext::rtf {
 
 std::uint32_t Numberings::NumberOf(const Numbering& numbering) {
-  const Numbering fitting{FittingList(numbering.list), FittingSpace(numbering.indent)};
+  const Numbering fitting{FittingList(numbering.list), FittingSpace(numbering.indent), numbering.isOfTable};
   if (fitting.list.kind == ListKind::None) return 0;
   const bool known = !numberings_.empty() && numberings_.back() == fitting;
   if (!known && numberings_.size() < MaxFormats) numberings_.push_back(fitting);

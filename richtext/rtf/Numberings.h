@@ -14,6 +14,7 @@ namespace richtext::rtf {
 struct Numbering {
   ListFormat list;
   std::int32_t indent = 0;  // twips; where the paragraph has no indents of its own
+  bool isOfTable = false;   // it refers to the list table, which tells more
 
   bool operator==(const Numbering&) const = default;
 };

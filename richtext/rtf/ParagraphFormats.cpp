@@ -23,18 +23,38 @@ void SetLineSpacing(const ParagraphState& state, ParagraphFormat& format) {
 
 }  // namespace
 
+// The list table outranks the older words, unless these tell of a list by themselves.
 bool ParagraphFormats::IsOfTable(const ParagraphState& state) const {
-  return state.listNumber != 0 && lists_.Has(state.listNumber);
+  const bool tellsItself = state.numbering != 0 && !numberings_.At(state.numbering).isOfTable;
+  return state.listNumber != 0 && !tellsItself && lists_.Has(state.listNumber);
 }
 
 bool ParagraphFormats::IsListed(const ParagraphState& state) const {
   return state.numbering != 0 || IsOfTable(state);
 }
 
-// The list table outranks the older words.
+// A text that shows the item's number alone where it tells of levels that are none of the item's outer ones.
+std::u16string ParagraphFormats::WithOuterNumbers(const std::u16string& text,
+                                                  const ParagraphState& state) const {
+  std::u16string shown;
+  for (const char16_t unit : text) {
+    if (!ListTable::IsLevelMark(unit)) {
+      shown += unit;
+      continue;
+    }
+    if (unit >= state.listLevel) return text.substr(0, text.find_first_of(ListTable::LevelMarks));
+    const ListFormat outer = lists_.Find(state.listNumber, unit);
+    const bool counts = outer.kind != ListKind::None && outer.kind != ListKind::Bullet;
+    const auto last = counter_.Last(lists_.CountOf(state.listNumber, unit), unit);
+    if (counts) shown += NumberText(outer.kind, last.value_or(outer.start));
+  }
+  return shown;
+}
+
 void ParagraphFormats::SetList(const ParagraphState& state, ParagraphFormat& format) const {
   if (IsOfTable(state)) {
     format.list = lists_.Find(state.listNumber, state.listLevel);
+    format.list.before = WithOuterNumbers(format.list.before, state);
   } else if (state.numbering != 0) {
     const Numbering& numbering = numberings_.At(state.numbering);
     format.list = numbering.list;
@@ -56,6 +76,9 @@ ParagraphFormat ParagraphFormats::FormatOf(const ParagraphState& state) const {
   format.firstLineIndent = state.firstLineIndent;
   format.spaceBefore = state.spaceBefore;
   format.spaceAfter = state.spaceAfter;
+  if (state.ground != AutomaticColor) format.ground = static_cast<std::uint32_t>(state.ground);
+  format.autoBefore = state.autoBefore;
+  format.autoAfter = state.autoAfter;
   SetLineSpacing(state, format);
   format.tabs = tabs_.StopsOf(state.tabs);
   SetList(state, format);

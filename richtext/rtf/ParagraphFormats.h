@@ -1,6 +1,8 @@
 // The formats of paragraphs, made of their states and of what these refer to by number: tab stops and lists.
 #pragma once
 
+#include <string>
+
 #include "richtext/document/Document.h"
 #include "richtext/rtf/GroupState.h"
 #include "richtext/rtf/ListCounter.h"
@@ -25,6 +27,7 @@ class ParagraphFormats {
 
  private:
   bool IsOfTable(const ParagraphState& state) const;
+  std::u16string WithOuterNumbers(const std::u16string& text, const ParagraphState& state) const;
   void SetList(const ParagraphState& state, ParagraphFormat& format) const;
   ParagraphFormat FormatOf(const ParagraphState& state) const;
 

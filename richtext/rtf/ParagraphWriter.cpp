@@ -25,7 +25,7 @@ std::string_view WordOf(ListKind kind) {
 
 }  // namespace
 
-void ParagraphWriter::Begin(const ParagraphFormat& format) {
+void ParagraphWriter::Begin(const ParagraphFormat& format, const InTables& inTables) {
   const bool changes = format_ != format;
   if (changes) {
     format_ = format;
@@ -34,19 +34,23 @@ void ParagraphWriter::Begin(const ParagraphFormat& format) {
   }
   const std::int32_t number = items_.Count(list_);
   if (list_.kind != ListKind::None) WriteLabel(list_, number);
-  if (changes) WriteFormat(format);
+  if (changes) WriteFormat(format, inTables);
 }
 
-void ParagraphWriter::WriteFormat(const ParagraphFormat& format) {
+void ParagraphWriter::WriteFormat(const ParagraphFormat& format, const InTables& inTables) {
   if (list_.kind != ListKind::None) WriteList(list_);
+  out_.Measure("ls", inTables.list);
   if (format.direction == Direction::RightToLeft) out_.Word("rtlpar");
   out_.Measure("fi", FittingIndent(format.firstLineIndent));
   out_.Measure("li", FittingIndent(format.leftIndent));
   out_.Measure("ri", FittingIndent(format.rightIndent));
   out_.Measure("sb", FittingSpace(format.spaceBefore));
+  if (format.autoBefore) out_.Word("sbauto", 1);
   out_.Measure("sa", FittingSpace(format.spaceAfter));
+  if (format.autoAfter) out_.Word("saauto", 1);
   WriteSpacing(format);
   WriteTabs(format);
+  out_.Measure("cbpat", inTables.ground);
   if (format.alignment != Alignment::Left) out_.Word(WordOf(format.alignment));
 }
 
@@ -69,7 +73,7 @@ void ParagraphWriter::WriteList(const ListFormat& list) {
   const bool bullet = list.kind == ListKind::Bullet;
   out_.BeginIgnorableGroup("pn");
   out_.Word(bullet ? "pnlvlblt" : "pnlvlbody");
-  if (bullet && list.before[0] == Bullet) out_.Word("pnf", symbolFont_);
+  if (IsPlainBullet(list)) out_.Word("pnf", symbolFont_);
   out_.Word("pnindent", 0);
   if (!bullet) {
     if (list.twin) out_.Word("pnrestart");
@@ -92,16 +96,16 @@ void ParagraphWriter::WriteList(const ListFormat& list) {
 
 void ParagraphWriter::WriteLabel(const ListFormat& list, std::int32_t number) {
   out_.BeginGroup("pntext");
-  if (list.kind == ListKind::Bullet && list.before[0] == Bullet) out_.Word("f", symbolFont_);
+  if (IsPlainBullet(list)) out_.Word("f", symbolFont_);
   if (!WriteSymbol(list)) out_.Text(LabelText(list, number));
   out_.Word("tab");
   out_.Raw("}");
 }
 
 bool ParagraphWriter::WriteSymbol(const ListFormat& list) {
-  const bool symbol = list.kind == ListKind::Bullet && list.before[0] == Bullet;
-  if (symbol) out_.Raw("\\'b7");
-  return symbol;
+  if (!IsPlainBullet(list)) return false;
+  out_.Raw("\\'b7");
+  return true;
 }
 
 }  // namespace richtext::rtf

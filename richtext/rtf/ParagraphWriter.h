@@ -15,11 +15,16 @@ class ParagraphWriter {
   // `symbolFont` is the \f number of a symbol font, for bullets.
   ParagraphWriter(Output& out, std::int32_t symbolFont) : out_(out), symbolFont_(symbolFont) {}
 
+  // What the document's tables have of a paragraph; 0: nothing.
+  struct InTables {
+    std::int32_t list = 0;
+    std::int32_t ground = 0;  // a color
+  };
   // The next paragraph is of this format.
-  void Begin(const ParagraphFormat& format);
+  void Begin(const ParagraphFormat& format, const InTables& inTables);
 
  private:
-  void WriteFormat(const ParagraphFormat& format);
+  void WriteFormat(const ParagraphFormat& format, const InTables& inTables);
   void WriteSpacing(const ParagraphFormat& format);
   void WriteTabs(const ParagraphFormat& format);
   void WriteList(const ListFormat& list);

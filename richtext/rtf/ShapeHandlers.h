@@ -11,6 +11,10 @@ inline void Shape(Context& context, Number, Number) {
   context.Shapes().BeginShape();
 }
 
+inline void ShapeEdge(Context& context, Number edge, Number twips) {
+  context.Shapes().SetEdge(static_cast<ShapeState::Edge>(edge), twips);
+}
+
 inline void ShapeProperty(Context& context, Number, Number) {
   context.Shapes().BeginProperty();
   if (context.State().destination != Destination::Body) return context.SkipGroup();

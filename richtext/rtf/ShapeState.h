@@ -1,8 +1,13 @@
 // What was met of the shape and of the picture in hand, each of which RTF tells twice.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <string>
 #include <utility>
+
+#include "richtext/document/Document.h"
+#include "richtext/document/Limits.h"
 
 namespace richtext::rtf {
 
@@ -11,12 +16,28 @@ namespace richtext::rtf {
 // counts where the first showed nothing.
 class ShapeState {
  public:
-  void BeginShape() { shapeShown_ = false; }
+  enum Edge : std::uint8_t { Left, Top, Right, Bottom };
+
+  void BeginShape() {
+    shapeShown_ = false;
+    edges_ = {};
+  }
+  void SetEdge(Edge edge, std::int32_t twips) { edges_[edge] = twips; }
   void BeginModernPicture() { pictureShown_ = false; }
 
   // Something is shown, of whatever shape it is.
   void NoteText() { shapeShown_ = true; }
   void NotePicture() { pictureShown_ = shapeShown_ = true; }
+
+  // The picture of a shape is as large as that, if it tells its edges.
+  void Fit(Picture& picture) const {
+    const std::int32_t width = FittingPictureSize(std::int64_t{edges_[Right]} - edges_[Left]);
+    const std::int32_t height = FittingPictureSize(std::int64_t{edges_[Bottom]} - edges_[Top]);
+    if (width == 0 || height == 0) return;
+    picture.widthTwips = width;
+    picture.heightTwips = height;
+    picture.crop = {};
+  }
 
   // At the second telling: whether the first one showed something. Of pictures it is asked once for each.
   bool ShapeIsShown() const { return shapeShown_; }
@@ -30,6 +51,7 @@ class ShapeState {
  private:
   bool shapeShown_ = false;
   bool pictureShown_ = false;
+  std::array<std::int32_t, 4> edges_{};  // twips
   std::u16string property_;
 };
 

@@ -24,8 +24,8 @@ std::uint32_t TabSets::Add(std::uint32_t set, TabStop stop) {
   stop.position = FittingIndent(stop.position);
   if (LengthOf(set) == MaxLength) {
     if (MaxSets - sets_.size() < MaxTabStops) return set;
-    const std::vector<TabStop> kept = Kept(set);
-    set = std::accumulate(kept.rbegin(), kept.rend(), std::uint32_t{0},
+    const std::vector<TabStop> kept = StopsOf(set);
+    set = std::accumulate(kept.begin(), kept.end(), std::uint32_t{0},
                           [this](std::uint32_t made, const TabStop& told) { return Append(made, told); });
   }
   return Append(set, stop);
@@ -39,21 +39,18 @@ std::uint32_t TabSets::Append(std::uint32_t set, const TabStop& stop) {
   return numbers_[key] = static_cast<std::uint32_t>(sets_.size());
 }
 
-// Those told last first.
-std::vector<TabStop> TabSets::Kept(std::uint32_t set) const {
-  std::vector<TabStop> kept;
-  for (; set != 0 && kept.size() < MaxTabStops; set = sets_[set - 1].rest) {
-    const TabStop& stop = sets_[set - 1].last;
-    const auto isThere = [&](const TabStop& later) { return later.position == stop.position; };
-    if (std::none_of(kept.begin(), kept.end(), isThere)) kept.push_back(stop);
-  }
-  return kept;
-}
-
 std::vector<TabStop> TabSets::StopsOf(std::uint32_t set) const {
-  std::vector<TabStop> stops = Kept(set);
-  std::sort(stops.begin(), stops.end(),
-            [](const TabStop& one, const TabStop& other) { return one.position < other.position; });
+  std::vector<TabStop> stops;  // those told last first
+  for (; set != 0; set = sets_[set - 1].rest) stops.push_back(sets_[set - 1].last);
+  const auto comesBefore = [](const TabStop& one, const TabStop& other) {
+    return one.position < other.position;
+  };
+  std::stable_sort(stops.begin(), stops.end(), comesBefore);
+  const auto isThere = [](const TabStop& one, const TabStop& other) {
+    return one.position == other.position;
+  };
+  stops.erase(std::unique(stops.begin(), stops.end(), isThere), stops.end());
+  stops.resize(std::min(stops.size(), MaxTabStops));
   return stops;
 }
 

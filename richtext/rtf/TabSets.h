@@ -17,8 +17,7 @@ class TabSets {
  public:
   // The number of a set with one stop more; `set` itself where there is no room for another one.
   std::uint32_t Add(std::uint32_t set, TabStop stop);
-  // The stops by their positions, MaxTabStops at most. Those told last outrank those before, of one place and
-  // when there are too many.
+  // The stops by their positions, the MaxTabStops nearest at most. Of one place that told last counts.
   std::vector<TabStop> StopsOf(std::uint32_t set) const;
 
  private:
@@ -29,7 +28,6 @@ class TabSets {
   };
   std::uint32_t LengthOf(std::uint32_t set) const { return set == 0 ? 0 : sets_[set - 1].length; }
   std::uint32_t Append(std::uint32_t set, const TabStop& stop);
-  std::vector<TabStop> Kept(std::uint32_t set) const;
 
   std::vector<Set> sets_;                                     // number 1 is the first
   std::unordered_map<std::uint64_t, std::uint32_t> numbers_;  // by what makes a set, in few bits

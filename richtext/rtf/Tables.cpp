@@ -60,21 +60,24 @@ Tables::Tables(const Document& document)
     : fontOfFormat_(document.formats.size()),
       colorOfFormat_(document.formats.size()),
       highlightOfFormat_(document.formats.size()),
+      groundOfFormat_(document.paragraphFormats.size()),
       hasBullets_(HasBullets(document)) {
   std::unordered_map<std::u16string, std::size_t> fontPlaces;
   std::unordered_map<std::uint32_t, std::size_t> colorPlaces;
   const std::vector<std::uint32_t> used = FormatsInUse(document);
   const auto isNameless = [&](std::uint32_t number) { return FontNameOf(document.formats[number]).empty(); };
   if (std::any_of(used.begin(), used.end(), isNameless)) PlaceOf(std::u16string(), fontPlaces, fonts_);
+  const auto place = [&](const std::optional<std::uint32_t>& color) {
+    return color ? PlaceOf(*color & 0xFFFFFF, colorPlaces, colors_) + 1 : 0;
+  };
   for (const std::uint32_t number : used) {
     const CharacterFormat& format = document.formats[number];
     fontOfFormat_[number] = PlaceOf(FontNameOf(format), fontPlaces, fonts_);
-    const auto place = [&](const std::optional<std::uint32_t>& color) {
-      return color ? PlaceOf(*color & 0xFFFFFF, colorPlaces, colors_) + 1 : 0;
-    };
     colorOfFormat_[number] = place(format.color);
     highlightOfFormat_[number] = place(format.highlight);
   }
+  for (const Paragraph& paragraph : document.paragraphs)
+    groundOfFormat_[paragraph.format] = place(document.paragraphFormats[paragraph.format].ground);
 }
 
 void Tables::AppendTo(std::string& rtf) const {

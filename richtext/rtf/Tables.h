@@ -24,6 +24,8 @@ class Tables {
   std::size_t Color(std::uint32_t format) const { return colorOfFormat_[format]; }
   // \highlight0 is none.
   std::size_t Highlight(std::uint32_t format) const { return highlightOfFormat_[format]; }
+  // The \cbpat number of one of the document's paragraph formats; 0 is none.
+  std::size_t Ground(std::uint32_t format) const { return groundOfFormat_[format]; }
   // The \f number of the symbol font that bullets are written in; the table has it when there are any.
   std::int32_t SymbolFont() const { return static_cast<std::int32_t>(fonts_.size()); }
 
@@ -37,6 +39,7 @@ class Tables {
   std::vector<std::size_t> fontOfFormat_;
   std::vector<std::size_t> colorOfFormat_;
   std::vector<std::size_t> highlightOfFormat_;
+  std::vector<std::size_t> groundOfFormat_;
   bool hasBullets_ = false;
 };
 

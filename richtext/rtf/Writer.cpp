@@ -7,6 +7,7 @@
 
 #include "richtext/characters/Unicode.h"
 #include "richtext/document/Limits.h"
+#include "richtext/rtf/ListTableWriter.h"
 #include "richtext/rtf/LookWriter.h"
 #include "richtext/rtf/Output.h"
 #include "richtext/rtf/ParagraphWriter.h"
@@ -21,6 +22,7 @@ class Writer {
   explicit Writer(const Document& document)
       : document_(document),
         tables_(document),
+        lists_(document),
         paragraphs_(out_, tables_.SymbolFont()),
         looks_(document, tables_, out_) {}
   std::string Write();
@@ -33,6 +35,7 @@ class Writer {
 
   const Document& document_;
   const Tables tables_;
+  const ListTableWriter lists_;
   Output out_;
   ParagraphWriter paragraphs_;
   LookWriter looks_;
@@ -47,6 +50,7 @@ std::string Writer::Write() {
   if (const std::int32_t distance = FittingTabDistance(document_.tabDistance); distance != DefaultTabDistance)
     out_.Word("deftab", distance);
   tables_.AppendTo(out_.Bytes());
+  lists_.WriteTo(out_);
   out_.Raw("\\viewkind4\\uc1");
   for (const Paragraph& paragraph : document_.paragraphs) WriteParagraph(paragraph);
   out_.Raw("}\r\n");
@@ -61,7 +65,9 @@ std::size_t Writer::ExpectedSize() const {
 }
 
 void Writer::WriteParagraph(const Paragraph& paragraph) {
-  paragraphs_.Begin(document_.paragraphFormats[paragraph.format]);
+  const auto number = static_cast<std::size_t>(&paragraph - document_.paragraphs.data());
+  paragraphs_.Begin(document_.paragraphFormats[paragraph.format],
+                    {lists_.NumberOf(number), static_cast<std::int32_t>(tables_.Ground(paragraph.format))});
   const std::size_t end = textAt_ + paragraph.length;
   while (textAt_ < end) {
     const Run& run = document_.runs[runAt_++];
@@ -70,7 +76,9 @@ void Writer::WriteParagraph(const Paragraph& paragraph) {
     textAt_ += run.length;
   }
   looks_.SetMark(paragraph.markFormat);
-  out_.Raw("\\par\r\n");
+  out_.Raw("\\par");
+  looks_.EndParagraph();
+  out_.Raw("\r\n");
 }
 
 void Writer::WriteText(std::u16string_view text) {

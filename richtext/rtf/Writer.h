@@ -1,4 +1,4 @@
-// Writes a document as RTF 1.5: 7-bit, \ansicpg1252 with \uc1, characters beyond as \uN?.
+// Writes a document as RTF 1.5: 7-bit, \ansicpg1252 with \uc1, characters beyond as "\uN ?".
 #pragma once
 
 #include <string>
@@ -13,7 +13,8 @@ namespace richtext {
 // position and lists as FittingList() makes them. Another document comes back with the same text and formats
 // in that order. A unit that no document holds (a control character, half a surrogate pair, a picture's mark
 // without a picture) is written as U+FFFD; measures beyond Limits.h are brought within. Never empty. Lists
-// are written with \pn and the labels that readers without lists show, links as fields.
+// are written with \pn and the labels that readers without lists show, and for newer readers as lists of the
+// list table; links as fields; what is marked, raised or lowered in a group of its own.
 std::string WriteRtf(const Document& document);
 
 }  // namespace richtext

@@ -23,6 +23,8 @@ enum BoxProperty : int {
   FirstIndentOfDocument,
   SpaceBeforeOfDocument,
   SpaceAfterOfDocument,
+  AutoSpaceBefore,  // bool
+  AutoSpaceAfter,
   LineRuleOfDocument,  // int, a LineSpacingRule
   ListKindOfDocument,  // int, a ListKind
   ListStartOfDocument,

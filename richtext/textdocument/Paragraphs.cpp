@@ -70,8 +70,10 @@ void SetLineHeight(QTextBlockFormat& made, const ParagraphFormat& format, double
 }
 
 void SetSpacing(QTextBlockFormat& made, const ParagraphFormat& format, double highest) {
-  const std::int32_t before = std::min(format.spaceBefore, Twips(highest));
-  const std::int32_t after = std::min(format.spaceAfter, Twips(highest));
+  const std::int32_t before = std::min(ShownSpaceBefore(format), Twips(highest));
+  const std::int32_t after = std::min(ShownSpaceAfter(format), Twips(highest));
+  if (format.autoBefore) made.setProperty(AutoSpaceBefore, true);
+  if (format.autoAfter) made.setProperty(AutoSpaceAfter, true);
   if (before > 0) made.setTopMargin(Pixels(before));
   if (after > 0) made.setBottomMargin(Pixels(after));
   Keep(made, SpaceBeforeOfDocument, format.spaceBefore, before);
@@ -202,6 +204,7 @@ QTextBlockFormat ToBlockFormat(const ParagraphFormat& format, double width) {
   SetSpacing(made, format, width);
   SetTabs(made, format, shown);
   if (IsItem(format)) SetList(made, format.list);
+  if (format.ground) made.setBackground(ToColor(*format.ground));
   return made;
 }
 
@@ -214,11 +217,14 @@ ParagraphFormat FromBlockFormat(const QTextBlockFormat& format) {
   taken.firstLineIndent = Told(format, FirstIndentOfDocument, format.textIndent());
   taken.spaceBefore = Told(format, SpaceBeforeOfDocument, format.topMargin());
   taken.spaceAfter = Told(format, SpaceAfterOfDocument, format.bottomMargin());
+  taken.autoBefore = format.boolProperty(AutoSpaceBefore);
+  taken.autoAfter = format.boolProperty(AutoSpaceAfter);
   taken.lineSpacingRule = LineRuleOf(format);
   if (taken.lineSpacingRule != LineSpacingRule::Single)
     taken.lineSpacing = format.intProperty(LineSpacingOfDocument);
   if (IsListItem(format)) taken.list = ListOf(format);
   taken.tabs = TabsOf(format);
+  if (format.background().style() != Qt::NoBrush) taken.ground = FromColor(format.background().color());
   return taken;
 }
 

@@ -79,10 +79,13 @@ inline std::string Dump(const ParagraphFormat& format) {
   words.Add("fi", format.firstLineIndent);
   words.Add("sb", format.spaceBefore);
   words.Add("sa", format.spaceAfter);
+  if (format.autoBefore) words.Add("sbauto");
+  if (format.autoAfter) words.Add("saauto");
   words.Add(NameOf(format.lineSpacingRule, {"", "lines", "atleast", "exact"}), format.lineSpacing);
   for (const TabStop& tab : format.tabs)
     words.Add(NameOf(tab.kind, {"tab", "rtab", "ctab", "dtab"}), tab.position);
   words.Add(Dump(format.list));
+  if (format.ground) words.Add("on " + DumpColor(*format.ground));
   return words.line().empty() ? "" : '[' + words.line() + ']';
 }
 

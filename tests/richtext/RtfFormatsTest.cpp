@@ -17,7 +17,7 @@ TEST(RtfFormats, HasNoMoreLinkAndTabsThanAreKept) {
   std::string dump = "[";
   for (std::size_t i = 1; i <= MaxTabStops + 2; ++i) {
     many += "\\tx" + std::to_string(i);
-    if (i > 2) dump += (i > 3 ? " tab" : "tab") + std::to_string(i);
+    if (i <= MaxTabStops) dump += (i > 1 ? " tab" : "tab") + std::to_string(i);
   }
   ExpectReads(many + " a}", dump + "]a");
 }

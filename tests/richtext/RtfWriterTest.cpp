@@ -65,7 +65,7 @@ TEST(RtfWriter, WritesAPictureAsItsKindUsuallyIs) {
       {PictureKind::Dib, "(", "{\\pict\\dibitmap0\\picwgoal30\r\n28\r\n}"},
       {PictureKind::Metafile, "\1", "{\\pict\\wmetafile8\\picwgoal30\r\n01\r\n}"},
       {PictureKind::Png, std::string(65, 'D'), std::string(128, '4') + "\r\n44\r\n}"},
-      {PictureKind::Png, "", "\\pard\\fs24\\u-3?\\par"},
+      {PictureKind::Png, "", "\\pard\\fs24\\u-3 ?\\par"},
   };
   for (const auto& [kind, bytes, group] : examples) {
     document.pictures[0] = {kind, bytes, {}, 30, 0};
