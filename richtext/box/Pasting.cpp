@@ -1,12 +1,14 @@
 #include "richtext/box/Pasting.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <utility>
 
 #include <QtGui/QTextCursor>
 
 #include "richtext/characters/Unicode.h"
+#include "richtext/document/Limits.h"
 #include "richtext/document/PlainText.h"
 #include "richtext/html/Reader.h"
 #include "richtext/html/Writer.h"
@@ -67,6 +69,19 @@ bool SaysSomething(const Document& page) {
   return !page.pictures.empty() || !QString::fromStdU16String(page.text).trimmed().isEmpty();
 }
 
+// A side that is not told follows the other one, by the size that a file tells, and a stand-in is none.
+void GiveBothSides(PageOnOffer& offer) {
+  const Picture standIn = StandInFor(offer.bitmap);
+  for (Picture& picture : offer.page.pictures) {
+    if (picture.bytes != standIn.bytes || TellsItsSize(picture)) continue;
+    const double shape = double{1} * standIn.widthTwips / standIn.heightTwips;
+    if (picture.widthTwips > 0)
+      picture.heightTwips = FittingPictureSize(std::lround(picture.widthTwips / shape));
+    else
+      picture.widthTwips = FittingPictureSize(std::lround(picture.heightTwips * shape));
+  }
+}
+
 std::optional<Document> OfferedRtf(const QMimeData& offered) {
   for (const QLatin1String name : RtfNames) {
     const QByteArray data = offered.data(name);
@@ -83,6 +98,11 @@ class SelectionOffer : public QMimeData {
   explicit SelectionOffer(Document page) : page_(std::move(page)) {}
 
   QStringList formats() const override { return {TextName, HtmlName, RtfName}; }
+  std::size_t BytesOfPictures() const {
+    std::size_t bytes = 0;
+    for (const Picture& picture : page_.pictures) bytes += picture.bytes.size();
+    return bytes;
+  }
 
  protected:
   QVariant retrieveData(const QString& name, QMetaType) const override {
@@ -104,16 +124,21 @@ bool CanBePasted(const QMimeData& offered) {
 }
 
 // A browser offers a copied picture as a bitmap and as markup that names it.
-std::optional<Document> OfferedPage(const QMimeData& offered, const CharacterFormat& caret) {
+std::optional<PageOnOffer> OfferedPage(const QMimeData& offered, const CharacterFormat& caret) {
   if (auto rtf = OfferedRtf(offered))
-    if (Document page = Kept(std::move(*rtf)); SaysSomething(page)) return page;
+    if (Document page = Kept(std::move(*rtf)); SaysSomething(page)) return PageOnOffer{std::move(page)};
   if (!offered.hasHtml()) return std::nullopt;
+  PageOnOffer offer;
   const auto carried = [&] {
-    const auto file = OfferedFile(offered);
-    return file ? *file : FromImage(OfferedBitmap(offered));
+    if (const auto file = OfferedFile(offered)) return *file;
+    const QImage bitmap = OfferedBitmap(offered);
+    if (!IsLarge(bitmap)) return FromImage(bitmap);
+    offer.bitmap = bitmap;
+    return StandInFor(bitmap);
   };
-  Document page = Kept(ReadHtml(offered.html(), caret, carried));
-  return SaysSomething(page) ? std::optional(std::move(page)) : std::nullopt;
+  offer.page = Kept(ReadHtml(offered.html(), caret, carried));
+  if (!offer.bitmap.isNull()) GiveBothSides(offer);
+  return SaysSomething(offer.page) ? std::optional(std::move(offer)) : std::nullopt;
 }
 
 std::optional<Picture> OfferedFile(const QMimeData& offered) {
@@ -136,6 +161,12 @@ QString OfferedText(const QMimeData& offered) {
 
 QMimeData* Offer(const QTextCursor& selection) {
   return new SelectionOffer(TakeSelection(selection));
+}
+
+bool IsLongToMake(const QMimeData& offered) {
+  constexpr std::size_t Many = 4'000'000;
+  const auto* const selection = dynamic_cast<const SelectionOffer*>(&offered);
+  return selection && selection->BytesOfPictures() > Many;
 }
 
 }  // namespace richtext

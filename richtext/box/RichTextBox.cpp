@@ -174,9 +174,8 @@ QMimeData* RichTextBox::createMimeDataFromSelection() const {
 
 void RichTextBox::insertFromMimeData(const QMimeData* source) {
   if (isReadOnly() || (TakeElsewhere && TakeElsewhere(*source))) return;
-  QTextCursor cursor = textCursor();
-  if (const auto page = OfferedPage(*source, FromTextFormat(caret_.InHand())))
-    InsertDocument(*page, cursor);
+  if (const auto offer = OfferedPage(*source, FromTextFormat(caret_.InHand())))
+    InsertOffer(*offer);
   else if (const auto file = OfferedFile(*source))
     InsertPicture(KeepPicture(*file, caret_.OfLetters(), *document()));
   else if (const QImage bitmap = OfferedBitmap(*source); !bitmap.isNull())
@@ -184,6 +183,12 @@ void RichTextBox::insertFromMimeData(const QMimeData* source) {
   else
     InsertText(OfferedText(*source));
   ensureCursorVisible();
+}
+
+void RichTextBox::InsertOffer(const PageOnOffer& offer) {
+  QTextCursor cursor = textCursor();
+  InsertDocument(offer.page, cursor);
+  if (!offer.bitmap.isNull()) MakeFile(offer.bitmap, *document());
 }
 
 void RichTextBox::PasteWithoutFormatting() {

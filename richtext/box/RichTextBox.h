@@ -34,6 +34,7 @@ class KeptCounters;
 class Paper;
 class RestNote;
 struct ComposedWord;
+struct PageOnOffer;
 
 class RichTextBox : public QTextEdit {
   Q_OBJECT
@@ -151,6 +152,7 @@ class RichTextBox : public QTextEdit {
   int PlaceOf(int position) const;
   void Begin();
   void InsertText(const QString& text);
+  void InsertOffer(const PageOnOffer& offer);
   void InsertPicture(const QTextCharFormat& picture);
   void PressKey(QKeyEvent& event);
   bool TypeOver(const QKeyEvent& event);

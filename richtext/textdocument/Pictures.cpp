@@ -214,15 +214,30 @@ QTextImageFormat KeepPicture(const Picture& picture, const QTextCharFormat& text
   return FormatOf(picture, name, text);
 }
 
-QTextImageFormat KeepImage(const QImage& image, const QTextCharFormat& text, QTextDocument& document) {
-  if (qint64{image.width()} * image.height() <= MostPixelsAtOnce)
-    return KeepPicture(FromImage(image), text, document);
-  const QString name = DrawingResource + QString::number(image.cacheKey());
+bool IsLarge(const QImage& image) {
+  return qint64{image.width()} * image.height() > MostPixelsAtOnce;
+}
+
+Picture StandInFor(const QImage& image) {
+  Picture picture = SizedAs(image);
+  picture.bytes = "image " + std::to_string(image.cacheKey());
+  return picture;
+}
+
+void MakeFile(const QImage& image, QTextDocument& document) {
+  const Picture standIn = StandInFor(image);
+  const QString name = DrawingName(QByteArray::fromStdString(standIn.bytes), standIn);
   const auto maker = std::make_shared<const PngMaker>(image);
   document.addResource(QTextDocument::UserResource, SourceName(name), QVariant::fromValue(maker));
   document.addResource(QTextDocument::ImageResource, QUrl(name), QPixmap::fromImage(image));
   NoteMaker(maker, document);
-  return FormatOf(SizedAs(image), name, text);
+}
+
+QTextImageFormat KeepImage(const QImage& image, const QTextCharFormat& text, QTextDocument& document) {
+  if (!IsLarge(image)) return KeepPicture(FromImage(image), text, document);
+  const QTextImageFormat format = KeepPicture(StandInFor(image), text, document);
+  MakeFile(image, document);
+  return format;
 }
 
 bool AreFilesMade(const QTextDocument& document) {

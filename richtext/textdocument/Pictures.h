@@ -22,8 +22,14 @@ Picture FromFile(const QByteArray& file);
 
 // Keeps the picture in the document; returns the format that shows it, with the attributes of `text`.
 QTextImageFormat KeepPicture(const Picture& picture, const QTextCharFormat& text, QTextDocument& document);
-// The same with an image. One of more than a megapixel is shown at once and made a file on a thread of its
-// own: who asks for its bytes (KeptPicture) waits for them.
+// More than a megapixel: packing it would hold the window.
+bool IsLarge(const QImage& image);
+// A picture of such an image's size, in the place of one whose file is to be made when it is in a document.
+Picture StandInFor(const QImage& image);
+// Shows the image where its stand-in is kept, and has a thread of its own make the file: who asks for its
+// bytes (KeptPicture) waits for them.
+void MakeFile(const QImage& image, QTextDocument& document);
+// KeepPicture with an image, whose file is made on a thread where it is large.
 QTextImageFormat KeepImage(const QImage& image, const QTextCharFormat& text, QTextDocument& document);
 // Whether nobody would wait.
 bool AreFilesMade(const QTextDocument& document);

@@ -1,5 +1,7 @@
 #include "richtext/textdocument/SmallPng.h"
 
+#include <cstring>
+
 #include <QtCore/QBuffer>
 #include <QtCore/QHash>
 #include <QtGui/QImageWriter>
@@ -47,29 +49,42 @@ QImage WithPalette(const QImage& image, const QHash<QRgb, int>& numbers) {
   return made;
 }
 
-// Takes what is written until it is told to stop.
+// Takes what is written until it is told to stop. A write that failed would have the packer tell so on the
+// standard error; so it is let go on, with pixels that are packed in no time.
 class File : public QBuffer {
  public:
-  explicit File(const std::atomic<bool>* stop) : stop_(stop) {}
+  // Of this image, whose pixels nobody else has.
+  File(QImage& image, const std::atomic<bool>* stop)
+      : pixels_(image.bits()), size_(static_cast<std::size_t>(image.sizeInBytes())), stop_(stop) {}
+
+  bool IsWhole() const { return isWhole_; }
 
  protected:
   qint64 writeData(const char* bytes, qint64 size) override {
-    return stop_ && *stop_ ? -1 : QBuffer::writeData(bytes, size);
+    if (isWhole_ && stop_ && *stop_) {
+      isWhole_ = false;
+      std::memset(pixels_, 0, size_);
+    }
+    return isWhole_ ? QBuffer::writeData(bytes, size) : size;
   }
 
  private:
+  uchar* const pixels_;
+  const std::size_t size_;
   const std::atomic<bool>* const stop_;
+  bool isWhole_ = true;
 };
 
 int CompressionOf(const QImage& image) {
   return qint64{image.width()} * image.height() > MostPixelsOfSmall ? Quick : Tight;
 }
 
-std::string Encoded(const QImage& image, const std::atomic<bool>* stop) {
-  File file(stop);
+// The image is the packer's own.
+std::string Encoded(QImage& image, const std::atomic<bool>* stop) {
+  File file(image, stop);
   QImageWriter writer(&file, "png");
   writer.setCompression(CompressionOf(image));
-  return writer.write(image) ? file.data().toStdString() : std::string();
+  return writer.write(image) && file.IsWhole() ? file.data().toStdString() : std::string();
 }
 
 // The same pixels without the image's texts and colour profile.
@@ -86,7 +101,8 @@ std::string SmallPng(const QImage& image, const std::atomic<bool>* stop) {
   if (IsOpaque(full)) full = Bare(full, QImage::Format_RGB32);
   std::string smallest = Encoded(full, stop);
   if (const QHash<QRgb, int> colors = Colors(full); !smallest.empty() && !colors.isEmpty()) {
-    const std::string mapped = Encoded(WithPalette(full, colors), stop);
+    QImage few = WithPalette(full, colors);
+    const std::string mapped = Encoded(few, stop);
     if (mapped.size() < smallest.size()) smallest = mapped;
   }
   return smallest;

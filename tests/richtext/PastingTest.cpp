@@ -1,6 +1,7 @@
 // What comes into the text box from other programs, and what goes out to them.
 #include <ctime>
 
+#include "richtext/box/Pasting.h"
 #include "richtext/html/Reader.h"
 #include "richtext/html/Writer.h"
 #include "richtext/textdocument/Pictures.h"
@@ -174,14 +175,20 @@ TEST_F(PastingTest, ABrowsersPictureComesAsItsFileOrElseAsItsBitmap) {
     }
 }
 
-// A thread makes its file.
-TEST_F(PastingTest, ALargeBitmapIsStoredAsAnyOther) {
-  const QImage large = Checkers({1200, 1000});
-  Paste([&](QMimeData& data) { data.setImageData(large); });
-  ExpectKept();
-  EXPECT_EQ(DecodedPicture(Taken().pictures.at(0)).convertToFormat(large.format()), large);
-  box.InsertBitmap(large.mirrored());
-  box.SetTextRTF("");  // nobody waits for it
+TEST_F(PastingTest, TheFileOfALargeBitmapIsMadeWhileOneGoesOnWriting) {
+  const QImage large = Checkers({2000, 1500});
+  for (const char* html : {"", "<img src='http://example.invalid/a.png' width=300>"}) {
+    box.SetTextRTF("");
+    Paste([&](QMimeData& data) {
+      Offering("", html)(data);
+      data.setImageData(large);
+    });
+    EXPECT_FALSE(AreFilesMade(*box.document()));
+    ExpectKept();
+    const Picture picture = Taken().pictures.at(0);
+    EXPECT_EQ(DecodedPicture(picture).convertToFormat(large.format()), large);
+    EXPECT_EQ(picture.widthTwips == 4500 && picture.heightTwips == 3375, *html != 0);
+  }
 }
 
 TEST_F(PastingTest, WhatNobodyAsksForIsNotMade) {
@@ -197,6 +204,12 @@ TEST_F(PastingTest, WhatNobodyAsksForIsNotMade) {
   box.selectAll();
   const auto copying = secondsOf([&] { box.copy(); });
   EXPECT_LT(3 * copying, secondsOf([] { QApplication::clipboard()->mimeData()->html(); }));
+  EXPECT_FALSE(IsLongToMake(*QApplication::clipboard()->mimeData()));
+  page.pictures[0].bytes.resize(5'000'000);
+  FillDocument(page, *box.document());
+  box.selectAll();
+  box.copy();
+  EXPECT_TRUE(IsLongToMake(*QApplication::clipboard()->mimeData()));
 }
 
 }  // namespace
