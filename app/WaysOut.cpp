@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include <QtGui/QClipboard>
 #include <QtWidgets/QApplication>
 
 #include "app/KeptLog.h"
@@ -21,6 +22,7 @@
 #include "platform/desktop/ClipboardHandOver.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/SyncFolder.h"
+#include "richtext/box/Pasting.h"
 #include "state/State.h"
 #include "store/BookcaseFile.h"
 #include "store/JournalFile.h"
@@ -169,10 +171,12 @@ void SaveWhatCanBeSaved() {
   for (const Refusal& refusal : refusals) std::fprintf(stderr, "Thornquill: %s\n", refusal.asked.c_str());
 }
 
-// Before anything is saved: what is served here must not find the end half done.
+// Before anything is saved: what is served here must not find the end half done. Large pictures would not be
+// through in that time, and are made in one go.
 void HandTheClipboardOver() {
   constexpr std::chrono::milliseconds longest{300};
-  const platform::ClipboardHandOver handing;
+  const QMimeData* const offered = QGuiApplication::clipboard()->mimeData();
+  const platform::ClipboardHandOver handing(offered && richtext::IsLongToMake(*offered));
   if (!handing.IsOver()) look::Pass().Await(longest, [&] { return handing.IsOver(); });
 }
 

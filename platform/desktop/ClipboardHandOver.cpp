@@ -7,9 +7,10 @@
 
 namespace platform {
 
-ClipboardHandOver::ClipboardHandOver() {
+ClipboardHandOver::ClipboardHandOver(bool isTextAlone) {
   xcb_connection_t* const connection = X11OfTheToolkit();
-  if (connection && QGuiApplication::clipboard()->ownsClipboard()) window_ = AskClipboardManager(connection);
+  if (connection && QGuiApplication::clipboard()->ownsClipboard())
+    window_ = AskClipboardManager(connection, isTextAlone);
   if (window_ != 0) qGuiApp->installNativeEventFilter(this);
 }
 

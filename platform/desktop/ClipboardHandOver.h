@@ -8,12 +8,12 @@
 
 namespace platform {
 
-// Asks the manager of an X server to take what the toolkit offers: text, rich text and pictures, and not
-// markup, which may take long to make. The toolkit answers the manager's questions from the event loop, which
-// must be served until this is over. On other displays there is nobody to ask.
+// Asks the manager of an X server to take what the toolkit offers: text, and if it is to also rich text and
+// pictures; not markup, which may take long to make. The toolkit answers the manager's questions from the
+// event loop, which must be served until this is over. On other displays there is nobody to ask.
 class ClipboardHandOver : private QAbstractNativeEventFilter {
  public:
-  ClipboardHandOver();
+  explicit ClipboardHandOver(bool isTextAlone = false);
   ~ClipboardHandOver() override;
   Q_DISABLE_COPY_MOVE(ClipboardHandOver)
 

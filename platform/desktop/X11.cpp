@@ -166,7 +166,7 @@ void ActivateX11Window(xcb_connection_t* connection, xcb_window_t window, std::u
   xcb_flush(connection);
 }
 
-xcb_window_t AskClipboardManager(xcb_connection_t* connection) {
+xcb_window_t AskClipboardManager(xcb_connection_t* connection, bool isTextAlone) {
   const xcb_atom_t manager = Atom(connection, "CLIPBOARD_MANAGER");
   const auto owner =
       Own(xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, manager), nullptr));
@@ -176,7 +176,7 @@ xcb_window_t AskClipboardManager(xcb_connection_t* connection) {
                               Atom(connection, "text/rtf"), Atom(connection, "image/png")};
   const xcb_atom_t list = Atom(connection, "THORNQUILL_CLIPBOARD_KINDS");
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, list, XCB_ATOM_ATOM, 32,
-                      static_cast<std::uint32_t>(std::size(kinds)), kinds);
+                      isTextAlone ? 2 : static_cast<std::uint32_t>(std::size(kinds)), kinds);
   xcb_convert_selection(connection, window, manager, Atom(connection, "SAVE_TARGETS"), list,
                         XCB_CURRENT_TIME);
   xcb_flush(connection);

@@ -32,9 +32,9 @@ void SkipTaskBar(xcb_connection_t* connection, xcb_window_t window);
 // Asks the window manager to bring the window to the front, for an action of the user at this server time.
 void ActivateX11Window(xcb_connection_t* connection, xcb_window_t window, std::uint32_t timestamp);
 
-// Asks the clipboard manager to take what is copied, as text, rich text and pictures. Its answer, a
-// SelectionNotify, comes to the window that is returned, which lives as long as the connection; 0 where there
-// is no manager.
-xcb_window_t AskClipboardManager(xcb_connection_t* connection);
+// Asks the clipboard manager to take what is copied, as text alone or also as rich text and pictures. Its
+// answer, a SelectionNotify, comes to the window that is returned, which lives as long as the connection; 0
+// where there is no manager.
+xcb_window_t AskClipboardManager(xcb_connection_t* connection, bool isTextAlone);
 
 }  // namespace platform
