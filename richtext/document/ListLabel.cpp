@@ -10,7 +10,6 @@
 namespace richtext {
 namespace {
 
-constexpr std::u16string_view BulletSign(&Bullet, 1);
 constexpr char16_t MiddleDot = 0xB7;  // a bullet whose font was lost
 
 constexpr std::u16string_view Bullets =
@@ -149,7 +148,7 @@ ListFormat BulletList(std::u16string_view text) {
   list.kind = ListKind::Bullet;
   const std::u16string clean = FittingListText(Trimmed(text));
   list.before = Trimmed(clean);
-  if (list.before.empty() || list.before == std::u16string_view(&MiddleDot, 1)) list.before = BulletSign;
+  if (list.before.empty() || list.before == std::u16string_view(&MiddleDot, 1)) list.before.assign(1, Bullet);
   for (char16_t& unit : list.before) unit = ShownBullet(unit);
   return list;
 }
