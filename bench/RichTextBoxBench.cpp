@@ -199,6 +199,30 @@ void Blink(benchmark::State& state) {
 }
 BENCHMARK(Blink)->Arg(0)->Arg(1)->UseManualTime()->Unit(benchmark::kMillisecond);
 
+// A letter in the middle of a page that is one paragraph, of soft line breaks or of words, to its drawing;
+// and the caret's blink there.
+void TypeInOneParagraph(benchmark::State& state) {
+  const std::string line = "the quick brown fox jumps over the lazy dog and is back before it";
+  std::string rtf = "{\\rtf1 ";
+  while (rtf.size() < static_cast<std::size_t>(state.range(0)))
+    rtf += line + (state.range(1) == 1 ? "\\line " : " ");
+  RichTextBox box;
+  box.resize(500, 600);
+  box.show();
+  box.SetTextRTF(rtf + '}');
+  box.SetSelStart(static_cast<int>(state.range(0) / 2));
+  const auto draw = [&] { box.viewport()->repaint(box.cursorRect().adjusted(-40, 0, 40, 0)); };
+  for ([[maybe_unused]] auto iteration : state) {
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
+    QCoreApplication::sendEvent(&box, &key);
+    draw();
+  }
+  state.counters["blink_ms"] = bench::SecondsOf(draw) * 1e3;
+}
+BENCHMARK(TypeInOneParagraph)
+    ->ArgsProduct({{15'000, 100'000, 200'000}, {0, 1}})
+    ->Unit(benchmark::kMillisecond);
+
 double MegabytesOf(const std::string& key) {
   std::ifstream status("/proc/self/status");
   for (std::string line; std::getline(status, line);)

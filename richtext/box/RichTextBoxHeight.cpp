@@ -1,13 +1,16 @@
-// The text box and the pages that are too high for the toolkit's layout.
+// The text box and what the toolkit's layout makes of its page: paragraphs that take long, pages that are too
+// high.
 #include <QtCore/QTimer>
 
 #include "richtext/box/RestNote.h"
 #include "richtext/box/RichTextBox.h"
+#include "richtext/textdocument/LongParagraphs.h"
 #include "richtext/textdocument/PageHeight.h"
 
 namespace richtext {
 
 void RichTextBox::GuardHeight(int at, int removed, int added) {
+  SpareLongParagraphs(*document(), at, added);
   guard_->NoteChange(at, removed, added);
   TellOfRest();
 }

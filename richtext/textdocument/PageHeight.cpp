@@ -9,10 +9,10 @@
 #include <QtGui/QScreen>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
-#include <QtGui/QTextLayout>
 
 #include "richtext/characters/Unicode.h"
 #include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/LayoutFormats.h"
 
 namespace richtext {
 namespace {
@@ -73,23 +73,13 @@ double InLines(const QTextBlockFormat& format, double lines, double line, double
   }
 }
 
-// What an input method shows has formats of its own there, which the toolkit gives it in the place of all
-// others. Returns whether something is new.
+// Returns whether something is new.
 bool ShowLetters(const QTextBlock& block, std::optional<double> points) {
-  const auto isOurs = [](const QTextLayout::FormatRange& range) {
-    return range.format.hasProperty(IsLowered);
-  };
-  QList<QTextLayout::FormatRange> formats = block.layout()->formats();
-  formats.removeIf(isOurs);
-  if (points) {
-    QTextCharFormat format;
-    format.setFontPointSize(*points);
-    format.setProperty(IsLowered, true);
-    formats.prepend({0, INT_MAX, format});
-  }
-  if (formats == block.layout()->formats()) return false;
-  block.layout()->setFormats(formats);
-  return true;
+  if (!points) return SetLayoutFormats(block, IsLowered, {});
+  QTextCharFormat format;
+  format.setFontPointSize(*points);
+  format.setProperty(IsLowered, true);
+  return SetLayoutFormats(block, IsLowered, {{0, INT_MAX, format}});
 }
 
 }  // namespace
