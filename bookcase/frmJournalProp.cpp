@@ -9,6 +9,7 @@
 #include "editor/PageFace.h"
 #include "editor/PageTurning.h"
 #include "editor/frmJournal.h"
+#include "look/Spoken.h"
 #include "look/Theme.h"
 #include "platform/CodePage.h"
 #include "platform/Colors.h"
@@ -173,10 +174,12 @@ void frmJournalProp::ChooseIcon(int index) {
 // The ends are hard stops, and what a damaged row holds beyond them is at an end.
 void frmJournalProp::cmdIconBack_Click() {
   ChooseIcon(std::max(SelectedIcon, 2) - 1);
+  look::Announce(JournalIconName(SelectedIcon));
 }
 
 void frmJournalProp::cmdIconNext_Click() {
   ChooseIcon(std::min(SelectedIcon, JournalIconCount - 1) + 1);
+  look::Announce(JournalIconName(SelectedIcon));
 }
 
 void frmJournalProp::cmdPaperColor_Click() {

@@ -12,6 +12,7 @@
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QToolButton>
 
+#include "look/Spoken.h"
 #include "platform/Dates.h"
 
 namespace {
@@ -82,6 +83,7 @@ DateCalendar::DateCalendar(QWidget* parent) : QCalendarWidget(parent) {
   SetBackColor({});
   connect(this, &QCalendarWidget::activated, this, &DateCalendar::DblClick);
   connect(this, &QCalendarWidget::currentPageChanged, this, &DateCalendar::FollowMonth);
+  connect(this, &QCalendarWidget::selectionChanged, this, &DateCalendar::TellDate);
 }
 
 // Month and year can be changed without a mouse, too: the toolkit keeps the keyboard out of its buttons.
@@ -112,6 +114,11 @@ void DateCalendar::FollowMonth(int year, int month) {
   setSelectedDate(first.addDays(std::min(selectedDate().day(), first.daysInMonth()) - 1));
 }
 
+// The toolkit says the number of the day alone.
+void DateCalendar::TellDate() const {
+  if (isVisible()) look::Announce(locale().toString(selectedDate(), QLocale::LongFormat));
+}
+
 double DateCalendar::Value() const {
   if (selectedDate() == platform::CalendarDay(value_)) return value_;
   const QTime time = platform::ToDateTime(value_).time();
@@ -129,7 +136,9 @@ void DateCalendar::SetBackColor(const QColor& color) {
   setPalette(color.isValid() ? PaletteOn(color) : QPalette());
   QTextCharFormat weekend;  // reds that are easy to read there
   weekend.setForeground(BackColor().lightness() < 128 ? QColor(0xff, 0x9a, 0xa8) : QColor(0x96, 0x20, 0x3c));
-  for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, weekend);
+  for (int day = Qt::Monday; day <= Qt::Sunday; ++day)
+    if (const auto weekday = static_cast<Qt::DayOfWeek>(day); !locale().weekdays().contains(weekday))
+      setWeekdayTextFormat(weekday, weekend);
   DressHead();
 }
 

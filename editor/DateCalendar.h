@@ -29,6 +29,7 @@ class DateCalendar : public QCalendarWidget {
   void OpenHeadToKeys();
   void DressHead();
   void FollowMonth(int year, int month);
+  void TellDate() const;
   bool EndsYearBox(const QEvent& event);
 
   double value_ = 0;

@@ -77,7 +77,6 @@ void PageFace::MakePage() {
   picBinding->SetPicture(BindingPicture());
   picBinding->Repeat(Qt::Vertical);
   txtM = Placed(new richtext::RichTextBox(this), QStringLiteral("txtM"), PageLeft, PageTop, 7484, 8849);
-  txtM->setAccessibleName(QStringLiteral("the page"));
   txtM->setFrameShape(QFrame::NoFrame);
   txtM->document()->setDocumentMargin(PageMargin);
   connect(txtM, &richtext::RichTextBox::Change, this, &PageInHand::TextChanged);
@@ -111,6 +110,7 @@ void PageFace::SetHeader(const QString& date, const QString& pageNumber) {
   lblPageNum1->setText(pageNumber);
   lblPageNum1->adjustSize();
   lblPageNum1->move(Pixels(NumberRight) - lblPageNum1->width(), lblPageNum1->y());
+  txtM->setAccessibleName(date.isEmpty() ? pageNumber : pageNumber + QStringLiteral(", ") + date);
 }
 
 void PageFace::SetPaper(std::uint32_t color) {

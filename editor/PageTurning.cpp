@@ -7,6 +7,7 @@
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
 #include "editor/UnstoredPages.h"
+#include "look/Spoken.h"
 #include "pictures/PictureSlots.h"
 #include "platform/CodePage.h"
 #include "platform/Dates.h"
@@ -32,6 +33,8 @@ void ShowPage(std::int32_t page) {
   PageInHand::TurnedTo(page);
   ShowCurrentPage();
   ShowPageHeader();
+  // The text box itself is called by its page.
+  if (Face().isVisible() && !Face().txtM->hasFocus()) look::Announce(Face().txtM->accessibleName());
 }
 
 bool WantsNewPage(std::int32_t number) {

@@ -8,6 +8,7 @@
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
 #include "look/AiryRows.h"
+#include "look/Spoken.h"
 #include "look/Theme.h"
 #include "platform/desktop/Keystroke.h"
 #include "platform/desktop/TaskBar.h"
@@ -37,6 +38,7 @@ frmIndex::frmIndex()
   // clang-format on
   TreeView1->setHeaderHidden(true);
   TreeView1->setUniformRowHeights(true);
+  look::SpeakCurrentEntry(*TreeView1);
   look::GiveRowsAir(*TreeView1);
   TreeView1->installEventFilter(this);
   TreeView1->viewport()->installEventFilter(this);

@@ -4,6 +4,7 @@
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QToolTip>
 
+#include "look/Spoken.h"
 #include "platform/CodePage.h"
 
 namespace look {
@@ -16,6 +17,7 @@ void TellRefused(QWidget& box, const QString& character) {
                            "“%1” cannot be used here: the diary's files hold only letters and "
                            "signs of Western Europe (Windows-1252).")
                            .arg(character);
+  Announce(text);
   QToolTip::showText(box.mapToGlobal(box.rect().bottomLeft()), text, &box);
 }
 

@@ -3,6 +3,7 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QTreeView>
 
 namespace look {
 namespace {
@@ -28,13 +29,51 @@ class Announced : public QObject {
     if (event->type() != QEvent::FocusOut) return false;
     control_.removeEventFilter(this);
     control_.setAccessibleDescription(before_);
-    deleteLater();
+    delete this;
     return false;
   }
 
  private:
   QWidget& control_;
   const QString before_;
+};
+
+// In the rows that are open, of a tree.
+int RowOf(const QAbstractItemView& view, const QModelIndex& index) {
+  const auto* tree = qobject_cast<const QTreeView*>(&view);
+  if (!tree) return index.row();
+  int row = 0;
+  for (QModelIndex above = tree->indexAbove(index); above.isValid(); above = tree->indexAbove(above)) ++row;
+  return row;
+}
+
+void SpeakCurrentOf(const QAbstractItemView& view) {
+  if (!QAccessible::isActive() || !view.hasFocus() || !view.currentIndex().isValid()) return;
+  auto* spoken = QAccessible::queryAccessibleInterface(const_cast<QAbstractItemView*>(&view));
+  QAccessibleTableInterface* table = spoken ? spoken->tableInterface() : nullptr;
+  QAccessibleInterface* entry = table ? table->cellAt(RowOf(view, view.currentIndex()), 0) : nullptr;
+  if (!entry) return;
+  QAccessibleEvent event(entry, QAccessible::Focus);
+  QAccessible::updateAccessibility(&event);
+}
+
+// The toolkit says the list, and the entry only when it changes.
+class EntrySpeaker : public QObject {
+ public:
+  explicit EntrySpeaker(QAbstractItemView& view) : QObject(&view), view_(view) {
+    view.installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::FocusIn)
+      QMetaObject::invokeMethod(
+          this, [this] { SpeakCurrentOf(view_); }, Qt::QueuedConnection);
+    return false;
+  }
+
+ private:
+  QAbstractItemView& view_;
 };
 
 }  // namespace
@@ -46,10 +85,18 @@ void SpeakAs(QWidget& control, QAccessible::Role role) {
 
 void Announce(const QString& text) {
   QWidget* control = QApplication::focusWidget();
-  if (!control) return;
+  if (!control || !control->isVisible()) {
+    QObject::connect(
+        qApp, &QApplication::focusChanged, qApp, [text] { Announce(text); }, Qt::SingleShotConnection);
+    return;
+  }
   static QPointer<Announced> last;
   if (!last || last->parent() != control) last = new Announced(*control);
   control->setAccessibleDescription(text);
+}
+
+void SpeakCurrentEntry(QAbstractItemView& view) {
+  new EntrySpeaker(view);
 }
 
 }  // namespace look

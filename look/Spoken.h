@@ -3,17 +3,21 @@
 
 #include <QtCore/QString>
 #include <QtGui/QAccessible>
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QAbstractItemView>
 
 namespace look {
 
 // The control counts as one of that role, whatever the toolkit takes it for. To be called before anything
-// else is told of it.
+// else is told of it; for controls that have nothing but a name.
 void SpeakAs(QWidget& control, QAccessible::Role role);
 
-// Says what has changed on the screen but not on the control that has the keyboard. The toolkit knows no
-// announcements: the text becomes the description of that control, which every screen reader speaks when it
-// changes, and stays it until the keyboard goes elsewhere.
+// Says what has changed on the screen but not on the control that has the keyboard; where none has it, as
+// when a dialog has just gone, when the next one gets it. The toolkit knows no announcements: the text
+// becomes the description of that control, which screen readers speak when it changes, and stays it until the
+// keyboard goes elsewhere.
 void Announce(const QString& text);
+
+// The entry that is chosen is said when the keyboard comes to the list or the tree.
+void SpeakCurrentEntry(QAbstractItemView& view);
 
 }  // namespace look

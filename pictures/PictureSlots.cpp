@@ -121,6 +121,7 @@ void PictureSlots::ListenToKeys(std::size_t slot) {
     Remove(slot);
     imgController_MouseUp();
     Q_EMIT Left();
+    look::Announce(QStringLiteral("The photograph is off the page."));
   });
   connect(keys, &PictureKeys::Left, this, &PictureSlots::Left);
 }

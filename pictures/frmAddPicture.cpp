@@ -8,6 +8,7 @@
 
 #include "look/AiryRows.h"
 #include "look/Shortening.h"
+#include "look/Spoken.h"
 #include "pictures/NewRow.h"
 #include "pictures/PictureSlots.h"
 #include "pictures/PictureToAdd.h"
@@ -68,6 +69,7 @@ frmAddPicture::frmAddPicture()
   EvenScaleRow();
   PlacePreview();
   Label1->setBuddy(List1);
+  look::SpeakCurrentEntry(*List1);
   List1->addItem(QStringLiteral("No Frame!"));
   cmdOK->setDefault(true);
   List1->setFocus();
@@ -205,6 +207,7 @@ void frmAddPicture::cmdResizeFactorDN_Click() {
 void frmAddPicture::SetScale(double scale) {
   AddScale = scale;
   ShowPreviewOrDropFrame();
+  look::Announce(lblScale->text());
 }
 
 // A frame that has gone since the list was read, or is no picture, is told once and no longer chosen.
@@ -316,4 +319,5 @@ void frmAddPicture::AddPictureToPage() {
   MakeRow(AddFrameIndex == 0 ? std::string() : FrameFile(AddFrameIndex));
   SavePictureStore();
   ShowPagePicturesOrTell();
+  look::Announce(QStringLiteral("The photograph lies on the page."));
 }

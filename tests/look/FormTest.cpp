@@ -1,7 +1,12 @@
+#include <QtGui/private/qguiapplication_p.h>
+#include <QtGui/qpa/qplatformaccessibility.h>
+#include <QtGui/qpa/qplatformintegration.h>
+
 #include "look/CodePageEdit.h"
 #include "look/Emblem.h"
 #include "look/Pass.h"
 #include "look/Shortening.h"
+#include "look/Spoken.h"
 #include "look/Theme.h"
 #include "look/frmWait.h"
 #include "tests/support/Windows.h"
@@ -164,6 +169,39 @@ TEST_F(FormTest, TheWaitWindowComesWithALongPassAndLeavesTheFocusAlone) {
   EXPECT_EQ(Dialog::closings, 0) << "what starts a command waits here too";
   wait.HideNow();
   EXPECT_TRUE(QTest::qWaitFor([] { return Dialog::closings > 0; }));
+}
+
+// What a screen reader is told, as "name" or "name: description".
+QStringList told;
+
+TEST_F(FormTest, WhatChangesElsewhereIsSaidAtTheKeyboardAndAListSaysItsEntry) {
+  QPlatformAccessibility& bridge = *QGuiApplicationPrivate::platformIntegration()->accessibility();
+  bridge.setActive(true);
+  const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+    QAccessibleInterface* spoken = event->accessibleInterface();
+    const QString name = spoken ? spoken->text(QAccessible::Name) : QString();
+    if (event->type() == QAccessible::DescriptionChanged)
+      told += name + u": "_qs + spoken->text(QAccessible::Description);
+    if (event->type() == QAccessible::Focus) told += name;
+  });
+  auto& dialog = ShownDialog();
+  auto* list = new QListWidget(&dialog);
+  list->addItem(u"one"_qs);
+  list->setCurrentRow(0);
+  list->setAccessibleName(u"the list"_qs);
+  look::SpeakCurrentEntry(*list);
+  list->show();
+  told.clear();
+  look::Announce(u"changed"_qs);
+  list->setFocus();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(told.join(u'|'), u"the box: changed|the box: |the list|one");
+  list->clearFocus();
+  look::Announce(u"late"_qs);
+  dialog.box->setFocus();
+  EXPECT_EQ(dialog.box->accessibleDescription(), u"late");
+  QAccessible::installUpdateHandler(before);
+  bridge.setActive(false);
 }
 
 TEST_F(FormTest, ABoxRefusesWhatTheFilesCannotHoldAndSaysWhich) {
