@@ -1,7 +1,7 @@
 #include "bookcase/frmBookcase.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
-#include <QtGui/QPainter>
 
 #include "bookcase/JournalIcons.h"
 #include "bookcase/JournalList.h"
@@ -12,7 +12,7 @@
 #include "editor/PageFace.h"
 #include "editor/frmJournal.h"
 #include "look/Emblem.h"
-#include "look/FocusLine.h"
+#include "look/Spoken.h"
 #include "look/Theme.h"
 #include "output/frmExport.h"
 #include "output/modExport.h"
@@ -40,20 +40,6 @@ JournalEntry& EntryOf(int row) {
 look::PictureButton* Button(const char* caption) {
   return new look::PictureButton(QString::fromLatin1(caption));
 }
-
-// The desktop's style shows no focus on a button that has no face.
-class PictureThatIsClicked : public QPushButton {
- public:
-  using QPushButton::QPushButton;
-
- protected:
-  void paintEvent(QPaintEvent* event) override {
-    QPushButton::paintEvent(event);
-    if (!hasFocus()) return;
-    QPainter painter(this);
-    look::DrawFocusLine(painter, rect(), palette().color(QPalette::WindowText));
-  }
-};
 
 // Tells where the file could not be deleted, or may not stay so.
 bool HasRemoved(int row) {
@@ -111,7 +97,7 @@ frmBookcase::frmBookcase()
 
 void frmBookcase::LayOutButtons() {
   // clang-format off
-  Image2     = Place(new PictureThatIsClicked(this), "Image2", 540, 210, 1200, 1050, QStringLiteral("About Thornquill"));
+  Image2     = Place(new QPushButton(this), "Image2", 540, 210, 1200, 1050, QStringLiteral("About Thornquill"));
   cmdOpen    = Place(Button("Open"),       "cmdOpen",    240, 1380, 1800, 450);
   cmdAdd     = Place(Button("Add"),        "cmdAdd",     240, 1950, 1800, 450);
   cmdDelete  = Place(Button("Delete"),     "cmdDelete",  240, 2520, 1800, 450);
@@ -125,6 +111,7 @@ void frmBookcase::LayOutButtons() {
   Image2->setFlat(true);
   Image2->setIcon(look::QuillAndInkwell());
   Image2->setIconSize(QSize(80, 70));
+  Image2->setFocusPolicy(Qt::NoFocus);  // the button About is the keyboard's
   Image2->setToolTip(QStringLiteral("About Thornquill"));
   SetBold(*cmdOpen);
   cmdOpen->setDefault(true);
@@ -135,7 +122,9 @@ void frmBookcase::LayOutList() {
   ListView1 =
       Place(new JournalList(this), "ListView1", 2340, 570, 7020, 6150, QStringLiteral("the journals"));
   Label2->setBuddy(ListView1);
-  ListView1->viewport()->installEventFilter(this);
+  look::SpeakCurrentEntry(*ListView1);
+  for (QObject* part : {static_cast<QObject*>(ListView1), static_cast<QObject*>(ListView1->viewport())})
+    part->installEventFilter(this);
   connect(ListView1, &QListWidget::itemSelectionChanged, this, &frmBookcase::KeepASelection);
 }
 
@@ -192,9 +181,15 @@ void frmBookcase::KeepASelection() {
   ListView1->currentItem()->setSelected(true);
 }
 
-// Opens the selected journal, whatever the double click hit.
+// A double click opens the selected journal, whatever it hit; the key Delete asks as the button does.
 bool frmBookcase::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != ListView1->viewport() || event->type() != QEvent::MouseButtonDblClick) return false;
+  if (watched == ListView1) {
+    const bool deletes =
+        event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Delete);
+    if (deletes) cmdDelete_Click();
+    return deletes;
+  }
+  if (event->type() != QEvent::MouseButtonDblClick) return false;
   if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) cmdOpen_Click();
   return true;
 }

@@ -1,12 +1,15 @@
 #include "editor/Toolbar.h"
 
 #include <algorithm>
+#include <utility>
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QFrame>
 
 #include "editor/ToolbarPictures.h"
 #include "look/Form.h"
+#include "look/Spoken.h"
 
 namespace {
 
@@ -95,7 +98,7 @@ class CaptionedButton : public QToolButton {
   }
 };
 
-// Only Tab leads here: a click leaves the keyboard in the page.
+// Only keys lead here: a click leaves the keyboard in the page.
 QToolButton* MakeButton(const Row& row, const QFont& font, QWidget* parent) {
   auto* button = new CaptionedButton(parent);
   button->setObjectName(Text(row.key));
@@ -111,6 +114,7 @@ QToolButton* MakeButton(const Row& row, const QFont& font, QWidget* parent) {
 
 void MakeSeparator(int left, QWidget* parent) {
   auto* line = new QFrame(parent);
+  look::SpeakAs(*line, QAccessible::Separator);
   line->setFrameStyle(QFrame::VLine | QFrame::Plain);
   QPalette palette = line->palette();
   palette.setColor(QPalette::WindowText, QColor(0, 0, 0, 70));
@@ -121,6 +125,7 @@ void MakeSeparator(int left, QWidget* parent) {
 }  // namespace
 
 Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
+  look::SpeakAs(*this, QAccessible::ToolBar);
   const QFont font = CaptionFont();
   int left = 0;
   for (const Row& row : rows) {
@@ -131,6 +136,7 @@ Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
       continue;
     }
     QToolButton* button = MakeButton(row, font, this);
+    button->installEventFilter(this);
     button->setGeometry(look::Pixels(left), 0, look::Pixels(ButtonWidth), look::Pixels(ButtonHeight));
     connect(button, &QToolButton::clicked, this, [this, key = Text(row.key)] { Q_EMIT ButtonClick(key); });
     entries_.push_back({Text(row.key), {}, button});
@@ -164,4 +170,26 @@ QToolButton* Toolbar::Button(const QString& key) const {
   for (const Entry& entry : entries_)
     if (entry.button && entry.key == key) return entry.button;
   return nullptr;
+}
+
+bool Toolbar::eventFilter(QObject* watched, QEvent* event) {
+  return event->type() == QEvent::KeyPress && LeadOn(watched, static_cast<QKeyEvent*>(event)->key());
+}
+
+bool Toolbar::LeadOn(const QObject* from, int key) const {
+  std::vector<QToolButton*> buttons;
+  for (const Entry& entry : entries_)
+    if (entry.button) buttons.push_back(entry.button);
+  const auto last = static_cast<std::ptrdiff_t>(buttons.size()) - 1;
+  const auto here = std::find(buttons.begin(), buttons.end(), from) - buttons.begin();
+  const std::pair<int, std::ptrdiff_t> ways[] = {{Qt::Key_Left, here - 1},  {Qt::Key_Up, here - 1},
+                                                 {Qt::Key_Right, here + 1}, {Qt::Key_Down, here + 1},
+                                                 {Qt::Key_Home, 0},         {Qt::Key_End, last}};
+  for (const auto& [way, to] : ways) {
+    if (way != key) continue;
+    buttons[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(to, 0, last))]->setFocus(
+        Qt::OtherFocusReason);
+    return true;
+  }
+  return false;
 }

@@ -23,7 +23,13 @@ class Toolbar : public QWidget {
  Q_SIGNALS:
   void ButtonClick(const QString& key);
 
+ protected:
+  // The arrows lead from button to button, Home and End to the ends.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  bool LeadOn(const QObject* from, int key) const;
+
   struct Entry {
     QString key;  // empty: a separator
     QString caption;

@@ -95,6 +95,7 @@ void frmEmoticons::LayOut() {
   cmdPage   = Place(new QPushButton(PageCaption(1, CountPages()), this), "cmdPage", 1800, 3435, 1545, 360);
   cmdCancel = Place(new QPushButton(QStringLiteral("&Cancel"), this), "cmdCancel", 4050, 3420, 1080, 375);
   // clang-format on
+  for (QPushButton* button : {cmdHelp, cmdPage, cmdCancel}) button->installEventFilter(this);
   connect(cmdPage, &QPushButton::clicked, this, &frmEmoticons::cmdPage_Click);
   connect(cmdCancel, &QPushButton::clicked, this, &frmEmoticons::CloseBox);
   connect(cmdHelp, &QPushButton::clicked, this, [] { platform::SendKey(Qt::Key_F1); });
@@ -112,6 +113,9 @@ void frmEmoticons::ShowScreen(int start) {
     const std::size_t file = static_cast<std::size_t>(start) + static_cast<std::size_t>(i);
     button.setVisible(file < file1_.size() && LoadEmoticon(button, file1_[file]));
   }
+  const auto first = std::find_if(cmdEmoticons.begin(), cmdEmoticons.end(),
+                                  [](const QPushButton* button) { return !button->isHidden(); });
+  StopAt(first == cmdEmoticons.end() ? nullptr : *first);
 }
 
 bool frmEmoticons::LoadEmoticon(QPushButton& button, const std::string& fileName) {
@@ -127,25 +131,50 @@ bool frmEmoticons::LoadEmoticon(QPushButton& button, const std::string& fileName
   return true;
 }
 
-// The arrow keys go from picture to picture as the eye does.
+// The arrow keys go from picture to picture as the eye does, and out of the last row to the buttons below;
+// from there up to the picture that was left.
 bool frmEmoticons::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::KeyPress) return false;
+  return event->type() == QEvent::KeyPress && LeadOn(watched, static_cast<QKeyEvent*>(event)->key());
+}
+
+bool frmEmoticons::LeadOn(const QObject* from, int key) {
   constexpr std::pair<int, int> steps[] = {
       {Qt::Key_Left, -1}, {Qt::Key_Right, 1}, {Qt::Key_Up, -Columns}, {Qt::Key_Down, Columns}};
-  for (const auto& [key, step] : steps) {
-    if (static_cast<QKeyEvent*>(event)->key() != key) continue;
-    MoveFocus(watched, step);
+  const auto way =
+      std::find_if(std::begin(steps), std::end(steps), [key](auto step) { return step.first == key; });
+  if (way == std::end(steps)) return false;
+  const auto place = std::find(cmdEmoticons.begin(), cmdEmoticons.end(), from) - cmdEmoticons.begin();
+  if (place < ScreenSize) {
+    StopAt(cmdEmoticons[static_cast<std::size_t>(place)]);
+    if (!LeadAmongPictures(place, way->second) && key == Qt::Key_Down) ButtonBelow(place)->setFocus();
+    return true;
+  }
+  if (key == Qt::Key_Up && stop_) stop_->setFocus(Qt::OtherFocusReason);
+  return key == Qt::Key_Up;
+}
+
+bool frmEmoticons::LeadAmongPictures(std::ptrdiff_t from, int step) {
+  for (auto to = from + step; to >= 0 && to < ScreenSize; to += step) {
+    QPushButton* button = cmdEmoticons[static_cast<std::size_t>(to)];
+    if (button->isHidden()) continue;
+    StopAt(button);
+    button->setFocus(Qt::OtherFocusReason);
     return true;
   }
   return false;
 }
 
-void frmEmoticons::MoveFocus(const QObject* from, int step) {
-  const auto place = std::find(cmdEmoticons.begin(), cmdEmoticons.end(), from) - cmdEmoticons.begin();
-  for (auto to = place + step; to >= 0 && to < ScreenSize; to += step) {
-    QPushButton* button = cmdEmoticons[static_cast<std::size_t>(to)];
-    if (!button->isHidden()) return button->setFocus(Qt::OtherFocusReason);
-  }
+QPushButton* frmEmoticons::ButtonBelow(std::ptrdiff_t place) const {
+  const int column = static_cast<int>(place) % Columns;
+  if (column < Columns / 3) return cmdHelp;
+  return column < 2 * Columns / 3 && cmdPage->isVisible() ? cmdPage : cmdCancel;
+}
+
+// All pictures are one stop of the Tab key.
+void frmEmoticons::StopAt(QPushButton* button) {
+  stop_ = button;
+  for (QPushButton* each : cmdEmoticons)
+    each->setFocusPolicy(each == button ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 // The last screen leads back to the first.

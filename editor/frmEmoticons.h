@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -29,10 +30,14 @@ class frmEmoticons : public look::Form {
   int CountPages() const;
   void ShowScreen(int start);
   bool LoadEmoticon(QPushButton& button, const std::string& fileName);
-  void MoveFocus(const QObject* from, int step);
+  bool LeadOn(const QObject* from, int key);
+  bool LeadAmongPictures(std::ptrdiff_t from, int step);
+  QPushButton* ButtonBelow(std::ptrdiff_t place) const;
+  void StopAt(QPushButton* button);
   void cmdPage_Click();
   void cmdEmoticons_Click(const QPushButton& button);
 
+  QPushButton* stop_ = nullptr;     // where the Tab key stops among the pictures
   std::vector<std::string> file1_;  // names without a folder, in the system's bytes
 };
 

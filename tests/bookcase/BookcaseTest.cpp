@@ -67,7 +67,7 @@ TEST_F(BookcaseTest, OpensTheRowOfTheItemAndComesBackAtItsClosing) {
   Journals[2].Icon = 64;  // there are 63, and the first stands in for any other
   Journals[3].Icon = 63;
   answers.yes = 1;
-  Click(Window().cmdDelete);
+  QTest::keyClick(&List(), Qt::Key_Delete);
   EXPECT_EQ(Listed(), "two2 [*]3 ");
   EXPECT_TRUE(List().hasFocus());
   for (const std::int32_t row : {2, 3}) {

@@ -75,6 +75,11 @@ TEST_F(EmoticonTest, SixtyToAScreenAndAFullLastScreenHasAnEmptyOneBehindIt) {
   });
   Put(120);
   InPicker([](frmEmoticons& picker) {
+    picker.cmdEmoticons[55]->setFocus();
+    for (QPushButton* target : {picker.cmdPage, picker.cmdEmoticons[55]}) {
+      QTest::keyClick(picker.focusWidget(), target == picker.cmdPage ? Qt::Key_Down : Qt::Key_Up);
+      EXPECT_EQ(picker.focusWidget(), target);
+    }
     for (const char* screen : {"Page 01/03: 60", "Page 02/03: 60", "Page 03/03: 0", "Page 01/03: 60"}) {
       EXPECT_EQ(Screen(picker), screen);
       Click(picker.cmdPage);

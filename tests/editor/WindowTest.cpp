@@ -80,4 +80,23 @@ TEST_F(Window, AfterACommandWithAWindowOfItsOwnTheKeysAreInThePage) {
   platform::SetFontChooser({});
 }
 
+TEST_F(Window, TheArrowsStayInTheToolbarAndATurnIsSaid) {
+  auto* back = window().Toolbar1->Button(3);
+  back->setFocus();
+  for (const auto& [key, position] : {std::pair{Qt::Key_Left, 2},
+                                      {Qt::Key_Home, 1},
+                                      {Qt::Key_Left, 1},
+                                      {Qt::Key_End, 18},
+                                      {Qt::Key_Right, 18}}) {
+    QTest::keyClick(window().focusWidget(), key);
+    EXPECT_EQ(window().focusWidget(), window().Toolbar1->Button(position)) << key;
+  }
+  auto* next = window().Toolbar1->Button(4);
+  next->setFocus();
+  QTest::keyClick(next, Qt::Key_Space);
+  EXPECT_EQ(text().accessibleName().toStdString(), "Page 1, " + face().lblDate->text().toStdString());
+  EXPECT_EQ(next->accessibleDescription(), text().accessibleName());
+  EXPECT_EQ(window().focusWidget(), next) << "to be pressed once more";
+}
+
 }  // namespace
