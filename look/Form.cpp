@@ -11,8 +11,10 @@
 #include <QtWidgets/QLabel>
 
 #include "look/Emblem.h"
+#include "look/LastInput.h"
 #include "look/Pass.h"
 #include "look/Shortening.h"
+#include "look/Spoken.h"
 #include "look/Theme.h"
 #include "platform/Rounding.h"
 
@@ -68,9 +70,11 @@ int Pixels(double twips) {
 
 Form::Form(Kind kind, const QString& name, const QString& caption, int widthTwips, int heightTwips)
     : QDialog(nullptr, FlagsOf(kind)), kind_(kind) {
+  if (kind == Kind::Window) SpeakAs(*this, QAccessible::Window);
   setObjectName(name);
   SetCaption(caption);
   GiveTheProgramItsIcon();
+  NoteInput();
   const QSize size(Pixels(widthTwips), Pixels(heightTwips));
   if (kind == Kind::Dialog) setFixedSize(size);
   resize(size);
@@ -145,6 +149,12 @@ void Form::closeEvent(QCloseEvent* event) {
 
 void Form::reject() {
   if (kind_ == Kind::Dialog) RequestClose();
+}
+
+// A window that a key has opened shows where the keyboard is before the first Tab.
+void Form::showEvent(QShowEvent* event) {
+  setAttribute(Qt::WA_KeyboardFocusChange, WasLastInputAKey());
+  QDialog::showEvent(event);
 }
 
 void Form::paintEvent(QPaintEvent* event) {

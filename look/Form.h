@@ -57,6 +57,7 @@ class Form : public QDialog {
   void closeEvent(QCloseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void reject() override;  // Escape
+  void showEvent(QShowEvent* event) override;
 
   // The window manager keeps this window above the one that is active now.
   void StandOverActiveWindow();
