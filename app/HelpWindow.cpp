@@ -6,10 +6,14 @@
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QShortcut>
+#include <QtGui/QTextBlock>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QVBoxLayout>
+
+#include "look/Spoken.h"
 
 namespace {
 
@@ -18,6 +22,7 @@ constexpr QSize DesignSize(840, 600);
 constexpr int DesignFontHeight = 14;  // pixels; a larger font makes a larger window
 constexpr QSize FrameAround(16, 48);
 constexpr int LettersOfATitle = 32;
+const QString NotFound = QStringLiteral("These words do not stand in the help.");
 
 // Dark on paper, like the diary's pages, on every desktop.
 void DressAsPaper(QWidget& control) {
@@ -72,6 +77,8 @@ void HelpWindow::MakeControls() {
   lstContents->setResizeMode(QListView::Adjust);
   lstContents->setAccessibleName(QStringLiteral("the chapters"));
   Browser->setAccessibleName(QStringLiteral("the help text"));
+  Browser->installEventFilter(this);
+  Browser->setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
   DressForReading(*Browser);
   for (QWidget* paper : {static_cast<QWidget*>(lstContents), static_cast<QWidget*>(Browser)})
     DressAsPaper(*paper);
@@ -131,6 +138,22 @@ bool HelpWindow::HasTopic(const QString& anchor) const {
 
 void HelpWindow::GoTo(const QString& anchor) {
   Browser->setSource(QUrl(QStringLiteral("#") + anchor));
+  PutCaretAt(anchor);
+}
+
+// Where reading goes on with the arrows, and from where Tab looks for the next link.
+void HelpWindow::PutCaretAt(const QString& anchor) {
+  const auto stands = [&](const QTextBlock& block) {
+    for (auto part = block.begin(); !part.atEnd(); ++part)
+      if (part.fragment().charFormat().anchorNames().contains(anchor)) return true;
+    return false;
+  };
+  QTextBlock block = Browser->document()->begin();
+  while (block.isValid() && !anchor.isEmpty() && !stands(block)) block = block.next();
+  if (!block.isValid()) return;
+  const int scrolled = Browser->verticalScrollBar()->value();
+  Browser->setTextCursor(QTextCursor(block));
+  Browser->verticalScrollBar()->setValue(scrolled);
 }
 
 // Whatever led to the chapter: the list, a link in the text, the way back, or F1.
@@ -157,8 +180,16 @@ void HelpWindow::FindNext() {
   const QString words = txtFind->text();
   if (words.isEmpty()) return txtFind->setFocus();
   if (Browser->find(words)) return TellWhetherFound(true);
+  const QTextCursor place = Browser->textCursor();
+  const int scrolled = Browser->verticalScrollBar()->value();
   Browser->moveCursor(QTextCursor::Start);  // once more from the beginning
-  TellWhetherFound(Browser->find(words));
+  const bool found = Browser->find(words);
+  if (!found) {
+    Browser->setTextCursor(place);
+    Browser->verticalScrollBar()->setValue(scrolled);
+    look::Announce(NotFound);
+  }
+  TellWhetherFound(found);
 }
 
 void HelpWindow::TellWhetherFound(bool found) {
@@ -166,7 +197,18 @@ void HelpWindow::TellWhetherFound(bool found) {
   const bool dark = palette.color(QPalette::Base).lightness() < 128;
   if (!found) palette.setColor(QPalette::Text, dark ? QColor(0xff, 0x90, 0x90) : QColor(0xb0, 0x30, 0x30));
   txtFind->setPalette(palette);
-  txtFind->setToolTip(found ? QString() : QStringLiteral("These words do not stand in the help."));
+  txtFind->setToolTip(found ? QString() : NotFound);
+}
+
+// The toolkit looks for the next link behind what is selected, and without a selection from the beginning.
+bool HelpWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  QTextCursor caret = Browser->textCursor();
+  if ((key != Qt::Key_Tab && key != Qt::Key_Backtab) || caret.hasSelection()) return false;
+  caret.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+  Browser->setTextCursor(caret);
+  return false;
 }
 
 void HelpWindow::keyPressEvent(QKeyEvent* event) {

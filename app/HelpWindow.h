@@ -28,6 +28,7 @@ class HelpWindow : public QWidget {
   void ShowTopic(const QString& anchor, const QWidget& window);
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -36,6 +37,7 @@ class HelpWindow : public QWidget {
   void ConnectControls();
   void ListContents(const QString& html);
   void GoTo(const QString& anchor);
+  void PutCaretAt(const QString& anchor);
   void MarkChapter(const QString& anchor);
   void FindNext();
   void TellWhetherFound(bool found);

@@ -138,18 +138,23 @@ TEST_F(OptionsTest, F1LeadsToTheChapterOfTheWindow) {
   QWidget* const list = look::The<frmBookcase>().ListView1;
   EXPECT_FALSE(HelpOn(list));
   EXPECT_NE(answers.last().find("THORNQUILL.HLP"), std::string::npos);
-  folder.Write(
-      "THORNQUILL.HLP",
-      "<h2><a name=\"frmAbout\">About</a></h2>needle<h2><a name=\"frmBookcase\">Books</a></h2>needle");
+  folder.Write("THORNQUILL.HLP",
+               "<h2><a name=\"frmAbout\">About</a></h2>needle <a href=\"#frmAbout\">first</a>"
+               "<h2><a name=\"frmBookcase\">Books</a></h2>needle <a href=\"#frmAbout\">second</a>");
   HelpWindow* const help = HelpOn(list);
   ASSERT_TRUE(help);
   EXPECT_EQ(help->lstContents->currentItem()->text(), u"Books");
   help->Browser->setSource(QUrl(u"#frmAbout"_qs));  // as a link in the text does
   EXPECT_EQ(help->lstContents->currentItem()->text(), u"About");
   EXPECT_EQ(HelpOn(list)->lstContents->currentItem()->text(), u"Books") << "the key leads back";
+  QTest::keyClick(help->Browser, Qt::Key_Tab);
+  EXPECT_EQ(help->Browser->textCursor().selectedText(), u"second") << "the chapter's first link";
   help->txtFind->setText(u"NEEDLE"_qs);
   for (int i = 0; i < 3; ++i) Click(help->cmdFindNext);
   EXPECT_EQ(help->Browser->textCursor().selectedText(), u"needle");
+  help->txtFind->setText(u"hay"_qs);
+  Click(help->cmdFindNext);
+  EXPECT_EQ(help->Browser->textCursor().selectedText(), u"needle") << "what is not found keeps the place";
   QTest::keyClick(help->Browser, Qt::Key_Escape);
   EXPECT_FALSE(help->isVisible());
 }
