@@ -13,6 +13,7 @@ namespace {
 // has an end.
 constexpr std::size_t MostBytesForOne = 80;
 constexpr std::size_t HeaderAndTables = 4096;
+constexpr std::size_t BytesOfLetter = 9;
 constexpr std::size_t BytesOfLinkByte = 4;  // escaped
 
 std::size_t MostBytes(const richtext::Document& document, std::size_t size) {
@@ -22,7 +23,7 @@ std::size_t MostBytes(const richtext::Document& document, std::size_t size) {
       std::any_of(document.paragraphFormats.begin(), document.paragraphFormats.end(),
                   [](const auto& format) { return format.list.kind != richtext::ListKind::None; });
   return HeaderAndTables + MostBytesForOne * size + (hasLinks ? BytesOfLinkByte * richtext::MaxLinkText : 0) +
-         (hasLists ? richtext::MaxListTable : 0);
+         (hasLists ? richtext::MaxListTable + BytesOfLetter * richtext::MaxLongLabels : 0);
 }
 
 }  // namespace

@@ -63,8 +63,25 @@ inline void RequireSoundPictures(const richtext::Document& document) {
   }
 }
 
+inline void RequireSoundRows(const richtext::Document& document) {
+  using namespace richtext;
+  std::size_t row = 0, cells = 0;
+  bool isOpen = false;
+  for (const Paragraph& paragraph : document.paragraphs) {
+    Require(!isOpen || paragraph.place != Place::Text, "a row ends before text goes on");
+    isOpen = paragraph.place == Place::Cell || paragraph.place == Place::CellEnd;
+    cells += paragraph.place == Place::CellEnd || paragraph.place == Place::RowEnd;
+    if (paragraph.place != Place::RowEnd) continue;
+    Require(row < document.rows.size() && document.rows[row] < document.rowFormats.size(), "a row is told");
+    Require(document.rowFormats[document.rows[row++]].cells.size() == cells, "and each of its cells");
+    cells = 0;
+  }
+  Require(!isOpen && row == document.rows.size(), "each row ends");
+}
+
 inline void RequireSound(const richtext::Document& document) {
   Require(!document.paragraphs.empty(), "there is a paragraph");
+  RequireSoundRows(document);
   RequireSoundText(document.text);
   RequireSoundRuns(document);
   RequireSoundFormats(document);

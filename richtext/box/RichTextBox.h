@@ -156,6 +156,7 @@ class RichTextBox : public QTextEdit {
   void InsertPicture(const QTextCharFormat& picture);
   void PressKey(QKeyEvent& event);
   bool TypeOver(const QKeyEvent& event);
+  bool EnterNextCell();
   bool LeaveList();
   void DeleteBack(QKeyEvent& event);
   void DeleteNext(QKeyEvent& event);

@@ -8,6 +8,7 @@
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Marks.h"
 #include "richtext/textdocument/Paragraphs.h"
+#include "richtext/textdocument/Rows.h"
 
 namespace richtext {
 namespace {
@@ -71,6 +72,7 @@ void RichTextBox::PressKey(QKeyEvent& event) {
     if (!TypeOver(event)) QTextEdit::keyPressEvent(&event);
     return;
   }
+  if (event.key() == Qt::Key_Tab && !event.modifiers() && EnterNextCell()) return;
   if (IsBackspace(event)) return DeleteBack(event);
   if (event.matches(QKeySequence::Delete)) return DeleteNext(event);
   if (event.matches(QKeySequence::DeleteStartOfWord)) return DeleteWord(QTextCursor::PreviousWord);
@@ -84,18 +86,20 @@ bool RichTextBox::TypeOver(const QKeyEvent& event) {
   return !text.isEmpty();
 }
 
-// At the start of an item the key takes away its label and nothing more. Hidden text stays: what a person
-// cannot see she does not mean to delete.
+// At the start of an item the key takes away its label and nothing more, and the border of a cell it passes.
+// Hidden text stays: what a person cannot see she does not mean to delete.
 void RichTextBox::DeleteBack(QKeyEvent& event) {
   QTextCursor cursor = textCursor();
   PassBack(cursor);
   setTextCursor(cursor);
   if (cursor.atBlockStart() && LeaveList()) return;
+  if (IsBorder(*document(), cursor.position() - 1)) return moveCursor(QTextCursor::PreviousCharacter);
   QTextEdit::keyPressEvent(&event);
 }
 
 void RichTextBox::DeleteNext(QKeyEvent& event) {
   QTextCursor cursor = textCursor();
+  if (IsBorder(*document(), cursor.position())) return moveCursor(QTextCursor::NextCharacter);
   SelectNextLetter(cursor);
   setTextCursor(cursor);
   QTextEdit::keyPressEvent(&event);
@@ -106,6 +110,13 @@ void RichTextBox::DeleteWord(QTextCursor::MoveOperation across) {
   cursor.movePosition(across, QTextCursor::KeepAnchor);
   RemoveShown(cursor);
   ensureCursorVisible();
+}
+
+bool RichTextBox::EnterNextCell() {
+  QTextCursor cursor = textCursor();
+  if (!GoToNextCell(cursor)) return false;
+  setTextCursor(cursor);
+  return true;
 }
 
 bool RichTextBox::LeaveList() {

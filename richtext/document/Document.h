@@ -12,6 +12,8 @@
 #include <string>
 #include <vector>
 
+#include "richtext/document/Table.h"
+
 namespace richtext {
 
 enum class UnderlineKind : std::uint8_t {
@@ -139,11 +141,13 @@ struct Paragraph {
   std::uint32_t length = 0;      // UTF-16 units, without its end
   std::uint32_t format = 0;      // index into Document::paragraphFormats
   std::uint32_t markFormat = 0;  // index into Document::formats: the format of the paragraph's end
+  Place place = Place::Text;
   bool operator==(const Paragraph&) const = default;
 };
 
 // The characters of `text` that are no letters: U+2028 is a line break within a paragraph, U+0009 a tab,
-// U+FFFC the next one of `pictures`. Paragraph ends are not in the text.
+// U+FFFC the next one of `pictures`. Paragraph ends are not in the text. A row's paragraphs follow each
+// other, and the last of them is a RowEnd.
 struct Document {
   std::u16string text;
   std::vector<Run> runs;  // together as long as text, none empty; a run ends where its paragraph ends
@@ -151,6 +155,8 @@ struct Document {
   std::vector<CharacterFormat> formats;
   std::vector<ParagraphFormat> paragraphFormats;
   std::vector<Picture> pictures;
+  std::vector<std::uint32_t> rows;  // of the tables, in their order: indices into rowFormats
+  std::vector<RowFormat> rowFormats;
   std::int32_t tabDistance = 720;  // twips between the tab stops of paragraphs that set none, 60 to 32767
 
   bool operator==(const Document&) const = default;

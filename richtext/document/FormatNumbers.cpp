@@ -19,6 +19,10 @@ std::size_t HashOf(const Parts&... parts) {
 
 constexpr std::uint32_t None = 0xFF000000;  // no color
 
+std::size_t HashOfBorder(const Border& border) {
+  return HashOf(border.kind, border.width, border.color.value_or(None));
+}
+
 }  // namespace
 
 std::size_t WholeFormatHash::operator()(const CharacterFormat& format) const {
@@ -36,6 +40,16 @@ std::size_t WholeFormatHash::operator()(const ParagraphFormat& format) const {
       format.ground.value_or(None), std::hash<std::u16string>()(format.list.before),
       std::hash<std::u16string>()(format.list.after));
   for (const TabStop& stop : format.tabs) hash = HashOf(hash, stop.position, stop.kind);
+  return hash;
+}
+
+std::size_t WholeFormatHash::operator()(const RowFormat& format) const {
+  std::size_t hash = HashOf(format.left, format.gap, format.height, format.place, format.isHead);
+  for (const Border& border : format.borders) hash = HashOf(hash, HashOfBorder(border));
+  for (const CellFormat& cell : format.cells) {
+    hash = HashOf(hash, cell.right, cell.across, cell.down, cell.place, cell.ground.value_or(None));
+    for (const Border& border : cell.borders) hash = HashOf(hash, HashOfBorder(border));
+  }
   return hash;
 }
 

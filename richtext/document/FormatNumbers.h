@@ -12,6 +12,7 @@ namespace richtext {
 struct WholeFormatHash {
   std::size_t operator()(const CharacterFormat& format) const;
   std::size_t operator()(const ParagraphFormat& format) const;
+  std::size_t operator()(const RowFormat& format) const;
 };
 
 // Puts each format into `formats` once, in the order in which they come.

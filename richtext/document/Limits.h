@@ -15,6 +15,8 @@ constexpr std::int32_t MaxIndent = 32767;         // twips; the format's own ran
 constexpr std::int32_t DefaultTabDistance = 720;  // twips
 constexpr std::size_t MaxTabStops = 32;           // of a paragraph; as many as the classic edit controls keep
 constexpr std::int32_t AutoSpace = 280;           // twips, between the paragraphs of a web page
+constexpr std::size_t MaxCells = 64;              // of a row; as many as word processors make
+constexpr std::int32_t MaxBorder = 255;           // twips
 constexpr std::int32_t MaxListLevel = 8;
 constexpr std::int32_t MaxListNumber = 32767;
 constexpr std::int32_t MaxPictureTwips = 1'000'000;
@@ -29,6 +31,7 @@ constexpr std::size_t MaxTableEntries = 65'536;
 constexpr std::size_t MaxFontName = 64;  // UTF-16 units; every format holds its font's name
 
 constexpr std::size_t MaxListText = 32;         // UTF-16 units before or behind a list's number
+constexpr std::size_t MaxLongLabels = 20'000;   // letters of long labels that are written beside a list
 constexpr std::size_t MaxListTable = 200'000;   // bytes, about, of the list table that is written
 constexpr std::size_t MaxLinkText = 1'000'000;  // bytes of all links, as often as they are written
 constexpr std::size_t MaxLink = 2048;  // bytes; a longer one is none, as half an address leads nowhere

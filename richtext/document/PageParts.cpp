@@ -22,8 +22,10 @@ class Joiner {
     page_.text += part.text;
     for (const Run& run : part.runs) page_.runs.push_back({run.length, formats[run.format]});
     for (const Paragraph& paragraph : part.paragraphs)
-      page_.paragraphs.push_back(
-          {paragraph.length, paragraphFormats[paragraph.format], formats[paragraph.markFormat]});
+      page_.paragraphs.push_back({paragraph.length, paragraphFormats[paragraph.format],
+                                  formats[paragraph.markFormat], paragraph.place});
+    const auto rowFormats = NumbersOf(part.rowFormats, rowFormats_);
+    for (const std::uint32_t row : part.rows) page_.rows.push_back(rowFormats[row]);
     page_.pictures.insert(page_.pictures.end(), part.pictures.begin(), part.pictures.end());
     page_.tabDistance = part.tabDistance;
   }
@@ -33,6 +35,7 @@ class Joiner {
   Document page_;
   FormatNumbers<CharacterFormat> formats_{page_.formats};
   FormatNumbers<ParagraphFormat> paragraphFormats_{page_.paragraphFormats};
+  FormatNumbers<RowFormat> rowFormats_{page_.rowFormats};
 };
 
 }  // namespace

@@ -24,10 +24,11 @@ std::string PlainText(const Document& document) {
   std::size_t at = 0;
   std::size_t run = 0;
   for (const Paragraph& paragraph : document.paragraphs) {
-    if (&paragraph != document.paragraphs.data()) shown += u'\n';
+    if (&paragraph != document.paragraphs.data() && (&paragraph)[-1].place != Place::CellEnd) shown += u'\n';
     for (const std::size_t end = at + paragraph.length; at < end; at += document.runs[run++].length)
       if (!document.formats[document.runs[run].format].hidden)
         AppendShown(text.substr(at, document.runs[run].length), shown);
+    if (paragraph.place == Place::CellEnd || paragraph.place == Place::RowEnd) shown += u'\t';
   }
   return ToUtf8(shown);
 }

@@ -7,8 +7,8 @@
 
 namespace richtext {
 
-// UTF-8, with a line feed between paragraphs and for a line break. Hidden text is left out, and so are
-// pictures and the labels of lists.
+// UTF-8, with a line feed between paragraphs and for a line break, and a tab at the end of a cell. Hidden
+// text is left out, and so are pictures and the labels of lists.
 std::string PlainText(const Document& document);
 
 }  // namespace richtext

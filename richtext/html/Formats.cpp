@@ -83,6 +83,21 @@ void SetLineHeight(ParagraphFormat& made, const QTextBlockFormat& format) {
   made.lineSpacing = static_cast<std::int32_t>(std::min<double>(height, MaxIndent));
 }
 
+constexpr std::int32_t WidthOfTable = 9000;  // twips, of one whose columns tell none
+
+// Of a cell that tells none, the table's.
+Border BorderOf(QTextFrameFormat::BorderStyle style, double width, const QBrush& brush,
+                const QTextTableFormat& table) {
+  const bool isOwn = style != QTextFrameFormat::BorderStyle_None && width > 0;
+  const double pixels = isOwn ? width : table.border();
+  if (!(pixels > 0)) return {};
+  const double twips = std::min(pixels * TwipsPerPixel, double{MaxBorder});
+  Border border{BorderKind::Single, static_cast<std::int32_t>(std::lround(twips)), {}};
+  if (const QColor ink = brush.color(); isOwn && brush.style() != Qt::NoBrush && ink != Qt::black)
+    border.color = FromColor(ink);
+  return border;
+}
+
 }  // namespace
 
 CharacterFormat FromHtmlFormat(const QTextCharFormat& format, const CharacterFormat& caret) {
@@ -101,12 +116,45 @@ ParagraphFormat FromHtmlBlock(const QTextBlock& block) {
     *measure = FittingIndent(*measure);
   made.spaceBefore = std::clamp(made.spaceBefore, 0, MaxIndent);
   made.spaceAfter = std::clamp(made.spaceAfter, 0, MaxIndent);
+  const bool toldNoSide = !(format.alignment() & Qt::AlignAbsolute);
+  if (made.direction == Direction::RightToLeft && made.alignment == Alignment::Left && toldNoSide)
+    made.alignment = Alignment::Right;
   made.tabs.clear();
   made.ground.reset();
   SetLineHeight(made, format);
   made.leftIndent = FittingIndent(made.leftIndent + format.indent() * ListStep);
   if (const QTextList* list = block.textList()) SetList(made, list->format());
   return made;
+}
+
+CellFormat FromHtmlCell(const QTextTableCell& cell, int row, const QTextTableFormat& table) {
+  CellFormat made;
+  const QTextTableCellFormat format = cell.format().toTableCellFormat();
+  if (cell.rowSpan() > 1) made.down = cell.row() == row ? Merging::First : Merging::Continued;
+  made.borders = {
+      BorderOf(format.topBorderStyle(), format.topBorder(), format.topBorderBrush(), table),
+      BorderOf(format.leftBorderStyle(), format.leftBorder(), format.leftBorderBrush(), table),
+      BorderOf(format.bottomBorderStyle(), format.bottomBorder(), format.bottomBorderBrush(), table),
+      BorderOf(format.rightBorderStyle(), format.rightBorder(), format.rightBorderBrush(), table)};
+  if (format.verticalAlignment() == QTextCharFormat::AlignMiddle) made.place = PlaceInCell::Center;
+  if (format.verticalAlignment() == QTextCharFormat::AlignBottom) made.place = PlaceInCell::Bottom;
+  return made;
+}
+
+// What nobody tells is parted alike.
+std::vector<std::int32_t> RightEdgesOf(const QTextTable& table) {
+  const QList<QTextLength> told = table.format().columnWidthConstraints();
+  const std::int32_t share = WidthOfTable / std::max(table.columns(), 1);
+  std::vector<std::int32_t> edges;
+  for (std::int32_t column = 0, right = 0; column < table.columns(); ++column) {
+    const QTextLength width = column < told.size() ? told[column] : QTextLength();
+    const double pixels =
+        width.type() == QTextLength::VariableLength ? 0 : width.value(WidthOfTable / TwipsPerPixel);
+    right +=
+        pixels > 0 ? static_cast<std::int32_t>(std::min(pixels * TwipsPerPixel, double{MaxIndent})) : share;
+    edges.push_back(right = FittingIndent(right));
+  }
+  return edges;
 }
 
 bool IsLightInk(const QColor& color) {

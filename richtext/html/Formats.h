@@ -1,7 +1,11 @@
 // The formats of imported HTML as those of a page.
 #pragma once
 
+#include <cstdint>
+#include <vector>
+
 #include <QtGui/QTextBlock>
+#include <QtGui/QTextTable>
 
 #include "richtext/document/Document.h"
 
@@ -10,6 +14,11 @@ namespace richtext::html {
 // Without background. What the markup leaves open is `caret`'s.
 CharacterFormat FromHtmlFormat(const QTextCharFormat& format, const CharacterFormat& caret);
 ParagraphFormat FromHtmlBlock(const QTextBlock& block);
+
+// Without its right edge.
+CellFormat FromHtmlCell(const QTextTableCell& cell, int row, const QTextTableFormat& table);
+// In twips, of the columns of a table.
+std::vector<std::int32_t> RightEdgesOf(const QTextTable& table);
 
 // Whether letters of this colour can be read on a dark ground alone.
 bool IsLightInk(const QColor& color);

@@ -47,6 +47,19 @@ QTextTableCell CellOf(const QTextBlock& block) {
   return table == nullptr ? QTextTableCell() : table->cellAt(block.position());
 }
 
+// The outermost table around a block; nothing where it stands in none.
+const QTextTable* TableAround(const QTextBlock& block) {
+  const QTextTable* table = nullptr;
+  for (const QTextFrame* frame = QTextCursor(block).currentFrame(); frame; frame = frame->parentFrame())
+    if (const auto* outer = qobject_cast<const QTextTable*>(frame)) table = outer;
+  return table;
+}
+
+// One cell alone holds a part of a web page, and more than a row has room for are no columns.
+bool IsTable(const QTextTable* table) {
+  return table && table->rows() * table->columns() > 1 && table->columns() <= static_cast<int>(MaxCells);
+}
+
 // The toolkit puts an empty paragraph before and behind a table.
 bool IsEdgeOfTable(const QTextBlock& block) {
   if (block.length() > 1 || CellOf(block).isValid()) return false;
@@ -115,14 +128,51 @@ class Reader {
       : html_(html), caret_(caret), carried_(std::move(carried)), backgrounds_(html) {}
 
   Document Read() {
-    for (QTextBlock block = html_.begin(); block.isValid(); block = block.next())
-      if (!IsEdgeOfTable(block) && !IsRuler(block)) TakeBlock(block);
-    DropLastBreak();
-    EndParagraph();
+    for (QTextBlock block = html_.begin(); block.isValid(); block = block.next()) {
+      if (const QTextTable* table = TableAround(block); IsTable(table))
+        block = TakeTable(*table);
+      else if (!IsEdgeOfTable(block) && !IsRuler(block))
+        TakeBlock(block);
+    }
+    if (begun_) DropLastBreak();
+    if (begun_ || page_.paragraphs.empty()) EndParagraph(Place::Text);
     return std::move(page_);
   }
 
  private:
+  // Returns its last block.
+  QTextBlock TakeTable(const QTextTable& table) {
+    if (begun_) EndParagraph(Place::Text);
+    const std::vector<std::int32_t> edges = RightEdgesOf(table);
+    for (int row = 0; row < table.rows(); ++row) TakeRow(table, row, edges);
+    last_ = {};
+    return html_.findBlock(table.lastPosition());
+  }
+
+  void TakeRow(const QTextTable& table, int row, const std::vector<std::int32_t>& edges) {
+    RowFormat format;
+    for (int column = 0; column < table.columns();) {
+      const QTextTableCell cell = table.cellAt(row, column);
+      column = std::clamp(cell.column() + cell.columnSpan(), column + 1, table.columns());
+      TakeCell(cell, cell.row() == row, column == table.columns() ? Place::RowEnd : Place::CellEnd);
+      format.cells.push_back(FromHtmlCell(cell, row, table.format()));
+      format.cells.back().right = edges[static_cast<std::size_t>(column) - 1];
+    }
+    page_.rows.push_back(rowNumbers_(FittingRow(format, format.cells.size())));
+  }
+
+  // Of one that begins in a row above there is an empty paragraph.
+  void TakeCell(const QTextTableCell& cell, bool beginsHere, Place end) {
+    place_ = Place::Cell;
+    last_ = {};
+    for (QTextBlock block = html_.findBlock(cell.firstPosition());
+         beginsHere && block.isValid() && block.position() <= cell.lastPosition(); block = block.next())
+      if (!IsRuler(block)) TakeBlock(block);
+    if (!begun_) paragraph_ = {};
+    EndParagraph(end);
+    place_ = Place::Text;
+  }
+
   void TakeBlock(const QTextBlock& block) {
     const QTextTableCell cell = CellOf(block);
     const bool besideLast =
@@ -136,7 +186,7 @@ class Reader {
   }
 
   void BeginParagraph(const QTextBlock& block) {
-    if (begun_) EndParagraph();
+    if (begun_) EndParagraph(place_);
     begun_ = true;
     paragraph_ = FromHtmlBlock(block);
     lists_.Number(block, paragraph_.list);
@@ -150,10 +200,11 @@ class Reader {
     if (--page_.runs.back().length == 0) page_.runs.pop_back();
   }
 
-  void EndParagraph() {
+  void EndParagraph(Place place) {
     const std::uint32_t mark = numbers_(format_);
     const auto length = static_cast<std::uint32_t>(page_.text.size() - paragraphStart_);
-    page_.paragraphs.push_back({length, paragraphNumbers_(paragraph_), mark});
+    page_.paragraphs.push_back({length, paragraphNumbers_(paragraph_), mark, place});
+    begun_ = false;
     paragraphStart_ = page_.text.size();
     firstRun_ = page_.runs.size();
   }
@@ -208,7 +259,9 @@ class Reader {
   ParagraphFormat paragraph_;
   QTextTableCell last_;
   Lists lists_;
-  bool begun_ = false;
+  FormatNumbers<RowFormat> rowNumbers_{page_.rowFormats};
+  bool begun_ = false;         // a paragraph
+  Place place_ = Place::Text;  // of paragraphs that end as they come
   std::size_t paragraphStart_ = 0;
   std::size_t firstRun_ = 0;  // of the paragraph in hand
 };

@@ -17,10 +17,11 @@
 namespace richtext {
 
 // Text that names no font, size or colour takes those of `caret`. Backgrounds of a web page and of its parts
-// stay behind with the colours of letters that only show on them; highlights come along. Cells of a table are
-// kept apart by tabs. Pictures come from within the markup; what `carried` gives, where it
-// is a function and that has bytes, stands in for the first that is not there, and the others leave their
-// descriptions. Nothing is fetched.
+// stay behind with the colours of letters that only show on them; highlights come along. Tables come as such,
+// but for those of one cell alone, of more columns than a row has room for, and within a cell, where tabs
+// keep the cells apart. Pictures come from within the markup; what `carried` gives, where it is a function
+// and that has bytes, stands in for the first that is not there, and the others leave their descriptions.
+// Nothing is fetched.
 Document ReadHtml(const QString& html, const CharacterFormat& caret, const std::function<Picture()>& carried);
 
 }  // namespace richtext

@@ -3,6 +3,7 @@
 #include "richtext/characters/Unicode.h"
 #include "richtext/document/ItemCounter.h"
 #include "richtext/document/Twips.h"
+#include "richtext/html/TableTags.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/SmallPng.h"
@@ -107,8 +108,12 @@ class Writer {
 
   QString Write() {
     html_ = QLatin1String("<html><head><meta charset=\"utf-8\"></head><body>");
-    for (const Paragraph& paragraph : page_.paragraphs) WriteParagraph(paragraph);
-    return html_ + QLatin1String("</body></html>");
+    for (const Paragraph& paragraph : page_.paragraphs) {
+      html_ += tables_.Before(paragraph);
+      WriteParagraph(paragraph);
+      html_ += tables_.Behind(paragraph);
+    }
+    return html_ + tables_.End() + QLatin1String("</body></html>");
   }
 
  private:
@@ -177,6 +182,7 @@ class Writer {
   QString html_;
   std::vector<Picture>::const_iterator picture_;
   ItemCounter items_;
+  TableTags tables_{page_};
   std::size_t run_ = 0;
   std::size_t at_ = 0;
 };

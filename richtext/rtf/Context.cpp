@@ -130,10 +130,11 @@ Document Context::Take() {
   SettleLabel();
   EndText();
   if (builder_.HasOpenText()) {
-    builder_.EndParagraph(ParagraphNumber(openParagraph_), MarkNumber());
+    EndParagraphAs(openParagraph_.inTable ? Place::Cell : Place::Text, ParagraphNumber(openParagraph_));
   } else if (!builder_.HasParagraphs()) {
-    builder_.EndParagraph(ParagraphNumber(State().paragraph), MarkNumber());
+    EndParagraphAs(Place::Text, ParagraphNumber(State().paragraph));
   }
+  builder_.EndRow(rows_.Told());
   return builder_.Take();
 }
 

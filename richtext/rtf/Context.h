@@ -29,6 +29,7 @@
 #include "richtext/rtf/Links.h"
 #include "richtext/rtf/ParagraphFormats.h"
 #include "richtext/rtf/PictureReader.h"
+#include "richtext/rtf/RowWords.h"
 #include "richtext/rtf/ShapeState.h"
 #include "richtext/rtf/TextDecoder.h"
 #include "richtext/rtf/WrittenLabel.h"
@@ -46,6 +47,7 @@ class Context {
   DocumentCodePage& OwnPage() { return page_; }
   PictureReader& PictureInHand() { return picture_; }
   ShapeState& Shapes() { return shapes_; }
+  RowWords& Rows() { return rows_; }
   ParagraphFormats& Paragraphs() { return paragraphs_; }
   Numbering& NumberingInHand() { return numbering_; }
 
@@ -75,6 +77,7 @@ class Context {
   void PutCharacter(char16_t character);
   void EndParagraph();
   void EndCell();
+  void EndNestedCell();
   void EndRow();
   void SetTabDistance(std::int32_t twips) { builder_.SetTabDistance(FittingTabDistance(twips)); }
   // Text begins that stands for itself, not within the paragraph around it.
@@ -96,6 +99,7 @@ class Context {
   std::u16string* TextInHand();
   void SettleLabel();
   void EndText();
+  void EndParagraphAs(Place place, std::uint32_t format);
   void EndOpenGroups();
 
   std::uint32_t FormatNumber();
@@ -116,6 +120,7 @@ class Context {
   // What is in hand: begun by a group, and used where that, its paragraph or the group around it ends.
   PictureReader picture_;
   ShapeState shapes_;
+  RowWords rows_;
   Numbering numbering_;
   WrittenLabel label_;
   FieldSign sign_;

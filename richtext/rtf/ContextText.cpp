@@ -86,7 +86,13 @@ void Context::EndParagraph() {
   if (State().destination != Destination::Body) return;
   SettleLabel();
   EndText();
-  builder_.EndParagraph(ParagraphNumber(), MarkNumber());
+  EndParagraphAs(State().paragraph.inTable ? Place::Cell : Place::Text, ParagraphNumber());
+}
+
+// Behind its text and its label.
+void Context::EndParagraphAs(Place place, std::uint32_t format) {
+  if (place == Place::Text) builder_.EndRow(rows_.Told());
+  builder_.EndParagraph(format, MarkNumber(), place);
   linkTally_.EndParagraph();
 }
 
@@ -95,6 +101,14 @@ void Context::EndOpenParagraph() {
 }
 
 void Context::EndCell() {
+  if (State().destination != Destination::Body || !builder_.HasRoomForCell()) return EndNestedCell();
+  SettleLabel();
+  EndText();
+  EndParagraphAs(Place::CellEnd, ParagraphNumber());
+}
+
+// Tables within a cell are paragraphs of that, one for each row.
+void Context::EndNestedCell() {
   PutCharacter(u'\t');
   label_.ForgetList();
 }
@@ -102,10 +116,13 @@ void Context::EndCell() {
 // What is told of the row before its end is no format of its cells' paragraphs.
 void Context::EndRow() {
   if (State().destination != Destination::Body) return;
+  SettleLabel();
   EndText();
-  if (!builder_.HasOpenText()) return EndParagraph();
-  builder_.EndParagraph(ParagraphNumber(openParagraph_), MarkNumber());
-  linkTally_.EndParagraph();
+  if (builder_.HasOpenText() && builder_.HasRoomForCell())
+    EndParagraphAs(Place::CellEnd, ParagraphNumber(openParagraph_));
+  else if (builder_.HasOpenText() || !builder_.HasOpenRow())
+    EndParagraph();
+  builder_.EndRow(rows_.Told());
 }
 
 // A label is no text where a list makes one, and else as much of a list as it tells.

@@ -8,53 +8,18 @@
 #include "richtext/rtf/Handlers.h"
 #include "richtext/rtf/ListHandlers.h"
 #include "richtext/rtf/ShapeHandlers.h"
+#include "richtext/rtf/TableWords.h"
+#include "richtext/rtf/WordMakers.h"
 
 namespace richtext::rtf {
 namespace {
 
 using namespace handlers;
 
-constexpr ControlWord Word(std::string_view name, ControlWord::Handler handle, Number whenAbsent = 0) {
-  return {name, handle, 0, whenAbsent, WordKind::Format};
-}
-
-template <typename Value>
-constexpr ControlWord WordOf(std::string_view name, ControlWord::Handler handle, Value argument,
-                             Number whenAbsent = 0) {
-  return {name, handle, static_cast<Number>(argument), whenAbsent, WordKind::Format};
-}
-
-constexpr ControlWord End(std::string_view name) {
-  return {name, ParagraphEnd, 0, 0, WordKind::Structure};
-}
-
-constexpr ControlWord Skipped(std::string_view name) {
-  return {name, Skip, 0, 0, WordKind::Destination};
-}
-
-constexpr ControlWord Shown(std::string_view name) {
-  return {name, Transparent, 0, 0, WordKind::Destination};
-}
-
-constexpr ControlWord Aside(std::string_view name, Destination destination) {
-  return {name, SetAside, static_cast<Number>(destination), 0, WordKind::Destination};
-}
-
-constexpr ControlWord Sent(std::string_view name, Destination destination) {
-  return {name, SendTo, static_cast<Number>(destination), 0, WordKind::Destination};
-}
-
-constexpr ControlWord LabelOf(std::string_view name, WrittenLabel::Kind kind) {
-  return {name, Label, static_cast<Number>(kind), 0, WordKind::Destination};
-}
-
-constexpr Number On = 1;          // toggles are on where no parameter is written
-constexpr Number UsualShift = 6;  // half points
-
 constexpr ControlWord KnownWords[] = {
     WordOf("tab", Character, u'\t'),
     Word("cell", CellEnd),
-    Word("nestcell", CellEnd),
+    Word("nestcell", NestedCellEnd),
     WordOf("line", Character, LineBreak),
     WordOf("softline", Character, LineBreak),
     WordOf("lbr", Character, LineBreak),
@@ -79,7 +44,7 @@ constexpr ControlWord KnownWords[] = {
     End("page"),
     End("column"),
     {"row", RowEnd, 0, 0, WordKind::Structure},
-    {"nestrow", RowEnd, 0, 0, WordKind::Structure},
+    {"nestrow", NestedRowEnd, 0, 0, WordKind::Structure},
     {"u", Unicode, 0, 0, WordKind::Structure},
     Word("uc", FallbackLength, 1),
 
@@ -220,7 +185,7 @@ constexpr ControlWord KnownWords[] = {
     Shown("do"),
     {"shptxt", ShapeText, 0, 0, WordKind::Destination},
     {"dptxbxtext", ShapeText, 0, 0, WordKind::Destination},
-    Shown("nesttableprops"),
+    {"nesttableprops", NestedRow, 0, 0, WordKind::Destination},
 };
 
 // Groups that are passed over, which many write without "\*".
@@ -236,19 +201,20 @@ constexpr std::string_view SkippedNames[] = {
     "private",    "revtbl",       "rsidtbl",  "stylesheet",    "tc",          "template",
     "themedata",  "xe",           "xmlnstbl"};
 
-constexpr std::size_t WordCount = std::size(KnownWords) + std::size(SkippedNames);
+constexpr std::size_t WordCount = std::size(KnownWords) + std::size(tables::Words) + std::size(SkippedNames);
 
 constexpr std::array<ControlWord, WordCount> AllWords = [] {
   std::array<ControlWord, WordCount> all{};
   std::size_t at = 0;
   for (const ControlWord& word : KnownWords) all[at++] = word;
+  for (const ControlWord& word : tables::Words) all[at++] = word;
   for (const std::string_view name : SkippedNames) all[at++] = Skipped(name);
   return all;
 }();
 
 // The table by name: open addressing, made while compiling.
-constexpr std::size_t SlotCount = 512;
-static_assert(WordCount < SlotCount / 2 && WordCount < 255);
+constexpr std::size_t SlotCount = 1024;
+static_assert(WordCount < SlotCount / 2);
 
 constexpr std::size_t SlotOf(std::string_view name) {
   std::uint32_t hash = 2166136261U;
@@ -256,12 +222,12 @@ constexpr std::size_t SlotOf(std::string_view name) {
   return (hash ^ (hash >> 15)) % SlotCount;
 }
 
-constexpr std::array<std::uint8_t, SlotCount> RowOfSlot = [] {
-  std::array<std::uint8_t, SlotCount> rows{};  // 0: free, else the row's number + 1
+constexpr std::array<std::uint16_t, SlotCount> RowOfSlot = [] {
+  std::array<std::uint16_t, SlotCount> rows{};  // 0: free, else the row's number + 1
   for (std::size_t row = 0; row < WordCount; ++row) {
     std::size_t slot = SlotOf(AllWords[row].name);
     while (rows[slot] != 0) slot = (slot + 1) % SlotCount;
-    rows[slot] = static_cast<std::uint8_t>(row + 1);
+    rows[slot] = static_cast<std::uint16_t>(row + 1);
   }
   return rows;
 }();

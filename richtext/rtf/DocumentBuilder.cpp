@@ -88,10 +88,27 @@ void DocumentBuilder::AddPicture(Picture picture) {
   document_.text += PictureMark;
 }
 
-void DocumentBuilder::EndParagraph(std::uint32_t paragraphFormat, std::uint32_t markFormat) {
+void DocumentBuilder::EndParagraph(std::uint32_t paragraphFormat, std::uint32_t markFormat, Place place) {
   const auto length = static_cast<std::uint32_t>(claimed_ - paragraphStart_);
-  document_.paragraphs.push_back({length, paragraphFormat, markFormat});
+  document_.paragraphs.push_back({length, paragraphFormat, markFormat, place});
   paragraphStart_ = claimed_;
+  if (place == Place::Text) return;
+  ++inCell_;
+  if (place != Place::CellEnd) return;
+  ++cells_;
+  lastCell_ = document_.paragraphs.size() - 1;
+  inCell_ = 0;
+}
+
+void DocumentBuilder::EndRow(const RowFormat& format) {
+  std::vector<Paragraph>& paragraphs = document_.paragraphs;
+  for (auto left = paragraphs.end() - static_cast<std::ptrdiff_t>(inCell_); left != paragraphs.end(); ++left)
+    left->place = Place::Text;
+  inCell_ = 0;
+  if (cells_ == 0) return;
+  paragraphs[lastCell_].place = Place::RowEnd;
+  document_.rows.push_back(rowFormats_(FittingRow(format, cells_)));
+  cells_ = 0;
 }
 
 }  // namespace richtext::rtf

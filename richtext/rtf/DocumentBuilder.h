@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "richtext/document/Document.h"
+#include "richtext/document/FormatNumbers.h"
 #include "richtext/document/Limits.h"
 
 namespace richtext::rtf {
@@ -42,7 +43,13 @@ class DocumentBuilder {
   void ClaimText(std::uint32_t format);
   void SetTabDistance(std::int32_t twips) { document_.tabDistance = twips; }
   void AddPicture(Picture picture);  // its mark waits to be claimed, too
-  void EndParagraph(std::uint32_t paragraphFormat, std::uint32_t markFormat);
+  // A paragraph of the place Cell belongs to the cell that ends next; where none does before the row ends, it
+  // is text behind that. No row may be open where text ends.
+  void EndParagraph(std::uint32_t paragraphFormat, std::uint32_t markFormat, Place place);
+  // The row that is open has ended; nothing where none is.
+  void EndRow(const RowFormat& format);
+  bool HasOpenRow() const { return cells_ > 0; }
+  bool HasRoomForCell() const { return cells_ < MaxCells; }
 
   // Whether the paragraph that is being built has text.
   bool HasOpenText() const { return claimed_ != paragraphStart_; }
@@ -58,6 +65,10 @@ class DocumentBuilder {
   std::size_t formatText_ = 0;                                            // bytes, as of MaxFormatText
   std::uint32_t lastFormat_ = 0;
   std::uint32_t lastParagraphFormat_ = 0;
+  FormatNumbers<RowFormat> rowFormats_{document_.rowFormats};
+  std::size_t cells_ = 0;           // of the open row
+  std::size_t lastCell_ = 0;        // the paragraph that the last of them ended with
+  std::size_t inCell_ = 0;          // paragraphs behind that
   std::size_t claimed_ = 0;         // units of text that belong to runs
   std::size_t paragraphStart_ = 0;  // where the open paragraph begins
 };

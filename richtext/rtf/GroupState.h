@@ -56,6 +56,7 @@ struct ParagraphState {
   Direction direction = Direction::LeftToRight;
   TabKind nextTab = TabKind::Left;  // \tqr and its like come before their \tx
   bool multipleSpacing = false;     // \slmult
+  bool inTable = false;             // \intbl
   bool autoBefore = false;
   bool autoAfter = false;
   std::int32_t leftIndent = 0;

@@ -25,32 +25,34 @@ std::string_view WordOf(ListKind kind) {
 
 }  // namespace
 
-void ParagraphWriter::Begin(const ParagraphFormat& format, const InTables& inTables) {
-  const bool changes = format_ != format;
+void ParagraphWriter::Begin(const ParagraphFormat& format, const Around& around) {
+  const bool changes = format_ != format || isInRow_ != around.isInRow;
   if (changes) {
+    isInRow_ = around.isInRow;
     format_ = format;
     list_ = FittingList(format.list);
     out_.Word("pard");
+    if (isInRow_) out_.Word("intbl");
   }
   const std::int32_t number = items_.Count(list_);
   if (list_.kind != ListKind::None) WriteLabel(list_, number);
-  if (changes) WriteFormat(format, inTables);
+  if (changes) WriteFormat(format, around);
 }
 
-void ParagraphWriter::WriteFormat(const ParagraphFormat& format, const InTables& inTables) {
+void ParagraphWriter::WriteFormat(const ParagraphFormat& format, const Around& around) {
   if (list_.kind != ListKind::None) WriteList(list_);
-  out_.Measure("ls", inTables.list);
+  out_.Measure("ls", around.list);
   if (format.direction == Direction::RightToLeft) out_.Word("rtlpar");
   out_.Measure("fi", FittingIndent(format.firstLineIndent));
   out_.Measure("li", FittingIndent(format.leftIndent));
   out_.Measure("ri", FittingIndent(format.rightIndent));
   out_.Measure("sb", FittingSpace(format.spaceBefore));
-  if (format.autoBefore) out_.Word("sbauto", 1);
   out_.Measure("sa", FittingSpace(format.spaceAfter));
+  if (format.autoBefore) out_.Word("sbauto", 1);
   if (format.autoAfter) out_.Word("saauto", 1);
   WriteSpacing(format);
   WriteTabs(format);
-  out_.Measure("cbpat", inTables.ground);
+  out_.Measure("cbpat", around.ground);
   if (format.alignment != Alignment::Left) out_.Word(WordOf(format.alignment));
 }
 
@@ -94,10 +96,14 @@ void ParagraphWriter::WriteList(const ListFormat& list) {
   out_.Measure("ilvl", list.level);
 }
 
+// A label is written again for each item, so a short document could ask for a long one.
 void ParagraphWriter::WriteLabel(const ListFormat& list, std::int32_t number) {
+  constexpr std::size_t Usual = 12;
+  const std::u16string label = LabelText(list, number);
+  if (label.size() > Usual && (longLabels_ += label.size()) > MaxLongLabels) return;
   out_.BeginGroup("pntext");
   if (IsPlainBullet(list)) out_.Word("f", symbolFont_);
-  if (!WriteSymbol(list)) out_.Text(LabelText(list, number));
+  if (!WriteSymbol(list)) out_.Text(label);
   out_.Word("tab");
   out_.Raw("}");
 }

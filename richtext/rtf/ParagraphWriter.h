@@ -15,16 +15,17 @@ class ParagraphWriter {
   // `symbolFont` is the \f number of a symbol font, for bullets.
   ParagraphWriter(Output& out, std::int32_t symbolFont) : out_(out), symbolFont_(symbolFont) {}
 
-  // What the document's tables have of a paragraph; 0: nothing.
-  struct InTables {
-    std::int32_t list = 0;
-    std::int32_t ground = 0;  // a color
+  // What is told of a paragraph besides its format.
+  struct Around {
+    std::int32_t list = 0;    // of the list table; 0: none
+    std::int32_t ground = 0;  // its number in the color table; 0: none
+    bool isInRow = false;
   };
   // The next paragraph is of this format.
-  void Begin(const ParagraphFormat& format, const InTables& inTables);
+  void Begin(const ParagraphFormat& format, const Around& around);
 
  private:
-  void WriteFormat(const ParagraphFormat& format, const InTables& inTables);
+  void WriteFormat(const ParagraphFormat& format, const Around& around);
   void WriteSpacing(const ParagraphFormat& format);
   void WriteTabs(const ParagraphFormat& format);
   void WriteList(const ListFormat& list);
@@ -35,7 +36,9 @@ class ParagraphWriter {
   std::int32_t symbolFont_;
   std::optional<ParagraphFormat> format_;  // in force
   ListFormat list_;                        // likewise, as written
+  bool isInRow_ = false;                   // likewise
   ItemCounter items_;
+  std::size_t longLabels_ = 0;  // letters of those that are longer than a person's
 };
 
 }  // namespace richtext::rtf

@@ -22,9 +22,9 @@ namespace richtext {
 // nothing before it.
 bool IsRtf(std::string_view text);
 
-// Text that is no RTF is taken as plain text in Windows-1252. The very last
-// \par of the document is swallowed. Table cells end in a tab and rows are paragraphs; headers, footnotes and
-// comments are left out.
+// Text that is no RTF is taken as plain text in Windows-1252. The very last \par of the document is
+// swallowed. Of a table within a cell each row is a paragraph, whose cells end in a tab; headers, footnotes
+// and comments are left out.
 Document ReadRtf(std::string_view rtf);
 
 }  // namespace richtext

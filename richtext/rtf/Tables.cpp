@@ -60,24 +60,32 @@ Tables::Tables(const Document& document)
     : fontOfFormat_(document.formats.size()),
       colorOfFormat_(document.formats.size()),
       highlightOfFormat_(document.formats.size()),
-      groundOfFormat_(document.paragraphFormats.size()),
       hasBullets_(HasBullets(document)) {
   std::unordered_map<std::u16string, std::size_t> fontPlaces;
-  std::unordered_map<std::uint32_t, std::size_t> colorPlaces;
   const std::vector<std::uint32_t> used = FormatsInUse(document);
   const auto isNameless = [&](std::uint32_t number) { return FontNameOf(document.formats[number]).empty(); };
   if (std::any_of(used.begin(), used.end(), isNameless)) PlaceOf(std::u16string(), fontPlaces, fonts_);
-  const auto place = [&](const std::optional<std::uint32_t>& color) {
-    return color ? PlaceOf(*color & 0xFFFFFF, colorPlaces, colors_) + 1 : 0;
-  };
   for (const std::uint32_t number : used) {
     const CharacterFormat& format = document.formats[number];
     fontOfFormat_[number] = PlaceOf(FontNameOf(format), fontPlaces, fonts_);
-    colorOfFormat_[number] = place(format.color);
-    highlightOfFormat_[number] = place(format.highlight);
+    colorOfFormat_[number] = Place(format.color);
+    highlightOfFormat_[number] = Place(format.highlight);
   }
-  for (const Paragraph& paragraph : document.paragraphs)
-    groundOfFormat_[paragraph.format] = place(document.paragraphFormats[paragraph.format].ground);
+  for (const ParagraphFormat& format : document.paragraphFormats) Place(format.ground);
+  for (const RowFormat& row : document.rowFormats) PlaceColorsOf(row);
+}
+
+// The color's number, at the table's end when it is new; 0 where there is none.
+std::size_t Tables::Place(const std::optional<std::uint32_t>& color) {
+  return color ? PlaceOf(*color & 0xFFFFFF, colorPlaces_, colors_) + 1 : 0;
+}
+
+void Tables::PlaceColorsOf(const RowFormat& row) {
+  for (const Border& border : row.borders) Place(border.color);
+  for (const CellFormat& cell : row.cells) {
+    Place(cell.ground);
+    for (const Border& border : cell.borders) Place(border.color);
+  }
 }
 
 void Tables::AppendTo(std::string& rtf) const {

@@ -4,7 +4,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "richtext/document/Document.h"
@@ -24,22 +26,26 @@ class Tables {
   std::size_t Color(std::uint32_t format) const { return colorOfFormat_[format]; }
   // \highlight0 is none.
   std::size_t Highlight(std::uint32_t format) const { return highlightOfFormat_[format]; }
-  // The \cbpat number of one of the document's paragraph formats; 0 is none.
-  std::size_t Ground(std::uint32_t format) const { return groundOfFormat_[format]; }
+  // The number of one of the colors of the document's paragraphs and tables; 0 is none.
+  std::int32_t NumberOf(const std::optional<std::uint32_t>& color) const {
+    return color ? static_cast<std::int32_t>(colorPlaces_.at(*color & 0xFFFFFF)) + 1 : 0;
+  }
   // The \f number of the symbol font that bullets are written in; the table has it when there are any.
   std::int32_t SymbolFont() const { return static_cast<std::int32_t>(fonts_.size()); }
 
   void AppendTo(std::string& rtf) const;
 
  private:
+  std::size_t Place(const std::optional<std::uint32_t>& color);
+  void PlaceColorsOf(const RowFormat& row);
   void AppendFonts(std::string& rtf) const;
 
   std::vector<std::u16string> fonts_;
   std::vector<std::uint32_t> colors_;  // the first is \cf1
+  std::unordered_map<std::uint32_t, std::size_t> colorPlaces_;
   std::vector<std::size_t> fontOfFormat_;
   std::vector<std::size_t> colorOfFormat_;
   std::vector<std::size_t> highlightOfFormat_;
-  std::vector<std::size_t> groundOfFormat_;
   bool hasBullets_ = false;
 };
 

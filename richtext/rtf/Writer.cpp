@@ -12,6 +12,7 @@
 #include "richtext/rtf/Output.h"
 #include "richtext/rtf/ParagraphWriter.h"
 #include "richtext/rtf/PictureWriter.h"
+#include "richtext/rtf/RowWriter.h"
 #include "richtext/rtf/Tables.h"
 
 namespace richtext::rtf {
@@ -42,6 +43,8 @@ class Writer {
   std::size_t textAt_ = 0;
   std::size_t runAt_ = 0;
   std::size_t pictureAt_ = 0;
+  std::size_t rowAt_ = 0;
+  bool isInRow_ = false;  // one has begun that has not ended
 };
 
 std::string Writer::Write() {
@@ -66,8 +69,11 @@ std::size_t Writer::ExpectedSize() const {
 
 void Writer::WriteParagraph(const Paragraph& paragraph) {
   const auto number = static_cast<std::size_t>(&paragraph - document_.paragraphs.data());
-  paragraphs_.Begin(document_.paragraphFormats[paragraph.format],
-                    {lists_.NumberOf(number), static_cast<std::int32_t>(tables_.Ground(paragraph.format))});
+  const ParagraphFormat& format = document_.paragraphFormats[paragraph.format];
+  const bool isInRow = paragraph.place != Place::Text;
+  if (isInRow && !isInRow_) WriteRow(document_.rowFormats[document_.rows[rowAt_++]], tables_, out_);
+  isInRow_ = isInRow && paragraph.place != Place::RowEnd;
+  paragraphs_.Begin(format, {lists_.NumberOf(number), tables_.NumberOf(format.ground), isInRow});
   const std::size_t end = textAt_ + paragraph.length;
   while (textAt_ < end) {
     const Run& run = document_.runs[runAt_++];
@@ -76,8 +82,9 @@ void Writer::WriteParagraph(const Paragraph& paragraph) {
     textAt_ += run.length;
   }
   looks_.SetMark(paragraph.markFormat);
-  out_.Raw("\\par");
+  out_.Raw(paragraph.place == Place::Text || paragraph.place == Place::Cell ? "\\par" : "\\cell");
   looks_.EndParagraph();
+  if (paragraph.place == Place::RowEnd) out_.Raw("\\row");
   out_.Raw("\r\n");
 }
 

@@ -16,6 +16,7 @@
 #include "richtext/textdocument/PageHeight.h"
 #include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/Rows.h"
 #include "richtext/textdocument/TextDocument.h"
 
 namespace richtext {
@@ -51,38 +52,78 @@ class Filler {
     std::transform(source.formats.begin(), source.formats.end(), std::back_inserter(marks_), ToMarkFormat);
     for (const ParagraphFormat& format : source.paragraphFormats)
       blockFormats_.push_back(ToBlockFormat(format));
+    isWithinRow_ = IsInRow(cursor.blockFormat()) && !cursor.document()->isEmpty();
+    if (isWithinRow_)
+      for (QTextBlockFormat& format : blockFormats_) format = InSameRow(format, cursor.blockFormat());
+    else if (cursor.block().previous().isValid())
+      isOddRow_ = IsOddRow(cursor.block().previous().blockFormat());
   }
 
   // The rest of a paragraph that is parted stays as it was.
   void Fill() {
     const QTextBlockFormat format = cursor_.blockFormat();
     const QTextCharFormat mark = cursor_.blockCharFormat();
-    const bool parts = source_.paragraphs.size() > 1 && !cursor_.atBlockEnd();
+    const bool endsInRow = source_.paragraphs.back().place == Place::RowEnd && !isWithinRow_;
+    const bool parts = (source_.paragraphs.size() > 1 || endsInRow) && !cursor_.atBlockEnd();
     FillIn();
     if (!parts) return;
+    if (endsInRow) cursor_.insertBlock();
     cursor_.setBlockFormat(format);
     SetMark(cursor_.block(), mark);
   }
 
  private:
   void FillIn() {
+    Place before = Place::Text;
     for (const Paragraph& paragraph : source_.paragraphs) {
-      Begin(paragraph);
+      const bool goesOn = before == Place::CellEnd && !isWithinRow_;
+      if (!goesOn) Begin(paragraph, before);
       for (std::uint32_t left = paragraph.length; left > 0; ++run_) {
         Insert(source_.runs[run_]);
         left -= std::min(left, source_.runs[run_].length);
       }
+      if (!isWithinRow_) EndCell(paragraph);
+      before = paragraph.place;
     }
   }
 
-  void Begin(const Paragraph& paragraph) {
-    const QTextBlockFormat& format = blockFormats_[paragraph.format];
-    const QTextCharFormat& mark = marks_[paragraph.markFormat];
-    if (&paragraph != source_.paragraphs.data()) return cursor_.insertBlock(format, mark);
+  void Begin(const Paragraph& paragraph, Place before) {
+    const bool isInRow = paragraph.place != Place::Text && !isWithinRow_;
+    if (isInRow && before != Place::Cell) BeginRow();
+    const Paragraph& last = isInRow ? EndOfBlock(paragraph) : paragraph;
+    const QTextBlockFormat format = isInRow ? RowFormatOf(paragraph, last) : blockFormats_[paragraph.format];
+    const QTextCharFormat& mark = marks_[last.markFormat];
+    if (&paragraph != source_.paragraphs.data() || (isInRow && !cursor_.atBlockStart()))
+      return cursor_.insertBlock(format, mark);
     const bool joins = !cursor_.atBlockStart() || (!cursor_.atBlockEnd() && source_.paragraphs.size() == 1);
-    if (joins || KeepsFormat(cursor_.block())) return;
+    if (!isInRow && (joins || KeepsFormat(cursor_.block()))) return;
     cursor_.setBlockFormat(format);
     SetMark(cursor_.block(), mark);
+  }
+
+  void BeginRow() {
+    row_ = &source_.rowFormats[source_.rows[rowAt_++]];
+    isOddRow_ = !isOddRow_;
+  }
+
+  // The paragraphs of a row share a block as far as one that does not end with its cell.
+  static const Paragraph& EndOfBlock(const Paragraph& first) {
+    const Paragraph* last = &first;
+    while (last->place == Place::CellEnd) ++last;
+    return *last;
+  }
+
+  QTextBlockFormat RowFormatOf(const Paragraph& first, const Paragraph& last) const {
+    const QTextBlockFormat& own = blockFormats_[last.format];
+    const bool areColumns = last.place == Place::RowEnd;
+    return InRow(areColumns ? InColumns(blockFormats_[first.format], *row_) : own, *row_, isOddRow_);
+  }
+
+  void EndCell(const Paragraph& paragraph) {
+    if (paragraph.place != Place::CellEnd && paragraph.place != Place::RowEnd) return;
+    cursor_.insertText(QStringLiteral("\t"),
+                       CellEnd(marks_[paragraph.markFormat], blockFormats_[paragraph.format],
+                               paragraph.place == Place::RowEnd));
   }
 
   // A few words that come into an empty list item do not end the list.
@@ -124,6 +165,10 @@ class Filler {
   std::vector<QTextCharFormat> formats_;
   std::vector<QTextCharFormat> marks_;
   std::vector<QTextBlockFormat> blockFormats_;
+  bool isWithinRow_ = false;  // what comes in is a part of a cell
+  const RowFormat* row_ = nullptr;
+  bool isOddRow_ = false;
+  std::size_t rowAt_ = 0;
   bool hidden_ = false;  // the run in hand
   std::size_t run_ = 0;
   std::size_t at_ = 0;
@@ -196,7 +241,7 @@ void InsertDocument(const Document& source, QTextCursor& cursor) {
 void InsertPlain(const QString& text, const QTextCharFormat& format, QTextCursor& cursor) {
   cursor.beginEditBlock();
   const int from = cursor.selectionStart();
-  cursor.insertText(text, format);
+  cursor.insertText(text, WithoutCellEnd(format));
   Squeeze(*cursor.document(), from, cursor.position());
   cursor.endEditBlock();
 }

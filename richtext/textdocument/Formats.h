@@ -32,6 +32,10 @@ enum BoxProperty : int {
   TwinListOfDocument,  // bool
   TextBeforeNumber,    // QString
   TextAfterNumber,
+  RowOfTable,          // QByteArray, see Rows.h
+  OddRow,              // bool
+  ParagraphOfCellEnd,  // QTextFormat
+  EndOfRow,            // bool
 };
 
 // int, twips, of a document that was filled.

@@ -8,6 +8,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/document/Twips.h"
 #include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/Rows.h"
 
 namespace richtext {
 namespace {
@@ -254,7 +255,8 @@ QTextBlockFormat WithoutList(const QTextBlockFormat& format) {
   left.rightIndent = shown.right;
   left.firstLineIndent = shown.first;
   left.list = {};
-  return ToBlockFormat(left);
+  const QTextBlockFormat made = ToBlockFormat(left);
+  return IsInRow(format) ? InSameRow(made, format) : made;
 }
 
 }  // namespace richtext

@@ -12,6 +12,7 @@
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/Rows.h"
 #include "richtext/textdocument/TextDocument.h"
 
 namespace richtext {
@@ -48,6 +49,7 @@ class Taker {
     // The toolkit looks a position up in a tree, and a block or fragment begins where the one before it ends.
     for (int at = block.position(); block.isValid() && at <= to_; at += block.length(), block = block.next())
       TakeBlock(block, at);
+    EndRow();
     return std::move(taken_);
   }
 
@@ -56,15 +58,17 @@ class Taker {
     word_ = &word;
     QTextBlock block = source_.findBlock(from_);
     int at = from_;
-    for (; block.isValid() && at <= to_ && work_ < most; at += block.length(), block = block.next())
+    for (; block.isValid() && at <= to_ && (work_ < most || IsRowOpen());
+         at += block.length(), block = block.next())
       TakeBlock(block, at);
+    EndRow();
     return {std::move(taken_), at - from_, work_};
   }
 
  private:
   void TakeBlock(const QTextBlock& block, int at) {
-    const std::size_t before = taken_.text.size();
-    firstRun_ = taken_.runs.size();
+    isInRow_ = IsRowTaken(block, at);
+    if (!isInRow_) EndRow();
     ++work_;
     for (auto it = block.begin(); !it.atEnd(); ++it, ++work_) {
       const QTextFragment fragment = it.fragment();
@@ -76,10 +80,61 @@ class Taker {
       at = end;
     }
     if (IsWordIn(at, at + 1)) TakeWord();
-    taken_.paragraphs.push_back(
-        {static_cast<std::uint32_t>(taken_.text.size() - before),
-         paragraphFormat_(block.blockFormatIndex(), [&] { return FromBlockFormat(block.blockFormat()); }),
-         mark_(block.charFormatIndex(), [&] { return FromMarkFormat(block.charFormat()); })});
+    const bool isBehindCell = cells_ > 0 && inCell_ == 0 && paragraphStart_ == taken_.text.size();
+    if (isInRow_ && isBehindCell && (endsRow_ || !MayGoOn(block))) return EndRow();
+    EndParagraph(paragraphFormat_(block.blockFormatIndex(), [&] { return FromBlockFormat(FormatOf(block)); }),
+                 mark_(block.charFormatIndex(), [&] { return FromMarkFormat(block.charFormat()); }),
+                 isInRow_ ? Place::Cell : Place::Text);
+    if (isInRow_ && !MayGoOn(block)) EndRow();
+  }
+
+  static QTextBlockFormat FormatOf(const QTextBlock& block) {
+    const QTextBlockFormat format = block.blockFormat();
+    return format.hasProperty(ParagraphOfCellEnd) ? ParagraphOfCell(format) : format;
+  }
+
+  // A row is one only where all of a paragraph is taken.
+  bool IsRowTaken(const QTextBlock& block, int at) {
+    const auto [known, isNew] = rowsByIndex_.try_emplace(block.blockFormatIndex());
+    if (isNew && IsInRow(block.blockFormat())) known->second = RowOf(block.blockFormat());
+    row_ = known->second ? &*known->second : nullptr;
+    return row_ && at >= from_ && at + block.length() - 1 <= to_;
+  }
+
+  void EndParagraph(std::uint32_t format, std::uint32_t mark, Place place) {
+    const auto length = static_cast<std::uint32_t>(taken_.text.size() - paragraphStart_);
+    taken_.paragraphs.push_back({length, format, mark, place});
+    paragraphStart_ = taken_.text.size();
+    firstRun_ = taken_.runs.size();
+    inCell_ = place == Place::Cell ? inCell_ + 1 : 0;
+    if (place == Place::CellEnd) ++cells_;
+  }
+
+  bool IsRowOpen() const { return cells_ > 0 || inCell_ > 0; }
+
+  // What stands behind the last cell is one more; without a cell it is text.
+  void EndRow() {
+    if (cells_ == 0)
+      for (; inCell_ > 0; --inCell_)
+        (taken_.paragraphs.end() - static_cast<std::ptrdiff_t>(inCell_))->place = Place::Text;
+    if (cells_ == 0) return;
+    taken_.paragraphs.back().place = Place::RowEnd;
+    taken_.rows.push_back(rowNumbers_(FittingRow(*row_, cells_ + (inCell_ > 0))));
+    cells_ = inCell_ = 0;
+  }
+
+  // Of a fragment of the ends of cells, among which there may be letters.
+  void TakeCells(QStringView text, const QTextFragment& fragment) {
+    const QTextCharFormat format = fragment.charFormat();
+    endsRow_ = EndsRow(format);
+    for (const QChar unit : text) {
+      if (unit != u'\t' || (cells_ + 1 >= MaxCells && !endsRow_)) {
+        AddText(QStringView(&unit, 1), numbers_(FromTextFormat(format)), format);
+        continue;
+      }
+      EndParagraph(paragraphNumbers_(FromBlockFormat(ParagraphOfCell(format))),
+                   numbers_(FromMarkFormat(format)), Place::CellEnd);
+    }
   }
 
   bool IsWordIn(int from, int to) const {
@@ -95,6 +150,8 @@ class Taker {
     if (from >= to) return;
     const QString whole = fragment.text();
     const QStringView text = QStringView(whole).mid(from - at, to - from);
+    if (isInRow_ && text.contains(u'\t') && IsCellEnd(fragment.charFormat()))
+      return TakeCells(text, fragment);
     const auto shown =
         shown_(fragment.charFormatIndex(), [&] { return FromTextFormat(fragment.charFormat()); });
     // The toolkit takes its time to give a format, and few texts need it.
@@ -152,7 +209,15 @@ class Taker {
   const ComposedWord* word_ = nullptr;
   std::size_t work_ = 0;
   Document taken_;
-  std::size_t firstRun_ = 0;  // of the paragraph in hand
+  std::size_t firstRun_ = 0;        // of the paragraph in hand
+  std::size_t paragraphStart_ = 0;  // in the text
+  bool isInRow_ = false;            // the block in hand
+  const RowFormat* row_ = nullptr;  // its row
+  bool endsRow_ = false;            // the end of a cell that was met last
+  std::size_t cells_ = 0;           // of the open row
+  std::size_t inCell_ = 0;          // paragraphs of the cell that has not ended
+  std::unordered_map<int, std::optional<RowFormat>> rowsByIndex_;  // of blocks, by the toolkit's numbers
+  FormatNumbers<RowFormat> rowNumbers_{taken_.rowFormats};
   FormatNumbers<CharacterFormat> numbers_{taken_.formats};
   FormatNumbers<ParagraphFormat> paragraphNumbers_{taken_.paragraphFormats};
   Known<CharacterFormat> shown_{numbers_};

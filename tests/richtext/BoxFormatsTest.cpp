@@ -1,6 +1,9 @@
 // Every format of a page through the text box's document and back.
+#include <random>
+
 #include "platform/files/InputFile.h"
 #include "richtext/document/Limits.h"
+#include "richtext/document/PageParts.h"
 #include "richtext/textdocument/Labels.h"
 #include "tests/richtext/BoxFixture.h"
 
@@ -14,6 +17,39 @@ using BoxFormatsTest = BoxTest;
 TEST_F(BoxFormatsTest, HoldsEveryLook) {
   for (const std::string page : {"looks.rtf", "paragraph-looks.rtf"})
     ExpectHeld(platform::ReadFile(TEST_SAMPLES "/../../fuzz/seeds/rtf/" + page));
+}
+
+// Whatever is done to a table, what is stored is shown again as it is, and the copy for the log is the same.
+TEST_F(BoxFormatsTest, TablesHoldAndStandEveryEdit) {
+  for (const Example& example : ExamplesOf("rtf.txt"))
+    if (example.dump.find('$') != std::string::npos) ExpectHeld(example.source);
+  const std::string row = R"(\trowd\clvmgf\cellx99\cellx198\pard\intbl\qc a\cell\par b\par\cell\row )";
+  const std::string table = Page(row + row + R"(\pard x\par )" + row);
+  const std::function<void()> edits[] = {[&] { Type("x"); },
+                                         [&] { Press(Qt::Key_Return); },
+                                         [&] { Press(Qt::Key_Backspace); },
+                                         [&] { Press(Qt::Key_Delete); },
+                                         [&] { Press(Qt::Key_Tab); },
+                                         [&] { box.undo(); },
+                                         [&] { box.SetSelBold(true); },
+                                         [&] { Press(Qt::Key_C, Qt::ControlModifier); },
+                                         [&] { Press(Qt::Key_V, Qt::ControlModifier); }};
+  std::mt19937 random(3);
+  const auto any = [&](int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); };
+  for (int sitting = 0; sitting < 20; ++sitting) {
+    ExpectHeld(table);
+    EXPECT_EQ(Text(), "a\t\nb\n\t\na\t\nb\n\t\nx\na\t\nb\n\t");
+    for (int step = 0; step < 20; ++step) {
+      Select(any(static_cast<int>(Text().size()) + 1), any(3) ? 0 : any(6));
+      edits[any(std::size(edits))]();
+      const std::string stored = box.TextRTF();
+      ASSERT_EQ(WriteRtf(Join(box.Copy())), stored);
+      ASSERT_EQ(WriteRtf(ReadRtf(stored)), stored);
+      RichTextBox other;
+      other.SetTextRTF(stored);
+      ASSERT_EQ(other.TextRTF(), stored);
+    }
+  }
 }
 
 TEST_F(BoxFormatsTest, UnderlineOfAPersonIsAPlainOne) {

@@ -13,7 +13,8 @@
 
 // "[center li720](b 40 Arial #ff0000)red() plain|next": paragraphs are parted by '|', a paragraph's format
 // stands in brackets, a character format in parentheses where it changes, and what is the default is left
-// out. A line break is '/', a tab '>', a picture "<png 3 720x360>".
+// out. "{0 99 198}a&b$" is a row: its format in braces, '&' between its cells. A line break is '/', a tab
+// '>', a picture "<png 3 720x360>".
 namespace richtext {
 
 // Words parted by blanks.
@@ -89,6 +90,32 @@ inline std::string Dump(const ParagraphFormat& format) {
   return words.line().empty() ? "" : '[' + words.line() + ']';
 }
 
+inline std::string Dump(const std::string& name, const Border& border) {
+  if (border == Border()) return {};
+  return name + NameOf(border.kind, {"?", "-", "", "th", "db", "dot", "dash", "hair", "tri"}) +
+         std::to_string(border.width) + (border.color ? DumpColor(*border.color) : "");
+}
+
+// "{center 0 1440<^ top.. 2880}": where the row begins and its cells end, each with what it is: "<" and "-"
+// is the first and one more of those that are one across, "^" and "v" downwards.
+inline std::string Dump(const RowFormat& format) {
+  constexpr const char* Sides[] = {"t", "l", "b", "r", "h", "v"};
+  Words words;
+  words.Add(NameOf(format.place, {"", "center", "right"}));
+  if (format.isHead) words.Add("head");
+  words.Add("gap", format.gap);
+  words.Add("high", format.height);
+  for (std::size_t side = 0; side < 6; ++side) words.Add(Dump(Sides[side], format.borders[side]));
+  words.Add(std::to_string(format.left));
+  for (const CellFormat& cell : format.cells) {
+    words.Add(std::to_string(cell.right) + NameOf(cell.across, {"", "<", "-"}) +
+              NameOf(cell.down, {"", "^", "v"}) + NameOf(cell.place, {"", "middle", "low"}));
+    if (cell.ground) words.Add("on " + DumpColor(*cell.ground));
+    for (std::size_t side = 0; side < 4; ++side) words.Add(Dump(Sides[side], cell.borders[side]));
+  }
+  return '{' + words.line() + '}';
+}
+
 // Kind, bytes, header, size, and what is cut off at the left, the right, the top and the bottom.
 inline std::string Dump(const Picture& picture) {
   Words words;
@@ -114,8 +141,14 @@ inline std::string Dump(const Document& document) {
     for (char16_t& unit : part) unit = unit == LineBreak ? u'/' : unit == u'\t' ? u'>' : unit;
     return ToUtf8(part);
   };
+  std::size_t row = 0;
+  Place before = Place::Text;
   for (const Paragraph& paragraph : document.paragraphs) {
-    if (&paragraph != &document.paragraphs.front()) line += '|';
+    if (&paragraph != &document.paragraphs.front()) line += before == Place::CellEnd ? '&' : '|';
+    const bool beginsRow = before == Place::Text || before == Place::RowEnd;
+    if (paragraph.place != Place::Text && beginsRow)
+      line += Dump(document.rowFormats.at(document.rows.at(row++)));
+    before = paragraph.place;
     line += Dump(document.paragraphFormats.at(paragraph.format));
     for (const std::size_t end = text + paragraph.length; text < end;) {
       switchTo(document.runs.at(run).format);
@@ -128,7 +161,9 @@ inline std::string Dump(const Document& document) {
       }
     }
     switchTo(paragraph.markFormat);
+    if (paragraph.place == Place::RowEnd) line += '$';
   }
+  EXPECT_EQ(row, document.rows.size());
   return line;
 }
 

@@ -1,0 +1,88 @@
+// What the control words of tables do, in the manner of Handlers.h.
+#pragma once
+
+#include "richtext/rtf/Handlers.h"
+
+namespace richtext::rtf::handlers {
+
+inline void InTable(Context& context, Number, Number on) {
+  context.ChangeParagraph().inTable = on != 0;
+}
+
+inline void BeginRow(Context& context, Number, Number) {
+  context.Rows().Begin();
+}
+
+inline void NestedRow(Context& context, Number, Number) {
+  context.Rows().BeginNested();
+}
+
+template <Number RowFormat::*Measure>
+inline void RowMeasure(Context& context, Number, Number twips) {
+  context.Rows().Row().*Measure = twips;
+}
+
+inline void RowPlace(Context& context, Number place, Number) {
+  context.Rows().Row().place = static_cast<PlaceOfTable>(place);
+}
+
+inline void HeadRow(Context& context, Number, Number) {
+  context.Rows().Row().isHead = true;
+}
+
+inline void CellRight(Context& context, Number, Number twips) {
+  context.Rows().EndCell(twips);
+}
+
+template <Merging CellFormat::*Direction>
+inline void Merge(Context& context, Number merging, Number) {
+  context.Rows().Cell().*Direction = static_cast<Merging>(merging);
+}
+
+inline void CellPlace(Context& context, Number place, Number) {
+  context.Rows().Cell().place = static_cast<PlaceInCell>(place);
+}
+
+inline void CellGround(Context& context, Number, Number index) {
+  const std::int32_t color = GroundColor(context, index);
+  context.Rows().Cell().ground.reset();
+  if (color != AutomaticColor) context.Rows().Cell().ground = static_cast<std::uint32_t>(color);
+}
+
+inline void RowBorder(Context& context, Number side, Number) {
+  context.Rows().BeginBorder(RowWords::Owner::Row, static_cast<std::uint8_t>(side));
+}
+inline void CellBorder(Context& context, Number side, Number) {
+  context.Rows().BeginBorder(RowWords::Owner::Cell, static_cast<std::uint8_t>(side));
+}
+// A border of a paragraph, a page or a letter, which a page does not keep.
+inline void OtherBorder(Context& context, Number, Number) {
+  context.Rows().BeginBorder(RowWords::Owner::Nothing, 0);
+}
+
+inline void KindOfBorder(Context& context, Number kind, Number) {
+  if (Border* border = context.Rows().BorderInHand()) border->kind = static_cast<BorderKind>(kind);
+}
+
+inline void WidthOfBorder(Context& context, Number, Number twips) {
+  if (Border* border = context.Rows().BorderInHand()) border->width = twips;
+}
+
+inline void ColorOfBorder(Context& context, Number, Number index) {
+  Border* border = context.Rows().BorderInHand();
+  const std::int32_t color = context.Colors().Find(index);
+  if (border == nullptr) return;
+  border->color.reset();
+  if (color != AutomaticColor) border->color = static_cast<std::uint32_t>(color);
+}
+
+inline void NestedCellEnd(Context& context, Number, Number) {
+  context.EndNestedCell();
+}
+
+inline void NestedRowEnd(Context& context, Number, Number) {
+  context.Rows().EndNested();
+  context.EndParagraph();
+}
+
+}  // namespace richtext::rtf::handlers
