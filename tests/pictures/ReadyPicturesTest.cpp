@@ -66,7 +66,8 @@ TEST_F(ReadyPictures, AreDecodedAheadAndNoPageThatWasSeenGoesForIt) {
   ready.Visit({shown});
   const std::size_t before = ready.Bytes();
   ready.Prepare({broken, large, next, shown});
-  ASSERT_TRUE(QTest::qWaitFor([&] { return ready.Bytes() > before; }));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return ready.Bytes() > before; }, 60000))
+      << "it yields to everything else";
   EXPECT_EQ(ready.Bytes(), before + 30 * 20 * 3 + 20 * 2) << "the small one alone has room";
   ready.Prepare({{path, {50, 50}}});
   ready.Visit({next});
