@@ -145,7 +145,7 @@ class Reader {
     if (begun_) EndParagraph(Place::Text);
     const std::vector<std::int32_t> edges = RightEdgesOf(table);
     for (int row = 0; row < table.rows(); ++row) TakeRow(table, row, edges);
-    last_ = {};
+    last_.reset();
     return html_.findBlock(table.lastPosition());
   }
 
@@ -164,7 +164,7 @@ class Reader {
   // Of one that begins in a row above there is an empty paragraph.
   void TakeCell(const QTextTableCell& cell, bool beginsHere, Place end) {
     place_ = Place::Cell;
-    last_ = {};
+    last_.reset();
     for (QTextBlock block = html_.findBlock(cell.firstPosition());
          beginsHere && block.isValid() && block.position() <= cell.lastPosition(); block = block.next())
       if (!IsRuler(block)) TakeBlock(block);
@@ -176,12 +176,12 @@ class Reader {
   void TakeBlock(const QTextBlock& block) {
     const QTextTableCell cell = CellOf(block);
     const bool besideLast =
-        cell.isValid() && last_.isValid() && cell.row() == last_.row() && cell.column() != last_.column();
+        cell.isValid() && last_ && cell.row() == last_->row() && cell.column() != last_->column();
     if (besideLast)
       AddText(u"\t", format_);
     else
       BeginParagraph(block);
-    last_ = cell;
+    last_ = cell.isValid() ? std::optional(cell) : std::nullopt;
     for (auto part = block.begin(); !part.atEnd(); ++part) TakeFragment(part.fragment(), block);
   }
 
@@ -257,7 +257,7 @@ class Reader {
   FormatNumbers<ParagraphFormat> paragraphNumbers_{page_.paragraphFormats};
   CharacterFormat format_;
   ParagraphFormat paragraph_;
-  QTextTableCell last_;
+  std::optional<QTextTableCell> last_;
   Lists lists_;
   FormatNumbers<RowFormat> rowNumbers_{page_.rowFormats};
   bool begun_ = false;         // a paragraph
