@@ -190,7 +190,8 @@ double HeightBound::ShareOf(const QString& family) {
 }
 
 // What comes in behind what is hidden is hidden, too. What becomes of smaller letters is not reckoned piece
-// by piece: another paragraph may have them now.
+// by piece: another paragraph may have them now. Nor is what a paragraph that is shown takes from one that
+// was hidden, and joins it.
 void HeightGuard::NoteChange(int at, int removed, int added) {
   const bool isAllNew = added >= document_.characterCount() - 1;
   if (isAllNew) {
@@ -203,7 +204,8 @@ void HeightGuard::NoteChange(int at, int removed, int added) {
     if (block.previous().isValid() && !block.previous().isVisible()) block.setVisible(false);
     bound_ += heights_->Of(block, at - block.position(), at + added - block.position());
   }
-  const bool mayShowMore = removed > 1 && Hides();
+  const bool isJoined = document_.blockCount() < std::exchange(blocks_, document_.blockCount());
+  const bool mayShowMore = hid_ && (removed > 1 || isJoined);
   if (bound_ <= recountAt_ && !mayShowMore && !lowers_) return;
   const int first = Recount();
   if (first < document_.characterCount())
@@ -237,6 +239,7 @@ int HeightGuard::Recount() {
     block.setVisible(fits);
   }
   recountAt_ = std::max(TallestPage, bound_ + TypedBetweenCounts);
+  hid_ = !fits;
   return first;
 }
 

@@ -99,6 +99,8 @@ class HeightGuard {
   double bound_ = 0;  // of what is shown; too much where something has gone since it was counted
   double recountAt_ = TallestPage;
   bool lowers_ = false;  // a paragraph is shown in smaller letters
+  bool hid_ = false;     // when it was counted last, a paragraph was hidden
+  int blocks_ = 1;
 };
 
 }  // namespace richtext

@@ -267,6 +267,23 @@ TEST_F(TooHighTest, IsShownInSmallerLetters) {
   EXPECT_FALSE(IsTold());
 }
 
+TEST_F(TooHighTest, ComesOfJoinedParagraphsAsWell) {
+  const std::string lines = Times(1500, "a\\line ");
+  Set(Page("\\sl-32767\\slmult0 " + lines + "\\par " + lines + "\\par " + lines));
+  for (int paragraphs = 3; paragraphs > 1; --paragraphs) {
+    ExpectShown();
+    EXPECT_TRUE(IsTold());
+    box.SetSelStart(box.document()->lastBlock().position());
+    Press(Qt::Key_Backspace);
+    EXPECT_EQ(box.document()->blockCount(), paragraphs - 1);
+  }
+  box.grab();
+  EXPECT_LT(box.document()->size().height(), 8e6);
+  EXPECT_TRUE(IsTold());
+  for (const auto& step : {&RichTextBox::undo, &RichTextBox::redo, &RichTextBox::undo}) (box.*step)();
+  ExpectShown();
+}
+
 // After letters have gone one by one, more would fit.
 TEST_F(TooHighTest, AHigherWindowShowsNothingThatIsNotLaidOut) {
   Set(Page("\\fs3276 " + Times(400, "mm\\par ")));
