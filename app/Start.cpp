@@ -12,6 +12,7 @@
 #include "bookcase/frmBookcase.h"
 #include "bookcase/frmInitJournal.h"
 #include "editor/PageTurning.h"
+#include "editor/SavingPages.h"
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
 #include "look/Form.h"
@@ -72,7 +73,9 @@ void ComeToTheFront(const platform::ActivationToken& token) {
   if (QWidget* window = VisibleWindow()) platform::BringToFront(*window, token);
 }
 
+// The password may be another one afterwards, and the files tell which.
 void ShowOptions() {
+  AwaitSaving();
   look::The<frmOptions>().ShowModal();
 }
 

@@ -12,6 +12,7 @@
 
 #include "app/KeptLog.h"
 #include "editor/PagePasses.h"
+#include "editor/SavingPages.h"
 #include "editor/UnstoredPages.h"
 #include "editor/frmJournal.h"
 #include "look/Form.h"
@@ -25,7 +26,6 @@
 #include "richtext/box/Pasting.h"
 #include "state/State.h"
 #include "store/BookcaseFile.h"
-#include "store/JournalFile.h"
 #include "store/PageNames.h"
 
 namespace {
@@ -52,9 +52,9 @@ std::string NotSaved(const std::exception& failure) {
 void SavePages(Refusals& refusals) {
   if (PagesJournal == 0 || !(look::The<frmJournal>().isVisible() || IsAnythingUnstored())) return;
   const std::string& fileName = Journals.at(static_cast<std::size_t>(PagesJournal)).FileName;
-  StoreOpenPage();
+  const bool isJustSaved = StoreOpenPage();
   try {
-    SaveJournalFile(fileName);
+    SaveAtTheEnd(fileName, isJustSaved);
   } catch (const std::exception& failure) {
     if (IsAnythingUnstored())
       refusals.push_back({{}, "The journal " + fileName + " could not be saved. " + failure.what()});
@@ -203,6 +203,7 @@ void EndWithoutAsking() {
 
 void SaveAndExit() {
   HandTheClipboardOver();
+  AwaitSaving();
   Refusals refusals;
   SavePictures(refusals);
   SaveIndexAtTheEnd(refusals);

@@ -10,6 +10,7 @@
 #include "bookcase/frmNewJournal.h"
 #include "editor/OpenJournal.h"
 #include "editor/PageFace.h"
+#include "editor/SavingPages.h"
 #include "editor/frmJournal.h"
 #include "look/Emblem.h"
 #include "look/Spoken.h"
@@ -270,7 +271,9 @@ void frmBookcase::cmdAbout_Click() {
   look::The<frmAbout>().ShowModal();
 }
 
+// They tell the file's length.
 void frmBookcase::ShowProperties() {
+  AwaitSaving();
   auto& dialog = look::The<frmJournalProp>();
   connect(&dialog, &frmJournalProp::Saved, this, &frmBookcase::ListJournals, Qt::UniqueConnection);
   dialog.ShowModal();

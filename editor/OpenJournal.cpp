@@ -6,6 +6,7 @@
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
+#include "editor/SavingPages.h"
 #include "editor/UnstoredPages.h"
 #include "pictures/PictureSlots.h"
 #include "platform/CodePage.h"
@@ -22,6 +23,7 @@ namespace {
 // A journal may still be here that was opened without being shown. Its text and its pictures must not meet
 // the next one's pages.
 void DropFormerJournal() {
+  AwaitSaving();
   LeavePagesBehind();
   ForgetPagePictures();
   Face().txtM->setReadOnly(false);

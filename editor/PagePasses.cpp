@@ -5,22 +5,20 @@
 #include <algorithm>
 #include <limits>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "editor/AlienPage.h"
 #include "editor/PageFace.h"
+#include "editor/SavingPages.h"
 #include "look/Pass.h"
 #include "look/frmWait.h"
 #include "pictures/PictureSlots.h"
 #include "platform/Failure.h"
 #include "platform/dialogs/ReportFailure.h"
-#include "platform/files/SyncFolder.h"
 #include "richtext/box/RichTextBox.h"
 #include "state/PageInHand.h"
-#include "store/JournalFile.h"
 #include "store/PageCipher.h"
 #include "store/UnstoredRows.h"
 
@@ -122,20 +120,6 @@ bool IsBlankPage() {
   return PageRow(TextPage).Body.empty() && Face().txtM->document()->isEmpty();
 }
 
-// What cannot be written of it is told only where a person has written something.
-void SaveOpenJournal() {
-  try {
-    SaveJournalFile(Journals.at(static_cast<std::size_t>(CurrentJournal)).FileName);
-  } catch (const platform::Failure& failure) {
-    if (!store::AreRowsMissed()) return;
-    throw std::runtime_error(
-        std::string(failure.what()) + "\n\nNothing is lost: the page stays in the open journal, and " +
-        platform::FileAfter(failure) +
-        ". When the cause is removed, the next page that you change saves it too, or closing the journal "
-        "does.");
-  }
-}
-
 void ShowPageAndPictures() {
   const auto guarded = [](auto&& statement) { platform::Guarded(DecryptionError, statement); };
   const HeldScreen held;
@@ -157,24 +141,25 @@ void ShowPageAndPictures() {
   guarded(EndProgress);
 }
 
-// Stores the text box's text into the row that it came from.
-void StoreText() {
-  if (PageDirty == False || !IsTextOfOpenJournal() || ShowsAlienPage()) return;
+// Stores the text box's text into the row that it came from. Whether that is saved, or on its way. The log,
+// which may be asked first, takes it from the row.
+bool StoreText() {
+  if (PageDirty == False || !IsTextOfOpenJournal() || ShowsAlienPage()) return false;
   const auto guarded = [](auto&& statement) { platform::Guarded(EncryptionError, statement); };
   std::string text;
   guarded([&] { text = Face().txtM->TextRTF(); });
-  if (text.empty()) return;
+  if (text.empty()) return false;
   guarded([&] { AnnouncePass(QStringLiteral("Encrypting page:"), text.size()); });
-  bool enciphered = false;
   guarded([&] {
     std::string body = Enciphered(text);
     store::RowWillChange(TextPage, !IsBlankPage());
     PageRow(TextPage).Body = std::move(body);
-    enciphered = true;
+    PageInHand::TextIsAsStored();  // otherwise it is in the box alone, and must be stored yet
   });
-  guarded(SaveOpenJournal);
-  if (enciphered) PageInHand::TextIsAsStored();  // otherwise it is in the box alone, and must be stored yet
+  bool isSaved = false;
+  guarded([&] { isSaved = SaveOpenJournal(); });
   guarded(EndProgress);
+  return isSaved;
 }
 
 }  // namespace
@@ -184,9 +169,9 @@ void ShowCurrentPage() {
   TellAlienPage();
 }
 
-void StoreCurrentPage() {
+bool StoreCurrentPage() {
   Face().txtM->CommitComposition();
-  if (TextPage == CurrentPage) StoreText();
+  return TextPage == CurrentPage && StoreText();
 }
 
 bool IsTextUnstored() {
@@ -197,11 +182,16 @@ bool IsAnythingUnstored() {
   return PagesJournal != 0 && (store::AreRowsMissed() || IsTextUnstored());
 }
 
-void StoreOpenPage() {
-  if (PagesJournal == 0 || !Face().window()->isVisible()) return;
+bool StoreOpenPage() {
+  AwaitSaving();
+  if (PagesJournal == 0 || !Face().window()->isVisible()) return false;
   Face().txtM->TakeComposition();
-  if (PageDirty == False && PagesUnsaved) platform::Guarded(EncryptionError, SaveOpenJournal);
-  StoreText();
+  bool isSaved = false;
+  if (PageDirty == False && PagesUnsaved)
+    platform::Guarded(EncryptionError, [&] { isSaved = SaveOpenJournal(); });
+  isSaved = StoreText() || isSaved;
+  AwaitSaving();
+  return isSaved;
 }
 
 std::string GetPlainPage(std::int32_t page) {

@@ -6,6 +6,7 @@
 
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
+#include "editor/SavingPages.h"
 #include "editor/UnstoredPages.h"
 #include "look/Spoken.h"
 #include "pictures/PictureSlots.h"
@@ -16,7 +17,6 @@
 #include "platform/files/SyncFolder.h"
 #include "richtext/box/RichTextBox.h"
 #include "state/PageInHand.h"
-#include "store/JournalFile.h"
 #include "store/PageNames.h"
 #include "store/UnstoredRows.h"
 
@@ -101,9 +101,9 @@ bool MayCloseWithout(const platform::Failure& failure) {
   return false;
 }
 
-bool MayClose() {
+bool MayClose(bool isJustSaved) {
   try {
-    SaveJournalFile(OpenEntry().FileName);
+    SaveAtTheEnd(OpenEntry().FileName, isJustSaved);
   } catch (const platform::Failure& failure) {
     if (!MayCloseWithout(failure)) return false;
   }
@@ -189,8 +189,8 @@ void NewJournalPages() {
 }
 
 // Where no journal is open there is nothing to write, and the window must still be able to go.
-void CloseJournal() {
-  if (PagesJournal != 0 && !MayClose()) return;
+void CloseJournal(bool isJustSaved) {
+  if (PagesJournal != 0 && !MayClose(isJustSaved)) return;
   PageInHand::JournalClosed();
   Face().window()->hide();
   HidePagePictures();

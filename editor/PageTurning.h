@@ -25,4 +25,6 @@ void NewJournalPages();
 // Writes the journal's file, hides the journal window and tells JournalClosed. A file that cannot be written
 // is told in a message, and the journal stays open; from the second time on a question names the pages that
 // the file lacks, and the person may close without them. A journal that lacks nothing closes all the same.
-void CloseJournal();
+// `isJustSaved`: StoreCurrentPage has written the file a moment ago, and only what is not so is written
+// again.
+void CloseJournal(bool isJustSaved = false);

@@ -11,6 +11,7 @@
 #include "richtext/document/Document.h"
 #include "richtext/rtf/Writer.h"
 #include "state/State.h"
+#include "store/JournalSaving.h"
 #include "store/RollForward.h"
 #include "store/UnstoredRows.h"
 
@@ -42,8 +43,11 @@ UnstoredText TextOnShow() {
 store::UnstoredPage Logged(std::int32_t row, const store::RowInFile& inFile, bool hasText) {
   const JournalPage& page = Pages.at(static_cast<std::size_t>(row));
   store::UnstoredPage logged{row, !inFile.isThere, inFile.body, inFile.PageDate, page.PageDate, {}};
+  logged.orBegan = store::RowsOnTheirWay(row);
   if (hasText && row == TextPage) return logged;
-  if (store::CheckOf(page.Body) != inFile.body) logged.Body = page.Body;
+  const store::FileCheck body = store::CheckOf(page.Body);
+  const auto isOther = [&](const store::RowOnItsWay& onItsWay) { return onItsWay.body != body; };
+  if (body != inFile.body || std::ranges::any_of(logged.orBegan, isOther)) logged.Body = page.Body;
   return logged;
 }
 

@@ -77,8 +77,7 @@ void frmJournal::SwitchToolbarCaptions() {
 // Unlike in the design of a window, the one instance stays loaded for the next journal. The emptied text box
 // raises its change as ever, so PageDirty stands set until the next page is shown.
 void frmJournal::CloseBox() {
-  StoreCurrentPage();
-  CloseJournal();
+  CloseJournal(StoreCurrentPage());
   if (PagesJournal != 0) return;  // the file could not be written, and the journal is still open
   ForgetPagePictures();
   PageInHand::PagesForgotten();

@@ -8,6 +8,7 @@
 
 #include "fuzz/Desk.h"
 #include "platform/Failure.h"
+#include "store/JournalSaving.h"
 
 namespace {
 

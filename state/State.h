@@ -14,6 +14,8 @@
 #include <string>
 #include <vector>
 
+#include "state/PageBody.h"
+
 using Flag = std::int16_t;
 inline constexpr Flag False = 0;
 inline constexpr Flag True = -1;
@@ -40,7 +42,7 @@ struct JournalEntry {
 
 // One page of the open journal.
 struct JournalPage {
-  std::string Body;     // the page's RTF, enciphered; empty for a page that was never stored
+  PageBody Body;        // the page's RTF, enciphered; empty for a page that was never stored
   double PageDate = 0;  // days since 30 December 1899
 };
 
@@ -79,7 +81,7 @@ extern const std::int32_t& PagesJournal;    // the row of Journals that Pages wa
 extern const std::int32_t& CurrentPage;     // the row of Pages on show
 extern const std::int32_t& TextPage;        // the row that the text box's text came from; -1 for none
 extern const Flag& PageDirty;     // True when the text box changed since its page was shown or stored
-extern const bool& PagesUnsaved;  // the last try to write the open journal failed
+extern const bool& PagesUnsaved;  // the last try to write the open journal failed, or is on its way
 
 // The pictures of all pages of all journals, rows 0 to PictureCount. Row 0 is blank and never shown, but goes
 // into the file. Empty until a store was loaded or a picture was added; rows are never sorted, reused or

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <limits>
 #include <set>
+#include <utility>
 
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
@@ -14,11 +15,10 @@
 #include "platform/files/KeptFiles.h"
 #include "platform/files/KnownFiles.h"
 #include "platform/files/ReplaceFile.h"
-#include "state/PageInHand.h"
+#include "state/State.h"
 #include "store/Bytes.h"
+#include "store/JournalPieces.h"
 #include "store/PieceReader.h"
-#include "store/Scrambler.h"
-#include "store/UnstoredRows.h"
 
 namespace store {
 namespace {
@@ -26,14 +26,8 @@ namespace {
 using platform::Failure;
 using platform::FailureKind;
 
-constexpr std::string_view magic = "ZANDOLK JOURNAL FILE V00001";
-constexpr std::size_t passwordBlockSize = 512;
-constexpr std::size_t countOffset = magic.size() + passwordBlockSize;
-constexpr std::size_t headerSize = countOffset + 4;
-static_assert(headerSize == 543);
+using namespace journalformat;
 
-constexpr std::uint16_t longBodyMark = 0xFFFF;  // a 32-bit length follows
-constexpr std::size_t dateSize = 8;
 constexpr std::size_t smallestPage = 2 + dateSize;
 
 // An open journal has at least its title page and page 1.
@@ -60,10 +54,12 @@ bool ReadLength(PieceReader& reader, std::uint32_t& length) {
 
 bool ReadPage(PieceReader& reader, JournalPage& page) {
   std::uint32_t length = 0;
+  std::string body;
   char date[dateSize];
-  if (!ReadLength(reader, length) || !reader.ReadText(page.Body, length) || !reader.Read(date, dateSize)) {
+  if (!ReadLength(reader, length) || !reader.ReadText(body, length) || !reader.Read(date, dateSize)) {
     return false;
   }
+  page.Body = std::move(body);
   page.PageDate = LoadDouble(date);
   return true;
 }
@@ -113,63 +109,6 @@ DecodedJournal DecodeJournal(const ByteSource& source, std::uint64_t size) {
   return DecodePages(reader, LoadNumber<std::int32_t>(header.data() + countOffset));
 }
 
-std::string PasswordBlock(std::string_view scrambledPassword) {
-  std::string text = ScrambleText(scrambledPassword);
-  if (text.size() > passwordBlockSize) {
-    throw Failure(FailureKind::InvalidArgument, "the password is too long for a journal file");
-  }
-  text.resize(passwordBlockSize, ' ');
-  return text;
-}
-
-// The file in pieces, in order: the bodies where they lie in `pages`, and between them the small fields,
-// which lie here. A long journal is so never in memory twice.
-class JournalPieces {
- public:
-  JournalPieces(const std::vector<JournalPage>& pages, std::string_view scrambledPassword);
-  JournalPieces(const JournalPieces&) = delete;
-  JournalPieces& operator=(const JournalPieces&) = delete;
-
-  const std::vector<std::string_view>& pieces() const { return pieces_; }
-
- private:
-  void AddPage(const JournalPage& page);
-  // The fields since the last piece become one.
-  void EndFields();
-
-  std::string fields_;  // has room for all from the start, so that it never moves
-  std::size_t begun_ = 0;
-  std::vector<std::string_view> pieces_;
-};
-
-JournalPieces::JournalPieces(const std::vector<JournalPage>& pages, std::string_view scrambledPassword) {
-  if (pages.empty()) throw Failure(FailureKind::SubscriptOutOfRange);
-  fields_.reserve(headerSize + (2 + 4 + dateSize) * pages.size());
-  pieces_.reserve(2 * pages.size() + 1);
-  fields_ += magic;
-  fields_ += PasswordBlock(scrambledPassword);
-  AppendNumber(fields_, static_cast<std::int32_t>(pages.size() - 1));
-  for (const JournalPage& page : pages) AddPage(page);
-  EndFields();
-}
-
-void JournalPieces::AddPage(const JournalPage& page) {
-  const std::size_t length = page.Body.size();
-  if (length > std::numeric_limits<std::uint32_t>::max()) {
-    throw Failure(FailureKind::InvalidArgument, "a page is too long for a journal file");
-  }
-  AppendNumber(fields_, static_cast<std::uint16_t>(std::min<std::size_t>(length, longBodyMark)));
-  if (length >= longBodyMark) AppendNumber(fields_, static_cast<std::uint32_t>(length));
-  EndFields();
-  pieces_.push_back(page.Body);
-  AppendDouble(fields_, page.PageDate);
-}
-
-void JournalPieces::EndFields() {
-  pieces_.push_back(std::string_view(fields_).substr(begun_));
-  begun_ = fields_.size();
-}
-
 bool StartsAsJournal(platform::InputFile& file) {
   std::array<char, magic.size()> start{};
   return CouldBeJournal({start.data(), file.Read(start.data(), start.size())});
@@ -188,13 +127,6 @@ std::int32_t PeekCount(const std::string& path) {
 std::set<std::string>& DamagedFiles() {
   static std::set<std::string> paths;
   return paths;
-}
-
-void RefuseForeignPages(const std::string& fileName) {
-  const auto row = static_cast<std::size_t>(PagesJournal);
-  const bool areHeld = PagesJournal > 0 && row < Journals.size() && Journals[row].FileName == fileName &&
-                       PageCount >= 0 && Pages.size() == static_cast<std::size_t>(PageCount) + 1;
-  if (!areHeld) throw Failure(FailureKind::SubscriptOutOfRange, fileName);
 }
 
 void RefuseAlienFile(const std::string& path) {
@@ -243,11 +175,22 @@ DecodedJournal ReadJournalFile(const std::string& fileName) {
 }
 
 void WriteJournalFile(const std::string& fileName, const std::vector<JournalPage>& pages) {
+  WritePieces(fileName, JournalPieces(pages, MasterPassword));
+}
+
+void WritePieces(const std::string& fileName, const JournalPieces& file) {
+  KeepWhatIsThere(fileName);
+  platform::ReplaceDataFile(platform::PathOf(fileName), file.pieces());
+}
+
+void KeepWhatIsThere(const std::string& fileName) {
   const std::string path = platform::PathOf(fileName);
-  const JournalPieces journal(pages, MasterPassword);
   RefuseAlienFile(path);
   KeepFile(path);
-  platform::ReplaceDataFile(path, journal.pieces());
+}
+
+void TellKeptJournal(const std::string& fileName) {
+  platform::TellKept(platform::PathOf(fileName), DescribeKept);
 }
 
 bool IsJournal(const std::string& path) {
@@ -263,18 +206,6 @@ std::string& WithFallbackName(std::string& fileName) {
     fileName = "journal.journalfile";
   }
   return fileName;
-}
-
-void SaveJournalFile(const std::string& fileName) {
-  if (MasterPassword.empty()) platform::ShowMessage("password is null on save!");
-  store::RefuseForeignPages(fileName);
-  PageInHand::SaveBegins();
-  if (FileWillBeWritten) FileWillBeWritten(DataFile::AJournal);
-  store::WriteJournalFile(fileName, Pages);
-  PageInHand::PagesSaved();
-  store::RowsAreStored();
-  if (SomethingWasStored) SomethingWasStored();
-  platform::TellKept(platform::PathOf(fileName), store::DescribeKept);
 }
 
 std::int32_t PeekJournalPageCount(std::string& fileName) {

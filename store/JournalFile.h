@@ -9,6 +9,8 @@
 
 namespace store {
 
+class JournalPieces;
+
 enum class JournalHealth { Sound, Damaged, Alien };
 
 struct DecodedJournal {
@@ -24,6 +26,13 @@ DecodedJournal ReadJournalFile(const std::string& fileName);
 // Writes these pages to that file of the program's folder, with a block of MasterPassword scrambled once more
 // and padded to 512 bytes. Throws as SaveJournalFile does, and SubscriptOutOfRange when `pages` is empty.
 void WriteJournalFile(const std::string& fileName, const std::vector<JournalPage>& pages);
+void WritePieces(const std::string& fileName, const JournalPieces& file);
+
+// The first half of that, before the file is replaced: an alien one is refused, and one that is damaged, or
+// that another program has changed, is kept beside. Throws as SaveJournalFile does.
+void KeepWhatIsThere(const std::string& fileName);
+// The other end of it: tells in a message what was kept of another program.
+void TellKeptJournal(const std::string& fileName);
 
 // Whether the file begins as a journal does; one that is cut within its beginning does, too. Throws as
 // platform::InputFile does.
@@ -33,14 +42,6 @@ bool IsJournal(const std::string& path);
 
 // The name that stands in for an empty one, after a message that says so.
 std::string& WithFallbackName(std::string& fileName);
-
-// Writes Pages, PageCount and the password block to that file of the program's folder; says so first when
-// there is no password. Nothing on disk is touched before all bytes are there. A file that another program
-// has put there since it was last read or written is kept beside first, and a message tells so afterwards.
-// Throws platform::Failure, with the file as it was, when Pages does not belong to the journal of that file
-// (SubscriptOutOfRange), when the password is too long for the block (InvalidArgument), when the file is
-// alien (PermissionDenied), and on a disk that cannot be written.
-void SaveJournalFile(const std::string& fileName);
 
 // The file's PageCount; 0 when it is missing or no journal, or when its count is negative. Overwrites
 // PageCount, as no journal is open when it is called. The name is replaced by the fallback when it is empty.

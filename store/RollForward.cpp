@@ -1,5 +1,6 @@
 #include "store/RollForward.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,16 @@ std::string_view BodyOf(const UnstoredPage& page) {
   return page.Body ? std::string_view(*page.Body) : std::string_view();
 }
 
+bool BeganFrom(const UnstoredPage& page, const FileCheck& body) {
+  const auto isIt = [&](const RowOnItsWay& row) { return row.body == body; };
+  return page.began == body || std::ranges::any_of(page.orBegan, isIt);
+}
+
+bool BeganFrom(const UnstoredPage& page, double date) {
+  const auto isIt = [&](const RowOnItsWay& row) { return row.PageDate == date; };
+  return page.beganDate == date || std::ranges::any_of(page.orBegan, isIt);
+}
+
 class Roller {
  public:
   Roller(std::int32_t shift, std::vector<JournalPage>& pages) : shift_(shift), pages_(pages) {}
@@ -43,7 +54,7 @@ class Roller {
 
  private:
   RolledPage RollInto(JournalPage& there, const UnstoredPage& page) const {
-    const bool isAsItWas = CheckOf(there.Body) == page.began;
+    const bool isAsItWas = BeganFrom(page, CheckOf(there.Body));
     if (page.Body && IsSameText(there.Body, *page.Body, shift_)) return TakeDate(there, page, true);
     if (!page.Body || page.Body->empty()) return TakeDate(there, page, isAsItWas);
     if (!isAsItWas) return AppendOnce(page);
@@ -53,7 +64,7 @@ class Roller {
   }
 
   static RolledPage TakeDate(JournalPage& there, const UnstoredPage& page, bool mayTake) {
-    const bool differs = there.PageDate == page.beganDate && there.PageDate != page.PageDate;
+    const bool differs = BeganFrom(page, there.PageDate) && there.PageDate != page.PageDate;
     if (!mayTake || !differs) return {page.row, page.row, Rolled::IsThere};
     there.PageDate = page.PageDate;
     return {page.row, page.row, Rolled::IntoItsRow};

@@ -24,6 +24,7 @@ constexpr std::size_t headSize = checkedHeadSize + 4;     // and their own check
 constexpr std::string_view indexTag = "INDX";
 constexpr std::string_view picturesTag = "PICS";
 constexpr std::string_view pageTag = "PAGE";
+constexpr std::string_view alsoTag = "ALSO";
 constexpr std::string_view endTag = "DONE";
 
 void AppendFlag(std::string& bytes, bool isSo) {
@@ -92,6 +93,14 @@ void AppendPage(std::string& bytes, const std::string& fileName, const UnstoredP
   if (page.Body) bytes += *page.Body;
 }
 
+void AppendOnItsWay(std::string& bytes, const std::string& fileName, std::int32_t row,
+                    const RowOnItsWay& onItsWay) {
+  AppendCountedString(bytes, fileName);
+  AppendNumber(bytes, row);
+  AppendCheck(bytes, onItsWay.body);
+  AppendDouble(bytes, onItsWay.PageDate);
+}
+
 UnstoredPage TakePage(Reader& reader) {
   UnstoredPage page;
   page.row = reader.TakeNumber<std::int32_t>("row");
@@ -106,6 +115,12 @@ UnstoredPage TakePage(Reader& reader) {
   return page;
 }
 
+void AppendPageSections(std::string& bytes, const std::string& fileName, const UnstoredPage& page) {
+  AppendSection(bytes, pageTag, [&] { AppendPage(bytes, fileName, page); });
+  for (const RowOnItsWay& onItsWay : page.orBegan)
+    AppendSection(bytes, alsoTag, [&] { AppendOnItsWay(bytes, fileName, page.row, onItsWay); });
+}
+
 // Pages by row, of journals by file name. However many there are, each is found at once.
 using PagesFound = std::map<std::string, std::map<std::int32_t, UnstoredPage>, std::less<>>;
 
@@ -115,6 +130,16 @@ void TakeJournalPage(Reader& reader, PagesFound& found) {
   UnstoredPage page = TakePage(reader);
   if (page.row < 0) throw MissingField("row");
   found[std::string(fileName)][page.row] = std::move(page);
+}
+
+// It stands behind its page, and says nothing without it.
+void TakeOnItsWay(Reader& reader, PagesFound& found) {
+  const auto journal = found.find(reader.TakeCountedString("file name"));
+  const auto row = reader.TakeNumber<std::int32_t>("row");
+  const FileCheck body = TakeCheck(reader);
+  const double date = TakeDate(reader);
+  if (journal == found.end() || !journal->second.contains(row)) return;
+  journal->second[row].orBegan.push_back({body, date});
 }
 
 std::vector<UnstoredJournal> JournalsOf(PagesFound found) {
@@ -129,7 +154,7 @@ std::vector<UnstoredJournal> JournalsOf(PagesFound found) {
 const char* NameOf(std::string_view tag) {
   if (tag == indexTag) return "the bookcase";
   if (tag == picturesTag) return "the pictures";
-  if (tag == pageTag) return "a page";
+  if (tag == pageTag || tag == alsoTag) return "a page";
   return "a part";
 }
 
@@ -182,6 +207,8 @@ void LogReader::TakePayload(std::string_view tag, std::string_view payload) {
     log.pictures = TakeFile(reader);
   } else if (tag == pageTag) {
     TakeJournalPage(reader, pages_);
+  } else if (tag == alsoTag) {
+    TakeOnItsWay(reader, pages_);
   } else if (tag == endTag) {
     log.when = TakeDate(reader);
     hasEnd_ = true;
@@ -228,8 +255,7 @@ std::string EncodeLog(const UnstoredLog& log) {
   AppendFile(bytes, indexTag, log.index);
   AppendFile(bytes, picturesTag, log.pictures);
   for (const UnstoredJournal& journal : log.journals)
-    for (const UnstoredPage& page : journal.pages)
-      AppendSection(bytes, pageTag, [&] { AppendPage(bytes, journal.FileName, page); });
+    for (const UnstoredPage& page : journal.pages) AppendPageSections(bytes, journal.FileName, page);
   AppendSection(bytes, endTag, [&] { AppendDouble(bytes, log.when); });
   return bytes;
 }

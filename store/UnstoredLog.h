@@ -17,14 +17,23 @@
 
 namespace store {
 
+// What a row is in its file when what is on its way to the disk has got there.
+struct RowOnItsWay {
+  FileCheck body;
+  double PageDate = 0;  // days since 30 December 1899
+
+  bool operator==(const RowOnItsWay&) const = default;
+};
+
 // A row of Pages that its file does not have so.
 struct UnstoredPage {
-  std::int32_t row = 0;             // not negative; 0 is the title page
-  bool isNew = false;               // the file has no such row
-  FileCheck began;                  // the body in the file; of an empty text when the row is new
-  double beganDate = 0;             // the date in the file; 0 when the row is new
-  double PageDate = 0;              // days since 30 December 1899
-  std::optional<std::string> Body;  // enciphered; none where only the date differs
+  std::int32_t row = 0;                // not negative; 0 is the title page
+  bool isNew = false;                  // the file has no such row
+  FileCheck began;                     // the body in the file; of an empty text when the row is new
+  double beganDate = 0;                // the date in the file; 0 when the row is new
+  double PageDate = 0;                 // days since 30 December 1899
+  std::optional<std::string> Body;     // enciphered; none where only the date differs
+  std::vector<RowOnItsWay> orBegan{};  // what the file may hold by now, and the page begins from as well
 
   bool operator==(const UnstoredPage&) const = default;
 };

@@ -1,6 +1,7 @@
 #include "store/UnstoredRows.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "state/State.h"
 
@@ -16,10 +17,14 @@ Rows& TheRows() {
   return rows;
 }
 
+bool IsSame(const JournalPage& one, const JournalPage& other) {
+  return one.Body.Is(other.Body) && one.PageDate == other.PageDate;
+}
+
 }  // namespace
 
-RowInFile AsInFile(const JournalPage& page) {
-  return {true, CheckOf(page.Body), page.PageDate, true};
+RowInFile AsInFile(const JournalPage& page, bool isMissed) {
+  return {true, CheckOf(page.Body), page.PageDate, isMissed};
 }
 
 void RowWillChange(std::int32_t row, bool isMissed) {
@@ -40,6 +45,16 @@ void RowWasAdded(std::int32_t row, bool isMissed) {
 
 void RowsAreStored() {
   TheRows().clear();
+}
+
+void RowsAreStoredAs(const std::vector<JournalPage>& rows) {
+  for (auto entry = TheRows().begin(); entry != TheRows().end();) {
+    auto& [row, inFile] = *entry;
+    const auto at = static_cast<std::size_t>(row);
+    const bool isThere = at < rows.size();
+    if (isThere) inFile = AsInFile(rows[at], inFile.isMissed);
+    entry = isThere && IsSame(rows[at], Pages.at(at)) ? TheRows().erase(entry) : std::next(entry);
+  }
 }
 
 const Rows& UnstoredRows() {

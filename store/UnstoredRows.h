@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <map>
+#include <vector>
 
 #include "store/FileCheck.h"
 
@@ -22,7 +23,7 @@ struct RowInFile {
 };
 
 // What the file holds of a row that is as it was read or written.
-RowInFile AsInFile(const JournalPage& page);
+RowInFile AsInFile(const JournalPage& page, bool isMissed = true);
 
 // To be called before Body or PageDate of a row of Pages changes. What the row held before its first change
 // counts as what the file holds; a later call adds at most that the change would be missed.
@@ -36,6 +37,8 @@ void RowWasAdded(std::int32_t row, bool isMissed = true);
 
 // The file holds what memory holds: it has been read or written.
 void RowsAreStored();
+// The file has been written with these rows, which are what Pages was then.
+void RowsAreStoredAs(const std::vector<JournalPage>& rows);
 
 // By the number of the row; empty when no pages are in memory.
 const std::map<std::int32_t, RowInFile>& UnstoredRows();

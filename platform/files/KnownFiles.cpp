@@ -41,6 +41,12 @@ std::optional<Identity> KnownIdentity(const std::string& path) {
   return found == KnownFiles().end() ? std::nullopt : std::optional(found->second.identity);
 }
 
+bool IsAsKnown(const std::string& path) {
+  struct stat entry {};
+  const std::optional<Identity> known = KnownIdentity(path);
+  return known && stat(path.c_str(), &entry) == 0 && IdentityOf(entry) == *known;
+}
+
 void AcceptUnread(const std::string& path) {
   struct stat entry {};
   if (stat(path.c_str(), &entry) == 0) Remember(path, entry, std::nullopt);

@@ -16,6 +16,9 @@ namespace platform {
 // kept, with all files as they were.
 bool KeepChanged(const std::string& path);
 
+// Whether the file is the very one that was last read or written here, by the system's entry alone.
+bool IsAsKnown(const std::string& path);
+
 // The path of a copy that KeepChanged made of the file, each once; empty where none is left to be told of.
 std::string TakeKept(const std::string& path);
 

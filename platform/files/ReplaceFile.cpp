@@ -81,8 +81,9 @@ class Unfinished {
   void Write(std::span<const std::string_view> pieces);
   void BringToTheDisk();
   void TakeTheName();
-  // The one that has the name now is known, so that no other that takes its place is taken for it.
-  void BeRemembered() const;
+  // Of the one that has the name now, so that no other that takes its place is taken for it.
+  struct stat entry() const;
+  std::uint64_t checksum() const { return checksum_.value(); }
 
  private:
   void Must(bool succeeded) const {
@@ -182,25 +183,25 @@ void Unfinished::TakeTheName() {
   name_.clear();
 }
 
-void Unfinished::BeRemembered() const {
+struct stat Unfinished::entry() const {
   struct stat entry {};
-  if (lock_ >= 0 && fstat(lock_, &entry) == 0) Remember(path_, entry, checksum_.value());
+  if (lock_ < 0 || fstat(lock_, &entry) != 0) stat(target_.c_str(), &entry);
+  return entry;
 }
 
-// The disk may take long, and another program may change a data file meanwhile: then that is kept too.
-void Replace(const std::string& path, std::span<const std::string_view> pieces, bool isDataFile) {
+// Before the renaming `mayTakeTheName` is asked, with where the file lies, and behind it `named` is told.
+template <class MayTakeTheName, class Named>
+void Replace(const std::string& path, std::span<const std::string_view> pieces,
+             MayTakeTheName&& mayTakeTheName, Named&& named) {
   const BeingWritten beingWritten;
   RefuseUnchangeable(path);
   const std::string target = RealPath(path);
-  const std::optional<Identity> known = isDataFile ? KnownIdentity(path) : std::nullopt;
-  const std::optional<Identity> before = known ? known : IdentityAt(target);
   Unfinished file(path, target);
   file.Write(pieces);
   file.BringToTheDisk();
-  if (isDataFile && IdentityAt(target) != before) KeepChanged(path);
+  if (!mayTakeTheName(target)) return;
   file.TakeTheName();
-  if (isDataFile) file.BeRemembered();
-  if (isDataFile) MakeKeptPrivate(path);
+  named(file);
   SyncFolderOf(target);
 }
 
@@ -211,19 +212,63 @@ bool IsFileBeingWritten() {
 }
 
 void ReplaceFile(const std::string& path, std::string_view bytes) {
-  Replace(path, std::span(&bytes, 1), false);
+  ReplaceFile(path, std::span(&bytes, 1));
 }
 
 void ReplaceFile(const std::string& path, std::span<const std::string_view> pieces) {
-  Replace(path, pieces, false);
+  Replace(
+      path, pieces, [](const std::string&) { return true; }, [](const Unfinished&) {});
 }
 
 void ReplaceDataFile(const std::string& path, std::string_view bytes) {
-  Replace(path, std::span(&bytes, 1), true);
+  ReplaceDataFile(path, std::span(&bytes, 1));
 }
 
+// The disk may take long, and another program may change a data file meanwhile: then that is kept too.
 void ReplaceDataFile(const std::string& path, std::span<const std::string_view> pieces) {
-  Replace(path, pieces, true);
+  const auto keepChanged = [&, expected = ExpectedAt(path)](const std::string& target) {
+    if (IdentityAt(target) != expected) KeepChanged(path);
+    return true;
+  };
+  const auto named = [&](const Unfinished& file) {
+    Remember(path, file.entry(), file.checksum());
+    MakeKeptPrivate(path);
+  };
+  Replace(path, pieces, keepChanged, named);
+}
+
+Expected ExpectedAt(const std::string& path) {
+  const Expected known = KnownIdentity(path);
+  return known ? known : IdentityAt(RealPath(path));
+}
+
+Replaced ReplaceAside(const std::string& path, std::span<const std::string_view> pieces,
+                      const Expected& expected) noexcept {
+  Replaced replaced;
+  const auto isAsExpected = [&](const std::string& target) {
+    const std::optional<Identity> there = IdentityAt(target);
+    replaced.isChanged = there && there != expected;
+    return !replaced.isChanged;
+  };
+  const auto named = [&](const Unfinished& file) {
+    replaced.isDone = true;
+    replaced.entry = file.entry();
+    replaced.checksum = file.checksum();
+  };
+  try {
+    Replace(path, pieces, isAsExpected, named);
+  } catch (...) {
+    replaced.failure = std::current_exception();
+  }
+  return replaced;
+}
+
+void TakeReplaced(const std::string& path, const Replaced& replaced) {
+  if (replaced.isDone) {
+    Remember(path, replaced.entry, replaced.checksum);
+    MakeKeptPrivate(path);
+  }
+  if (replaced.failure) std::rethrow_exception(replaced.failure);
 }
 
 bool CanWriteTo(const std::string& folder) {

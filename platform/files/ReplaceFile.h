@@ -2,9 +2,15 @@
 // failure is a platform::Failure that names the path.
 #pragma once
 
+#include <cstdint>
+#include <exception>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <sys/stat.h>
+
+#include "platform/files/Identity.h"
 
 namespace platform {
 
@@ -23,6 +29,24 @@ void ReplaceFile(const std::string& path, std::span<const std::string_view> piec
 // window's thread.
 void ReplaceDataFile(const std::string& path, std::string_view bytes);
 void ReplaceDataFile(const std::string& path, std::span<const std::string_view> pieces);
+
+// ReplaceDataFile for a thread of its own, which knows nothing of the files that are known: in three steps,
+// of which only the second, the long one, is that thread's. What it is given of the file as it is known, and
+// what it gives back:
+using Expected = std::optional<Identity>;
+struct Replaced {
+  bool isDone = false;     // the file holds the new bytes: so `entry` and `checksum` are those of it
+  bool isChanged = false;  // another program has put a file there meanwhile, and nothing was done
+  struct stat entry {};
+  std::uint64_t checksum = 0;
+  std::exception_ptr failure;  // what ReplaceDataFile would have thrown
+};
+Expected ExpectedAt(const std::string& path);
+Replaced ReplaceAside(const std::string& path, std::span<const std::string_view> pieces,
+                      const Expected& expected) noexcept;
+// Makes the file known that ReplaceAside has put there. Throws what it failed with. A file of another program
+// is as it was: KeepChanged is to be asked anew, and the file written once more.
+void TakeReplaced(const std::string& path, const Replaced& replaced);
 
 // What the name of a file that is being written has behind the name that it will take.
 inline constexpr std::string_view UnfinishedEnding = ".thornquill-unfinished";

@@ -9,14 +9,14 @@
 #include "store/PictureStore.h"
 #include "store/UnstoredLog.h"
 #include "tests/app/Journey.h"
+#include "tests/app/SlowDisk.h"
 
 namespace {
 
+using fixture::isFolderUncertain;
 using fixture::Journey;
+using fixture::slowness;
 using fixture::Texts;
-
-useconds_t slowness = 0;         // how long, in microseconds, a file takes to the disk
-bool isFolderUncertain = false;  // whether the disk fails to take in a folder
 
 class Log : public Journey {
  protected:
@@ -271,8 +271,18 @@ TEST_F(Log, ASoundEndWaitsForASlowDisk) {
 
 }  // namespace
 
+void HoldJournal(int descriptor) {
+  const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
+  std::error_code error;
+  if (std::filesystem::read_symlink(link, error).string().find(".tqf") == std::string::npos) return;
+  ++fixture::journalsOnTheirWay;
+  while (fixture::areJournalsHeld) usleep(100);
+  --fixture::journalsOnTheirWay;
+}
+
 extern "C" int fsync(int descriptor) {
   usleep(slowness);
+  HoldJournal(descriptor);
   struct stat entry {};
   if (isFolderUncertain && fstat(descriptor, &entry) == 0 && S_ISDIR(entry.st_mode)) {
     errno = EIO;

@@ -65,14 +65,15 @@ TEST_F(AlienPages, AreToldOnceForEachOpeningAndNeverWrittenOver) {
 TEST_F(AlienPages, AreNotToldInAPassAndBlanksBeforeADocumentMakeNone) {
   const auto row = Begin({"cover", "one", "two"});
   for (const char* start : {" \r\n\t{\\rtf1 word}", "\xEF\xBB\xBF{\\rtf1 word}", "{\\urtf1 word}", "  "}) {
-    Pages[1].Body.assign(std::strlen(start) * 2, '\0');
-    store::Encipher(start, PageShift, Pages[1].Body.data());
+    std::string body(std::strlen(start) * 2, '\0');
+    store::Encipher(start, PageShift, body.data());
+    Pages[1].Body = body;
     GoNextPage();
     Type("my ");
     Press("btnBack");
     EXPECT_NE(TextsIn(row)[1].find("my "), std::string::npos) << start;
   }
-  Pages[1].Body = "noise of an odd length.";
+  Pages[1].Body = std::string("noise of an odd length.");
   {
     const look::Pass pass;
     GoNextPage();

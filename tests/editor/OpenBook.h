@@ -41,8 +41,9 @@ class OpenBook : public Windows {
     std::vector<JournalPage> pages;
     for (const std::string& page : texts) {
       const std::string plain = page.empty() ? "" : Rtf(page);
-      pages.push_back({std::string(plain.size() * 2, '\0'), 40000.0 + static_cast<double>(pages.size())});
-      store::Encipher(plain, PageShift, pages.back().Body.data());
+      std::string body(plain.size() * 2, '\0');
+      store::Encipher(plain, PageShift, body.data());
+      pages.push_back({std::move(body), 40000.0 + static_cast<double>(pages.size())});
     }
     const std::int32_t row = AddJournal();
     store::WriteJournalFile(FileOf(row), pages);

@@ -21,6 +21,28 @@ TEST_F(Passes, APageThatWasNotChangedIsNeverStored) {
   EXPECT_EQ(BytesOf(row).substr(539), before.substr(539)) << "only the password block is made anew";
 }
 
+TEST_F(Passes, AClosingWritesTheFileOnceAndAgainOverAnothersAlone) {
+  const auto row = AddJournal({"cover", "one"});
+  int writes = 0;
+  std::function<void()> meanwhile;
+  FileWillBeWritten = [&](DataFile) { ++writes; };
+  SomethingWasStored = [&] {
+    if (meanwhile) std::exchange(meanwhile, nullptr)();
+  };
+  const auto writesOf = [&](const std::string& typed) {
+    Open(row);
+    Type(typed);
+    window().CloseBox();
+    return std::exchange(writes, 0);
+  };
+  EXPECT_EQ(writesOf("x"), 1);
+  EXPECT_EQ(writesOf(""), 1);
+  meanwhile = [&] { folder.Write(FileOf(row), "ZANDOLK JOURNAL FILE V00001, another's"); };
+  EXPECT_EQ(writesOf("y"), 2);
+  EXPECT_EQ(folder.Names(), (Texts{FileOf(row), FileOf(row) + ".1.other"}));
+  EXPECT_EQ(TextsIn(row), (Texts{"yxcover", "one"}));
+}
+
 TEST_F(Passes, AnEmptyPageIsStoredAsTheEmptyDocument) {
   const auto row = Begin({"cover", "", "two"});
   Press("btnNext");
@@ -69,7 +91,7 @@ TEST_F(Passes, TheProgressWindowComesAboveTenThousand) {
       shown = wait.CountsAsShown();
       held = !text().updatesEnabled();
     });
-    Pages[1].Body.assign(length, static_cast<char>('a' + PageShift));
+    Pages[1].Body = std::string(length, static_cast<char>('a' + PageShift));
     GoLastPage();
     text().disconnect(&wait);
     EXPECT_EQ(shown, length > 10'000) << length;

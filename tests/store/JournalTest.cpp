@@ -1,4 +1,5 @@
 #include "store/JournalFile.h"
+#include "store/JournalSaving.h"
 #include "store/Scrambler.h"
 #include "tests/store/StoreTest.h"
 

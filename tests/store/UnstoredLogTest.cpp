@@ -77,6 +77,7 @@ TEST(UnstoredLogTest, HoldsAllKindsOfPartsOrNone) {
   EXPECT_EQ(store::DecodeLog(store::EncodeLog(log)).log, log);
   log.journals[0].pages[0].Body = std::string(70'000, '\xFF');
   log.journals[1].pages[1].Body = "";  // no text is not the same as no change
+  log.journals[1].pages[1].orBegan = {{{7, 8}, 9.5}, {{}, 1}};
   EXPECT_EQ(store::DecodeLog(store::EncodeLog(log)).log, log);
   EXPECT_FALSE(log.empty());
   EXPECT_TRUE((UnstoredLog{1, {}, {}, {{"a.tqf", {}}}}.empty()));

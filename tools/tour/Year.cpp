@@ -1,6 +1,6 @@
 #include "pictures/modPictures.h"
 #include "store/BookcaseFile.h"
-#include "store/JournalFile.h"
+#include "store/JournalSaving.h"
 #include "store/NewJournals.h"
 #include "store/PageCipher.h"
 #include "tests/support/Staging.h"
@@ -34,11 +34,12 @@ void StageAYear() {
     Journals.back().PaperColor = Paper;
   }
   Staged().CurrentJournal = Staged().PagesJournal = 1;
-  Pages.resize(LastPage + 1, {"", SaturdayInAugust});
+  Pages.resize(LastPage + 1, {{}, SaturdayInAugust});
   PageCount = LastPage;
   const std::string text = platform::ReadFile(ASSETS "/year/page.rtf");
-  Pages.back().Body.resize(text.size() * 2);
-  store::Encipher(text, PageShift, Pages.back().Body.data());
+  std::string body(text.size() * 2, '\0');
+  store::Encipher(text, PageShift, body.data());
+  Pages.back().Body = body;
   SaveJournalFile(Journals[1].FileName);
   Pictures.resize(1);
   LayPhotograph("lake.jpg", "Photo corners.gif", {324, 106, 220, 165});

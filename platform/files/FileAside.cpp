@@ -1,0 +1,45 @@
+#include "platform/files/FileAside.h"
+
+#include <system_error>
+#include <utility>
+
+#include "platform/Failure.h"
+#include "platform/SignalsBlocked.h"
+
+namespace platform {
+
+void FileAside::Begin(const std::string& path, Bytes bytes) try {
+  path_ = path;
+  ++number_;
+  const SignalsBlocked blocked;  // the thread begins with them so
+  end_ = std::async(std::launch::async,
+                    [this, path, number = number_, expected = ExpectedAt(path), written = std::move(bytes)] {
+                      Replaced replaced = ReplaceAside(path, written.pieces, expected);
+                      TellTheEnd(number);
+                      return replaced;
+                    });
+} catch (const std::system_error&) {
+  throw Failure(FailureKind::OutOfMemory, path);
+}
+
+// On the file's own thread, which is all but over.
+void FileAside::TellTheEnd(std::uint64_t number) {
+  const auto tell = [this, number] {
+    if (!IsBusy() || number != number_) return;
+    end_.wait();
+    ended_();
+  };
+  QMetaObject::invokeMethod(&window_, tell, Qt::QueuedConnection);
+}
+
+bool FileAside::Wait(std::chrono::milliseconds most) const {
+  return !IsBusy() || end_.wait_for(most) == std::future_status::ready;
+}
+
+bool FileAside::Take() {
+  const Replaced replaced = end_.get();
+  TakeReplaced(path_, replaced);
+  return !replaced.isChanged;
+}
+
+}  // namespace platform
