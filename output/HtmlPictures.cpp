@@ -32,10 +32,11 @@ std::string TagOf(const PagePicture& picture, bool isFirst) {
 
 }  // namespace
 
-void WriteHtmlPictures(std::int32_t count, const std::string& folder, const std::string& path) {
+void WriteHtmlPictures(const std::vector<std::int32_t>& rows, const std::string& folder,
+                       const std::string& path) {
   bool isFirst = true;
-  for (std::int32_t k = 1; k <= count; ++k) {
-    const PagePicture& picture = Pictures.at(static_cast<std::size_t>(k));
+  for (const std::int32_t row : rows) {
+    const PagePicture& picture = Pictures.at(static_cast<std::size_t>(row));
     if (!LiesOnCurrentPage(picture) || picture.Deleted == True || !CanBeCopied(picture)) continue;
     CopyFile(picture.PictureFile, folder + "/" + PlainName(picture.PictureFile));
     WriteHtmlLine(TagOf(picture, isFirst), path);

@@ -12,6 +12,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "output/ExportSettings.h"
 
@@ -33,7 +34,8 @@ void WriteHtmlPageCaption(const std::string& path, std::int32_t page, const Expo
 void WriteHtmlMenuBar(std::int32_t page, const std::string& path, const ExportSettings& settings);
 // The dates of all pages as links to them.
 void WriteHtmlDateIndex(const std::string& path, const ExportSettings& settings);
-// Copies the pictures of the page that is current into `folder` and writes their tags; rows 1 to `count` of
-// Pictures are looked at. A picture whose file is missing leaves no tag.
-void WriteHtmlPictures(std::int32_t count, const std::string& folder, const std::string& path);
+// Copies the pictures of the page that is current into `folder` and writes their tags; those rows of Pictures
+// are looked at. A picture whose file is missing leaves no tag.
+void WriteHtmlPictures(const std::vector<std::int32_t>& rows, const std::string& folder,
+                       const std::string& path);
 void WriteHtmlFooter(const std::string& path, const ExportSettings& settings);

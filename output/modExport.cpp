@@ -13,6 +13,7 @@
 #include "output/HtmlSections.h"
 #include "output/PageLines.h"
 #include "output/ReplaceText.h"
+#include "pictures/PictureSlots.h"
 #include "platform/CodePage.h"
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
@@ -91,7 +92,7 @@ void WriteFileEnd(const std::string& path, const ExportSettings& settings) {
 void WritePageFile(const std::string& folder, const std::string& path, const ExportSettings& settings) {
   WriteHtmlHead(path, settings);
   WriteHtmlBodyStart(path, CurrentPage, settings);
-  WriteHtmlPictures(PictureCount, folder, path);
+  WriteHtmlPictures(PictureRowsOnShow(), folder, path);
   WritePageText(path);
   if (CurrentPage == 0) {
     WriteHtmlLine("<BR>", path);
@@ -105,7 +106,7 @@ void WritePageFile(const std::string& folder, const std::string& path, const Exp
 
 // The current page's content in the one file, its table closed and a rule behind it.
 void WriteSinglePagePart(const std::string& path) {
-  WriteHtmlPictures(PictureCount, ExportRoot(), path);
+  WriteHtmlPictures(PictureRowsOnShow(), ExportRoot(), path);
   WritePageText(path);
   WriteTableEnd(path);
   WriteHtmlLine("<HR>\r\n", path);

@@ -8,6 +8,7 @@
 #include <QtGui/QGuiApplication>
 
 #include "editor/PageFace.h"
+#include "editor/SavingPages.h"
 #include "look/Pass.h"
 #include "output/JoinedPages.h"
 #include "output/PrintDialog.h"
@@ -108,6 +109,7 @@ void PrintSelection(const PrintOrder& order) {
 
 // A cancelled dialog is no failure, and without a printer there is nothing to go on with.
 void PrintJournal() {
+  AwaitSaving();
   const auto forget = qScopeGuard(&ForgetPrintedText);
   std::optional<PrintOrder> order;
   Guarded([&] { order = ShowPrintDialog(RequestOf()); });

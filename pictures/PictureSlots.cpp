@@ -247,7 +247,7 @@ std::vector<pictures::WantedPicture> PictureSlots::WantedBy(const std::vector<st
 
 // Deals the rows out to the slots; returns the first failure. A row that cannot be shown leaves no gap.
 std::optional<platform::Failure> PictureSlots::DealOut() {
-  const std::vector<std::int32_t> rows = PictureRowsOf(CurrentPage);
+  const std::vector<std::int32_t>& rows = found_ = PictureRowsOf(CurrentPage);
   ready_.Visit(WantedBy({rows.begin(), rows.size() < Count ? rows.end() : rows.begin() + Count}));
   lingers_.start();
   std::optional<platform::Failure> failure;
@@ -289,6 +289,10 @@ void ShowPagePicturesOrTell() {
   } catch (const platform::Failure& failure) {
     platform::ShowMessage(failure.what());
   }
+}
+
+const std::vector<std::int32_t>& PictureRowsOnShow() {
+  return theSlots->Found();
 }
 
 void HidePagePictures() {

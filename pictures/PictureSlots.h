@@ -49,6 +49,7 @@ class PictureSlots : public QObject {
   // Returns the first failure of a picture, which leaves no gap, or of a frame, whose picture shows without
   // it; SubscriptOutOfRange when there are more rows than slots.
   std::optional<platform::Failure> DealOut();
+  const std::vector<std::int32_t>& Found() const { return found_; }
   void Hide();
   // Lets go of all pixels, also of those that are kept for other pages.
   void Forget();
@@ -101,6 +102,7 @@ class PictureSlots : public QObject {
   pictures::ReadyPictures ready_;
   QTimer lingers_;
   std::array<std::int32_t, Count> rows_{};
+  std::vector<std::int32_t> found_;     // rows of the page, those beyond the slots too
   std::optional<std::size_t> dragged_;  // the slot whose handle a button holds
 };
 
@@ -110,6 +112,8 @@ class PictureSlots : public QObject {
 void ShowPagePictures();
 // The same; a failure is told in a message that names the file. For what a person does at the open page.
 void ShowPagePicturesOrTell();
+// The rows of Pictures that were found for that, those beyond the slots too, in their order.
+const std::vector<std::int32_t>& PictureRowsOnShow();
 // Hides the slots. Their handles stay as they are.
 void HidePagePictures();
 // The same, and lets go of their pixels: for the end of a journal.

@@ -67,7 +67,7 @@ TEST_F(Sections, PicturesOfThisPageAloneAreCopiedAndShown) {
   AddPicture(cafe);
   AddPicture("a.gif").Deleted = 1;  // which removes nothing
   AddPicture("x\\b.gif");
-  WriteHtmlPictures(PictureCount, target, folder.PathOf("page.html"));
+  WriteHtmlPictures({1, 2, 3, 4, 5, 6, 7, 8}, target, folder.PathOf("page.html"));
   EXPECT_EQ(
       folder.Read("page.html"),
       "<a href=\"Caf\xE9 &#1046;.gif\"><img src=\"Caf\xE9 &#1046;.gif\"  align=left width=306 height=-1 "
