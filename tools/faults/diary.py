@@ -47,7 +47,7 @@ def read(name, data, shift):
         (count,), data = split(data[539:], "i")
         for _ in range(count + 1):
             (body, _), data = split(data, "sd")
-            rows.append(words(bytes((byte - shift) % 255 for byte in body[0::2]).decode("latin-1")))
+            rows.append(words(body[0::2].translate(bytes((byte - shift) % 255 for byte in range(256))).decode("latin-1")))
     elif name == LOG:
         assert data.startswith(b"ZANDOLK UNSTORED PAGES FILE V00001")
         data = data[34:]
@@ -94,6 +94,9 @@ FIRST = BEGIN + opened(0) + typed("w1") + ["click btnNewPage"] + typed("w2") + A
 SITTING = (unlocked("Rosebud7") + opened(0) + typed("w3") + ["click btnFirstPage"] + typed("w4") + ["click btnLastPage"] + DRAG
            + CLOSE + NEW_JOURNAL + CLOSE + OPTIONS + LEAVE)
 REMOVAL = unlocked("Quill7") + ["pick ListView1 1", "click cmdDelete"] + opened(0) + typed("w6") + ["end nothing"]
+TURN = [f"click btn{where}" for where in ("NewPage", "FirstPage", "Back", "Next", "LastPage")]
+LONG = (unlocked("Rosebud7") + opened(0) + typed("w3") + ["click btnFirstPage"] + typed("w4") + ["click btnNext", "click btnBack"]
+        + typed("w5") + ["click btnNext"] + typed("w6") + CLOSE + opened(0) + ["click btnBack"] + typed("w7") + ["click btnNext", "end nothing"])
 MENDING = unlocked("Rosebud7") + opened(0) + typed("w7") + ["click btnFirstPage"] + ADD_PICTURE + CLOSE + LEAVE
 KEPT_OPEN = (BEGIN + REST + opened(0) + typed("w1") + REST + ["click btnNewPage"] + typed("w2") + REST + typed("w3") + CLOSE
              + NEW_JOURNAL + REST + CLOSE + ["click cmdOptions"] + PASSWORD + REST + ["click cmdClose"] + LEAVE)
@@ -142,6 +145,7 @@ def killed(files, script):
         assert code == -9 and (folder / LOG).exists(), log
         return contents(folder)
 
+def with_rests(script): return [step for one in script for step in [one, "rest 300"][:1 + (one in TURN)]]
 def texts(log, what): return [text for kind, text in log if kind == what]
 
 
@@ -160,17 +164,19 @@ class Scenario:
         index = index_of(files)
         self.first_password = [read("journal.tqt", index.removesuffix(b"?"), 0)[0]] if index else []
         assert self.typed <= self.words, (name, "something else was stored", self.log)
-        self.calls, self.aside = ([text.split(" ", 1) for text in texts(self.log, what)] for what in ("call", "aside"))
+        self.calls, self.by_log, self.by_file = ([text.split(" ", 1) for text in texts(self.log, what)]
+                                                 for what in ("call", "by-log", "by-file"))
         self.versions = collections.defaultdict(lambda: [None], {file: [data] for file, data in files.items()})
+        if self.by_file: versions += self.play(script=with_rests(script))[3]  # of those on their way the newest alone is written
         deleted = [(pathlib.Path(path).name, None) for call, path in self.calls if call == "unlink"]
         for file, data in versions + deleted: self.versions[file].append(data)
 
-    def play(self, **faults):
+    def play(self, script=None, **faults):
         with tempfile.TemporaryDirectory(prefix="faults-") as top:
             folder, kept = pathlib.Path(top, "diary"), pathlib.Path(top, "versions")
             folder.mkdir(), kept.mkdir()
             furnish(folder, self.files)
-            code, log = play(folder, self.script, VERSIONS=kept, **faults, **self.disk)
+            code, log = play(folder, script or self.script, VERSIONS=kept, **faults, **self.disk)
             versions = [(path.name.split("@")[0], path.read_bytes()) for path in kept.iterdir()]
             return code, log, contents(folder), versions
 
@@ -187,7 +193,12 @@ def scenarios():
     large = sample("1-first-diary")
     body = b"".join(bytes([code + ord("7"), 30]) for code in b"{\\rtf1\\ansi\\pard " + b"x" * 80 + b" }")
     row = struct.pack(f"<H{len(body)}sd", len(body), body, 40000)
-    yield Scenario("700 pages", large | {"j00000.tqf": large["j00000.tqf"][:539] + struct.pack("<i", 699) + row * 700}, MENDING)
+    pages = lambda count: large | {"j00000.tqf": large["j00000.tqf"][:539] + struct.pack("<i", count - 1) + row * count}
+    yield Scenario("700 pages", pages(700), MENDING)
+    yield (long := Scenario("1,400 pages", pages(1400), LONG, SLOW_FILE=40))
+    found = read_all(long.result)["j00000.tqf"]
+    assert [page for page in found if page] == [["w4", "w5"], ["w6"], ["w7"], ["w3"]] and len(found) == 1400, found
+    assert long.by_file, "its file was not written while the player went on"
     left = killed({}, FIRST_KILLED)
     yield Scenario("log of a first sitting", left, unlocked("Rosebud7") + opened(0) + typed("w3") + CLOSE + LEAVE)
     left = killed(first.result, SITTING_KILLED)

@@ -1,13 +1,13 @@
 """scripts/faults kills: kills the program at each call that changes a file, and at random moments."""
 import contextlib, itertools, os, pathlib, random, re, tempfile, time
 
-from diary import (ADD_PICTURE, DATA, DRAG, KEPT_OPEN, LOG, ROOT, UNFINISHED, Scenario, contents, furnish, next_start, play, read,
+from diary import (ADD_PICTURE, DATA, DRAG, KEPT_OPEN, LOG, ROOT, TURN, UNFINISHED, Scenario, contents, furnish, next_start, play, read,
                    run_all, scenarios, texts, words, words_in)
 
 
 def changes(log):
     """The calls that made, replaced or deleted a file by its name."""
-    calls = (text.split(" ", 1) for kind, text in log if kind in ("call", "aside"))
+    calls = (text.split(" ", 1) for kind, text in log if kind in ("call", "by-window", "by-log", "by-file"))
     return [(call, pathlib.Path(path).name) for call, path in calls if call in ("rename", "linkat", "unlink")]
 
 def missing(scenario, log, files):
@@ -19,13 +19,16 @@ def missing(scenario, log, files):
     return [name for name in (scenario.files.keys() | made) - deleted - files.keys() if DATA.fullmatch(name)]
 
 def promised(scenario, log, death):
-    """What was done two seconds before, and a little: the words, the password or those after it, and the journals' names."""
+    """What was done two seconds before, and a little: the words, the password or those after it, and the journals' names. And
+    the words on pages that were turned when the next step came."""
     steps = [text.split(" ", 1) for text in texts(log, "step")]
     every, steps = [step for _, step in steps], [step for when, step in steps if int(when) < death - 2300]
     done = steps[:len(steps) - steps[::-1].index("click cmdOK")] if "click cmdOK" in steps else []
     typed = lambda control, steps: [step.split(" ", 2)[2] for step in steps if step.startswith(f"type {control} ")]
     passwords, given = ([*scenario.first_password, *typed("txtNewPass", some)] for some in (every, done))
     names = set(typed("txtPass", done)) & {"Home", "Second"}
+    turns = [at for at, step in enumerate(every[:-1]) if step in TURN]
+    steps = max(steps, every[:turns[-1]] if turns else [], key=len)
     return set(words(" ".join(typed("txtM", steps)))), passwords[len(given) - 1:] * bool(given), names
 
 def out_of_place(scenario, found):
@@ -58,7 +61,7 @@ def not_kept(scenario, folder, log, death):
 def earlier(scenario, faults):
     """The script was over before the kill was due: by another clock, or as the log had less to do."""
     if "seconds" in faults: return {"seconds": faults["seconds"] * 0.9}
-    return faults | {"CALL": faults["CALL"] - 1} if faults["CALL"] > 1 and "OF_LOG" in faults else None
+    return faults | {"CALL": faults["CALL"] - 1} if faults["CALL"] > 1 and "OF" in faults else None
 
 def kill(scenario, faults):
     """How many unfinished files were left, and what was wrong."""
@@ -96,12 +99,15 @@ def kills(number=2000):
     stage, chance = [scenario for scenario in scenarios() if scenario.name != "export"], random.Random(number)
     open_page = Scenario("a page that stays open", {}, KEPT_OPEN)
     at_calls = [(scenario, faults) for scenario in stage for faults in ways(scenario.calls)]
-    at_log = [(scenario, faults) for scenario in (*stage, open_page) for faults in ways(scenario.aside, OF_LOG=1)]
+    at_log = [(scenario, faults) for scenario in (*stage, open_page) for faults in ways(scenario.by_log, OF="log")]
+    at_file = [(scenario, faults) for scenario in stage for faults in ways(scenario.by_file, OF="file")]
     print(*(f"{scenario.name}: {len(scenario.calls)} calls" for scenario in stage), f"{len(at_calls)} ways to be killed",
-          f"{len(at_log)} more at some {len(open_page.aside)} calls of the log", sep=", ")
+          f"{len(at_log)} more at some {len(open_page.by_log)} calls of the log",
+          f"{len(at_file)} more at some {sum(len(scenario.by_file) for scenario in stage)} of a file on its way", sep=", ")
     told_wrong = miscounted(stage)
     print(*told_wrong, sep="\n", end="\n" * bool(told_wrong))
     plans = chance.sample(at_calls, min(len(at_calls), number // 2)) + chance.sample(at_log, min(len(at_log), number // 4))
+    plans += chance.sample(at_file, min(len(at_file), number // 8))
     rolled = [scenario for scenario in stage if LOG in scenario.files]
     for turn in range(number - len(plans)):
         scenario = (open_page, chance.choice(rolled), chance.choice(stage), open_page)[turn % 4]
