@@ -1,7 +1,7 @@
 #include "bench/BigDiary.h"
 
 #include "platform/Dates.h"
-#include "store/JournalFile.h"
+#include "store/JournalSaving.h"
 #include "store/PageCipher.h"
 #include "store/Scrambler.h"
 #include "tests/support/Staging.h"

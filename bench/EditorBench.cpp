@@ -6,12 +6,14 @@
 
 #include <QtTest/QTest>
 
+#include "app/KeptLog.h"
 #include "bench/Beside.h"
 #include "bench/Diary.h"
 #include "bench/Memory.h"
 #include "editor/PageFace.h"
 #include "editor/PagePasses.h"
 #include "editor/PageTurning.h"
+#include "editor/SavingPages.h"
 #include "editor/frmIndex.h"
 #include "editor/frmJournal.h"
 #include "platform/files/Files.h"
@@ -57,37 +59,48 @@ void TurnToAnUnchangedPage(benchmark::State& state) {
 }
 BENCHMARK(TurnToAnUnchangedPage)->Arg(10)->Arg(10000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-// A letter typed, and then the turn or the closing, beside bare writes of as many bytes: a turn stores the
-// page, and a closing stores it and then writes the file once more.
-template <class Work>
-void LeaveAChangedPage(benchmark::State& state, int writes, Work&& work) {
+// A letter typed, and then the turn, with the log as the program has it, beside a bare write of one small
+// file: so long the log takes. The journal's file is waited for behind it.
+void TurnFromAChangedPage(benchmark::State& state) {
+  look::The<frmJournal>();
+  Diary diary(static_cast<std::int32_t>(state.range(0)));
+  diary.Open();
+  BookcaseLoaded = true;
+  KeptLog log(false);
+  const std::string path = platform::PathOf("small"), page(2 * 3150, 'q');
+  const auto turned = [&] {
+    QTest::keyClick(Face().txtM, Qt::Key_A);
+    const double seconds = bench::SecondsOf([&] {
+      StoreCurrentPage();
+      CurrentPage > 0 ? GoBackPage() : GoLastPage();
+      diary.Draw();
+    });
+    AwaitSaving();
+    if (PagesUnsaved || !log.LookAndWait()) std::abort();
+    return seconds;
+  };
+  bench::RunBeside(state, turned, [&] { return bench::WritePlain(path, page); });
+  BookcaseLoaded = false;
+}
+BENCHMARK(TurnFromAChangedPage)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+// A letter typed, and then the closing, beside a bare write of as many bytes.
+void CloseAChangedJournal(benchmark::State& state) {
   look::The<frmJournal>();
   Diary diary(10000);
   const std::string path = platform::PathOf(JournalName);
   const std::string bytes = platform::ReadFile(path);
-  const auto changed = [&] {
-    if (PagesJournal == 0) diary.Open();
+  const auto closed = [&] {
+    diary.Open();
     QTest::keyClick(Face().txtM, Qt::Key_A);
-    return bench::SecondsOf([&] { work(diary); });
+    return bench::SecondsOf([&] { look::The<frmJournal>().CloseBox(); });
   };
-  bench::RunBeside(state, changed, [&] {
-    double seconds = 0;
-    for (int write = 0; write < writes; ++write) seconds += bench::WritePlain(path, bytes);
-    return seconds;
-  });
-}
-
-void TurnFromAChangedPage(benchmark::State& state) {
-  LeaveAChangedPage(state, 1, [](Diary& diary) {
-    StoreCurrentPage();
-    CurrentPage > 0 ? GoBackPage() : GoLastPage();
-    diary.Draw();
-  });
-}
-BENCHMARK(TurnFromAChangedPage)->UseManualTime()->Unit(benchmark::kMillisecond);
-
-void CloseAChangedJournal(benchmark::State& state) {
-  LeaveAChangedPage(state, 2, [](Diary&) { look::The<frmJournal>().CloseBox(); });
+  bench::RunBeside(state, closed, [&] { return bench::WritePlain(path, bytes); });
 }
 BENCHMARK(CloseAChangedJournal)->UseManualTime()->Unit(benchmark::kMillisecond);
 

@@ -16,6 +16,7 @@
 #include "platform/files/InputFile.h"
 #include "platform/files/LogWriter.h"
 #include "store/JournalFile.h"
+#include "store/JournalSaving.h"
 #include "store/PageCipher.h"
 #include "store/Scrambler.h"
 #include "store/UnstoredLog.h"
