@@ -13,6 +13,7 @@
 #include "richtext/characters/Unicode.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/LayoutFormats.h"
+#include "richtext/textdocument/Paragraphs.h"
 
 namespace richtext {
 namespace {
@@ -198,14 +199,16 @@ void HeightGuard::NoteChange(int at, int removed, int added) {
     heights_.emplace(document_, width_);
     bound_ = 0;
     recountAt_ = TallestPage;
+    squeezes_ = false;
   }
   for (QTextBlock block = document_.findBlock(at); block.isValid() && block.position() <= at + added;
        block = block.next()) {
     if (block.previous().isValid() && !block.previous().isVisible()) block.setVisible(false);
     bound_ += heights_->Of(block, at - block.position(), at + added - block.position());
+    squeezes_ = squeezes_ || HasOtherLines(block.blockFormat());
   }
   const bool isJoined = document_.blockCount() < std::exchange(blocks_, document_.blockCount());
-  const bool mayShowMore = hid_ && (removed > 1 || isJoined);
+  const bool mayShowMore = (hid_ || squeezes_) && (removed > 1 || isJoined);
   if (bound_ <= recountAt_ && !mayShowMore && !lowers_) return;
   const int first = Recount();
   if (first < document_.characterCount())
@@ -228,12 +231,13 @@ int HeightGuard::Recount() {
   int first = document_.characterCount();
   bound_ = 0;
   bool fits = true;
-  lowers_ = false;
+  lowers_ = squeezes_ = false;
   for (QTextBlock block = document_.begin(); block.isValid(); block = block.next()) {
     const auto [height, points] = fits ? Shown(block) : Look();
     fits = fits && bound_ + height <= TallestPage;
     if (fits) bound_ += height;
     lowers_ = lowers_ || (fits && points);
+    squeezes_ = squeezes_ || HasOtherLines(block.blockFormat());
     const bool isNew = ShowLetters(block, points);
     if (isNew || block.isVisible() != fits) first = std::min(first, block.position());
     block.setVisible(fits);

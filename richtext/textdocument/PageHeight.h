@@ -80,8 +80,8 @@ class HeightGuard {
   // To be told before the document is laid out at another width; does nothing where it is the same.
   void SetWidth(double pixels);
 
-  // Nothing is hidden, and all is in its own letters.
-  bool IsAllShown() const { return !Hides() && !lowers_; }
+  // Nothing is hidden, and all is in its own letters and lines.
+  bool IsAllShown() const { return !Hides() && !lowers_ && !squeezes_; }
 
  private:
   bool Hides() const;
@@ -98,8 +98,9 @@ class HeightGuard {
   std::optional<HeightBound> heights_;  // that knows the formats since the document was cleared last
   double bound_ = 0;  // of what is shown; too much where something has gone since it was counted
   double recountAt_ = TallestPage;
-  bool lowers_ = false;  // a paragraph is shown in smaller letters
-  bool hid_ = false;     // when it was counted last, a paragraph was hidden
+  bool lowers_ = false;    // a paragraph is shown in smaller letters
+  bool squeezes_ = false;  // one was filled in with lower lines
+  bool hid_ = false;       // when it was counted last, a paragraph was hidden
   int blocks_ = 1;
 };
 

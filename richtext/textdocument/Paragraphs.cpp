@@ -235,6 +235,10 @@ QTextBlockFormat WithLineHeight(QTextBlockFormat format, double height) {
   return format;
 }
 
+bool HasOtherLines(const QTextBlockFormat& format) {
+  return format.hasProperty(LineRuleOfDocument);
+}
+
 ListFormat ListOf(const QTextBlockFormat& format) {
   return {static_cast<ListKind>(format.intProperty(ListKindOfDocument)),
           format.intProperty(ListStartOfDocument),

@@ -19,6 +19,8 @@ ListFormat ListOf(const QTextBlockFormat& format);
 bool IsListItem(const QTextBlockFormat& format);
 // The same paragraph shown with lines of this height, in pixels.
 QTextBlockFormat WithLineHeight(QTextBlockFormat format, double height);
+// Whether its lines were so given another height than its own.
+bool HasOtherLines(const QTextBlockFormat& format);
 // The same paragraph as no item of a list; its text stays where it was.
 QTextBlockFormat WithoutList(const QTextBlockFormat& format);
 
