@@ -207,8 +207,8 @@ void HeightGuard::NoteChange(int at, int removed, int added) {
     bound_ += heights_->Of(block, at - block.position(), at + added - block.position());
     squeezes_ = squeezes_ || HasOtherLines(block.blockFormat());
   }
-  const bool isJoined = document_.blockCount() < std::exchange(blocks_, document_.blockCount());
-  const bool mayShowMore = (hid_ || squeezes_) && (removed > 1 || isJoined);
+  const bool isPartedOrJoined = document_.blockCount() != std::exchange(blocks_, document_.blockCount());
+  const bool mayShowMore = (hid_ || squeezes_) && (removed > 1 || isPartedOrJoined);
   if (bound_ <= recountAt_ && !mayShowMore && !lowers_) return;
   const int first = Recount();
   if (first < document_.characterCount())
