@@ -41,6 +41,7 @@ class Saving : public fixture::Journey {
     chkGotoLastPage = 0;
     OpenTheJournal();
     Press("btnNext");
+    AwaitSaving();  // the blank title page has been left
   }
   static void Press(const char* key) { Click(Book().Toolbar1->Button(QLatin1String(key))); }
   static void Type(const char* text) { QTest::keyClicks(Book().face->txtM, QLatin1String(text)); }
