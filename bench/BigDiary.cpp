@@ -49,8 +49,8 @@ void MoreJournals(std::int32_t count) {
   while (JournalCount < count) {
     JournalEntry row = Journals.at(1);
     row.Icon = ++JournalCount;
-    row.Name += " " + std::to_string(JournalCount);
-    row.FileName = "j" + std::to_string(10000 + JournalCount) + ".tqf";
+    row.Name.append(" ").append(std::to_string(JournalCount));
+    row.FileName.replace(1, 5, std::to_string(10000 + JournalCount));
     Journals.push_back(row);
   }
 }
