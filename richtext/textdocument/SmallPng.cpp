@@ -96,7 +96,7 @@ QImage Bare(const QImage& image, QImage::Format format) {
 }  // namespace
 
 std::string SmallPng(const QImage& image, const std::atomic<bool>* stop) {
-  if (image.isNull()) return {};
+  if (image.isNull() || (stop && *stop)) return {};
   QImage full = Bare(image, QImage::Format_ARGB32);
   if (IsOpaque(full)) full = Bare(full, QImage::Format_RGB32);
   std::string smallest = Encoded(full, stop);
