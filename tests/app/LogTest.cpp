@@ -196,7 +196,7 @@ TEST_F(Log, TheOlderPictureStoreGoesWhenTheLogHasIt) {
   StartWithAFile();
   LeaveTheProgram();
   const auto startWithTheOlder = [this] {
-    QFile::copy(QStringLiteral(TEST_SAMPLES "/4-older-pictures/jpics.bin"),
+    QFile::copy(QString::fromStdString(fixture::PathOfSample("4-older-pictures/jpics.bin")),
                 QString::fromStdString(folder.PathOf("jpics.bin")));
     OpenAtAStart();
     ASSERT_EQ(Pictures.at(1).Top, 64);

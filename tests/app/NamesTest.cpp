@@ -156,7 +156,7 @@ TEST_F(EveryWindow, StandsAsOnItsSheet) {
   Draw(HelpWindow(u"<h2><a name=\"a\">A chapter</a></h2>"_qs), sheet);
   Draw(platform::FontPicker({}, nullptr), sheet);
   std::istringstream drawn(sheet);
-  std::ifstream designed(TEST_SAMPLES "/examples/windows.txt");
+  std::ifstream designed(fixture::PathOfSample("examples/windows.txt"));
   while (std::getline(designed, shouldBe) && std::getline(drawn, is)) EXPECT_EQ(is, shouldBe);
   EXPECT_TRUE(!std::getline(drawn, is) && designed.eof()) << "drawn on: " << is;
 }
@@ -164,7 +164,7 @@ TEST_F(EveryWindow, StandsAsOnItsSheet) {
 // The help comes by the window's button where it has one, by F1 elsewhere. Those stay whose way out is
 // another.
 TEST_F(EveryWindow, LeadsToItsChapterOfTheHelpAndGoesByItsButton) {
-  QFile::copy(QStringLiteral(TEST_SAMPLES "/../../help/THORNQUILL.HLP"),
+  QFile::copy(QString::fromStdString(fixture::PathOfSample("../../help/THORNQUILL.HLP")),
               QString::fromStdString(folder.PathOf("THORNQUILL.HLP")));
   AnswerF1();
   QStringList staying;

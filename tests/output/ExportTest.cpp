@@ -24,7 +24,8 @@ class Export : public fixture::OpenBook {
   std::string Read(const std::string& name) const { return folder.Read("export/" + name); }
   // The file is the sample, byte for byte.
   void ExpectAsIn(const std::string& sample, const std::string& file) const {
-    EXPECT_EQ(Read(file), platform::ReadFile((TEST_SAMPLES "/exports/") + sample)) << sample;
+    EXPECT_EQ(Read(file), platform::ReadFile(fixture::PathOfSample("exports/" + std::string(sample))))
+        << sample;
   }
   // A run that fails tells why and can be repeated.
   void ExpectFailure(const std::string& words) {

@@ -112,7 +112,7 @@ TEST_F(AddPicture, LaysPicturesInAColumnUntilThePageIsFull) {
 
 // A camera's small copy within the file has an end of its own.
 TEST_F(AddPicture, TellsOfAPhotographThatEndsTooSoon) {
-  std::string jpeg = platform::ReadFile(TEST_SAMPLES "/photographs/phone.jpg");
+  std::string jpeg = platform::ReadFile(fixture::PathOfSample("photographs/phone.jpg"));
   jpeg.insert(2, std::string("\xFF\xE2\x00\x06\xFF\xD8\xFF\xD9", 8));
   for (const auto& [bytes, isWhole] :
        {std::pair{jpeg, true}, {jpeg + "trailer", true}, {jpeg.substr(0, 3000), false}}) {

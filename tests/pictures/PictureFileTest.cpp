@@ -9,7 +9,8 @@ namespace {
 
 // Sky above, grass below, 400 by 200 pixels.
 QByteArray Photograph(const char* name) {
-  return QByteArray::fromStdString(platform::ReadFile(TEST_SAMPLES "/photographs/" + std::string(name)));
+  return QByteArray::fromStdString(
+      platform::ReadFile(fixture::PathOfSample("photographs/" + std::string(name))));
 }
 
 // What lies in the corners, S for sky, G for grass: "SSGG" as it was taken, row by row.
@@ -60,7 +61,7 @@ TEST_F(PictureFile, StandsUprightUnlessItsRowHasTheLyingShape) {
 // By the bytes of each file as another program decodes them, over white.
 TEST_F(PictureFile, ShowsTheColorsOfItsFileScaledOrNot) {
   const QList<QColor> colors{{195, 230, 245}, {20, 30, 40}, {200, 60, 50}, {70, 140, 60}};
-  const QDir samples(QStringLiteral(TEST_SAMPLES "/photographs/colors"));
+  const QDir samples(QString::fromStdString(fixture::PathOfSample("photographs/colors")));
   const QStringList names = samples.entryList(QDir::Files);
   ASSERT_EQ(names.size(), 13);
   for (const QString& name : names)
@@ -103,7 +104,7 @@ TEST_F(PictureFile, OfADrawingOpensNoOther) {
 
 TEST_F(PictureFile, OfKindsThatAPackageReadsIsShownWithIt) {
   for (const char* name : {"squares.webp", "squares.tiff"}) {
-    const std::string path = TEST_SAMPLES "/photographs/" + std::string(name);
+    const std::string path = fixture::PathOfSample("photographs/" + std::string(name));
     if (QImageReader::supportedImageFormats().contains(
             QFileInfo(QString::fromStdString(path)).suffix().toLatin1()))
       EXPECT_EQ(pictures::Decode({path, {32, 32}}).image.pixelColor(24, 8).red() / 8, 20 / 8) << name;

@@ -10,7 +10,7 @@ namespace {
 
 // One of the small pictures that the fuzz target begins with: a byte for its kind before its own bytes.
 Picture Sample(const std::string& name) {
-  const std::string file = platform::ReadFile(TEST_SAMPLES "/../../fuzz/seeds/picture/" + name);
+  const std::string file = platform::ReadFile(fixture::PathOfSample("../../fuzz/seeds/picture/" + name));
   return {static_cast<PictureKind>(file.at(0)), file.substr(1), {}, 0, 0};
 }
 

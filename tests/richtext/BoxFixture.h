@@ -32,7 +32,7 @@ inline QImage Checkers(QSize size) {
 
 // A PNG file with a text of its own, which nobody who encodes the picture anew would write again.
 inline QByteArray SignedPng() {
-  return QByteArray::fromStdString(platform::ReadFile(TEST_SAMPLES "/photographs/signed.png"));
+  return QByteArray::fromStdString(platform::ReadFile(fixture::PathOfSample("photographs/signed.png")));
 }
 inline std::string PictureGroup(const std::string& words) {
   return "{\\pict\\pngblip" + words + ' ' + SignedPng().toHex().toStdString() + '}';

@@ -16,7 +16,7 @@ using BoxFormatsTest = BoxTest;
 // alone.
 TEST_F(BoxFormatsTest, HoldsEveryLook) {
   for (const std::string page : {"looks.rtf", "paragraph-looks.rtf"})
-    ExpectHeld(platform::ReadFile(TEST_SAMPLES "/../../fuzz/seeds/rtf/" + page));
+    ExpectHeld(platform::ReadFile(fixture::PathOfSample("../../fuzz/seeds/rtf/" + page)));
 }
 
 // Whatever is done to a table, what is stored is shown again as it is, and the copy for the log is the same.

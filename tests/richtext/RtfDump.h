@@ -10,6 +10,7 @@
 #include "richtext/characters/Unicode.h"
 #include "richtext/rtf/Reader.h"
 #include "richtext/rtf/Writer.h"
+#include "tests/support/Sample.h"
 
 // "[center li720](b 40 Arial #ff0000)red() plain|next": paragraphs are parted by '|', a paragraph's format
 // stands in brackets, a character format in parentheses where it changes, and what is the default is left
@@ -175,7 +176,7 @@ struct Example {
 // comes before each one as far as the next empty line.
 inline std::vector<Example> ExamplesOf(const std::string& sample) {
   std::vector<Example> examples;
-  std::ifstream file((TEST_SAMPLES "/examples/") + sample);
+  std::ifstream file(fixture::PathOfSample("examples/" + sample));
   for (std::string line, before, all; std::getline(file, line); before = line) {
     if (line.starts_with("= ")) examples.push_back({all + before, line.substr(2)});
     if (line.starts_with("@ ") || line.empty()) all = line.substr(line.empty() ? 0 : 2);

@@ -23,7 +23,7 @@ TEST(RtfWriter, WritesTheClassicShape) {
   EXPECT_EQ(WriteRtf(EmptyDocument()),
             "{\\rtf1\\ansi\\ansicpg1252\r\n\\viewkind4\\uc1\\pard\\fs24\\par\r\n}\r\n");
   for (const std::string page : {"classic.rtf", "classic-lists.rtf"}) {
-    const std::string rtf = platform::ReadFile(TEST_SAMPLES "/../../fuzz/seeds/rtf/" + page);
+    const std::string rtf = platform::ReadFile(fixture::PathOfSample("../../fuzz/seeds/rtf/" + page));
     EXPECT_EQ(WriteRtf(ReadRtf(rtf)), rtf);
   }
 }

@@ -6,7 +6,7 @@
 #include "tests/support/Fixtures.h"
 
 inline std::string Sample(const std::string& path) {
-  return platform::ReadFile((TEST_SAMPLES "/") + path);
+  return platform::ReadFile(fixture::PathOfSample(path));
 }
 // The bytes with a number of 32 bits at a place, the lowest byte first.
 inline std::string With(std::string bytes, std::size_t place, std::uint32_t number) {

@@ -8,6 +8,7 @@
 #include "platform/dialogs/MessageBox.h"
 #include "platform/dialogs/OpenFileDialog.h"
 #include "platform/files/Files.h"
+#include "tests/support/Sample.h"
 #include "tests/support/Staging.h"
 #include "tests/support/Toolkit.h"
 

@@ -1,0 +1,5 @@
+#include "tests/support/Sample.h"
+
+std::string fixture::PathOfSample(std::string_view name) {
+  return std::string(TEST_SAMPLES "/").append(name);
+}
