@@ -142,6 +142,7 @@ ROWS = [
     *((counted, f"Add Picture of 48 megapixels, {name}: {what}", f"AddALargePhoto/{kind}", key, most)
       for kind, name in enumerate(["JPEG", "PNG"])
       for what, key, most in [("to its window", "window_ms", 100), ("its window's longest wait", "deaf_ms", 50)]),
+    (counted, "its small copy seen, where a camera stored one", "AddALargePhoto/0", "copy_ms", 100),
     *((time, f"a press of a scale button, {percent} %", f"ScaleSeenLive/{percent}", 33) for percent in (10, 25, 200)),
     (memory, "what 200 such pages, 10 %, leave in memory", "TwoHundredPages", "more_mb", 64),
     (rate, "export 1,000 pages as one file", "Export/multi:0", 250),

@@ -237,7 +237,10 @@ void frmAddPicture::Open(const std::string& path) {
   AddScale = OpeningScale;
   ForgetPicture();
   decoder_.Decode(path);
-  if (decoder_.IsReadyWithin(MostWait) && !TakePicture()) return;
+  if (!decoder_.IsReadyWithin(MostWait))
+    TakeSmallCopy();
+  else if (!TakePicture())
+    return;
   cmdOK->setEnabled(!decoder_.IsAwaited());
   ShowPicture();
   decoder_.Drop();
@@ -248,13 +251,18 @@ void frmAddPicture::ForgetPicture() {
   picTemp->resize(0, 0);
 }
 
-// The box is as large as the picture; it may hold a reduced copy. False where there is none, which is told.
+// The box is as large as the picture; it may hold a reduced copy.
+void frmAddPicture::HoldPicture(const pictures::Preview& preview) {
+  file_ = preview.shown.file;
+  picTemp->SetPicture(QPixmap::fromImage(preview.shown.image));
+  picTemp->resize(preview.natural);
+}
+
+// False where there is none, which is told.
 bool frmAddPicture::TakePicture() {
   try {
     const pictures::Preview preview = decoder_.Take();
-    file_ = preview.shown.file;
-    picTemp->SetPicture(QPixmap::fromImage(preview.shown.image));
-    picTemp->resize(preview.natural);
+    HoldPicture(preview);
     if (!preview.isWhole) TellBrokenOff();
     return true;
   } catch (const platform::Failure& failure) {
@@ -263,10 +271,18 @@ bool frmAddPicture::TakePicture() {
   }
 }
 
+// What a camera has stored stands in until the picture is there.
+void frmAddPicture::TakeSmallCopy() {
+  if (const auto copy = decoder_.TakeSmallCopy()) HoldPicture(*copy);
+}
+
 // The dialog stands open already.
 void frmAddPicture::TakeLatePicture() {
-  if (!TakePicture()) return hide();
-  cmdOK->setEnabled(true);
+  if (!decoder_.IsReadyWithin({}))
+    TakeSmallCopy();
+  else if (!TakePicture())
+    return hide();
+  cmdOK->setEnabled(!decoder_.IsAwaited());
   ShowPreviewOrDropFrame();
 }
 
@@ -276,7 +292,7 @@ void frmAddPicture::SetFrame(std::int16_t index) {
 }
 
 void frmAddPicture::ShowScaledPreview() {
-  if (decoder_.IsAwaited()) return ShowThatItComes();
+  if (decoder_.IsAwaited() && picTemp->Picture().isNull()) return ShowThatItComes();
   MeasureAtScale(picTemp->size());
   PicResize->SetPicture(
       DrawPreview(picTemp->Picture(), picTemp->size(), PicResize->BackColor(), devicePixelRatioF()));

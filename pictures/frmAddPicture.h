@@ -79,6 +79,8 @@ class frmAddPicture : public look::Form {
   void SetScale(double scale);
   void ShowPreviewOrDropFrame();
   bool TakePicture();
+  void TakeSmallCopy();
+  void HoldPicture(const pictures::Preview& preview);
   void TakeLatePicture();
   void ForgetPicture();
   void ShowThatItComes();

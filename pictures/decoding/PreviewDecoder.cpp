@@ -3,8 +3,9 @@
 #include <system_error>
 #include <utility>
 
-#include "pictures/decoding/PictureFile.h"
+#include "pictures/decoding/SmallCopy.h"
 #include "pictures/decoding/WholeJpeg.h"
+#include "platform/Failure.h"
 #include "platform/SignalsBlocked.h"
 
 namespace pictures {
@@ -13,6 +14,28 @@ namespace {
 Preview Made(const std::string& path, const std::atomic<bool>& isDropped) {
   const QSize natural = UprightSize(path);
   return {natural, LoadForPreview(path, &isDropped), IsWhole(path)};
+}
+
+template <class Value>
+bool IsReady(const std::future<Value>& future, std::chrono::milliseconds most) {
+  return future.wait_for(most) == std::future_status::ready;
+}
+
+using SmallTask = std::packaged_task<std::optional<Preview>()>;
+using Task = std::packaged_task<Preview()>;
+
+struct Work {
+  SmallTask small;
+  Task whole;
+};
+
+// What fails here fails once more with the picture, and is told then.
+std::optional<Preview> SmallCopyOf(const std::string& path) {
+  try {
+    if (auto copy = LoadSmallCopy(path)) return Preview{UprightSize(path), *std::move(copy)};
+  } catch (const platform::Failure&) {
+  }
+  return {};
 }
 
 }  // namespace
@@ -26,27 +49,36 @@ void PreviewDecoder::Decode(const std::string& path) {
   Drop();
   if (thread_.joinable()) thread_.join();  // it has been broken off
   isDropped_ = false;
-  std::packaged_task<Preview()> decoding([this, path] { return Made(path, isDropped_); });
-  preview_ = decoding.get_future();
-  const auto run = std::make_shared<std::packaged_task<Preview()>>(std::move(decoding));
+  const auto work = std::make_shared<Work>(Work{SmallTask([path] { return SmallCopyOf(path); }),
+                                                Task([this, path] { return Made(path, isDropped_); })});
+  small_ = work->small.get_future();
+  preview_ = work->whole.get_future();
   try {
     const platform::SignalsBlocked blocked;
-    thread_ = std::thread([this, run, number = number_] {
-      (*run)();
+    thread_ = std::thread([this, work, number = number_] {
+      work->small();
+      Tell(number);
+      work->whole();
       Tell(number);
     });
   } catch (const std::system_error&) {
-    (*run)();
+    work->small();
+    work->whole();
   }
 }
 
 bool PreviewDecoder::IsReadyWithin(std::chrono::milliseconds most) const {
-  return preview_.wait_for(most) == std::future_status::ready;
+  return IsReady(preview_, most);
+}
+
+std::optional<Preview> PreviewDecoder::TakeSmallCopy() {
+  return small_.valid() && IsReady(small_, {}) ? small_.get() : std::nullopt;
 }
 
 void PreviewDecoder::Drop() {
   ++number_;
   isDropped_ = true;
+  small_ = {};
   preview_ = {};
 }
 

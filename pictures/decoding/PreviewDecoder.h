@@ -8,6 +8,7 @@
 #include <functional>
 #include <future>
 #include <memory>
+#include <optional>
 #include <string>
 #include <thread>
 
@@ -19,7 +20,7 @@ namespace pictures {
 
 struct Preview {
   QSize natural;         // pixels, upright
-  DecodedPicture shown;  // its longer side up to 2000 pixels
+  DecodedPicture shown;  // its longer side up to 2000 pixels; or the small copy, some 160
   bool isWhole = true;   // false for a JPEG file that ends too soon
 };
 
@@ -27,7 +28,8 @@ struct Preview {
 // value and gives a preview back as one; it knows no window and no shared variable, and takes no signals.
 class PreviewDecoder {
  public:
-  // Called on the window thread, out of its event loop, when there is something to take.
+  // Called on the window thread, out of its event loop, when there is something to take: the small copy that
+  // the picture carries, if there is one, and the preview.
   explicit PreviewDecoder(std::function<void()> ready) : ready_(std::move(ready)) {}
   // Breaks off what is being decoded, and waits for it.
   ~PreviewDecoder();
@@ -40,6 +42,9 @@ class PreviewDecoder {
   bool IsReadyWithin(std::chrono::milliseconds most) const;
   // Whether a preview was asked for that was neither taken nor dropped.
   bool IsAwaited() const { return preview_.valid(); }
+  // The small copy, once, while the preview is awaited; none where the picture carries none, or when it is
+  // not ready yet.
+  std::optional<Preview> TakeSmallCopy();
   // The preview, once it is ready. Throws what the decoding has thrown.
   Preview Take() { return preview_.get(); }
   // Nobody wants it any more. Returns at once.
@@ -52,6 +57,7 @@ class PreviewDecoder {
   QObject window_;            // what is queued to it goes with it
   std::uint64_t number_ = 0;  // of the last file; the window thread's alone
   std::atomic<bool> isDropped_ = false;
+  std::future<std::optional<Preview>> small_;
   std::future<Preview> preview_;
   std::thread thread_;
 };

@@ -4,6 +4,7 @@
 #include "pictures/frmAddPicture.h"
 #include "platform/files/InputFile.h"
 #include "tests/pictures/PicturePage.h"
+#include "tests/support/Photograph.h"
 
 namespace {
 
@@ -142,6 +143,22 @@ TEST_F(AddPicture, OpensBeforeALargePictureIsDecoded) {
     });
     AddWidth = 0;
     StartAddPicture();
+  }
+}
+
+// A camera's small copy stands in for the picture while that is decoded, and only then.
+TEST_F(AddPicture, TheSmallCopyComesBeforeThePicture) {
+  const std::string jpeg = platform::ReadFile(fixture::PathOfSample("photographs/phone.jpg"));
+  int told = 0;
+  pictures::PreviewDecoder decoder([&] { ++told; });
+  for (const bool hasOne : {true, false}) {
+    folder.Write("photo.jpg", hasOne ? fixture::WithSmallCopy(jpeg, jpeg) : jpeg);
+    decoder.Decode(folder.PathOf("photo.jpg"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return decoder.IsReadyWithin({}) && told > 1; }, 60000));
+    EXPECT_EQ(decoder.TakeSmallCopy().has_value(), hasOne);
+    EXPECT_FALSE(decoder.TakeSmallCopy());
+    EXPECT_EQ(decoder.Take().natural, pictures::UprightSize(folder.PathOf("photo.jpg")));
+    told = 0;
   }
 }
 

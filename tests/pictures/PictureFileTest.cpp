@@ -2,8 +2,10 @@
 #include <sys/stat.h>
 
 #include "pictures/decoding/PictureFile.h"
+#include "pictures/decoding/SmallCopy.h"
 #include "platform/files/InputFile.h"
 #include "tests/support/Fixtures.h"
+#include "tests/support/Photograph.h"
 
 namespace {
 
@@ -56,6 +58,46 @@ TEST_F(PictureFile, StandsUprightUnlessItsRowHasTheLyingShape) {
         reader.read())
         << "of its own size it is not stretched on the way";
   }
+}
+
+std::string JpegOf(const QImage& image) {
+  QBuffer file;
+  file.open(QBuffer::WriteOnly);
+  image.save(&file, "JPG");
+  return file.data().toStdString();
+}
+
+// As a camera stores it: lying as the picture does, and filled up with black.
+QImage SmallCopyOf(const QImage& image) {
+  QImage copy(160, 120, QImage::Format_RGB32);
+  copy.fill(Qt::black);
+  QPainter(&copy).drawImage(QRect(0, 20, 160, 80), image);
+  return copy;
+}
+
+TEST_F(PictureFile, CarriesASmallCopyThatStandsAsItDoes) {
+  const QImage lake = QImage::fromData(Photograph("lake.png"));
+  std::string file;
+  for (std::size_t mark = 1; mark <= 8; ++mark) {
+    file = fixture::WithSmallCopy(JpegOf(lake), JpegOf(SmallCopyOf(lake)), mark);
+    const std::string path = Put("photo.jpg", QByteArray::fromStdString(file));
+    const auto copy = pictures::LoadSmallCopy(path);
+    ASSERT_TRUE(copy) << mark;
+    EXPECT_EQ(copy->image.size(), mark < 5 ? QSize(160, 80) : QSize(80, 160)) << mark;
+    EXPECT_EQ(Corners(copy->image), Corners(pictures::Decode({path, pictures::UprightSize(path)}).image))
+        << mark;
+    EXPECT_TRUE(pictures::IsStill(path, copy->file));
+  }
+  const std::size_t whole = 2 + 2 + 6 + 2 + 56 + JpegOf(SmallCopyOf(lake)).size();
+  for (std::size_t size = 0; size <= whole; ++size)
+    EXPECT_EQ(pictures::SmallCopyWithin(file.substr(0, size)).empty(), size < whole) << size;
+  for (std::size_t i = 0; i < 70; ++i) {
+    std::string broken = file;
+    broken[i] = '\xFF';
+    EXPECT_LE(pictures::SmallCopyWithin(broken).size(), whole);
+    pictures::LoadSmallCopy(Put("broken.jpg", QByteArray::fromStdString(i < 2 ? file : broken)));
+  }
+  EXPECT_FALSE(pictures::LoadSmallCopy(Put("lake.png", Photograph("lake.png"))));
 }
 
 // By the bytes of each file as another program decodes them, over white.
