@@ -24,6 +24,8 @@ import diaries
 PAGES = 10_000
 ROUNDS = 5
 TURNS = 5
+ALBUM = 40  # pages, with seven photographs on the third from one of its ends
+PHOTOGRAPHS = 7
 CURSOR = 150  # pixels
 TICK = os.sysconf("SC_CLK_TCK")
 
@@ -108,32 +110,39 @@ def resident(process):
 
 
 class Thornquill:
+    reach, there, away, again = ["F6", "Tab", "Tab", "space", "space"], ["space"], ["Right", "space"], ["Left", "space"]
+    album_page = ALBUM - 3
     unlock, open, turn = "x", "Return", "space"
     to_turn, to_text = ["F6", "Tab", "Tab"], ["F6"]  # "Back" in the toolbar, and the page again
     begin = to_turn
 
-    def __init__(self, folder, count):
+    def __init__(self, folder, count, photographs=()):
         shutil.copytree(sys.argv[2], folder)
-        subprocess.run([sys.argv[3], folder, str(count)], check=True)
+        pictures = ["1", str(self.album_page), *photographs] if photographs else []
+        subprocess.run([sys.argv[3], folder, str(count), *pictures], check=True)
         self.command = [f"{folder}/thornquill"]
 
 
 class RedNotebook:
+    reach, there, away, again = ["Control_L+Prior"] * 2, ["Control_L+Prior"], ["Control_L+Next"], ["Control_L+Prior"]
+    album_page = ALBUM - 3
     unlock, turn, begin, to_turn, to_text = None, "Control_L+Prior", [], [], []
 
-    def __init__(self, folder, count):
-        diaries.monthly_files(f"{folder}/diary", count)
+    def __init__(self, folder, count, photographs=()):
+        diaries.monthly_files(f"{folder}/diary", count, {self.album_page: photographs})
         self.command = ["rednotebook", f"{folder}/diary"]
 
 
 class CherryTree:
+    reach, there, away, again = ["Control_L+Tab", "Right", "Down", "Right", "Down", "Down"], ["Down"], ["Up"], ["Down"]
+    album_page = 3
     unlock, turn = None, "Down"
     to_turn, to_text = ["Control_L+Tab"], ["Control_L+Tab"]  # to the tree, and to the text, where it begins
     begin = ["Control_L+Tab", "Down", "Right", "Down", "Right", "Down"]  # the first of January of its second year
 
-    def __init__(self, folder, count):
+    def __init__(self, folder, count, photographs=()):
         os.makedirs(folder)
-        diaries.tree_database(f"{folder}/diary.ctb", count)
+        diaries.tree_database(f"{folder}/diary.ctb", count, {self.album_page: photographs})
         self.command = ["cherrytree", f"{folder}/diary.ctb"]
 
 
@@ -182,6 +191,18 @@ class Run:
         self.figures["10,000 pages: turn from a changed page, ms"] = middle(changed)
         self.figures["10,000 pages: memory after the turns, MB"] = resident(self.process.pid)
 
+    def visit(self):
+        """A page with photographs that was never seen, nor lingered beside; and once more from its neighbour."""
+        self.prepare(self.program.reach)
+        self.figures["seven photographs: first visit, ms"] = self.press_last_of(self.program.there)
+        self.press_last_of(self.program.away)
+        self.figures["seven photographs: second visit, ms"] = self.press_last_of(self.program.again)
+        self.figures["seven photographs: memory then, MB"] = resident(self.process.pid)
+
+    def press_last_of(self, keys):
+        self.prepare(keys[:-1])
+        return self.press(keys[-1], 1)
+
     def end(self):
         for member in reversed(family(self.process.pid)):
             try:
@@ -197,10 +218,20 @@ def middle(values):
     return statistics.median(measured) if measured else float("nan")
 
 
-def measure(screen, keyboard, kind, folder):
+def take_photographs(folder):
+    """Of 12 megapixels, as hard to decode as those of a camera."""
+    paths = [f"{folder}/photo{number}.jpg" for number in range(PHOTOGRAPHS)]
+    for number, path in enumerate(paths):
+        subprocess.run(["convert", "-seed", str(number), "-size", "4000x3000", "plasma:", "+noise", "gaussian",
+                        "-quality", "90", path], check=True)
+    return paths
+
+
+def measure(screen, keyboard, kind, folder, photographs):
     home = f"{folder}/{kind.__name__}"
     os.makedirs(home)
     short, long = kind(f"{home}/short", 1), kind(f"{home}/long", PAGES)
+    album = kind(f"{home}/album", ALBUM, photographs)
     rounds = []
     for number in range(ROUNDS + 1):
         small = Run(screen, keyboard, short, home)
@@ -212,15 +243,23 @@ def measure(screen, keyboard, kind, folder):
         if number == ROUNDS:
             subprocess.run(["import", "-window", "root", f"build/compare/{kind.__name__}.png"], check=False)
         big.end()
+        pictured = Run(screen, keyboard, album, home)
+        pictured.open("40 pages", 1.5)
+        pictured.figures.clear()
+        pictured.visit()
+        if number == ROUNDS:
+            subprocess.run(["import", "-window", "root", f"build/compare/{kind.__name__}-album.png"], check=False)
+        pictured.end()
         if number > 0:  # the first warms the file cache and makes the program's own settings
-            rounds.append({**small.figures, **big.figures})
+            rounds.append({**small.figures, **big.figures, **pictured.figures})
     return {figure: middle(run[figure] for run in rounds) for figure in rounds[0]}
 
 
 def main():
     screen, keyboard = Screen(sys.argv[1]), Keyboard()
     with tempfile.TemporaryDirectory() as folder:
-        results = [measure(screen, keyboard, kind, folder) for kind in (Thornquill, RedNotebook, CherryTree)]
+        photographs = take_photographs(folder)
+        results = [measure(screen, keyboard, kind, folder, photographs) for kind in (Thornquill, RedNotebook, CherryTree)]
     print("| median of 5 starts | Thornquill | RedNotebook | CherryTree |\n|---|---|---|---|")
     for figure in results[0]:
         cells = [f"{result[figure]:.0f}" if figure in result else "" for result in results]
