@@ -124,7 +124,8 @@ class Thornquill:
 
 
 class RedNotebook:
-    reach, there, away, again = ["Control_L+Prior"] * 2, ["Control_L+Prior"], ["Control_L+Next"], ["Control_L+Prior"]
+    reach, there = ["Control_L+p", "Control_L+Prior", "Control_L+Prior"], ["Control_L+Prior"]  # in its preview
+    away, again = ["Control_L+Next"], ["Control_L+Prior"]
     album_page = ALBUM - 3
     unlock, turn, begin, to_turn, to_text = None, "Control_L+Prior", [], [], []
 
@@ -219,11 +220,11 @@ def middle(values):
 
 
 def take_photographs(folder):
-    """Of 12 megapixels, as hard to decode as those of a camera."""
+    """Of 12 megapixels and 3.4 MB, about as hard to decode as those of a camera."""
     paths = [f"{folder}/photo{number}.jpg" for number in range(PHOTOGRAPHS)]
     for number, path in enumerate(paths):
-        subprocess.run(["convert", "-seed", str(number), "-size", "4000x3000", "plasma:", "+noise", "gaussian",
-                        "-quality", "90", path], check=True)
+        subprocess.run(["convert", "-seed", str(number), "-size", "4000x3000", "plasma:", "-attenuate", "0.1",
+                        "+noise", "gaussian", "-quality", "90", path], check=True)
     return paths
 
 

@@ -30,7 +30,7 @@ def monthly_files(folder, count, photographs):
     named in its text, 706 pixels wide."""
     os.makedirs(folder)
     for number, day, lines in pages(count):
-        lines = lines + [f'[""file://{path[:-4]}""{path[-4:]}?706]' for path in photographs.get(number, [])]
+        lines = [f'[""file://{path[:-4]}""{path[-4:]}?706]' for path in photographs.get(number, [])] + lines
         with open(f"{folder}/{day:%Y-%m}.txt", "a", encoding="utf-8") as file:
             file.write(f"{day.day}:\n  text: |-\n" + "".join(f"    {line.replace('|', '**')}\n" for line in lines))
 
