@@ -3,23 +3,27 @@
 #include <system_error>
 #include <utility>
 
-#include "platform/Failure.h"
 #include "platform/SignalsBlocked.h"
 
 namespace platform {
 
-void FileAside::Begin(const std::string& path, Bytes bytes) try {
+void FileAside::Begin(const std::string& path, Bytes bytes) {
   path_ = path;
   ++number_;
-  const SignalsBlocked blocked;  // the thread begins with them so
-  end_ = std::async(std::launch::async,
-                    [this, path, number = number_, expected = ExpectedAt(path), written = std::move(bytes)] {
-                      Replaced replaced = ReplaceAside(path, written.pieces, expected);
-                      TellTheEnd(number);
-                      return replaced;
-                    });
-} catch (const std::system_error&) {
-  throw Failure(FailureKind::OutOfMemory, path);
+  const auto replace = [this, path, number = number_, expected = ExpectedAt(path),
+                        written = std::move(bytes)] {
+    Replaced replaced = ReplaceAside(path, written.pieces, expected);
+    TellTheEnd(number);
+    return replaced;
+  };
+  try {
+    const SignalsBlocked blocked;  // the thread begins with them so
+    end_ = std::async(std::launch::async, replace);
+  } catch (const std::system_error&) {
+    std::packaged_task<Replaced()> now(replace);
+    end_ = now.get_future();
+    now();
+  }
 }
 
 // On the file's own thread, which is all but over.

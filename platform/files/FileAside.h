@@ -38,7 +38,7 @@ class FileAside {
   FileAside& operator=(const FileAside&) = delete;
 
   // Begins as ReplaceDataFile does, of which this is given the same after KeepChanged; nothing may be on its
-  // way. Throws platform::Failure (OutOfMemory) when the system has no thread left.
+  // way. Where the system has no thread left, the file is replaced at once.
   void Begin(const std::string& path, Bytes bytes);
   // Whether a file is on its way, or has come to its end and is not taken.
   bool IsBusy() const { return end_.valid(); }
