@@ -8,7 +8,6 @@
 namespace pictures::jpeg {
 
 inline constexpr std::string_view StartOfImage("\xFF\xD8", 2);
-inline constexpr std::string_view EndOfImage("\xFF\xD9", 2);
 inline constexpr std::uint8_t StartOfScan = 0xDA;
 inline constexpr std::uint8_t Application1 = 0xE1;
 
@@ -19,5 +18,9 @@ struct Segment {
 
 // The first segment with this marker, as far as the segments go on from the file's begin.
 Segment FindSegment(std::string_view file, std::uint8_t marker);
+
+// Whether the picture comes to its end: behind its scans, of which there are many in a progressive one, with
+// segments between them.
+bool HasItsEnd(std::string_view file);
 
 }  // namespace pictures::jpeg

@@ -42,28 +42,39 @@ std::optional<Preview> SmallCopyOf(const std::string& path) {
 
 PreviewDecoder::~PreviewDecoder() {
   Drop();
-  if (thread_.joinable()) thread_.join();
+  for (Attempt& attempt : attempts_) attempt.thread.join();
+}
+
+void PreviewDecoder::ForgetThoseThatAreOver() {
+  attempts_.remove_if([](Attempt& attempt) {
+    if (!attempt.isOver) return false;
+    attempt.thread.join();
+    return true;
+  });
 }
 
 void PreviewDecoder::Decode(const std::string& path) {
   Drop();
-  if (thread_.joinable()) thread_.join();  // it has been broken off
-  isDropped_ = false;
-  const auto work = std::make_shared<Work>(Work{SmallTask([path] { return SmallCopyOf(path); }),
-                                                Task([this, path] { return Made(path, isDropped_); })});
+  ForgetThoseThatAreOver();
+  Attempt& attempt = attempts_.emplace_back();
+  const auto work =
+      std::make_shared<Work>(Work{SmallTask([path] { return SmallCopyOf(path); }),
+                                  Task([path, &attempt] { return Made(path, attempt.isDropped); })});
   small_ = work->small.get_future();
   preview_ = work->whole.get_future();
   try {
     const platform::SignalsBlocked blocked;
-    thread_ = std::thread([this, work, number = number_] {
+    attempt.thread = std::thread([this, work, &attempt, number = number_] {
       work->small();
       Tell(number);
       work->whole();
       Tell(number);
+      attempt.isOver = true;
     });
   } catch (const std::system_error&) {
     work->small();
     work->whole();
+    attempts_.pop_back();
   }
 }
 
@@ -77,7 +88,7 @@ std::optional<Preview> PreviewDecoder::TakeSmallCopy() {
 
 void PreviewDecoder::Drop() {
   ++number_;
-  isDropped_ = true;
+  if (!attempts_.empty()) attempts_.back().isDropped = true;
   small_ = {};
   preview_ = {};
 }

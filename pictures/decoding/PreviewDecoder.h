@@ -7,6 +7,7 @@
 #include <exception>
 #include <functional>
 #include <future>
+#include <list>
 #include <memory>
 #include <optional>
 #include <string>
@@ -24,14 +25,16 @@ struct Preview {
   bool isWhole = true;   // false for a JPEG file that ends too soon
 };
 
-// Belongs to the window thread, which alone makes it, calls it and ends it. Its thread takes a path as a
-// value and gives a preview back as one; it knows no window and no shared variable, and takes no signals.
+// Belongs to the window thread, which alone makes it, calls it and ends it. Each file has a thread, which
+// takes the path as a value and gives a preview back as one; it knows no window and no shared variable, and
+// takes no signals. One that is broken off goes on to where its format lets it end, and nobody waits for it
+// meanwhile.
 class PreviewDecoder {
  public:
   // Called on the window thread, out of its event loop, when there is something to take: the small copy that
   // the picture carries, if there is one, and the preview.
   explicit PreviewDecoder(std::function<void()> ready) : ready_(std::move(ready)) {}
-  // Breaks off what is being decoded, and waits for it.
+  // Breaks off what is being decoded, and waits for all threads.
   ~PreviewDecoder();
   PreviewDecoder(const PreviewDecoder&) = delete;
   PreviewDecoder& operator=(const PreviewDecoder&) = delete;
@@ -51,15 +54,20 @@ class PreviewDecoder {
   void Drop();
 
  private:
+  struct Attempt {
+    std::atomic<bool> isDropped = false;
+    std::atomic<bool> isOver = false;
+    std::thread thread;
+  };
+  void ForgetThoseThatAreOver();
   void Tell(std::uint64_t number);  // on its own thread
 
   const std::function<void()> ready_;
   QObject window_;            // what is queued to it goes with it
   std::uint64_t number_ = 0;  // of the last file; the window thread's alone
-  std::atomic<bool> isDropped_ = false;
   std::future<std::optional<Preview>> small_;
   std::future<Preview> preview_;
-  std::thread thread_;
+  std::list<Attempt> attempts_;  // at the last file, and at those before it that are not over
 };
 
 }  // namespace pictures

@@ -39,7 +39,7 @@ void ReadyPictures::Prepare(const std::vector<WantedPicture>& wanted) {
 }
 
 void ReadyPictures::Forget() {
-  ahead_.reset();
+  if (ahead_) ahead_->Drop();
   kept_.Forget();
 }
 

@@ -23,7 +23,8 @@ class ReadyPictures {
   // Decodes those that are not kept while nobody waits for them, the first one first.
   void Prepare(const std::vector<WantedPicture>& wanted);
 
-  // Lets go of all pixels, and waits for the thread that decodes ahead.
+  // Lets go of all pixels. What is decoded ahead is broken off, and not waited for: its thread runs when
+  // nothing else does.
   void Forget();
 
   // Bytes of pixels that are kept beside those of the page that is shown.

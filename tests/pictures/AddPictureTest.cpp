@@ -116,7 +116,10 @@ TEST_F(AddPicture, TellsOfAPhotographThatEndsTooSoon) {
   std::string jpeg = platform::ReadFile(fixture::PathOfSample("photographs/phone.jpg"));
   jpeg.insert(2, std::string("\xFF\xE2\x00\x06\xFF\xD8\xFF\xD9", 8));
   for (const auto& [bytes, isWhole] :
-       {std::pair{jpeg, true}, {jpeg + "trailer", true}, {jpeg.substr(0, 3000), false}}) {
+       {std::pair{jpeg, true},
+        {jpeg + "trailer", true},
+        {jpeg.substr(0, 3000), false},
+        {jpeg.substr(0, jpeg.size() - 2) + std::string("\xFF\xFE\x00\x04\xFF\xD9", 6), false}}) {
     folder.Write("photo.jpg", bytes);
     EXPECT_TRUE(Add(folder.PathOf("photo.jpg"), [](frmAddPicture&) {}));
     EXPECT_EQ(answers.texts().empty(), isWhole) << bytes.size();
