@@ -17,14 +17,15 @@ namespace pictures {
 // The largest picture that is decoded: what the largest cameras take.
 inline constexpr std::int64_t MostPixels = 200'000'000;
 
-// Ends where it was read to, once nobody wants it any more.
+// Ends where it was read to, once nobody wants it any more. That is an end and no failure: a reader of a
+// format may reckon with the failure's number of bytes.
 class DroppableFile : public QFile {
  public:
   explicit DroppableFile(const std::atomic<bool>* isDropped) : isDropped_(isDropped) {}
 
  protected:
   qint64 readData(char* data, qint64 most) override {
-    return isDropped_ && *isDropped_ ? -1 : QFile::readData(data, most);
+    return isDropped_ && *isDropped_ ? 0 : QFile::readData(data, most);
   }
 
  private:

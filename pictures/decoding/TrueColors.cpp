@@ -27,18 +27,26 @@ QImage InScreenColors(const QImage& image) {
 }
 
 QImage::Format SmallestFormat(const QImage& image) {
-  if (image.format() == QImage::Format_Grayscale8 || image.format() == QImage::Format_Mono)
-    return image.format();
+  if (image.format() == QImage::Format_Grayscale8) return image.format();
   return image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB888;
+}
+
+bool IsOfPalette(QImage::Format format) {
+  return format == QImage::Format_Mono || format == QImage::Format_MonoLSB ||
+         format == QImage::Format_Indexed8;
 }
 
 }  // namespace
 
 bool IsScaledAfterReading(QImage::Format format) {
-  return format != QImage::Format_Invalid && QImage::toPixelFormat(format).bitsPerPixel() > 32;
+  if (format == QImage::Format_Invalid) return false;
+  const QPixelFormat pixels = QImage::toPixelFormat(format);
+  return pixels.bitsPerPixel() > 32 || pixels.alphaUsage() == QPixelFormat::UsesAlpha || IsOfPalette(format);
 }
 
 QImage InEightBits(const QImage& image) {
+  if (IsOfPalette(image.format()))
+    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
   if (image.format() == QImage::Format_Grayscale16) return image.convertToFormat(QImage::Format_Grayscale8);
   if (image.depth() <= 32) return image;
   return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);

@@ -27,7 +27,7 @@ constexpr double LargestSide = 20000;                // pixels
 constexpr double MostPixels = 64'000'000;            // with a margin of its crop
 constexpr qint64 MostPixelsAtOnce = 1'000'000;       // which are packed while a person waits
 constexpr char MakersProperty[] = "pngMakers";       // of a document
-constexpr int MostMegabytes = 512;                   // of a file's pixels, with eight bytes for each
+constexpr int MostMegabytes = 2048;                  // the toolkit's one bound, which every thread raises so
 constexpr QSize SizeOfUnknown{16, 16};               // of a picture that tells no size of its own
 const QLatin1String DrawingResource("picture:");     // name of the resource that is drawn
 const QLatin1String SourceResource("picturefile:");  // name of the resource that is the picture as it came
@@ -135,11 +135,18 @@ bool IsFile(const Picture& picture) {
   return picture.kind == PictureKind::Png || picture.kind == PictureKind::Jpeg;
 }
 
+// A drawing that calls itself a bitmap could name other files, which the toolkit would read.
+bool HasPixels(const QImageReader& reader) {
+  const QByteArray format = reader.format();
+  return format == "png" || format == "jpeg" || format == "gif" || format == "bmp" || format == "webp";
+}
+
 QSizeF OwnSize(const Picture& picture) {
   if (!IsFile(picture)) return SizeOfUnknown;
   QByteArray file = QByteArray::fromStdString(picture.bytes);
   QBuffer buffer(&file);
-  const QSize size = QImageReader(&buffer).size();
+  const QImageReader reader(&buffer);
+  const QSize size = HasPixels(reader) ? reader.size() : QSize();
   return size.isEmpty() ? SizeOfUnknown : size;
 }
 
@@ -257,7 +264,7 @@ QImage DecodedFile(QByteArray file) {
   QBuffer buffer(&file);
   QImageReader reader(&buffer);
   const QSizeF size = reader.size();
-  if (size.width() * size.height() > MostPixels) return {};
+  if (!HasPixels(reader) || size.width() * size.height() > MostPixels) return {};
   QImageReader::setAllocationLimit(MostMegabytes);
   return reader.read();
 }

@@ -1,4 +1,7 @@
 // The user's picture files: sound ones of each kind, and what else a path can lead to.
+#include <atomic>
+#include <chrono>
+#include <future>
 #include <sys/stat.h>
 
 #include "pictures/decoding/PictureFile.h"
@@ -129,6 +132,48 @@ TEST_F(PictureFile, ShowsTheColorsOfItsFileScaledOrNot) {
     }
 }
 
+// Every second column of a picture that is shown at half its size.
+TEST_F(PictureFile, MixesNoColorThatIsNotSeenAndLeavesOutNone) {
+  QImage veiled(64, 64, QImage::Format_ARGB32), lined(64, 64, QImage::Format_Mono);
+  for (int y = 0; y < 64; ++y)
+    for (int x = 0; x < 64; ++x) {
+      veiled.setPixel(x, y, x % 2 ? qRgba(255, 0, 0, 255) : qRgba(0, 0, 255, 0));
+      lined.setPixel(x, y, static_cast<uint>(x % 2));
+    }
+  for (const QImage& image : {veiled, lined}) {
+    const std::string path = folder.PathOf("columns.png");
+    ASSERT_TRUE(image.save(QString::fromStdString(path), "PNG"));
+    const QColor shown = pictures::Decode({path, {32, 32}}).image.pixelColor(16, 16);
+    const bool isVeiled = image.format() == veiled.format();
+    EXPECT_NEAR(shown.red(), isVeiled ? 255 : 128, 3);
+    EXPECT_NEAR(shown.blue(), isVeiled ? 0 : 128, 3);
+    EXPECT_NEAR(shown.alpha(), isVeiled ? 128 : 255, 3);
+  }
+}
+
+// Wherever its reader is.
+TEST_F(PictureFile, IsBrokenOffOrWhole) {
+  QImage large(3000, 2000, QImage::Format_RGB32);
+  large.fill(Qt::red);
+  for (const char* kind : {"png", "jpg", "tiff", "webp"}) {
+    const std::string path = folder.PathOf("large");
+    if (!large.save(QString::fromStdString(path), kind)) continue;
+    for (const unsigned long milliseconds : {1UL, 4UL, 16UL, 1000UL}) {
+      std::atomic<bool> isDropped = false;
+      auto decoding = std::async(std::launch::async, [&] {
+        return pictures::Decode({path, {30, 20}}, &isDropped);
+      });
+      decoding.wait_for(std::chrono::milliseconds(milliseconds));
+      isDropped = true;
+      try {
+        EXPECT_EQ(decoding.get().image.size(), QSize(30, 20));
+      } catch (const platform::Failure& failure) {
+        EXPECT_EQ(failure.kind(), platform::FailureKind::InvalidPicture);
+      }
+    }
+  }
+}
+
 TEST_F(PictureFile, OfADrawingOpensNoOther) {
   const std::string lake = Put("lake.png", Photograph("lake.png"));
   const QByteArray held = Photograph("lake.png").toBase64();
@@ -142,6 +187,10 @@ TEST_F(PictureFile, OfADrawingOpensNoOther) {
   EXPECT_EQ(drawn(image + QByteArray::fromStdString(lake) + "'/>"), QColor(Qt::red));
   EXPECT_EQ(drawn(image + "file://" + QByteArray::fromStdString(lake) + "'/>"), QColor(Qt::red));
   EXPECT_NE(drawn(image + "data:image/png;base64," + held + "'/>"), QColor(Qt::red)) << "this one it holds";
+  const QByteArray within =
+      "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink'>" + image +
+      "file://" + QByteArray::fromStdString(lake) + "'/></svg>";
+  EXPECT_EQ(drawn(image + "data:image/png;base64," + within.toBase64() + "'/>"), QColor(Qt::red));
 }
 
 TEST_F(PictureFile, OfKindsThatAPackageReadsIsShownWithIt) {

@@ -5,6 +5,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/document/PageParts.h"
 #include "richtext/textdocument/Labels.h"
+#include "richtext/textdocument/Pictures.h"
 #include "tests/richtext/BoxFixture.h"
 
 namespace richtext {
@@ -304,6 +305,14 @@ TEST_F(BoxFormatsTest, KeepsPicturesOfEveryKind) {
   EXPECT_EQ(drawn.pixelColor(8, 10), QColor(Qt::red));
   EXPECT_EQ(drawn.pixelColor(20, 10), drawn.pixelColor(30, 12)) << "a placeholder is an even field";
   EXPECT_NE(drawn.pixelColor(20, 10), QColor(Qt::white));
+  const std::string drawing =
+      "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><rect width='9'/></svg>";
+  for (const PictureKind kind : {PictureKind::Png, PictureKind::Jpeg}) {
+    Picture picture;
+    picture.kind = kind;
+    picture.bytes = drawing;
+    EXPECT_TRUE(DecodedPicture(picture).isNull()) << "a drawing could open files";
+  }
 }
 
 }  // namespace
