@@ -40,7 +40,7 @@ void frmInitJournal::PlaceControls() {
 }
 
 void frmInitJournal::DressControls() {
-  Image1->setPixmap(look::EmblemPicture());
+  Image1->setPixmap(look::EmblemPicture(80));
   Image1->setAccessibleName(QStringLiteral("a quill over a book"));
   DressWelcome();
   Label1->setBuddy(txtPass);

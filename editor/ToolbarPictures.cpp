@@ -1,5 +1,7 @@
 #include "editor/ToolbarPictures.h"
 
+#include "look/DrawnIcon.h"
+
 // Outside every namespace, as the macro asks. Without it the linker leaves the pictures out.
 static void BringThePictures() {
   Q_INIT_RESOURCE(toolbar);
@@ -31,16 +33,12 @@ constexpr Picture pictures[] = {
 
 }  // namespace
 
-// With a picture the toolkit takes the one for sharper screens that lies beside it; each is decoded when it
-// is first painted.
 QIcon ToolbarPicture(const QString& key) {
   BringThePictures();
-  QIcon icon;
-  for (const Picture& picture : pictures) {
-    if (key != QStringView(picture.key)) continue;
-    const QString file = QStringLiteral(":/toolbar/%1%2.png").arg(QStringView(picture.name));
-    icon.addFile(file.arg(QString()), {}, QIcon::Normal);
-    icon.addFile(file.arg(QStringLiteral("-lit")), {}, QIcon::Active);
-  }
-  return icon;
+  const QString file = QStringLiteral(":/toolbar/%1%2.svg");
+  for (const Picture& picture : pictures)
+    if (key == QStringView(picture.key))
+      return look::DrawnIcon(file.arg(QStringView(picture.name), QString()),
+                             file.arg(QStringView(picture.name), QStringLiteral("-lit")));
+  return {};
 }

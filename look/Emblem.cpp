@@ -2,6 +2,8 @@
 
 #include <QtWidgets/QApplication>
 
+#include "look/DrawnIcon.h"
+
 // Outside every namespace, as the macro asks. Without it the linker leaves the pictures out.
 static void BringTheDrawings() {
   Q_INIT_RESOURCE(emblem);
@@ -23,8 +25,13 @@ QIcon QuillAndInkwell() {
   return Drawing("quill-and-inkwell");
 }
 
-QPixmap EmblemPicture() {
-  return Drawing("emblem").pixmap(QSize(80, 80));
+// Where it shows, nothing waits for it.
+QPixmap EmblemPicture(int side) {
+  BringTheDrawings();
+  const double scale = qGuiApp->devicePixelRatio();
+  QPixmap picture = Drawn(QStringLiteral(":/emblem/emblem.svg"), qRound(side * scale));
+  picture.setDevicePixelRatio(scale);
+  return picture;
 }
 
 QPixmap ClaspedBook() {

@@ -10,9 +10,9 @@ namespace look {
 QIcon QuillAndInkwell();
 
 // Crisp on the sharpest screen that there is now, whose scaling they carry.
-QPixmap EmblemPicture();        // 80 by 80 pixels
-QPixmap ClaspedBook();          // 120 by 120 pixels
-QPixmap HourglassAndInkwell();  // 64 by 64 pixels
+QPixmap EmblemPicture(int side);  // in pixels
+QPixmap ClaspedBook();            // 120 by 120 pixels
+QPixmap HourglassAndInkwell();    // 64 by 64 pixels
 
 // Gives the program the emblem as its icon, in 16 to 128 pixels of the screen, which every window without one
 // of its own shows, if it has none yet.

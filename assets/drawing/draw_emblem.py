@@ -38,8 +38,6 @@ def write_icons(source, native, sizes):
 def main():
     source = write_source("emblem", emblem())
     write_icons(source, 64, LARGE)
-    for scale, suffix in ((1, ""), (2, "@2x"), (3, "@3x")):  # of the about box
-        write_png(rendered(source, scale * 80 / 64), ASSETS / "emblem" / f"emblem{suffix}.png")
     write_icons(write_source("emblem-small", emblem_small()), 16, SMALL)
     scalable = HICOLOR / "scalable" / "apps" / "thornquill.svg"
     scalable.parent.mkdir(parents=True, exist_ok=True)

@@ -1,9 +1,10 @@
 """Draws the pictures of the toolbar's buttons: one object each, in ink with one colour. The second picture, shown under
 the mouse, is the same object with its colour lit. A line is one pixel wide and runs through the middle of its pixels,
-which is why most places end in .5. They are listed for the program in editor/toolbar.qrc."""
+which is why most places end in .5. The program draws them at the screen's own scaling; they are listed for it in
+editor/toolbar.qrc."""
 
 from palette import svg
-from render import ASSETS, draw_scaled
+from render import ASSETS, write_source
 from shapes import flat, mirrored, slab, spot, stroke, tone
 
 INK, PAPER = tone("ink--"), tone("paper+")
@@ -99,7 +100,7 @@ def light(colour, steps):
 
 
 def list_for_the_program():
-    files = sorted(path.name for path in (ASSETS / "toolbar").glob("*.png"))
+    files = sorted(path.name for path in (ASSETS / "toolbar").glob("*.svg"))
     rows = "".join(f'    <file alias="{name}">../assets/toolbar/{name}</file>\n' for name in files)
     text = f'<RCC>\n  <qresource prefix="/toolbar">\n{rows}  </qresource>\n</RCC>\n'
     (ASSETS.parent / "editor" / "toolbar.qrc").write_text(text, encoding="utf-8")
@@ -111,7 +112,7 @@ def main():
     for name, (colour, drawing) in PICTURES.items():
         for state, steps in (("", ((0, ""), (0.6, "-"))), ("-lit", ((0, "+"), (0.6, "")))):
             strokes = f'<g fill="none" stroke-width="1">{drawing}</g>'
-            draw_scaled(f"toolbar/{name}{state}", svg(16, 16, strokes, defs=light(colour, steps)), scales=(1, 2))
+            write_source(f"toolbar/{name}{state}", svg(16, 16, strokes, defs=light(colour, steps)))
     list_for_the_program()
 
 
