@@ -24,14 +24,6 @@ constexpr QSize FrameAround(16, 48);
 constexpr int LettersOfATitle = 32;
 const QString NotFound = QStringLiteral("These words do not stand in the help.");
 
-// Dark on paper, like the diary's pages, on every desktop.
-void DressAsPaper(QWidget& control) {
-  QPalette palette = control.palette();
-  palette.setColor(QPalette::Base, QColor(0xff, 0xfd, 0xf6));
-  palette.setColor(QPalette::Text, QColor(0x2b, 0x24, 0x30));
-  control.setPalette(palette);
-}
-
 // The desktop's font, a little larger: it is a text to read.
 void DressForReading(QTextBrowser& browser) {
   QFont font = browser.font();
@@ -80,8 +72,6 @@ void HelpWindow::MakeControls() {
   Browser->installEventFilter(this);
   Browser->setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
   DressForReading(*Browser);
-  for (QWidget* paper : {static_cast<QWidget*>(lstContents), static_cast<QWidget*>(Browser)})
-    DressAsPaper(*paper);
 }
 
 void HelpWindow::LayOut() {
@@ -194,8 +184,7 @@ void HelpWindow::FindNext() {
 
 void HelpWindow::TellWhetherFound(bool found) {
   QPalette palette;
-  const bool dark = palette.color(QPalette::Base).lightness() < 128;
-  if (!found) palette.setColor(QPalette::Text, dark ? QColor(0xff, 0x90, 0x90) : QColor(0xb0, 0x30, 0x30));
+  if (!found) palette.setColor(QPalette::Text, QColor(0xa0, 0x28, 0x28));
   txtFind->setPalette(palette);
   txtFind->setToolTip(found ? QString() : NotFound);
 }

@@ -15,6 +15,7 @@
 #include "editor/SavingPages.h"
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
+#include "look/Dress.h"
 #include "look/Form.h"
 #include "output/frmExport.h"
 #include "output/modPrint.h"
@@ -132,6 +133,7 @@ void ActivatePrevInstance(platform::RunningInstance& instance, const platform::A
 }
 
 void Main(platform::RunningInstance& instance, const platform::ActivationToken& token) {
+  look::DressTheProgram();
   QApplication::setQuitOnLastWindowClosed(false);  // the windows hide for one another; EndProcess alone ends
   ActivatePrevInstance(instance, token);
   if (!instance.IsFirst()) return;  // reached only where a test stands in for the end

@@ -9,6 +9,7 @@
 #include "editor/PageFace.h"
 #include "editor/PageTurning.h"
 #include "editor/frmJournal.h"
+#include "look/Palettes.h"
 #include "look/Spoken.h"
 #include "look/Theme.h"
 #include "platform/CodePage.h"
@@ -45,6 +46,18 @@ QLabel* Label(const char* caption, QWidget* buddy = nullptr) {
 }
 
 }  // namespace
+
+// On a card of paper.
+void IconCard::paintEvent(QPaintEvent* event) {
+  {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(look::HairlineOn(parentWidget()->palette().color(QPalette::Window)));
+    painter.setBrush(look::Paper);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+  }
+  QLabel::paintEvent(event);
+}
 
 SamplePage::SamplePage(QWidget* parent) : QLabel(QStringLiteral("Aa Bb Cc Dd Ee Ff Gg Hh Ii Jj Kk"), parent) {
   setAutoFillBackground(true);
@@ -119,13 +132,15 @@ void frmJournalProp::LayOutLook() {
   // clang-format off
   Place(Label("Select Icon"), "Label3", 240, 1320, 2100, 480);
   cmdIconBack    = Place(Button("<-"), "cmdIconBack", 2400, 1335, 600, 450, QStringLiteral("Previous icon"));
-  Image1         = Place(new QLabel(this), "Image1", 3090, 1290, 540, 540);
+  Image1         = Place(new IconCard(this), "Image1", 3090, 1290, 540, 540);
   cmdIconNext    = Place(Button("->"), "cmdIconNext", 3720, 1335, 600, 450, QStringLiteral("Next icon"));
   lblSamplePage  = Place(new SamplePage(this), "lblSamplePage", 240, 2070, 6120, 2040);
   cmdPaperColor  = Place(Button("Paper Color"), "cmdPaperColor", 240, 4320, 1960, 450);
   cmdDefaultFont = Place(Button("Default Font"), "cmdDefaultFont", 2320, 4320, 1960, 450);
   // clang-format on
   Image1->setAlignment(Qt::AlignCenter);
+  cmdIconBack->ShowArrow(Qt::LeftArrow);
+  cmdIconNext->ShowArrow(Qt::RightArrow);
 }
 
 void frmJournalProp::LayOutButtons() {

@@ -9,6 +9,14 @@
 #include "look/Form.h"
 #include "look/PictureButton.h"
 
+class IconCard : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
 // The sample of paper and font, which is the only working copy of both.
 class SamplePage : public QLabel {
   Q_OBJECT

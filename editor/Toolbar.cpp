@@ -9,6 +9,7 @@
 
 #include "editor/ToolbarPictures.h"
 #include "look/Form.h"
+#include "look/Palettes.h"
 #include "look/Spoken.h"
 
 namespace {
@@ -79,7 +80,7 @@ class CaptionedButton : public QToolButton {
     if (isDown()) painter.translate(0, 1);
     const QRect picture((width() - PictureSize) / 2, PictureTop, PictureSize, PictureSize);
     icon().paint(&painter, picture, Qt::AlignCenter, underMouse() ? QIcon::Active : QIcon::Normal);
-    painter.setPen(Qt::black);
+    painter.setPen(look::Ink);
     painter.drawText(QRect(0, CaptionTop, width(), height() - CaptionTop), Qt::AlignHCenter | Qt::AlignTop,
                      text());
     if (hasFocus()) PaintFocus(painter);
@@ -92,7 +93,7 @@ class CaptionedButton : public QToolButton {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
   }
   void PaintFocus(QPainter& painter) const {
-    painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+    painter.setPen(QPen(look::Ink, 1, Qt::DotLine));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(rect().adjusted(1, 1, -2, -2));
   }

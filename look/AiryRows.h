@@ -5,7 +5,8 @@
 
 namespace look {
 
-// Some pixels more for each row than its font needs.
+// Some pixels more for each row than its font needs. Beside a picture a text is set a little smaller where it
+// would outgrow its place.
 void GiveRowsAir(QAbstractItemView& list);
 
 }  // namespace look

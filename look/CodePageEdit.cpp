@@ -1,9 +1,9 @@
 #include "look/CodePageEdit.h"
 
 #include <QtGui/QValidator>
-#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QToolTip>
 
+#include "look/PaperStyle.h"
 #include "look/Spoken.h"
 #include "platform/CodePage.h"
 
@@ -37,11 +37,11 @@ class CodePageValidator : public QValidator {
 };
 
 // A style sheet could say the same, but takes the form's colours away from the box.
-class AsteriskStyle : public QProxyStyle {
+class AsteriskStyle : public PaperStyle {
  public:
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
-    return hint == SH_LineEdit_PasswordCharacter ? '*' : QProxyStyle::styleHint(hint, option, widget, data);
+    return hint == SH_LineEdit_PasswordCharacter ? '*' : PaperStyle::styleHint(hint, option, widget, data);
   }
 };
 

@@ -12,6 +12,7 @@
 
 #include "look/Emblem.h"
 #include "look/LastInput.h"
+#include "look/Palettes.h"
 #include "look/Pass.h"
 #include "look/Shortening.h"
 #include "look/Spoken.h"
@@ -22,9 +23,7 @@ namespace look {
 namespace {
 
 constexpr double TwipsPerPixel = 15;
-
-constexpr QColor Ink(0x2b, 0x24, 0x30);
-constexpr QColor Paper(0xff, 0xfd, 0xf6);
+constexpr int GiltInset = 4;  // pixels from the edge to the line
 
 // What a window manager's frame takes at most, in pixels; the frame itself is known only once it is there.
 constexpr QSize FrameAround{16, 48};
@@ -33,28 +32,6 @@ Qt::WindowFlags FlagsOf(Form::Kind kind) {
   const Qt::WindowFlags both = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
   if (kind == Form::Kind::Dialog) return Qt::Dialog | both;
   return Qt::Window | both | Qt::WindowMinMaxButtonsHint;
-}
-
-QColor Mixed(const QColor& first, const QColor& second, float share) {
-  const auto mix = [share](float a, float b) { return share * a + (1 - share) * b; };
-  return QColor::fromRgbF(mix(first.redF(), second.redF()), mix(first.greenF(), second.greenF()),
-                          mix(first.blueF(), second.blueF()));
-}
-
-// Pale surfaces need dark writing, whatever the desktop's own colours are.
-QPalette PaletteOn(const QColor& surface) {
-  QPalette palette(surface, surface);
-  const QPalette desktop = QApplication::palette();
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(role, Ink);
-    palette.setColor(QPalette::Disabled, role, Mixed(Ink, surface, 0.7f));
-  }
-  palette.setColor(QPalette::PlaceholderText, Mixed(Ink, Paper, 0.7f));
-  palette.setColor(QPalette::Base, Paper);
-  palette.setColor(QPalette::Disabled, QPalette::Base, Mixed(Paper, surface, 0.4f));
-  for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
-    palette.setColor(role, desktop.color(role));
-  return palette;
 }
 
 QScreen* ScreenForNewWindows() {
@@ -158,11 +135,12 @@ void Form::showEvent(QShowEvent* event) {
 }
 
 void Form::paintEvent(QPaintEvent* event) {
-  if (picture_.isNull()) return QDialog::paintEvent(event);
   QPainter painter(this);
   painter.fillRect(event->rect(), palette().window());
   painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
   painter.drawPixmap(0, 0, picture_);
+  painter.setPen(Gilt);
+  painter.drawRect(rect().adjusted(GiltInset, GiltInset, -GiltInset - 1, -GiltInset - 1));
 }
 
 void Form::PlaceWidget(QWidget* control, const char* name, int left, int top, int width, int height,

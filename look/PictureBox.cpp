@@ -1,5 +1,7 @@
 #include "look/PictureBox.h"
 
+#include <utility>
+
 #include <QtGui/QPainter>
 
 #include "platform/Colors.h"
@@ -20,6 +22,11 @@ void PictureBox::Repeat(Qt::Orientations directions) {
   update();
 }
 
+void PictureBox::SetShade(std::function<void(QPainter&, const QRect&)> shade) {
+  shade_ = std::move(shade);
+  update();
+}
+
 void PictureBox::SetBackColor(std::uint32_t color) {
   backColor_ = color;
   update();
@@ -28,6 +35,7 @@ void PictureBox::SetBackColor(std::uint32_t color) {
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), platform::ToColor(backColor_));
+  if (shade_) shade_(painter, rect());
   if (picture_.isNull()) return;
   painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
   const QSize step = picture_.deviceIndependentSize().toSize().expandedTo({1, 1});

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
@@ -17,6 +18,8 @@ class PictureBox : public QWidget {
   // From now on the picture begins again where it ends, in these directions.
   void Repeat(Qt::Orientations directions);
   const QPixmap& Picture() const { return picture_; }
+  // Painted over the background and under the picture, from now on.
+  void SetShade(std::function<void(QPainter&, const QRect& box)> shade);
   void SetBackColor(std::uint32_t color);  // 0x00BBGGRR
   std::uint32_t BackColor() const { return backColor_; }
 
@@ -25,6 +28,7 @@ class PictureBox : public QWidget {
 
  private:
   QPixmap picture_;
+  std::function<void(QPainter&, const QRect&)> shade_;
   Qt::Orientations repeats_;
   std::uint32_t backColor_ = 0xFFFFFF;
 };

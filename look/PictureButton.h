@@ -1,5 +1,5 @@
 // A push button with a picture as its face, under its caption: a material pressed as a label. Without a
-// picture it is the desktop's own button.
+// picture it is a label of paper.
 #pragma once
 
 #include <QtGui/QPixmap>
@@ -17,22 +17,21 @@ class PictureButton : public QPushButton {
   void SetPicture(const QPixmap& picture);
   const QPixmap& Picture() const { return picture_; }
 
+  // The caption stays, for who reads it; one sees an arrow to the left or the right.
+  void ShowArrow(Qt::ArrowType arrow);
+
  protected:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void PaintMaterial(QPainter& painter) const;
-  void PaintRelief(QPainter& painter) const;
-  void PaintEdges(QPainter& painter) const;
-  void PaintStitching(QPainter& painter) const;
+  void PaintArrow(QPainter& painter) const;
   void PaintCaption(QPainter& painter) const;
-  bool HasDoubleEdge() const;
-  QColor Edge() const;
   QFont CaptionFont() const;
   QString ShownCaption() const;
 
   QPixmap picture_;
+  Qt::ArrowType arrow_ = Qt::NoArrow;
 };
 
 }  // namespace look

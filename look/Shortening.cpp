@@ -6,26 +6,27 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QStyleOptionButton>
 #include <QtWidgets/QToolTip>
+
+#include "look/PaperStyle.h"
 
 namespace look {
 namespace {
 
 constexpr int FrameWidth = 2;  // pixels of a button's edge
 
-class PlacedStyle : public QProxyStyle {
+class PlacedStyle : public PaperStyle {
  public:
   void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette, bool enabled,
                     const QString& text, QPalette::ColorRole role) const override {
     if (flags & Qt::TextWordWrap || text.contains(u'\n'))
-      return QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
+      return PaperStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
     const QFont before = painter->font();
     painter->setFont(FittingFont(before, text, rect.width()));
     const QString shown = painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width(), flags);
-    QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, shown, role);
+    PaperStyle::drawItemText(painter, rect, flags, palette, enabled, shown, role);
     painter->setFont(before);
   }
   // The margins of a button that chooses its own size are room for the text of one that does not; and the
@@ -38,7 +39,7 @@ class PlacedStyle : public QProxyStyle {
       case SE_RadioButtonClickRect:
         return option->rect;
       default:
-        return QProxyStyle::subElementRect(element, option, widget);
+        return PaperStyle::subElementRect(element, option, widget);
     }
   }
 };

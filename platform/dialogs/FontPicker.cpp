@@ -115,7 +115,6 @@ void FontPicker::LayOut() {
   grid->addWidget(sample, 2, 0, 1, 3);
   grid->addWidget(note, 3, 0, 1, 3);
   buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  for (QAbstractButton* button : buttons->buttons()) button->setIcon({});  // as in the message boxes
   grid->addWidget(buttons, 4, 0, 1, 3);
   grid->setColumnStretch(0, 1);
   const QFontMetrics metrics = fontMetrics();

@@ -1,6 +1,5 @@
 #include "platform/dialogs/MessageDress.h"
 
-#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProxyStyle>
@@ -20,6 +19,8 @@ constexpr int Margin = 16;
 
 class SignStyle : public QProxyStyle {
  public:
+  SignStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
   QIcon standardIcon(StandardPixmap sign, const QStyleOption* option, const QWidget* widget) const override {
     switch (sign) {
       case SP_MessageBoxCritical:
@@ -44,10 +45,8 @@ void DrawOwnSigns(QMessageBox& box) {
   box.setStyle(style);
 }
 
-// A short text stands beside the middle of the sign. Some desktops put pictures of their own on the buttons,
-// which know no scaling.
+// A short text stands beside the middle of the sign.
 void GiveRoom(QMessageBox& box) {
-  for (QAbstractButton* button : box.buttons()) button->setIcon({});
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
   auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
   if (!grid || !text) return;

@@ -1,6 +1,11 @@
 // Every window as it comes up: what stands where on it, what a screen reader says, and where its help leads.
 #include <fstream>
+#include <map>
 #include <sstream>
+
+#include <QtGui/private/qguiapplication_p.h>
+#include <QtGui/qpa/qplatformtheme.h>
+#include <QtGui/qpa/qwindowsysteminterface.h>
 
 #include "app/Help.h"
 #include "app/HelpWindow.h"
@@ -16,6 +21,7 @@
 #include "editor/frmJournal.h"
 #include "lock/frmPass.h"
 #include "lock/frmPassChange.h"
+#include "look/Dress.h"
 #include "look/frmWait.h"
 #include "output/PrintDialog.h"
 #include "output/frmExport.h"
@@ -132,7 +138,7 @@ TEST_F(EveryWindow, HasANameForEachControlAndEntry) {
 }
 
 // Which block until they are answered: hiding them ends them.
-TEST_F(EveryWindow, OfTheDesktopHasANameForEachControlToo) {
+void ForEachOfTheToolkit(const std::function<void(QWidget&)>& act) {
   platform::SetMessageAnswerer({});
   platform::SetOpenFileChooser({});
   const std::function<void()> dialogs[] = {
@@ -144,9 +150,57 @@ TEST_F(EveryWindow, OfTheDesktopHasANameForEachControlToo) {
       },
       [] { platform::AskForColor({}); }, [] { platform::AskForFont({}); }, [] { ShowPrintDialog({}); }};
   for (const auto& ask : dialogs) {
-    QTimer::singleShot(0, [] { ExpectNames(*QApplication::activeModalWidget()); });
+    QTimer::singleShot(0, [&] {
+      QWidget& dialog = *QApplication::activeModalWidget();
+      act(dialog);
+      dialog.hide();
+    });
     ask();
   }
+}
+
+TEST_F(EveryWindow, OfTheDesktopHasANameForEachControlToo) {
+  ForEachOfTheToolkit([](QWidget& dialog) { ExpectNames(dialog); });
+}
+
+// A desktop's colours, which come to the toolkit as those of a real one do.
+class Desktop : public QPlatformTheme {
+ public:
+  explicit Desktop(const QPalette& colors) : colors_(colors) { Reign(this); }
+  ~Desktop() override { Reign(before_); }
+  Q_DISABLE_COPY_MOVE(Desktop)
+  const QPalette* palette(Palette) const override { return &colors_; }
+  const QFont* font(Font kind) const override { return before_->font(kind); }
+  QVariant themeHint(ThemeHint hint) const override { return before_->themeHint(hint); }
+
+ private:
+  static void Reign(QPlatformTheme* theme) {
+    QGuiApplicationPrivate::platform_theme = theme;
+    QWindowSystemInterface::handleThemeChange(nullptr);
+    QCoreApplication::processEvents();
+  }
+  QPlatformTheme* const before_ = QGuiApplicationPrivate::platform_theme;
+  const QPalette colors_;
+};
+
+TEST_F(EveryWindow, WearsTheSameToThePixelOnALightAndOnADarkDesktop) {
+  QApplication::setCursorFlashTime(0);
+  const auto grabbed = [](const QPalette& colors) {
+    const Desktop desktop(colors);
+    look::DressTheProgram();
+    std::map<QString, QImage> pictures;
+    const auto grab = [&](QWidget& window) { pictures[window.objectName()] = window.grab().toImage(); };
+    ForAll(grab);
+    HelpWindow help(u"<h2><a name=\"a\">A chapter</a></h2>"_qs);
+    grab(help);
+    ForEachOfTheToolkit(grab);
+    look::UnloadAllForms();
+    return pictures;
+  };
+  const auto light = grabbed(QPalette(QColor(0xef, 0xf0, 0xf1))),
+             dark = grabbed(QPalette(QColor(0x31, 0x36, 0x3b)));
+  EXPECT_EQ(light.size(), 20u);
+  for (const auto& [name, picture] : light) EXPECT_EQ(picture, dark.at(name)) << name.toStdString();
 }
 
 TEST_F(EveryWindow, StandsAsOnItsSheet) {

@@ -53,7 +53,7 @@ TEST_F(FormTest, IsMeasuredInTwipsHalvesToEvenAndCentredOnce) {
   EXPECT_EQ(dialog.label->textFormat(), Qt::PlainText);
   for (const int size : {16, 22, 32, 48, 64, 128})
     EXPECT_EQ(QApplication::windowIcon().pixmap(QSize(size, size), 1).size(), QSize(size, size));
-  EXPECT_EQ(look::EmblemPicture().size(), QSize(80, 80));
+  EXPECT_EQ(look::EmblemPicture(96).size(), QSize(96, 96));
   const QPoint off = dialog.geometry().center() - dialog.screen()->availableGeometry().center();
   EXPECT_LE(off.manhattanLength(), 8);  // the frame's share
   dialog.move(3, 4);
@@ -68,16 +68,6 @@ TEST_F(FormTest, UnloadBringsTheDesignValuesBackAndHidingDoesNot) {
   EXPECT_EQ(ShownDialog().box->text(), QStringLiteral("typed"));
   look::The<Dialog>().close();
   EXPECT_EQ(look::The<Dialog>().box->text(), QString());
-}
-
-TEST_F(FormTest, WritesDarkOnThePictureOfADarkDesktop) {
-  QApplication::setPalette(QPalette(QColor(30, 30, 30)));
-  Dialog dialog;
-  look::PutOnTheme(0);
-  dialog.SetPicture(look::CurrentTheme().large);
-  EXPECT_LT(dialog.label->palette().color(QPalette::WindowText).lightness(), 64);
-  EXPECT_GT(dialog.box->palette().color(QPalette::Base).lightness(), 192);
-  QApplication::setPalette(QPalette());
 }
 
 TEST_F(FormTest, ATextThatOutgrowsItsPlaceIsItsToolTip) {

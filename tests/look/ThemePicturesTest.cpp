@@ -1,7 +1,9 @@
+#include <cmath>
 #include <gtest/gtest.h>
 
 #include <QtGui/QImage>
 
+#include "look/Palettes.h"
 #include "look/Theme.h"
 #include "look/frmPicSource.h"
 
@@ -36,6 +38,43 @@ TEST(ThemePictures, HaveTheirSizeAndTintAndAreEasyToReadOn) {
   }
   for (const int none : {-1, 3})
     EXPECT_TRUE(frmPicSource::picLarge(none).isNull() && frmPicSource::PicButtonSize(none).isNull());
+}
+
+double Contrast(const QColor& first, const QColor& second) {
+  const auto luminance = [](const QColor& color) {
+    const auto linear = [](float part) {
+      return part <= 0.04045f ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+  };
+  const auto [dark, light] = std::minmax(luminance(first), luminance(second));
+  return (light + 0.05) / (dark + 0.05);
+}
+
+TEST(Palettes, WriteWhatIsEasyToRead) {
+  using enum QPalette::ColorRole;
+  constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> texts[] = {{WindowText, Window},
+                                                                           {Text, Base},
+                                                                           {Text, AlternateBase},
+                                                                           {ButtonText, Button},
+                                                                           {HighlightedText, Highlight},
+                                                                           {Link, Window},
+                                                                           {Link, Base},
+                                                                           {LinkVisited, Window},
+                                                                           {LinkVisited, Base},
+                                                                           {PlaceholderText, Base},
+                                                                           {ToolTipText, ToolTipBase}};
+  for (const QColor surface : {QColor(), QColor(0xC0C0FF), QColor(0xFFC0C0), QColor(0xFFC0FF)}) {
+    const QPalette palette = surface.isValid() ? look::PaletteOn(surface) : look::PaperPalette();
+    for (const auto& [text, ground] : texts) {
+      for (const auto group : {QPalette::Active, QPalette::Inactive})
+        EXPECT_GE(Contrast(palette.color(group, text), palette.color(group, ground)), 4.5)
+            << text << ' ' << surface.rgb();
+      const double disabled =
+          Contrast(palette.color(QPalette::Disabled, text), palette.color(QPalette::Disabled, ground));
+      EXPECT_GE(disabled, text == HighlightedText ? 3 : 4) << text << ' ' << surface.rgb();
+    }
+  }
 }
 
 }  // namespace
