@@ -7,8 +7,8 @@ static void BringTheBinding() {
   Q_INIT_RESOURCE(binding);
 }
 
-// The one for sharper screens has the finer grain of pixels that such a screen can show; a PNG, which
-// the toolkit decodes faster than a GIF. By its name the toolkit knows its scaling.
+// The one for sharper screens is a PNG, which the toolkit decodes faster than a GIF. By its name the toolkit
+// knows its scaling.
 QPixmap BindingPicture() {
   BringTheBinding();
   const bool sharp = qGuiApp->devicePixelRatio() > 1;

@@ -7,8 +7,10 @@
 #include <QtWidgets/QScrollBar>
 
 #include "editor/BindingPicture.h"
+#include "editor/BindingShade.h"
 #include "editor/FilesOnPage.h"
 #include "look/Form.h"
+#include "look/Palettes.h"
 #include "look/PictureBox.h"
 #include "look/Theme.h"
 #include "pictures/PictureSlots.h"
@@ -39,13 +41,13 @@ Control* Placed(Control* control, const QString& name, int left, int top, int wi
   return control;
 }
 
-// The strip under a label is pale in every theme, so its letters are black on every desktop.
+// The strip under a label is pale in every theme, so its letters are dark on every desktop.
 void DressLabel(QLabel* label, int pixelSize) {
   QFont font(QStringLiteral("Verdana"));
   font.setPixelSize(pixelSize);
   label->setFont(font);
   QPalette palette = label->palette();
-  palette.setColor(QPalette::WindowText, Qt::black);
+  palette.setColor(QPalette::WindowText, look::Ink);
   label->setPalette(palette);
   label->setTextFormat(Qt::PlainText);
 }
@@ -76,9 +78,11 @@ void PageFace::MakePage() {
   picBinding = Placed(new look::PictureBox(this), QStringLiteral("picBinding"), 0, PageTop, PageLeft, 8850);
   picBinding->SetPicture(BindingPicture());
   picBinding->Repeat(Qt::Vertical);
+  picBinding->SetShade(&PaintBindingShade);
   txtM = Placed(new richtext::RichTextBox(this), QStringLiteral("txtM"), PageLeft, PageTop, 7484, 8849);
   txtM->setFrameShape(QFrame::NoFrame);
   txtM->document()->setDocumentMargin(PageMargin);
+  txtM->PaintGround = &PaintGutterShade;
   connect(txtM, &richtext::RichTextBox::Change, this, &PageInHand::TextChanged);
 }
 
@@ -120,7 +124,7 @@ void PageFace::SetPaper(std::uint32_t color) {
   pictures->SetPaper(color);
 }
 
-// Without a theme the strip is pale all the same: the letters on it are black.
+// Without a theme the strip is pale all the same: the letters on it are dark.
 void PageFace::WearTheme() {
   constexpr QRgb plain = 0xF0F0F0;
   const look::Theme& theme = look::CurrentTheme();

@@ -137,8 +137,8 @@ void RichTextBox::SetBackColor(std::uint32_t color) {
   paper.setColor(QPalette::Base, ToColor(backColor_));
   paper.setColor(QPalette::Text, Qt::black);
   paper.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
-  paper.setColor(QPalette::Highlight, QColor(0x30, 0x60, 0xa8));
-  paper.setColor(QPalette::HighlightedText, Qt::white);
+  paper.setColor(QPalette::Highlight, QColor(0x46, 0x5a, 0x8f));
+  paper.setColor(QPalette::HighlightedText, QColor(0xff, 0xfd, 0xf6));
   setPalette(paper);
 }
 
@@ -229,6 +229,10 @@ std::unique_ptr<QMenu> RichTextBox::ContextMenu(const QPoint& place) {
 }
 
 void RichTextBox::paintEvent(QPaintEvent* event) {
+  if (PaintGround) {
+    QPainter ground(viewport());
+    PaintGround(ground, viewport()->rect());
+  }
   QTextEdit::paintEvent(event);
   QPainter painter(viewport());
   const QScrollBar& across = *horizontalScrollBar();
@@ -236,6 +240,12 @@ void RichTextBox::paintEvent(QPaintEvent* event) {
                         verticalScrollBar()->value());
   painter.translate(-scrolled);
   labelled_ = DrawLabels(painter, *document(), QRectF(event->rect().translated(scrolled)), *labels_);
+}
+
+// What lies on the ground stays where it is when the text goes aside.
+void RichTextBox::scrollContentsBy(int across, int down) {
+  QTextEdit::scrollContentsBy(across, down);
+  if (PaintGround && across != 0) viewport()->update();
 }
 
 }  // namespace richtext

@@ -120,6 +120,9 @@ class RichTextBox : public QTextEdit {
   // Prints the selection, as Printing.h tells.
   bool PrintSelection(Paper& paper) const;
 
+  // Painted on the paper, under the text, at each place of a page that is scrolled up and down alike.
+  std::function<void(QPainter&, const QRect& sheet)> PaintGround;
+
   // Gives the page's own pictures. Nothing is ever read from a file or a network, whatever a name says.
   QVariant loadResource(int type, const QUrl& name) override;
 
@@ -139,6 +142,7 @@ class RichTextBox : public QTextEdit {
   void mousePressEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int across, int down) override;
 
  private:
   static constexpr QKeyCombination PlainPasteKey = Qt::CTRL | Qt::SHIFT | Qt::Key_V;

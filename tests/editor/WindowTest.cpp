@@ -1,4 +1,5 @@
 // The window itself: its measures and its toolbar.
+#include "editor/BindingShade.h"
 #include "look/PictureBox.h"
 #include "pictures/PictureSlots.h"
 #include "tests/editor/OpenBook.h"
@@ -32,6 +33,40 @@ TEST_F(Window, GrowsAroundLabelsThatStayAndTooSmallKeepsEachFormerMeasure) {
     EXPECT_EQ(face().picTop->geometry(), QRect(0, 0, size.width(), 58));
     EXPECT_EQ(face().lblPageNum1->geometry().right(), 560);
   }
+}
+
+// The largest step from a pixel to the next one, in levels of its strongest channel, but for the hairline and
+// for what lies under the crease.
+int RoughestStep(const QImage& shade) {
+  int most = 0;
+  const double scale = shade.devicePixelRatio();
+  const auto isSeen = [scale](int x) {
+    return x / scale < 65 - 1 / scale && (x < 51 * scale - 1 || x > 53 * scale);
+  };
+  const auto note = [&](QRgb a, QRgb b) {
+    most = std::max(
+        {most, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+  };
+  for (int y = 1; y < shade.height(); ++y)
+    for (int x = 1; x < shade.width(); ++x) {
+      if (!isSeen(x)) continue;
+      note(shade.pixel(x, y), shade.pixel(x - 1, y));
+      note(shade.pixel(x, y), shade.pixel(x, y - 1));
+    }
+  return most;
+}
+
+TEST(Binding, IsShadedSoftlyOnEveryPaperAndScreen) {
+  for (const double scale : {1.0, 1.5, 2.0})
+    for (const QRgb paper : {0xFFFFFFFFu, 0xFFFFF8EAu, 0xFFC0C0FFu, 0xFF000000u}) {
+      QImage shade(QSize(66, 300) * scale, QImage::Format_RGB32);
+      shade.setDevicePixelRatio(scale);
+      shade.fill(paper);
+      QPainter painter(&shade);
+      PaintBindingShade(painter, QRect(0, 0, 66, 300));
+      EXPECT_LE(RoughestStep(shade), 6) << std::hex << paper << " at " << scale;
+      EXPECT_NE(shade.pixel(0, 10), paper);
+    }
 }
 
 TEST_F(Window, TogglingTheCaptionsGoesByTheOldPositions) {
