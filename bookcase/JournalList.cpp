@@ -4,12 +4,15 @@
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>
+#include <QtGui/QRadialGradient>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QToolTip>
 
+#include "bookcase/ShelfBoard.h"
 #include "look/FocusLine.h"
+#include "look/Palettes.h"
 #include "look/Theme.h"
 
 namespace {
@@ -17,11 +20,20 @@ namespace {
 // In pixels.
 constexpr int IconSize = 32;
 constexpr int LeastColumn = 104;
-constexpr int Gap = 4;      // between the labels
-constexpr int Padding = 6;  // from a label's edge to what stands on it
+constexpr int Air = 8;          // above an icon
+constexpr int Gap = 4;          // between the labels
+constexpr int LabelTop = 4;     // from the board to the label below it
+constexpr int SidePadding = 6;  // from a label's edge to its text
+constexpr int Padding = 3;
+constexpr int BoardTop = Air + IconSize - 3;  // an icon has some pixels of air below it
 constexpr double Corner = 3;
 
 constexpr int MostLines = 3;
+
+// What goes on in the next line within a word ends in a hyphen.
+bool BreaksAWord(const QString& name, int at) {
+  return at > 0 && at < name.size() && name[at - 1].isLetterOrNumber() && name[at].isLetterOrNumber();
+}
 
 struct ShownName {
   QStringList lines;  // at least one, which may be empty
@@ -38,9 +50,12 @@ ShownName Broken(const QString& name, const QFont& font, int width) {
   ShownName shown;
   for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
     line.setLineWidth(width);
+    const bool isHyphened = BreaksAWord(name, line.textStart() + line.textLength());
+    if (isHyphened) line.setLineWidth(width - QFontMetrics(font).horizontalAdvance(u'-'));
     shown.isWhole = shown.lines.size() < MostLines;
     if (shown.isWhole) {
-      shown.lines << name.mid(line.textStart(), line.textLength()).trimmed();
+      const QString text = name.mid(line.textStart(), line.textLength()).trimmed();
+      shown.lines << (isHyphened ? text + u'-' : text);
     } else {
       const QString rest = shown.lines.back() + u' ' + name.mid(line.textStart());
       shown.lines.back() = QFontMetrics(font).elidedText(rest, Qt::ElideRight, width);
@@ -51,22 +66,26 @@ ShownName Broken(const QString& name, const QFont& font, int width) {
   return shown;
 }
 
-QColor WithAlpha(QColor color, int alpha) {
-  color.setAlpha(alpha);
-  return color;
-}
-
-// A label of the theme's material, or a veil of the desktop's highlight; with a dotted line where the
+// A card of paper, or of the theme's material for the journal that is selected, with a dotted line where the
 // keyboard is.
 void PaintLabel(QPainter& painter, const QRect& place, const QStyleOptionViewItem& option) {
-  const bool plain = look::CurrentTheme().large.isNull();
-  const QColor face = option.palette.color(plain ? QPalette::Highlight : QPalette::Button);
-  const QRectF edge = QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5);
-  painter.setPen(plain ? face : look::HairlineOn(face));
-  painter.setBrush(plain ? WithAlpha(face, 70) : face);
-  painter.drawRoundedRect(edge, Corner, Corner);
-  if (option.state & QStyle::State_HasFocus)
+  const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+  const QColor face = option.palette.color(isSelected ? QPalette::Button : QPalette::Base);
+  painter.setPen(isSelected ? look::HairlineOn(face) : look::Mixed(look::Walnut, look::Board, 0.45f));
+  painter.setBrush(face);
+  painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), Corner, Corner);
+  if (isSelected && option.state & QStyle::State_HasFocus)
     look::DrawFocusLine(painter, place.adjusted(2, 2, -2, -2), option.palette.color(QPalette::Text));
+}
+
+// Behind the icon that is selected, as if a lamp stood on the board.
+void PaintGlow(QPainter& painter, const QRect& cell, const QStyleOptionViewItem& option) {
+  const QColor face = option.palette.color(QPalette::Button);
+  QRadialGradient glow(QPointF(cell.center().x() + 1, cell.top() + BoardTop - 12), 40);
+  glow.setColorAt(0, face);
+  glow.setColorAt(0.5, look::Mixed(face, look::Board, 0.75f));
+  glow.setColorAt(1, look::Board);
+  painter.fillRect(QRect(cell.center().x() - 39, cell.top(), 80, BoardTop), glow);
 }
 
 class JournalLabel : public QStyledItemDelegate {
@@ -76,14 +95,16 @@ class JournalLabel : public QStyledItemDelegate {
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const QStringList lines = NameIn(option, index).lines;
     const int lineHeight = option.fontMetrics.lineSpacing();
-    QRect label = option.rect.adjusted(Gap, Gap, -Gap, 0);
-    label.setHeight(3 * Padding + IconSize + static_cast<int>(lines.size()) * lineHeight);
+    const QRect& cell = option.rect;
+    QRect label = cell.adjusted(Gap, BoardTop + ShelfBoardHeight + LabelTop, -Gap, 0);
+    label.setHeight(2 * Padding + static_cast<int>(lines.size()) * lineHeight);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    if (option.state & QStyle::State_Selected) PaintLabel(*painter, label, option);
-    const QRect icon(label.center().x() - IconSize / 2 + 1, label.top() + Padding, IconSize, IconSize);
+    if (option.state & QStyle::State_Selected) PaintGlow(*painter, cell, option);
+    PaintLabel(*painter, label, option);
+    const QRect icon(cell.center().x() - IconSize / 2 + 1, cell.top() + Air, IconSize, IconSize);
     index.data(Qt::DecorationRole).value<QIcon>().paint(painter, icon);
-    QRect line(label.left(), icon.bottom() + 1 + Padding, label.width(), lineHeight);
+    QRect line(label.left(), label.top() + Padding, label.width(), lineHeight);
     painter->setFont(option.font);
     painter->setPen(option.palette.color(QPalette::Text));
     for (const QString& text : lines) {
@@ -108,7 +129,7 @@ class JournalLabel : public QStyledItemDelegate {
 
  private:
   static ShownName NameIn(const QStyleOptionViewItem& option, const QModelIndex& index) {
-    return Broken(index.data().toString(), option.font, option.rect.width() - 2 * (Gap + Padding));
+    return Broken(index.data().toString(), option.font, option.rect.width() - 2 * (Gap + SidePadding));
   }
 };
 
@@ -128,7 +149,8 @@ JournalList::JournalList(QWidget* parent) : QListWidget(parent) {
 void JournalList::RuleGrid() {
   const int width = this->width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width() - 1;
   const int columns = std::max(1, width / LeastColumn);
-  const int height = 2 * Gap + 3 * Padding + IconSize + MostLines * fontMetrics().lineSpacing();
+  const int label = 2 * Padding + MostLines * fontMetrics().lineSpacing();
+  const int height = BoardTop + ShelfBoardHeight + LabelTop + label + Gap;
   setGridSize(QSize(std::max(width / columns, LeastColumn), height));
 }
 
@@ -142,17 +164,34 @@ void JournalList::resizeEvent(QResizeEvent* event) {
   QListWidget::resizeEvent(event);
 }
 
-// An empty bookcase says how it is filled.
+// Boards down to the window's edge, whether a journal stands on them or not.
+void JournalList::PaintBoards(QPainter& painter) const {
+  painter.fillRect(viewport()->rect(), look::Board);
+  const int step = gridSize().height();
+  for (int top = BoardTop - verticalScrollBar()->value(); top < viewport()->height(); top += step)
+    PaintShelfBoard(painter, top, viewport()->width());
+}
+
 void JournalList::paintEvent(QPaintEvent* event) {
+  {
+    QPainter painter(viewport());
+    PaintBoards(painter);
+    if (count() == 0) PaintHint(painter);
+  }
   QListWidget::paintEvent(event);
-  if (count() > 0) return;
-  QPainter painter(viewport());
-  painter.setPen(palette().color(QPalette::PlaceholderText));
-  const QRect room = viewport()->rect().adjusted(LeastColumn / 2, 0, -LeastColumn / 2, 0);
-  const int flags = Qt::AlignCenter | Qt::TextWordWrap;
+}
+
+// An empty bookcase says how it is filled.
+void JournalList::PaintHint(QPainter& painter) const {
   const QString hint = QStringLiteral("There is no journal here yet.\nThe button Add makes one.");
+  const QRect room = viewport()->rect().adjusted(LeastColumn / 2, 0, -LeastColumn / 2, 0);
+  constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
+  const QRect card = painter.boundingRect(room, flags, hint).adjusted(-12, -8, 12, 8);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(look::Mixed(look::Walnut, look::Board, 0.45f));
+  painter.setBrush(look::Paper);
+  painter.drawRoundedRect(QRectF(card).adjusted(0.5, 0.5, -0.5, -0.5), Corner, Corner);
+  painter.setPen(palette().color(QPalette::PlaceholderText));
   painter.drawText(room, flags, hint);
-  if (!hasFocus()) return;
-  const QRect around = painter.boundingRect(room, flags, hint).adjusted(-Padding, -Padding, Padding, Padding);
-  look::DrawFocusLine(painter, around, palette().color(QPalette::Text));
+  if (hasFocus()) look::DrawFocusLine(painter, card.adjusted(3, 3, -3, -3), palette().color(QPalette::Text));
 }

@@ -1,4 +1,4 @@
-// The list of the bookcase: each journal as its icon with its name below it.
+// The list of the bookcase: each journal as its icon on a board, with its name on a label below.
 #pragma once
 
 #include <QtWidgets/QListWidget>
@@ -16,4 +16,6 @@ class JournalList : public QListWidget {
 
  private:
   void RuleGrid();
+  void PaintBoards(QPainter& painter) const;
+  void PaintHint(QPainter& painter) const;
 };
