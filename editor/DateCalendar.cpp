@@ -6,61 +6,65 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QTextCharFormat>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QToolButton>
 
+#include "look/FocusLine.h"
+#include "look/Palettes.h"
+#include "look/PaperStyle.h"
 #include "look/Spoken.h"
+#include "look/Theme.h"
 #include "platform/Dates.h"
 
 namespace {
 
 // Where a desktop opens things with one click, a click must still do no more than select its day.
-class TwoClickStyle : public QProxyStyle {
+class TwoClickStyle : public look::PaperStyle {
  public:
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
-    return hint == SH_ItemView_ActivateItemOnSingleClick ? 0
-                                                         : QProxyStyle::styleHint(hint, option, widget, data);
+    return hint == SH_ItemView_ActivateItemOnSingleClick
+               ? 0
+               : look::PaperStyle::styleHint(hint, option, widget, data);
   }
 };
 
-QColor Mixed(const QColor& first, const QColor& second) {
-  return QColor((first.red() + second.red()) / 2, (first.green() + second.green()) / 2,
-                (first.blue() + second.blue()) / 2);
-}
+constexpr QColor Gilt(0xa8, 0x84, 0x3a);
+constexpr QColor WeekendRed(0x7d, 0x1a, 0x30);
+constexpr float StandingBack = 0.62f;  // of the ink of a day of the months beside
 
-// On a theme's pale colour: ink, and for the head and the chosen day the colour's own hue, deep enough for
-// pale letters. The days of the months beside stand back.
-QPalette PaletteOn(const QColor& color) {
-  const QColor ink(0x2b, 0x24, 0x30), paper(0xff, 0xfd, 0xf6);
-  QPalette colors(color, color);
-  colors.setColor(QPalette::Base, color);
-  colors.setColor(QPalette::AlternateBase, color.darker(106));
-  if (color.lightness() < 128) return colors;
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    colors.setColor(role, ink);
-    colors.setColor(QPalette::Disabled, role, Mixed(ink, color));
-  }
-  colors.setColor(QPalette::Highlight, QColor::fromHslF(color.hslHueF(), 0.34f, 0.38f));
-  colors.setColor(QPalette::HighlightedText, paper);
+// The head and the names of the days lie on the theme's pale colour, the days on paper.
+QPalette PaletteFor(const QColor& color) {
+  QPalette colors = look::PaletteOn(color);
+  colors.setColor(QPalette::AlternateBase, color);
   return colors;
 }
 
-// To the month before or after.
-QPixmap Chevron(bool toTheLeft, const QColor& color, double scale) {
+// To the month before or after, as high as the small letters beside it.
+QPixmap Chevron(bool toTheLeft, const QColor& color, double letterHeight, double scale) {
   constexpr int size = 16;
   QPixmap picture(QSize(size, size) * scale);
   picture.setDevicePixelRatio(scale);
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  const double tip = toTheLeft ? 5.5 : 10.5;
-  painter.drawPolyline(QPolygonF({{size - tip, 3}, {tip, 8}, {size - tip, 13}}));
+  painter.setPen(QPen(color, 1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const double half = letterHeight / 2, middle = size / 2.0;
+  const double tip = middle + (toTheLeft ? -half : half) / 2;
+  painter.drawPolyline(QPolygonF({{size - tip, middle - half}, {tip, middle}, {size - tip, middle + half}}));
   return picture;
+}
+
+void PaintRing(QPainter& painter, const QRectF& room) {
+  const double side = std::min(room.width(), room.height()) - 1;
+  QRectF ring(0, 0, side * 1.25, side);
+  ring.moveCenter(room.center());
+  painter.setPen(QPen(Gilt, 1.75));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawEllipse(ring);
 }
 
 }  // namespace
@@ -133,9 +137,14 @@ void DateCalendar::SetValue(double date) {
 }
 
 void DateCalendar::SetBackColor(const QColor& color) {
-  setPalette(color.isValid() ? PaletteOn(color) : QPalette());
-  QTextCharFormat weekend;  // reds that are easy to read there
-  weekend.setForeground(BackColor().lightness() < 128 ? QColor(0xff, 0x9a, 0xa8) : QColor(0x96, 0x20, 0x3c));
+  backColor_ = color.isValid() ? color : QApplication::palette().color(QPalette::Window);
+  setPalette(color.isValid() ? PaletteFor(color) : QPalette());
+  QTextCharFormat names;
+  names.setForeground(look::Ink);
+  names.setBackground(backColor_);
+  setHeaderTextFormat(names);
+  QTextCharFormat weekend;
+  weekend.setForeground(WeekendRed);
   for (int day = Qt::Monday; day <= Qt::Sunday; ++day)
     if (const auto weekday = static_cast<Qt::DayOfWeek>(day); !locale().weekdays().contains(weekday))
       setWeekdayTextFormat(weekday, weekend);
@@ -149,17 +158,45 @@ void DateCalendar::DressHead() {
   auto* previous = findChild<QToolButton*>(QStringLiteral("qt_calendar_prevmonth"));
   auto* next = findChild<QToolButton*>(QStringLiteral("qt_calendar_nextmonth"));
   if (!bar || !previous || !next) return;
-  const QColor letters = palette().color(QPalette::HighlightedText);
-  QPalette colors;
-  colors.setColor(QPalette::Button, palette().color(QPalette::Highlight).darker(140));
-  for (const auto role : {QPalette::ButtonText, QPalette::WindowText}) colors.setColor(role, letters);
+  QPalette colors = palette();
+  colors.setColor(QPalette::Highlight, backColor_);  // what the bar is filled with
+  colors.setColor(QPalette::HighlightedText, look::Ink);
   bar->setPalette(colors);
-  previous->setIcon(Chevron(!isRightToLeft(), letters, devicePixelRatioF()));
-  next->setIcon(Chevron(isRightToLeft(), letters, devicePixelRatioF()));
+  const double height = bar->fontMetrics().xHeight();
+  previous->setIcon(Chevron(!isRightToLeft(), look::Ink, height, devicePixelRatioF()));
+  next->setIcon(Chevron(isRightToLeft(), look::Ink, height, devicePixelRatioF()));
 }
 
 QColor DateCalendar::BackColor() const {
-  return palette().color(QPalette::Base);
+  return backColor_;
+}
+
+bool DateCalendar::IsOfTheMonth(QDate day) const {
+  return day.month() == monthShown() && day.year() == yearShown();
+}
+
+// The page's day is in a ring of gilt, the day that would be set lies on a label, today is underlined.
+void DateCalendar::paintCell(QPainter* painter, const QRect& cell, QDate day) const {
+  painter->save();
+  painter->fillRect(cell, look::Paper);  // over the toolkit's own mark
+  painter->setRenderHint(QPainter::Antialiasing);
+  const QRectF label = QRectF(cell).adjusted(2.5, 2.5, -2.5, -2.5);
+  if (day == selectedDate()) {
+    painter->setPen(look::HairlineOn(backColor_));
+    painter->setBrush(backColor_);
+    painter->drawRoundedRect(label, 3, 3);
+    if (focusProxy()->hasFocus())
+      look::DrawFocusLine(*painter, label.adjusted(1.5, 1.5, -1.5, -1.5), look::Ink);
+  }
+  if (day == platform::CalendarDay(value_)) PaintRing(*painter, label);
+  const bool isWeekend = !locale().weekdays().contains(static_cast<Qt::DayOfWeek>(day.dayOfWeek()));
+  const QColor ink = isWeekend ? WeekendRed : look::Ink;
+  painter->setPen(IsOfTheMonth(day) ? ink : look::Mixed(ink, look::Paper, StandingBack));
+  QFont letters = font();
+  letters.setUnderline(day == platform::CalendarDay(platform::Now()));
+  painter->setFont(letters);
+  painter->drawText(cell, Qt::AlignCenter, locale().toString(day.day()));
+  painter->restore();
 }
 
 // The toolkit passes over a double click whose first click has turned the month. Enter in the year's box ends

@@ -15,6 +15,7 @@ class DateCalendar : public QCalendarWidget {
   double Value() const;
   void SetValue(double date);
 
+  // Of all but the days themselves, which lie on paper; invalid for the program's own.
   void SetBackColor(const QColor& color);
   QColor BackColor() const;
 
@@ -24,13 +25,16 @@ class DateCalendar : public QCalendarWidget {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void paintCell(QPainter* painter, const QRect& cell, QDate day) const override;
 
  private:
   void OpenHeadToKeys();
   void DressHead();
+  bool IsOfTheMonth(QDate day) const;
   void FollowMonth(int year, int month);
   void TellDate() const;
   bool EndsYearBox(const QEvent& event);
 
   double value_ = 0;
+  QColor backColor_;
 };
