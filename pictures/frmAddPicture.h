@@ -62,6 +62,9 @@ class frmAddPicture : public look::Form {
   // Hides it: the next use finds what it holds.
   void CloseBox() override;
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
   void PlaceControls();
   void PlaceScaleButtons();
@@ -74,6 +77,7 @@ class frmAddPicture : public look::Form {
   void ShowPicture();
   void Form_Activate();
   void ReadFrames();
+  void DrawNextThumbnail();
   void List1_Click(int index);
   void cmdResizeFactorDN_Click();
   void SetScale(double scale);
@@ -88,5 +92,7 @@ class frmAddPicture : public look::Form {
   void cmdOK_Click();
 
   pictures::PreviewDecoder decoder_{[this] { TakeLatePicture(); }};
+  QTimer thumbnails_;
+  int nextThumbnail_ = 0;      // the row of List1 whose frame is drawn next
   platform::Identity file_{};  // that the picture in picTemp is of
 };

@@ -4,7 +4,7 @@ import math
 import random
 
 from frame_parts import (BORDER, HEIGHT, WIDTH, along_rounded, around, ball, clipped, dots, edges, element, fibres,
-                         four_corners, group, hairline, leaf, line_through, mixed, moved_in, paper_shade, path, placed,
+                         four_corners, four_sides, group, hairline, leaf, line_through, mixed, moved_in, paper_shade, path, placed,
                          rectangle_line, ring)
 from palette import GILT, LIGHT, LINE, PAPER, SHADE, hue, svg
 
@@ -26,17 +26,19 @@ def fan_holes(fill, line="none"):
 
 
 def lace():
-    """A white trimming laid over the photograph, which shows through its holes."""
+    """A white trimming laid over the photograph, which shows through the holes of its scallops; the eyelets of its band are
+    lined."""
     thread, line = paper_shade(.04, hue("walnut")), hue("walnut")
     scallops = list(around(25, 37.5))
     eyelets = [(x, y) for x, y, _ in around(8.5, 18.75)]
     fans = [placed(fan(), *place) for place in scallops]
-    holes = "".join(placed(fan_holes("#000"), *place) for place in scallops) + dots(eyelets, 2.8, fill="#000")
+    holes = "".join(placed(fan_holes("#000"), *place) for place in scallops)
     cloth = [*(placed(picots(line, 3.4), *place) for place in scallops), dots(scallops, 20.4, fill=line),
              dots(scallops, 19, fill=thread), *(placed(picots(thread, 2.1), *place) for place in scallops),
              ring(0, 25, thread), *fans, hairline(17, line, 1, stroke_dasharray="4 3"), hairline(0, line)]
     mask = element("mask", element("rect", width=WIDTH, height=HEIGHT, fill="#fff") + holes, id="holes")
-    return svg(WIDTH, HEIGHT, mask, group(*cloth, mask="url(#holes)"), dots(eyelets, 2.8, stroke=line, stroke_width=1),
+    return svg(WIDTH, HEIGHT, mask, group(*cloth, mask="url(#holes)"),
+               dots(eyelets, 2.8, fill=hue("walnut", LIGHT), stroke=line, stroke_width=1),
                *(placed(fan_holes("none", line), *place) for place in scallops))
 
 
@@ -44,37 +46,30 @@ HEART = "M0 9C-12 1 -9 -8 -4 -8C-1.5 -8 0 -6 0 -4.5C0 -6 1.5 -8 4 -8C9 -8 12 1 0
 
 
 def hearts():
-    """Hearts, large and small by turns, on a rim of rose paper."""
-    paper, line = mixed(hue("rose", LIGHT), PAPER, .45), hue("rose", LINE)
-    large = (path(HEART, fill="url(#rose)", stroke=line, stroke_width=1)
-             + path("M-5 -4.5q.6 -1 1.6 -1", stroke=PAPER, stroke_width=1.2))
-    small = path(HEART, fill="url(#blush)", stroke=line, stroke_width=1.5)
-    strewn = "".join(placed(large, x, y, 0, 1.75) if i % 2 == 0 else placed(small, x, y, 0, .95)
-                     for i, (x, y, _) in enumerate(around(22, 34.3)))
-    return svg(WIDTH, HEIGHT, ball("rose", hue("rose", LIGHT), hue("rose"), hue("rose", SHADE)),
-               ball("blush", PAPER, hue("rose", LIGHT), hue("rose")), ring(0, 30, paper),
-               hairline(0, line), hairline(28.5, hue("rose", SHADE)), strewn)
+    """Rose paper with a scalloped edge and a heart cut out of each scallop, through which the photograph shows."""
+    paper, line = mixed(hue("rose", LIGHT), PAPER, .3), hue("rose", LINE)
+    rim, under = mixed(hue("rose", LIGHT), PAPER, .75), hue("rose")
+    scallops = list(around(27, 37.5))
+    holes = "".join(placed(path(HEART, fill="#000"), x, y + 1, 0, 1.15) for x, y, _ in scallops)
+    rims = "".join(placed(path(HEART, stroke=line, stroke_width=1.2), x, y + 1, 0, 1.15)
+                   + placed(path(HEART, stroke=rim, stroke_width=1.4), x, y + 1, 0, 1.32) for x, y, _ in scallops)
+    sheet = [dots(scallops, 21.5, fill=line), dots(scallops, 20, fill=under), dots(scallops, 18.2, fill=paper),
+             ring(0, 27, paper)]
+    mask = element("mask", element("rect", width=WIDTH, height=HEIGHT, fill="#fff") + holes, id="holes")
+    return svg(WIDTH, HEIGHT, mask, group(*sheet, mask="url(#holes)"), rims,
+               hairline(7, under, 1.5, stroke_dasharray="0.1 5.87", stroke_linecap="round"), edges(0, rim, under, 3),
+               hairline(0, line))
 
 
 def leaves():
-    """A vine with red berries that winds along a narrow rim of cream paper."""
-    paper, line = mixed(PAPER, hue("straw", LIGHT), .4), hue("moss", LINE)
-    chance = random.Random("vine")
-    stem, sprays = [], []
-    for i, place in enumerate(along_rounded(22, 24, 8)):
-        x, y = moved_in(place, 4.5 * math.sin(i * math.pi / 4))
-        stem.append((x, y))
-        side = 1 if i // 2 % 2 else -1
-        if i % 2 == 0:
-            kind, turn = chance.choice((("leaf", 46), ("moss", 54), ("leaf", 62)))
-            sprays.append(placed(leaf(23, 9.5, kind), x, y, place[2] + side * turn, chance.uniform(.85, 1.1)))
-        elif i % 9 == 4:
-            berry = element("circle", r=5, fill="url(#berry)", stroke=hue("terracotta", LINE), stroke_width=1.3)
-            sprays.append(placed(berry, *moved_in(place, -side * 10)))
-    return svg(WIDTH, HEIGHT, ball("berry", hue("terracotta", LIGHT), hue("terracotta"), hue("terracotta", SHADE)),
-               ring(0, 26, paper), hairline(0, line), hairline(24.5, line),
-               path(line_through(stem) + "Z", stroke=line, stroke_width=3.2),
-               path(line_through(stem) + "Z", stroke=hue("moss"), stroke_width=1.2), *sprays)
+    """Leaves cut from paper in two greens, one layer over the other, that reach into the photograph from a rim."""
+    line, rim = hue("moss", LINE), mixed(hue("moss", LIGHT), PAPER, .35)
+    sprigs = list(around(14, 50))
+    behind = "".join(placed(leaf(30, 10, "moss"), x, y, degrees + 90 + turn)
+                     for x, y, degrees in sprigs for turn in (-48, 48))
+    before = "".join(placed(leaf(27, 10, "leaf"), x, y, degrees + 90) for x, y, degrees in sprigs)
+    return svg(WIDTH, HEIGHT, behind, before, ring(0, 17, rim), hairline(0, line), hairline(15.5, line),
+               edges(1.5, mixed(rim, PAPER, .7), hue("moss"), 2.5), hairline(7.5, hue("moss"), 1.4))
 
 
 def linen():
@@ -101,9 +96,22 @@ def linen():
                edges(0, hue("plum", LIGHT), line, 3), hairline(0, line), hairline(BORDER - 1.5, line, 2))
 
 
+def plank(length, name, board, tones):
+    """Wood whose grain runs along the side."""
+    chance = random.Random(name)
+    grain = [element("rect", x=-1, y=-1, width=length + 2, height=44, fill=board)]
+    for _ in range(46):
+        x, y, run = chance.uniform(-60, length), chance.uniform(1, 41), chance.uniform(60, 220)
+        bend = chance.uniform(-2.5, 2.5)
+        grain.append(path(f"M{x:.1f} {y:.1f}q{run / 2:.1f} {bend:.1f} {run:.1f} 0", stroke=chance.choice(tones),
+                          stroke_width=chance.uniform(.8, 1.6)))
+    return grain
+
+
 def rope():
-    """A laid rope on a painted board, its ends bound with thread below."""
-    board, line = hue("teal", SHADE), hue("teal", LINE)
+    """A laid rope on a board of walnut, its ends bound with thread below."""
+    board, line = hue("walnut"), hue("walnut", LINE)
+    tones = (mixed(board, hue("walnut", SHADE), .7), mixed(board, hue("walnut", LIGHT), .35))
     hemp, dark = mixed(hue("straw", LIGHT), hue("walnut", LIGHT), .5), hue("walnut", LINE)
     strand = (element("ellipse", rx=15, ry=6.6, fill=hemp, stroke=dark, stroke_width=1.4)
               + path("M-11 -2Q-3 -4.5 9 -2.5", stroke=mixed(hemp, PAPER, .75), stroke_width=1.8)
@@ -116,7 +124,8 @@ def rope():
                 + path("M-11 -13V13M-5.5 -13V13M0 -13V13M5.5 -13V13M11 -13V13", stroke=hue("terracotta", SHADE),
                        stroke_width=1.5)
                 + path("M-13 -10H13", stroke=hue("terracotta", LIGHT), stroke_width=2))
-    return svg(WIDTH, HEIGHT, ring(0, 42, board), edges(0, hue("teal"), line, 3), edges(40, line, hue("teal"), 2),
+    return svg(WIDTH, HEIGHT, four_sides(42, lambda length, lit, name: plank(length, name, board, tones)),
+               edges(0, hue("walnut", LIGHT), line, 3), edges(40, line, hue("walnut", LIGHT), 2),
                hairline(0, line), hairline(41, line),
                path(rectangle_line(22, 34), stroke=line, stroke_width=28, transform="translate(1.5 2)"),
                *strands, placed(whipping, WIDTH / 2, HEIGHT - 22))

@@ -46,13 +46,9 @@ def film_strip():
     holes = "".join(
         element("rect", x=x, y=y, width=20, height=height, rx=4, fill=PAPER, stroke=line, stroke_width=1.5)
         for x in range(10, WIDTH, 40) for y in (12, HEIGHT - 12 - height))
-    amber, marked = hue("amber"), ((60, 14), (260, 8), (460, 14))
-    marks = "".join(path(f"M{x} 3.5V8.5l6 -2.5Z", fill=amber)
-                    + path(f"M{x + 12} 6h{run}", stroke=amber, stroke_width=2.5)
-                    for x, run in marked)
     window = f"M24 {band}H{WIDTH - 24}V{HEIGHT - band}H24Z"
     return svg(WIDTH, HEIGHT, path(rectangle_line(0) + window, fill=film, fill_rule="evenodd"),
-               path(f"M0 2H{WIDTH}", stroke=hue("walnut"), stroke_width=1.5), holes, marks,
+               path(f"M0 2H{WIDTH}", stroke=hue("walnut"), stroke_width=1.5), holes,
                path(window, stroke=line, stroke_width=2, stroke_linejoin="miter"))
 
 
