@@ -39,9 +39,20 @@ QImage LoadPicture(const std::string& fileName, QSize most = {}) try {
   return {};
 }
 
+// The picture with twice as many pixels where the screen can show them and there is one, to be shown as large
+// as the plain one; else this one.
+QImage AsSharpAs(const QWidget& screen, const std::string& fileName, const QImage& plain) {
+  if (screen.devicePixelRatioF() <= 1 || plain.isNull()) return plain;
+  QImage sharp = LoadPicture("48/" + fileName);
+  if (sharp.size() != 2 * plain.size()) return plain;
+  sharp.setDevicePixelRatio(2);
+  return sharp;
+}
+
 // A transparent picture comes out on the colour of the page.
 QImage Flattened(const QImage& picture, const QColor& paper) {
   QImage flat(picture.size(), QImage::Format_RGB32);
+  flat.setDevicePixelRatio(picture.devicePixelRatio());
   flat.fill(paper);
   QPainter(&flat).drawImage(0, 0, picture);
   return flat;
@@ -86,6 +97,7 @@ void frmEmoticons::LayOut() {
   for (int i = 0; i < ScreenSize; ++i) {
     const QByteArray name = QStringLiteral("cmdEmoticons(%1)").arg(i).toLatin1();
     auto* button = Place(new QPushButton(this), name, ColumnLeft[i % Columns], RowTop[i / Columns], 480, 450);
+    button->setFlat(true);
     button->installEventFilter(this);
     connect(button, &QPushButton::clicked, this, [this, button] { cmdEmoticons_Click(*button); });
     cmdEmoticons[static_cast<std::size_t>(i)] = button;
@@ -119,11 +131,12 @@ void frmEmoticons::ShowScreen(int start) {
 }
 
 bool frmEmoticons::LoadEmoticon(QPushButton& button, const std::string& fileName) {
-  const QImage picture = LoadPicture(fileName, LargestOnAButton);
+  const QImage plain = LoadPicture(fileName, LargestOnAButton);
+  const QImage picture = AsSharpAs(*this, fileName, plain);
   if (picture.isNull()) return false;
   const QString name = QFile::decodeName(fileName.c_str());
   button.setIcon(QPixmap::fromImage(picture));
-  button.setIconSize(picture.size());
+  button.setIconSize(plain.size());
   button.setProperty("Tag", QByteArray::fromStdString(fileName));
   button.setAccessibleName(SpokenName(name));
   button.setAccessibleDescription(name);
@@ -193,7 +206,7 @@ void frmEmoticons::cmdEmoticons_Click(const QPushButton& button) {
   if (const QImage picture = LoadPicture(fileName); picture.isNull())
     platform::ShowMessage("The emoticon cannot be read any more:\n" + Folder() + "/" + fileName);
   else
-    Paste(picture);
+    Paste(AsSharpAs(*Face().txtM, fileName, picture));
   look::Discard(this);
 }
 

@@ -1,5 +1,6 @@
-"""Draws the emoticons: assets/emoticons/NNN-name.gif, each beside its source. Their numbers keep them in the order in
-which they are offered, sixty to a screen."""
+"""Draws the emoticons: assets/emoticons/NNN-name.gif, each beside its source, and in the folder 48 below them the same in
+twice as many pixels, for sharper screens. Their numbers keep them in the order in which they are offered, sixty to a
+screen."""
 
 from emoticons.animals import ANIMALS
 from emoticons.faces import FACES
@@ -9,26 +10,25 @@ from emoticons.love import LOVE
 from emoticons.travel import TRAVEL
 from emoticons.weather import WEATHER
 from emoticons.work import WORK
-from render import ASSETS, draw_gif
+from render import ASSETS, rendered, write_gif, write_source
 from shapes import picture
 
 CHAPTERS = (FACES, WEATHER, FOOD, ANIMALS, LOVE, TRAVEL, FEASTS, WORK)
-FOLDER = "emoticons"
-
-
-def file_name(number, thing):
-    return f"{FOLDER}/{number:03}-{thing.lower().replace(' ', '-')}"
+FOLDER = ASSETS / "emoticons"
+SHARP = FOLDER / "48"
 
 
 def main():
     drawn = set()
     for chapter in CHAPTERS:
         for thing, parts in chapter.items():
-            name = file_name(len(drawn) + 1, thing)
-            draw_gif(name, picture(24, 1.25, parts), name)
-            drawn.add(ASSETS / name)
-    for path in (ASSETS / FOLDER).iterdir():
-        if path.with_suffix("") not in drawn:
+            name = f"{len(drawn) + 1:03}-{thing.lower().replace(' ', '-')}"
+            source = write_source(f"emoticons/{name}", picture(24, 1.25, parts))
+            for scale, folder in ((1, FOLDER), (2, SHARP)):
+                write_gif(rendered(source, scale), folder / f"{name}.gif")
+            drawn.add(name)
+    for path in (*FOLDER.iterdir(), *SHARP.iterdir()):
+        if path.is_file() and path.stem not in drawn:
             path.unlink()  # from a drawing that had another name or place
 
 

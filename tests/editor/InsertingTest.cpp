@@ -88,6 +88,21 @@ TEST_F(EmoticonTest, SixtyToAScreenAndAFullLastScreenHasAnEmptyOneBehindIt) {
   });
 }
 
+// Run once more at a scaling of 2.
+TEST_F(EmoticonTest, HasTwiceAsManyPixelsOnASharpScreenAndTheSamePlaceInTheText) {
+  Begin({"cover", "one"});
+  Put(1);
+  QDir().mkpath(QString::fromStdString(folder.PathOf("emoticons/48")));
+  QImage sharp(20, 20, QImage::Format_RGB32);
+  sharp.fill(Qt::red);
+  sharp.save(QString::fromStdString(folder.PathOf("emoticons/48/e1000.gif")), "PNG");
+  InPicker([](frmEmoticons& picker) { Click(picker.cmdEmoticons[0]); });
+  QCoreApplication::processEvents();
+  const bool isSharp = window().devicePixelRatioF() > 1;
+  EXPECT_EQ(QGuiApplication::clipboard()->image().width(), isSharp ? 20 : 10);
+  EXPECT_EQ(text().textCursor().charFormat().toImageFormat().width(), 10);
+}
+
 TEST_F(EmoticonTest, ShowsNoneThatIsNoPictureAndPutsOneOnThePapersColour) {
   const auto row = Begin({"cover", "one"});
   Press("btnInsertEmoticon");

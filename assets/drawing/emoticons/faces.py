@@ -63,6 +63,8 @@ HOWL = flat("M8 18.6C8 15.8 9.6 14 12 14S16 15.8 16 18.6Q12 16.6 8 18.6Z", FEATU
 TONGUE_OUT = (line("M7.2 14.2Q12 17 16.8 14.2") +
               body("M10 15.6V18A2.2 2.2 0 0 0 14.4 18V15.6Q12.2 16.2 10 15.6Z", "rose"))
 
+TONGUE_ASIDE = body("M12.6 15.6L13.6 18.4A2.2 2.2 0 0 0 17.8 17L16.6 14.2Q14.6 15.4 12.6 15.6Z", "rose")
+
 
 def gape(rx, ry, y=16):
     return spot(12, y, rx, FEATURE, ry)
@@ -71,6 +73,7 @@ def gape(rx, ry, y=16):
 # What a face wears and sheds.
 
 BLUSH = both(spot(6, 14, 1.9, "rose", 1.3))
+ROSY_CHEEKS = both(spot(5.8, 13.8, 2.5, "rose", 1.8))
 TEAR = drop(6.2, 14.6, 5)
 RING = "M12 2.2C15.8 2.2 18 3 18 4.1S15.8 6 12 6S6 5.2 6 4.1S8.2 2.2 12 2.2Z"
 HALO = stroke(RING, "gilt--", 3) + stroke(RING, "straw", 1.3)
@@ -208,14 +211,14 @@ LASHES = both(line("M6.8 8.2L5.4 6.8M8.4 7.6V5.8", 1))
 
 FACES = {
     "smile": face(DOTS, SMILE),
-    "pleased": face(HAPPY, SMALL_SMILE, BLUSH),
+    "pleased": face(HAPPY, SMALL_SMILE, ROSY_CHEEKS),
     "grin": face(DOTS, GRIN),
     "laugh": face(HAPPY, LAUGH),
     "hearty laugh": face(SQUINT, LAUGH),
     "tears of joy": face(HAPPY, LAUGH, drop(3.4, 13, 6.4), drop(20.6, 13, 6.4)),
     "wink": face(WINK, SMILE),
     "tongue": face(DOTS, TONGUE_OUT),
-    "cheeky": face(WINK, TONGUE_OUT),
+    "cheeky": face(WINK, line("M7.2 13.8Q12 16.6 17.4 13"), TONGUE_ASIDE),
     "tasty": face(HAPPY, SMILE, LICK),
     "cool": face(SHADES, SMIRK),
     "shy": face(CLOSED, SMALL_SMILE, BLUSH),
@@ -237,9 +240,9 @@ FACES = {
     "surprised": face(both(spot(8.4, 9.6, 1.35, FEATURE, 1.95)), HIGH_BROWS, gape(2.2, 2.8)),
     "astonished": face(wide(0, 0, 2.9, .9), gape(2.8, 3.4, 16.6)),
     "embarrassed": face(wide(0, .6, 2.5), BLUSH, FLAT),
-    "worried": face(DOTS, SAD_BROWS, WAVE),
+    "worried": face(wide(0, .2, 2.3, 1), both(line("M5 6.8L9.4 4.6", 1.2)), WAVE),
     "relieved": face(CLOSED, SMALL_SMILE, SWEAT),
-    "sad": face(DOTS, SAD_BROWS, FROWN),
+    "sad": face(moved(DOTS, 0, 1), moved(SAD_BROWS, 0, .6), moved(FROWN, 0, .8)),
     "tear": face(DOTS, SAD_BROWS, FROWN, TEAR),
     "weeping": face(CLOSED, SAD_BROWS, STREAMS, HOWL),
     "cross": face(DOTS, CROSS_BROWS, FROWN),
