@@ -14,6 +14,7 @@ OVER = FINE  # samples a pixel of the window, which has several of a picture tha
 # By the scaling:
 QUALITY = {1: 95, 2: 88}  # fine threads keep their shape, and no blocks show
 REACH = {1: 2.5, 2: 2.3}  # lightness above and below the tint; compression adds a little
+WOVEN_REACH = {1: 2.0, 2: 2.0}  # and more where thread meets thread
 MOST_LIGHTNESS = 6.0  # of a hundred, from the darkest pixel to the lightest
 LEAST_CONTRAST = 7.0  # of black text
 
@@ -53,7 +54,7 @@ def even(number):
 # Materials: a source of chance and a shape in samples give two fields, a tone of about -1 to 1 and a turn of the hue
 # from -1 to 1.
 
-PITCH = 4.0  # pixels from thread to thread
+PITCH = 6.0  # pixels from thread to thread
 
 
 def threads(place, length, wobble):
@@ -72,7 +73,7 @@ def linen(rng, shape):
     weft = -odd_down * np.sin(np.pi * across) + 1.1 * round_down
     tone = np.where(warp > weft, noise(rng, shape, 1.1, 60), noise(rng, shape, 60, 1.1))
     height = blurred(np.maximum(warp, weft), 0.4, 0.4)
-    return 1.1 * lit(height) + 0.30 * (height - height.mean()) + 0.18 * tone, tone * 0.2
+    return 2.2 * lit(height) + 0.55 * (height - height.mean()) + 0.25 * tone, tone * 0.2
 
 
 def fibre(rng, shape):
@@ -173,14 +174,14 @@ def check(path):
         raise SystemExit(f"{path.name}: lightness {light.min():.2f} to {light.max():.2f}, contrast {contrast:.2f}")
 
 
-def draw(material, name, size, seed, tint, turned):
+def draw(material, name, size, seed, tint, turned, reach=None):
     """Once for screens of one pixel to a point, and once for those of two."""
     global OVER
     for scale, suffix in ((1, ""), (2, "@2x")):
         OVER = FINE * scale
         tone, turn = material(np.random.default_rng(seed), (size[1] * OVER, size[0] * OVER))
         path = ASSETS / "themes" / f"{name}{suffix}.jpg"
-        save(coloured(reduced(tone), reduced(turn), tint, turned, REACH[scale]), path, QUALITY[scale])
+        save(coloured(reduced(tone), reduced(turn), tint, turned, (reach or REACH)[scale]), path, QUALITY[scale])
         check(path)
 
 
@@ -189,8 +190,8 @@ BLUE = ((0xC0, 0xC0, 0xFF), (-1.5, 1.5, 0))
 PINK = ((0xFF, 0xC0, 0xC0), (0, 3, -6))
 PURPLE = ((0xFF, 0xC0, 0xFF), (-6, 2.5, 0))
 
-draw(linen, "blue-large", LARGE, 11, *BLUE)
-draw(linen, "blue-button", (199, 107), 12, *BLUE)
+draw(linen, "blue-large", LARGE, 11, *BLUE, WOVEN_REACH)
+draw(linen, "blue-button", (199, 107), 12, *BLUE, WOVEN_REACH)
 draw(paper, "pink-large", LARGE, 21, *PINK)
 draw(paper, "pink-button", (205, 120), 22, *PINK)
 draw(marble, "purple-large", LARGE, 31, *PURPLE)
