@@ -1,5 +1,7 @@
 #include "app/Start.h"
 
+#include <cstdio>
+
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 
@@ -59,6 +61,14 @@ void TellThatTheFolderIsInUse(platform::Meeting meeting) {
                             "changes nothing. " +
                             advice,
                         platform::BoxIcon::Stop);
+}
+
+// Nobody who started it at a terminal is to wonder why no window came.
+void TellThatItOnlyAsks() {
+  std::fputs(
+      "Thornquill: the diary is open already. The desktop did not let its window come to the front; it "
+      "asks for your attention.\n",
+      stderr);
 }
 
 QWidget* VisibleWindow() {
@@ -128,7 +138,10 @@ void ActivatePrevInstance(platform::RunningInstance& instance, const platform::A
   if (instance.IsFirst()) return;
   const platform::Meeting meeting = instance.HandOver(token);
   if (meeting == platform::Meeting::IsFirst) return;
-  if (meeting != platform::Meeting::HandedOver) TellThatTheFolderIsInUse(meeting);
+  if (meeting == platform::Meeting::Announced)
+    TellThatItOnlyAsks();
+  else if (meeting != platform::Meeting::HandedOver)
+    TellThatTheFolderIsInUse(meeting);
   platform::EndProcess();
 }
 

@@ -30,8 +30,14 @@ constexpr QSize FrameAround{16, 48};
 
 Qt::WindowFlags FlagsOf(Form::Kind kind) {
   const Qt::WindowFlags both = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-  if (kind == Form::Kind::Dialog) return Qt::Dialog | both;
+  if (kind == Form::Kind::Dialog) return Qt::Dialog | Qt::CustomizeWindowHint | both;
   return Qt::Window | both | Qt::WindowMinMaxButtonsHint;
+}
+
+// On Wayland a program cannot raise its windows, and only a new one gets the keyboard.
+bool CanOnlyComeAnew(const QWidget& window) {
+  const bool wayland = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+  return wayland && window.isVisible() && !window.isActiveWindow();
 }
 
 QScreen* ScreenForNewWindows() {
@@ -74,6 +80,7 @@ void Form::SetPicture(const QPixmap& picture) {
 void Form::ShowModeless() {
   CentreOnce();
   setModal(false);
+  if (CanOnlyComeAnew(*this)) hide();
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();

@@ -27,12 +27,13 @@ class Form : public QDialog {
   void SetCaption(const QString& caption);
   const QString& Caption() const { return caption_; }
 
-  // The background, from the top left corner at its natural size, cut at the window's edges;
-  // beyond the picture the theme's plain surface.
+  // The background, from the top left corner at its natural size, which grows with the window's design, cut
+  // at the window's edges; beyond the picture the theme's plain surface.
   void SetPicture(const QPixmap& picture);
   const QPixmap& Picture() const { return picture_; }
 
-  // Shows the window, centred on the screen the first time, and brings it to the front.
+  // Shows the window, centred on the screen the first time, and brings it to the front. Where the desktop
+  // lets no program do that with a window that stands there, it comes anew.
   void ShowModeless();
   // Shows it over the active window, which it blocks, and returns when it has been hidden.
   void ShowModal();

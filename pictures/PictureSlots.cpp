@@ -10,6 +10,7 @@
 
 #include "look/PictureBox.h"
 #include "look/Spoken.h"
+#include "pictures/DragPlace.h"
 #include "pictures/PageRows.h"
 #include "pictures/PictureKeys.h"
 #include "pictures/StretchedImage.h"
@@ -26,10 +27,8 @@ static void LinkResources() {
 
 namespace {
 
-constexpr int HandleTop = 1;
 constexpr int HandleHeight = 20;
 constexpr int FrameLeft = 1;
-constexpr int TitleBarAllowance = 32;
 constexpr std::chrono::milliseconds Lingering(500);
 
 QPointer<PictureSlots> theSlots;
@@ -82,7 +81,7 @@ void PictureSlots::MakeSlot(std::size_t slot, QWidget* page) {
   imgFrame[slot] = MakeImage(slot, "imgFrame", "Frame");
   imgFrame[slot]->move(FrameLeft, 0);
   imgController[slot] = MakeImage(slot, "imgController", "Handle");
-  imgController[slot]->setGeometry(0, HandleTop, box->width(), HandleHeight);
+  imgController[slot]->setGeometry(0, pictures::HandleTop, box->width(), HandleHeight);
   imgController[slot]->SetPicture(HandleBar(page->devicePixelRatioF()));
   imgController[slot]->setCursor(Qt::SizeAllCursor);
   imgController[slot]->hide();
@@ -191,12 +190,12 @@ void PictureSlots::imgController_MouseDown(std::size_t slot) {
   dragged_ = slot;
 }
 
-// The picture's corner goes to the pointer, wherever the handle was gripped: measured from the outer corner
-// of the window's border, and with a fixed allowance for its title bar. There is no limit to where it may go.
+// Wherever the handle was gripped. There is no limit to where it may go.
 void PictureSlots::imgController_MouseMove(std::size_t slot) {
   if (!dragged_) return;
-  const QPoint corner = page_->window()->frameGeometry().topLeft();
-  MoveTo(slot, QPoint(MouseTracker.X(), MouseTracker.Y() - TitleBarAllowance) - corner);
+  const QWidget& window = *page_->window();
+  MoveTo(slot, pictures::DragPlace({MouseTracker.X(), MouseTracker.Y()}, window.frameGeometry(),
+                                   window.geometry()));
 }
 
 void PictureSlots::MoveTo(std::size_t slot, QPoint place) {

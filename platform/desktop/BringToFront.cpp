@@ -1,3 +1,4 @@
+#include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
@@ -26,10 +27,17 @@ void Activate(QWidget& window, const ActivationToken& token) {
   window.activateWindow();
 }
 
+void AskForAttentionIfNeeded(QWidget& window) {
+  QTimer::singleShot(RunningInstance::Grace, &window, [&window] {
+    if (!QGuiApplication::focusWindow()) QApplication::alert(&window);
+  });
+}
+
 }  // namespace
 
 void BringToFront(QWidget& window, const ActivationToken& token) {
   Activate(window, token);
+  AskForAttentionIfNeeded(window);
   // Only the dialog that holds the window up can be answered, so it is what must be in front.
   QWidget* dialog = QApplication::activeModalWidget();
   if (dialog && dialog != &window && dialog->isVisible()) Activate(*dialog, token);

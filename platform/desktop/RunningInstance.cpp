@@ -9,6 +9,8 @@
 #include <QtCore/QEventLoop>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QWindow>
 #include <QtNetwork/QLocalServer>
 #include <QtNetwork/QLocalSocket>
 
@@ -21,9 +23,10 @@ namespace {
 using std::chrono::milliseconds;
 
 // A second start says one line: this word, the timestamp, and the startup id in hexadecimal digits. The first
-// one answers with a line of its own when its window is in front.
+// one answers with a line of its own: its window is in front, or only asks for attention.
 constexpr char activate[] = "activate";
 constexpr char done[] = "done\n";
+constexpr char announced[] = "announced\n";
 constexpr qint64 longestRequest = 4096;
 constexpr milliseconds longestTalk{2000};
 constexpr milliseconds patienceWithStrangers{2000};
@@ -73,6 +76,14 @@ void RunEvents(milliseconds time) {
   events.exec();
 }
 
+// A start that shows nothing yet has nothing to bring forward.
+bool IsInFront() {
+  const QWindowList windows = QGuiApplication::topLevelWindows();
+  const bool shows =
+      std::any_of(windows.begin(), windows.end(), [](const QWindow* each) { return each->isVisible(); });
+  return !shows || QGuiApplication::focusWindow();
+}
+
 // What a second start has to say to the first one. It speaks but once to one that is busy, and anew to one
 // that was not there or went away.
 class Caller {
@@ -83,6 +94,7 @@ class Caller {
   }
   // Never waits: to be called again and again until it is so.
   bool IsAnswered();
+  bool IsInFront() const { return answer_ == done; }
   bool MetAStranger() const { return metAStranger_; }
 
  private:
@@ -92,12 +104,14 @@ class Caller {
   const QString name_;
   const QByteArray request_;
   QLocalSocket socket_;
+  QByteArray answer_;
   bool hasSpoken_ = false;
   bool metAStranger_ = false;
 };
 
 bool Caller::IsAnswered() {
-  if (socket_.canReadLine()) return socket_.readLine() == done;  // the other end may be closed already
+  if (socket_.canReadLine()) answer_ = socket_.readLine();  // the other end may be closed already
+  if (answer_ == done || answer_ == announced) return true;
   if (socket_.state() == QLocalSocket::UnconnectedState) Connect();
   if (socket_.state() == QLocalSocket::ConnectedState && !hasSpoken_) Speak();
   return false;
@@ -161,7 +175,7 @@ Meeting RunningInstance::HandOver(const ActivationToken& token) {
   }
   // No window of this start will ever come up to tell the desktop so.
   if (x11 && !token.startupId.isEmpty()) EndStartupSequence(x11.get(), token.startupId.toStdString());
-  return Meeting::HandedOver;
+  return caller.IsInFront() ? Meeting::HandedOver : Meeting::Announced;
 }
 
 void RunningInstance::Answer() {
@@ -186,12 +200,23 @@ void RunningInstance::Hear(QLocalSocket& socket) {
   if (!ReadRequest(socket.readLine(longestRequest), token)) return socket.abort();
   const QPointer<QLocalSocket> asking = &socket;  // the listeners may run events, and its patience may end
   Q_EMIT ActivationRequested(token);
-  if (!asking) return;
-  // Behind what came before the request: one that is being told to end must not send the new one away.
-  QTimer::singleShot(0, asking, [asking] {
-    asking->write(done);
-    asking->disconnectFromServer();
+  if (asking) TellHowItWent(*asking);
+}
+
+// Behind what came before the request: one that is being told to end must not send the new one away.
+void RunningInstance::TellHowItWent(QLocalSocket& asking) {
+  auto* look = new QTimer(&asking);
+  QElapsedTimer sinceAsked;
+  sinceAsked.start();
+  connect(look, &QTimer::timeout, &asking, [&asking, look, sinceAsked] {
+    const bool isInFront = IsInFront();
+    look->start(untilTheNextTry);
+    if (!isInFront && milliseconds(sinceAsked.elapsed()) < Grace) return;
+    look->stop();
+    asking.write(isInFront ? done : announced);
+    asking.disconnectFromServer();
   });
+  look->start(0);
 }
 
 }  // namespace platform

@@ -30,6 +30,7 @@ struct ActivationToken {
 enum class Meeting {
   IsFirst,      // the other one is gone, and this one has its place
   HandedOver,   // the other one is in front
+  Announced,    // the other one asks for attention: the desktop did not let it come to the front
   Silent,       // the other one does not answer
   AnotherUser,  // the folder is in use, and who has the socket's name belongs to another user
 };
@@ -39,6 +40,8 @@ class RunningInstance : public QObject {
 
  public:
   static constexpr std::chrono::milliseconds Patience{10'000};
+  // So long a desktop may take to bring a window to the front.
+  static constexpr std::chrono::milliseconds Grace{1'000};
 
   // Becomes the first instance when no other one holds the program's folder, which it keeps open. Call
   // HandOver when it is not.
@@ -56,7 +59,8 @@ class RunningInstance : public QObject {
   static ActivationToken TokenOfThisStart();
 
  Q_SIGNALS:
-  // Another start asks this instance to come to the front.
+  // Another start asks this instance to come to the front. What came of it is told when a window of this one
+  // has the keyboard, or has not got it after a while.
   void ActivationRequested(const platform::ActivationToken& token);
 
  private:
@@ -64,6 +68,7 @@ class RunningInstance : public QObject {
   void Listen();
   void Answer();
   void Hear(QLocalSocket& socket);
+  void TellHowItWent(QLocalSocket& asking);
 
   const std::chrono::milliseconds patience_;
   FolderLock lock_;
@@ -72,7 +77,8 @@ class RunningInstance : public QObject {
   bool first_ = false;
 };
 
-// Restores the window if it is minimised and brings it to the front on the token's behalf.
+// Restores the window if it is minimised and brings it to the front on the token's behalf. Where the desktop
+// does not let it, the window soon asks for attention.
 void BringToFront(class ::QWidget& window, const ActivationToken& token);
 
 }  // namespace platform

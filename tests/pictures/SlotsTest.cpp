@@ -1,6 +1,7 @@
 // The pictures of a page, as they show and as a mouse handles them. The events come from the window, as the
 // display system's do, so that the toolkit itself decides who gets them.
 #include "look/PictureBox.h"
+#include "pictures/DragPlace.h"
 #include "pictures/StretchedImage.h"
 #include "store/PictureStore.h"
 #include "tests/pictures/PicturePage.h"
@@ -117,6 +118,17 @@ TEST_F(Slots, AClickSelectsAndTheHandleStaysInItsSlot) {
   EXPECT_FALSE(folder.Exists("tqpics.bin"));
 }
 
+// Frames of a window whose client area begins at 100,200: with a title bar, with a border alone, with
+// nothing.
+TEST(DragPlace, AllowsForATitleBarWhereThereIsOne) {
+  const QRect client(100, 200, 565, 648);
+  for (const auto& [margins, place] : {std::pair{QMargins(4, 30, 4, 4), QPoint(54, 68)},
+                                       {{0, 24, 0, 0}, {50, 62}},
+                                       {{2, 2, 2, 2}, {50, 69}},
+                                       {{}, {50, 69}}})
+    EXPECT_EQ(pictures::DragPlace({150, 270}, client.marginsAdded(margins), client), place) << margins.top();
+}
+
 TEST_F(Slots, ADragGoesByThePointerAndTheWindowsCornerWithoutLimits) {
   Add(photo, {30, 40, 50, 50});
   ShowPagePictures();
@@ -124,7 +136,7 @@ TEST_F(Slots, ADragGoesByThePointerAndTheWindowsCornerWithoutLimits) {
   Click({50, 50}, Qt::RightButton);
   EXPECT_EQ(Saved(), "30,40 ") << "a plain click of any button on the handle saves";
   Press({50, 50});
-  const QPoint border = page.mapToGlobal(QPoint()) - page.frameGeometry().topLeft() - QPoint(0, 32);
+  const QPoint border(0, -1);  // the handle's upper edge: no title bar here
   for (const QPoint at : {QPoint(900, -300), QPoint(-70, 700)}) {
     QCursor::setPos(page.mapToGlobal(at));
     QTest::mouseMove(page.windowHandle(), at);

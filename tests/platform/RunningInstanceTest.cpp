@@ -1,4 +1,5 @@
 
+#include <QtGui/qpa/qwindowsysteminterface.h>
 #include <QtNetwork/QLocalServer>
 #include <QtNetwork/QLocalSocket>
 
@@ -166,6 +167,11 @@ TEST(RunningInstance, TheTokenIsHandedOverAndStrangeWordsAreShownTheDoor) {
   ASSERT_EQ(first.asked.size(), 1);
   EXPECT_EQ(first.asked[0].startupId, "launcher-1 \"x\"\n_TIME77");
   EXPECT_EQ(first.asked[0].timestamp, 77u);
+  QWidget behind;
+  behind.show();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&behind));
+  QWindowSystemInterface::handleWindowActivated(nullptr);
+  EXPECT_EQ(RunningInstance().HandOver({}), Meeting::Announced) << "no window of it has the keyboard";
 }
 
 TEST(RunningInstance, TheDesktopsVariablesAreRead) {
