@@ -6,6 +6,7 @@
 #include <QtGui/QPdfWriter>
 
 #include "editor/frmJournal.h"
+#include "look/Progress.h"
 #include "output/JoinedPages.h"
 #include "output/PrintDialog.h"
 #include "output/modPrint.h"
@@ -38,7 +39,8 @@ void OneJournal(std::int32_t pages) {
 void JoinThePages(benchmark::State& state) {
   const auto pages = static_cast<std::int32_t>(state.range(0));
   OneJournal(pages);
-  for ([[maybe_unused]] auto iteration : state) benchmark::DoNotOptimize(JoinedPages(0, pages));
+  look::Progress progress;
+  for ([[maybe_unused]] auto iteration : state) benchmark::DoNotOptimize(JoinedPages(0, pages, progress));
   state.SetComplexityN(pages);
 }
 BENCHMARK(JoinThePages)

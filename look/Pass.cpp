@@ -18,6 +18,7 @@ constexpr std::chrono::milliseconds Frame{16};
 int depth = 0;
 int stillness = 0;
 bool serving = false;
+QPointer<QWidget> letThrough;
 std::vector<std::function<void()>> afterwards;
 
 bool IsUserInput(QEvent::Type type) {
@@ -36,6 +37,12 @@ bool IsUserInput(QEvent::Type type) {
     default:
       return false;
   }
+}
+
+bool IsLetThrough(QObject* receiver) {
+  if (!letThrough) return false;
+  const auto* widget = qobject_cast<QWidget*>(receiver);
+  return widget ? widget->window() == letThrough : receiver == letThrough->windowHandle();
 }
 
 using KeptInput = std::vector<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>>;
@@ -57,6 +64,7 @@ class InputKeeper : public QObject {
   bool eventFilter(QObject* receiver, QEvent* event) override {
     // A message box that opens meanwhile runs a loop of its own and must be answered.
     if (QThread::currentThread()->loopLevel() != level_ || !IsUserInput(event->type())) return false;
+    if (IsLetThrough(receiver)) return false;
     kept_->emplace_back(receiver, event->clone());
     return true;
   }
@@ -108,11 +116,15 @@ bool Pass::Serve() {
   serving = true;
   {
     const InputKeeper keeper;
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    QCoreApplication::processEvents(letThrough ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
   }
   serving = false;
   lastServed_ = std::chrono::steady_clock::now();
   return true;
+}
+
+void Pass::LetThrough(QWidget* window) {
+  letThrough = window;
 }
 
 bool Pass::InProgress() {

@@ -18,6 +18,10 @@
 // has come to its end. It may serve events more than once on its way, each time in a pass, of which the
 // second keeps back what the first one left waiting.
 //
+// One window may be let through: that of look/Progress, which cancels what the pass does. While it is up,
+// nothing waits in the queue: it takes the keys, and what is meant for another window is lost, as before any
+// modal dialog.
+//
 // A box that opens in a pass has a loop of its own, and can be answered; yet what waits goes on waiting
 // behind it, and of a box over a page half shown nobody knows what it speaks of. So a pass of one page
 // (editor/PagePasses) ends before its failure is told, and a message that can wait is not told in a pass at
@@ -28,6 +32,8 @@
 
 #include <chrono>
 #include <functional>
+
+class QWidget;
 
 namespace look {
 
@@ -53,6 +59,9 @@ class Pass {
     Stillness(const Stillness&) = delete;
     Stillness& operator=(const Stillness&) = delete;
   };
+
+  // From now on passes serve this window with all its input; null for none.
+  static void LetThrough(QWidget* window);
 
   static bool InProgress();
   // Runs the action from the event loop once no pass is in progress.

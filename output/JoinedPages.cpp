@@ -1,7 +1,7 @@
 #include "output/JoinedPages.h"
 
 #include "editor/PagePasses.h"
-#include "look/Pass.h"
+#include "look/Progress.h"
 #include "output/frmPrintRTF.h"
 #include "platform/Dates.h"
 #include "platform/dialogs/ReportFailure.h"
@@ -24,16 +24,16 @@ QString DateLine(std::int32_t page) {
 
 }  // namespace
 
-QString JoinedPages(std::int32_t first, std::int32_t last) {
+QString JoinedPages(std::int32_t first, std::int32_t last, look::Progress& progress) {
   richtext::RichTextBox& box = *look::The<frmPrintRTF>().txtM;
   const auto guarded = [](auto&& statement) { platform::Guarded("Error:", statement); };
-  look::Pass pass;
+  const QString reading = QStringLiteral("Reading the pages to print");
   QString joined;
-  for (std::int32_t page = first; page <= last; ++page) {
+  for (std::int32_t page = first; page <= last && progress.GoOn(reading, page - first, last - first + 1);
+       ++page) {
     guarded([&] { LoadPage(box, page); });
     guarded([&] { joined += DateLine(page); });
     guarded([&] { joined += box.Text().remove(QChar::ObjectReplacementCharacter) + LineEnd; });
-    pass.Yield();
   }
   return joined;
 }

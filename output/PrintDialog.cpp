@@ -8,9 +8,12 @@
 #include <QtPrintSupport/QPrintDialog>
 #include <QtPrintSupport/QPrinter>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QVBoxLayout>
 
+#include "output/PrintJob.h"
 #include "output/PrintRange.h"
+#include "platform/Failure.h"
 
 namespace {
 
@@ -33,11 +36,23 @@ class PrinterPaper : public richtext::Paper {
   QPaintDevice& Device() override { return *printer_; }
   QSizeF Area() const override { return printer_->pageLayout().paintRect(QPageLayout::Point).size(); }
   bool IsWhole() const override {
-    return printer_->outputFormat() != QPrinter::PdfFormat || EndsAsPdf(printer_->outputFileName());
+    if (IsFile()) return EndsAsPdf(printer_->outputFileName());
+    const std::string refusal = WhyJobWasRefused();
+    if (refusal.empty()) return true;
+    throw platform::Failure(platform::FailureKind::DeviceError, Name() + " (" + refusal + ")");
+  }
+  void Withdraw() override {
+    if (IsFile())
+      QFile::remove(printer_->outputFileName());
+    else
+      CancelNewestJob(Name(), printer_->docName().toStdString());
   }
   bool NextSheet() override { return printer_->newPage() && printer_->printerState() != QPrinter::Error; }
 
  private:
+  bool IsFile() const { return printer_->outputFormat() == QPrinter::PdfFormat; }
+  std::string Name() const { return printer_->printerName().toStdString(); }
+
   std::unique_ptr<QPrinter> printer_;
 };
 
@@ -51,6 +66,12 @@ void PutInPlace(PrintRange& range, QPrintDialog& dialog) {
     rows->insertWidget(1, &range);
   else
     dialog.setOptionTabs({&range});
+}
+
+// The toolkit proposes a name for the file on X11 alone, and the bare folder elsewhere.
+void ProposeFileName(QPrintDialog& dialog, const QString& name) {
+  auto* path = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
+  if (path && path->text().endsWith(u'/')) path->setText(path->text() + name + QStringLiteral(".pdf"));
 }
 
 // Tab goes as the eye does: from the printer over our choice to the buttons.
@@ -72,6 +93,7 @@ QPrintDialog* MakeDialog(QPrinter& printer, PrintRange*& range, const PrintReque
   range = new PrintRange(request, dialog);
   PutInPlace(*range, *dialog);
   PutInTabOrder(*range, *dialog);
+  ProposeFileName(*dialog, printer.docName());
   if (auto* browse = dialog->findChild<QWidget*>(QStringLiteral("fileBrowser")))
     browse->setAccessibleName(QStringLiteral("choose the output file"));
   return dialog;

@@ -9,7 +9,7 @@
 
 #include "editor/PageFace.h"
 #include "editor/SavingPages.h"
-#include "look/Pass.h"
+#include "look/Progress.h"
 #include "output/JoinedPages.h"
 #include "output/PrintDialog.h"
 #include "output/frmPrintRTF.h"
@@ -33,7 +33,7 @@ const JournalEntry& OpenEntry() {
 // The windows are alive while a long text goes to the printer, but take no commands.
 class LivelyPaper : public richtext::Paper {
  public:
-  explicit LivelyPaper(richtext::Paper& paper) : paper_(paper) {
+  LivelyPaper(richtext::Paper& paper, look::Progress& progress) : paper_(paper), progress_(progress) {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   }
   ~LivelyPaper() override { QGuiApplication::restoreOverrideCursor(); }
@@ -41,18 +41,22 @@ class LivelyPaper : public richtext::Paper {
   QSizeF Area() const override { return paper_.Area(); }
   bool IsWhole() const override { return paper_.IsWhole(); }
   bool NextSheet() override {
-    pass_.Yield();
-    return paper_.NextSheet();
+    const QString printing = QStringLiteral("Printing sheet %1").arg(++sheets_);
+    return progress_.GoOn(printing, 0, 0) && paper_.NextSheet();
   }
 
  private:
   richtext::Paper& paper_;
-  look::Pass pass_;
+  look::Progress& progress_;
+  int sheets_ = 1;
 };
 
-void PrintSelectionOf(const richtext::RichTextBox& box, const PrintOrder& order) {
-  LivelyPaper lively(*order.paper);
-  if (!box.PrintSelection(lively)) throw platform::Failure(platform::FailureKind::DeviceError, order.printer);
+// Who cancels wants no half of it.
+void PrintSelectionOf(const richtext::RichTextBox& box, const PrintOrder& order, look::Progress& progress) {
+  LivelyPaper lively(*order.paper, progress);
+  const bool printed = box.PrintSelection(lively);
+  if (progress.IsCancelled()) return order.paper->Withdraw();
+  if (!printed) throw platform::Failure(platform::FailureKind::DeviceError, order.printer);
 }
 
 // The dialog's bounds and the range of all pages come from the bookcase's row, which knows the pages that the
@@ -77,13 +81,15 @@ void SetJournalFont() {
 
 void PrintPages(std::int32_t first, std::int32_t last, const PrintOrder& order) {
   richtext::RichTextBox& box = *look::The<frmPrintRTF>().txtM;
+  look::Progress progress;
   Guarded([&] { box.SetTextRTF({}); });
-  const QString joined = JoinedPages(first, last);
+  const QString joined = JoinedPages(first, last, progress);
+  if (progress.IsCancelled()) return;
   Guarded(SetJournalFont);
   Guarded([&] { box.SetText(joined); });
   Guarded([&] { box.SetSelStart(0); });
   Guarded([&] { box.SetSelLength(static_cast<int>(box.Text().size())); });
-  Guarded([&] { PrintSelectionOf(box, order); });
+  Guarded([&] { PrintSelectionOf(box, order, progress); });
 }
 
 // Nobody sees the box, and the diary must not lie there in plain words when its journal is closed. The
@@ -102,7 +108,8 @@ void PrintSelection(const PrintOrder& order) {
         "print.");
     return;
   }
-  Guarded([&] { PrintSelectionOf(box, order); });
+  look::Progress progress;
+  Guarded([&] { PrintSelectionOf(box, order, progress); });
 }
 
 }  // namespace

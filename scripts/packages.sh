@@ -1,6 +1,6 @@
 # The Debian packages of the project, and how they come onto the machine. Sourced, not run.
 
-packages_to_build="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libxcb1-dev libxcb-xtest0-dev"
+packages_to_build="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libxcb1-dev libxcb-xtest0-dev libcups2-dev"
 packages_to_run="fonts-dejavu-core xdg-utils"
 packages_to_test="git libgtest-dev qt6-base-private-dev clang-format-14 xvfb openbox xdotool x11-utils poppler-utils python3 sway qt6-wayland"
 packages_to_test="$packages_to_test qt6-image-formats-plugins strace appstream desktop-file-utils"

@@ -14,10 +14,14 @@ class Paper {
   virtual QPaintDevice& Device() = 0;
   // The printable area of a sheet in points, 72 to the inch: the device counts it in whole dots.
   virtual QSizeF Area() const = 0;
-  // Goes on to the next sheet, while a painter is at work. False when the device has failed.
+  // Goes on to the next sheet, while a painter is at work. False when the device has failed, or the printing
+  // is given up.
   virtual bool NextSheet() = 0;
-  // When the painter has ended: whether everything has arrived, as far as can be known.
+  // When the painter has ended: whether everything has arrived, as far as can be known. Throws a
+  // platform::Failure where it is known why not.
   virtual bool IsWhole() const { return true; }
+  // When the painter has ended: takes back what was printed, as far as that is possible.
+  virtual void Withdraw() {}
 };
 
 }  // namespace richtext

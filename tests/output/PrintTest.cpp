@@ -1,6 +1,7 @@
 #include <cmath>
 #include <map>
 
+#include "look/Progress.h"
 #include "output/PrintDialog.h"
 #include "output/PrintRange.h"
 #include "output/frmPrintRTF.h"
@@ -63,6 +64,8 @@ class Printed : public QPaintDevice {
 
   const std::vector<Drawn>& All() const { return engine_.drawn; }
   const std::vector<QRectF>& Pictures() const { return engine_.pictures; }
+  std::function<void()> onSheet;
+  bool withdrawn = false;
   // The lines of each sheet as a person reads them, from left to right.
   Sheets Lines() const {
     std::map<std::pair<std::size_t, long>, std::multimap<double, std::string>> lines;
@@ -94,9 +97,11 @@ class Printed : public QPaintDevice {
     QSizeF Area() const override { return device.inches_ * 72.0; }
     bool NextSheet() override {
       ++device.engine_.sheet;
+      if (device.onSheet) device.onSheet();
       return true;
     }
     bool IsWhole() const override { return whole; }
+    void Withdraw() override { device.withdrawn = true; }
 
     Printed& device;
     bool whole;
@@ -233,6 +238,24 @@ TEST_F(Print, WhatCannotBePrintedIsTold) {
   Printed jammed;
   PrintOn(jammed, PrintChoice::All, 0, 0, false);
   EXPECT_EQ(answers.last(), "Error:The device reported an error: the attic's");
+}
+
+// From one second on a window stands there that cancels, and no other one hears a key.
+TEST_F(Print, ALongOneCanBeCancelledAndIsTakenBack) {
+  Begin({"title", "page"});
+  text().SetText(QString(u"line\n"_qs).repeated(5000));
+  text().selectAll();
+  Printed printer;
+  printer.onSheet = [] {
+    QThread::msleep(20);
+    auto* window = qobject_cast<look::frmProgress*>(QApplication::activeModalWidget());
+    if (!window) return;
+    QTimer::singleShot(0, window, [window] { QTest::keyClick(window->cmdCancel, Qt::Key_Space); });
+  };
+  PrintOn(printer, PrintChoice::Selection);
+  EXPECT_TRUE(printer.withdrawn);
+  EXPECT_FALSE(QApplication::activeModalWidget());
+  EXPECT_EQ(answers.texts(), Texts()) << "no failure";
 }
 
 // The text is laid out in pieces. Where one ends, no line is lost, printed twice or moved, also within a
