@@ -47,7 +47,7 @@ double Contrast(const QColor& first, const QColor& second) {
     };
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
   };
-  const auto [dark, light] = std::minmax(luminance(first), luminance(second));
+  const auto [dark, light] = std::minmax({luminance(first), luminance(second)});
   return (light + 0.05) / (dark + 0.05);
 }
 
