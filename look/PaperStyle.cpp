@@ -123,11 +123,16 @@ void PaperStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
   }
 }
 
-// A flat button is a label under the mouse alone.
+// A flat button is a label under the mouse alone, and a bar grows in the same colour behind another window.
 void PaperStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const {
   if (element == CE_PushButtonBevel && IsFlatUnderMouse(option)) PaintFace(*painter, *option, widget);
-  QProxyStyle::drawControl(element, option, painter, widget);
+  const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
+  if (element != CE_ProgressBarContents || !bar)
+    return QProxyStyle::drawControl(element, option, painter, widget);
+  QStyleOptionProgressBar active(*bar);
+  active.palette.setCurrentColorGroup(QPalette::Active);
+  QProxyStyle::drawControl(element, &active, painter, widget);
 }
 
 void PaperStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

@@ -33,19 +33,10 @@ frmWait::frmWait()
   bold.setBold(true);
   Label1->setFont(bold);
   ProgressBar1->setTextVisible(false);
-  DressBar();
 
   appearance_.setSingleShot(true);
   appearance_.setTimerType(Qt::PreciseTimer);
   connect(&appearance_, &QTimer::timeout, this, &frmWait::Appear);
-}
-
-// The bar grows in the theme's own colour.
-void frmWait::DressBar() {
-  if (Picture().isNull()) return;
-  QPalette colors = ProgressBar1->palette();
-  colors.setColor(QPalette::Highlight, HairlineOn(CurrentTheme().surface));
-  ProgressBar1->setPalette(colors);
 }
 
 void frmWait::ShowSoon() {

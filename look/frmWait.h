@@ -35,7 +35,6 @@ class frmWait : public Form {
   bool event(QEvent* event) override;
 
  private:
-  void DressBar();
   void Appear();
 
   bool wanted_ = false;

@@ -185,21 +185,22 @@ class Desktop : public QPlatformTheme {
 
 TEST_F(EveryWindow, WearsTheSameToThePixelOnALightAndOnADarkDesktop) {
   QApplication::setCursorFlashTime(0);
+  look::DressTheProgram();
   const auto grabbed = [](const QPalette& colors) {
     const Desktop desktop(colors);
-    look::DressTheProgram();
     std::map<QString, QImage> pictures;
     const auto grab = [&](QWidget& window) { pictures[window.objectName()] = window.grab().toImage(); };
     ForAll(grab);
     HelpWindow help(u"<h2><a name=\"a\">A chapter</a></h2>"_qs);
     grab(help);
+    grab(*std::unique_ptr<QMenu>(help.Browser->createStandardContextMenu()));
     ForEachOfTheToolkit(grab);
     look::UnloadAllForms();
     return pictures;
   };
   const auto light = grabbed(QPalette(QColor(0xef, 0xf0, 0xf1))),
              dark = grabbed(QPalette(QColor(0x31, 0x36, 0x3b)));
-  EXPECT_EQ(light.size(), 20u);
+  EXPECT_EQ(light.size(), 21u);
   for (const auto& [name, picture] : light) EXPECT_EQ(picture, dark.at(name)) << name.toStdString();
 }
 
