@@ -4,8 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include <QtGui/QPainter>
-
+#include "look/Palettes.h"
 #include "platform/Colors.h"
 #include "platform/Rounding.h"
 
@@ -21,6 +20,8 @@ constexpr double HiMetricPerPixel = 2540.0 / 96;
 constexpr double TwipsPerPixelAcross = 15;
 constexpr double TwipsPerPixelDown = 15;
 constexpr int SurfaceSide = 1000;  // logical pixels
+constexpr int ShadowWidth = 6;
+constexpr QColor Shadow(0x48, 0x33, 0x21, 18);  // laid so many times
 
 std::int32_t Rounded(double value) {
   constexpr long most = std::numeric_limits<std::int32_t>::max();
@@ -83,6 +84,18 @@ QPixmap DrawWaiting(QSize size, std::uint32_t paper, double ratio) {
   painter.drawText(QRect(QPoint(), size), Qt::AlignCenter, QStringLiteral("…"));
   painter.end();
   return surface;
+}
+
+void PaintField(QPainter& painter, const QRect& field, const QRect& picture) {
+  painter.fillRect(field, look::Paper);
+  painter.setPen(look::Mixed(look::Walnut, look::Board, 0.45f));
+  painter.drawRect(field.adjusted(0, 0, -1, -1));
+  painter.setClipRect(field);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Shadow);
+  for (int i = 1; i <= ShadowWidth; ++i)
+    painter.drawRoundedRect(picture.adjusted(2 - i / 2, 2 - i / 2, i, i), i, i);
 }
 
 std::string ScaleText() {

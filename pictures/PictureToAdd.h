@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include <QtGui/QPainter>
 #include <QtGui/QPixmap>
 
 extern std::int32_t AddFrameIndex;  // the entry chosen in List1: 0 none, n the n-th frame file
@@ -23,6 +24,9 @@ QPixmap DrawPreview(const QPixmap& picture, QSize natural, std::uint32_t paper, 
 
 // Paper with the sign of something that is still to come.
 QPixmap DrawWaiting(QSize size, std::uint32_t paper, double ratio);
+
+// A field of paper, and the soft shadow that the picture, which is painted elsewhere, throws on it.
+void PaintField(QPainter& painter, const QRect& field, const QRect& picture);
 
 // "Scale: 25%"; "Scale: %" for what rounds to none.
 std::string ScaleText();

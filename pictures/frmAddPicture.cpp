@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <chrono>
 #include <optional>
+#include <utility>
 
 #include <QtCore/QFile>
 #include <QtGui/QPainter>
 
 #include "look/AiryRows.h"
-#include "look/Palettes.h"
 #include "look/Shortening.h"
 #include "look/Spoken.h"
-#include "pictures/FrameThumbnail.h"
+#include "pictures/FrameThumbnails.h"
 #include "pictures/NewRow.h"
 #include "pictures/PictureSlots.h"
 #include "pictures/PictureToAdd.h"
@@ -34,9 +34,8 @@ constexpr double ScaleStep = 0.01;
 constexpr int ExtensionLength = 4;  // ".gif"
 constexpr double OpeningScale = 0.25;
 constexpr QSize PreviewRoom(500, 456);
-constexpr int FieldEdge = 5;    // pixels of paper beside it
-constexpr int Margin = 9;       // from the field to the window's edge
-constexpr int ShadowWidth = 6;  // pixels
+constexpr int FieldEdge = 5;  // pixels of paper beside it
+constexpr int Margin = 9;     // from the field to the window's edge
 // A picture that takes longer to decode is awaited by the open dialog; one that does not comes with it.
 constexpr std::chrono::milliseconds MostWait{60};
 constexpr int LargestFrame = 1000;         // pixels to decode a frame in; the control stretches it beyond
@@ -82,11 +81,12 @@ frmAddPicture::frmAddPicture()
 
   ConnectScaleButtons();
   connect(List1, &QListWidget::currentRowChanged, this, &frmAddPicture::List1_Click);
-  connect(&thumbnails_, &QTimer::timeout, this, &frmAddPicture::DrawNextThumbnail);
   connect(cmdOK, &QPushButton::clicked, this, &frmAddPicture::cmdOK_Click);
   connect(cmdCancel, &QPushButton::clicked, this, &frmAddPicture::CloseBox);
   connect(cmdHelp, &QPushButton::clicked, this, [] { platform::SendKey(Qt::Key_F1); });
 }
+
+frmAddPicture::~frmAddPicture() = default;
 
 void frmAddPicture::PlaceControls() {
   const auto button = [this](const char* name, const QString& caption, int left, int width) {
@@ -101,8 +101,7 @@ void frmAddPicture::PlaceControls() {
   File1  = Place(new QListWidget(this), "File1", 8 * Twips, 82 * Twips, 150 * Twips, 100 * Twips, QStringLiteral("the frame files"));
   // clang-format on
   look::GiveRowsAir(*List1);
-  List1->setIconSize(FrameThumbnailSize);
-  List1->setUniformItemSizes(true);
+  thumbnails_ = std::make_unique<FrameThumbnails>(*List1);
   File1->hide();
 }
 
@@ -150,22 +149,14 @@ void frmAddPicture::PlacePreview() {
   for (look::PictureBox* hidden : {picTemp, PicResize}) hidden->hide();
 }
 
-// The picture lies on a field of paper, and throws a soft shadow.
 void frmAddPicture::paintEvent(QPaintEvent* event) {
   Form::paintEvent(event);
   QPainter painter(this);
   const QRect picture = picResize2->geometry();
-  const QRect field(picture.topLeft() - QPoint(FieldEdge, FieldEdge),
-                    QPoint(width(), height()) - QPoint(Margin, Margin));
-  painter.fillRect(field, look::Paper);
-  painter.setPen(look::Mixed(look::Walnut, look::Board, 0.45f));
-  painter.drawRect(field.adjusted(0, 0, -1, -1));
-  painter.setClipRect(field);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(0x48, 0x33, 0x21, 18));
-  for (int i = 1; i <= ShadowWidth; ++i)
-    painter.drawRoundedRect(picture.adjusted(2 - i / 2, 2 - i / 2, i, i), i, i);
+  PaintField(painter,
+             QRect(picture.topLeft() - QPoint(FieldEdge, FieldEdge),
+                   QPoint(width(), height()) - QPoint(Margin, Margin)),
+             picture);
 }
 
 void frmAddPicture::ConnectScaleButtons() {
@@ -195,22 +186,14 @@ void frmAddPicture::Form_Activate() {
   {
     const QSignalBlocker noClicks(List1);
     List1->clear();
-    const QIcon sky = FrameThumbnail({}, devicePixelRatioF());
-    new QListWidgetItem(sky, QStringLiteral("No Frame"), List1);
-    for (int i = 0; i < File1->count(); ++i)
-      new QListWidgetItem(sky, File1->item(i)->text().chopped(ExtensionLength), List1);
+    List1->addItem(QStringLiteral("No Frame"));
+    for (int i = 0; i < File1->count(); ++i) List1->addItem(File1->item(i)->text().chopped(ExtensionLength));
     List1->setCurrentRow(-1);
   }
   List1->setCurrentRow(0);
-  nextThumbnail_ = 1;
-  thumbnails_.start(0);
-}
-
-// One each time the event loop turns, so that the dialog opens at once.
-void frmAddPicture::DrawNextThumbnail() {
-  if (!isVisible() || nextThumbnail_ >= List1->count()) return thumbnails_.stop();
-  List1->item(nextThumbnail_)->setIcon(FrameThumbnail(FrameFile(nextThumbnail_), devicePixelRatioF()));
-  ++nextThumbnail_;
+  std::vector<std::string> frames(1);
+  for (int i = 1; i <= File1->count(); ++i) frames.push_back(FrameFile(i));
+  thumbnails_->Show(std::move(frames));
 }
 
 // In the order of the names' bytes, the same on every machine.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include <QtWidgets/QLabel>
@@ -14,11 +15,14 @@
 #include "pictures/StretchedImage.h"
 #include "pictures/decoding/PreviewDecoder.h"
 
+class FrameThumbnails;
+
 class frmAddPicture : public look::Form {
   Q_OBJECT
 
  public:
   frmAddPicture();
+  ~frmAddPicture() override;
 
   QPushButton* cmdHelp;
   QPushButton* cmdOK;
@@ -77,7 +81,6 @@ class frmAddPicture : public look::Form {
   void ShowPicture();
   void Form_Activate();
   void ReadFrames();
-  void DrawNextThumbnail();
   void List1_Click(int index);
   void cmdResizeFactorDN_Click();
   void SetScale(double scale);
@@ -92,7 +95,6 @@ class frmAddPicture : public look::Form {
   void cmdOK_Click();
 
   pictures::PreviewDecoder decoder_{[this] { TakeLatePicture(); }};
-  QTimer thumbnails_;
-  int nextThumbnail_ = 0;      // the row of List1 whose frame is drawn next
+  std::unique_ptr<FrameThumbnails> thumbnails_;
   platform::Identity file_{};  // that the picture in picTemp is of
 };
