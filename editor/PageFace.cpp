@@ -79,6 +79,7 @@ void PageFace::MakePage() {
   picBinding->SetPicture(BindingPicture());
   picBinding->Repeat(Qt::Vertical);
   picBinding->SetShade(&PaintBindingShade);
+  picBinding->SetDesignWidth(PageLeft / 15);
   txtM = Placed(new richtext::RichTextBox(this), QStringLiteral("txtM"), PageLeft, PageTop, 7484, 8849);
   txtM->setFrameShape(QFrame::NoFrame);
   txtM->document()->setDocumentMargin(PageMargin);

@@ -27,6 +27,11 @@ void PictureBox::SetShade(std::function<void(QPainter&, const QRect&)> shade) {
   update();
 }
 
+void PictureBox::SetDesignWidth(int pixels) {
+  designWidth_ = pixels;
+  update();
+}
+
 void PictureBox::SetBackColor(std::uint32_t color) {
   backColor_ = color;
   update();
@@ -35,12 +40,15 @@ void PictureBox::SetBackColor(std::uint32_t color) {
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), platform::ToColor(backColor_));
-  if (shade_) shade_(painter, rect());
+  const double growth = designWidth_ > 0 ? double(width()) / designWidth_ : 1;
+  painter.scale(growth, growth);
+  const QSize room(qCeil(width() / growth), qCeil(height() / growth));
+  if (shade_) shade_(painter, QRect(QPoint(), room));
   if (picture_.isNull()) return;
   painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
   const QSize step = picture_.deviceIndependentSize().toSize().expandedTo({1, 1});
-  const int right = repeats_.testFlag(Qt::Horizontal) ? width() : 1;
-  const int bottom = repeats_.testFlag(Qt::Vertical) ? height() : 1;
+  const int right = repeats_.testFlag(Qt::Horizontal) ? room.width() : 1;
+  const int bottom = repeats_.testFlag(Qt::Vertical) ? room.height() : 1;
   for (int top = 0; top < bottom; top += step.height())
     for (int left = 0; left < right; left += step.width()) painter.drawPixmap(left, top, picture_);
 }

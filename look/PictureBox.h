@@ -18,6 +18,8 @@ class PictureBox : public QWidget {
   // From now on the picture begins again where it ends, in these directions.
   void Repeat(Qt::Orientations directions);
   const QPixmap& Picture() const { return picture_; }
+  // From now on the picture and the shade grow with the box, which is so many pixels wide by design.
+  void SetDesignWidth(int pixels);
   // Painted over the background and under the picture, from now on.
   void SetShade(std::function<void(QPainter&, const QRect& box)> shade);
   void SetBackColor(std::uint32_t color);  // 0x00BBGGRR
@@ -30,6 +32,7 @@ class PictureBox : public QWidget {
   QPixmap picture_;
   std::function<void(QPainter&, const QRect&)> shade_;
   Qt::Orientations repeats_;
+  int designWidth_ = 0;
   std::uint32_t backColor_ = 0xFFFFFF;
 };
 
