@@ -24,6 +24,13 @@ constexpr QSize FrameAround(16, 48);
 constexpr int LettersOfATitle = 32;
 const QString NotFound = QStringLiteral("These words do not stand in the help.");
 
+// The toolkit tells screen readers of a browser as of a label. This one is a text with a caret to them, which
+// they read along.
+class CaretBrowser : public QTextBrowser {
+ public:
+  const QMetaObject* metaObject() const override { return &QTextEdit::staticMetaObject; }
+};
+
 // The desktop's font, a little larger: it is a text to read.
 void DressForReading(QTextBrowser& browser) {
   QFont font = browser.font();
@@ -52,8 +59,10 @@ void HelpWindow::MakeControls() {
   txtFind = new QLineEdit;
   cmdFindNext = new QPushButton(QStringLiteral("Find &next"));
   lstContents = new QListWidget;
-  Browser = new QTextBrowser;
+  Browser = new CaretBrowser;
   cmdBack->setEnabled(false);
+  cmdBack->setToolTip(QKeySequence(QKeySequence::Back).toString(QKeySequence::NativeText));
+  cmdFindNext->setToolTip(QKeySequence(Qt::Key_F3).toString(QKeySequence::NativeText));
   txtFind->setPlaceholderText(QStringLiteral("Find in this page"));
   txtFind->setAccessibleName(QStringLiteral("the words to find"));
   for (const auto& [control, name] :

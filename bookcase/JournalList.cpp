@@ -12,20 +12,27 @@
 
 #include "bookcase/ShelfBoard.h"
 #include "look/FocusLine.h"
+#include "look/Growth.h"
 #include "look/Palettes.h"
 #include "look/Theme.h"
 
 namespace {
 
-// In pixels.
-constexpr int IconSize = 32;
-constexpr int LeastColumn = 104;
+// In pixels; the icons and their columns grow with the design.
+int IconSize() {
+  return look::Grown(32);
+}
+int LeastColumn() {
+  return look::Grown(104);
+}
 constexpr int Air = 8;          // above an icon
 constexpr int Gap = 4;          // between the labels
 constexpr int LabelTop = 4;     // from the board to the label below it
 constexpr int SidePadding = 6;  // from a label's edge to its text
 constexpr int Padding = 3;
-constexpr int BoardTop = Air + IconSize - 3;  // an icon has some pixels of air below it
+int BoardTop() {
+  return Air + IconSize() - 3;  // an icon has some pixels of air below it
+}
 constexpr double Corner = 3;
 
 constexpr int MostLines = 3;
@@ -81,11 +88,11 @@ void PaintLabel(QPainter& painter, const QRect& place, const QStyleOptionViewIte
 // Behind the icon that is selected, as if a lamp stood on the board.
 void PaintGlow(QPainter& painter, const QRect& cell, const QStyleOptionViewItem& option) {
   const QColor face = option.palette.color(QPalette::Button);
-  QRadialGradient glow(QPointF(cell.center().x() + 1, cell.top() + BoardTop - 12), 40);
+  QRadialGradient glow(QPointF(cell.center().x() + 1, cell.top() + BoardTop() - 12), 40);
   glow.setColorAt(0, face);
   glow.setColorAt(0.5, look::Mixed(face, look::Board, 0.75f));
   glow.setColorAt(1, look::Board);
-  painter.fillRect(QRect(cell.center().x() - 39, cell.top(), 80, BoardTop), glow);
+  painter.fillRect(QRect(cell.center().x() - 39, cell.top(), 80, BoardTop()), glow);
 }
 
 class JournalLabel : public QStyledItemDelegate {
@@ -96,13 +103,13 @@ class JournalLabel : public QStyledItemDelegate {
     const QStringList lines = NameIn(option, index).lines;
     const int lineHeight = option.fontMetrics.lineSpacing();
     const QRect& cell = option.rect;
-    QRect label = cell.adjusted(Gap, BoardTop + ShelfBoardHeight + LabelTop, -Gap, 0);
+    QRect label = cell.adjusted(Gap, BoardTop() + ShelfBoardHeight + LabelTop, -Gap, 0);
     label.setHeight(2 * Padding + static_cast<int>(lines.size()) * lineHeight);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     if (option.state & QStyle::State_Selected) PaintGlow(*painter, cell, option);
     PaintLabel(*painter, label, option);
-    const QRect icon(cell.center().x() - IconSize / 2 + 1, cell.top() + Air, IconSize, IconSize);
+    const QRect icon(cell.center().x() - IconSize() / 2 + 1, cell.top() + Air, IconSize(), IconSize());
     index.data(Qt::DecorationRole).value<QIcon>().paint(painter, icon);
     QRect line(label.left(), label.top() + Padding, label.width(), lineHeight);
     painter->setFont(option.font);
@@ -148,10 +155,10 @@ JournalList::JournalList(QWidget* parent) : QListWidget(parent) {
 // The scroll bar has its place whether it shows or not, so that its coming moves no column.
 void JournalList::RuleGrid() {
   const int width = this->width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width() - 1;
-  const int columns = std::max(1, width / LeastColumn);
+  const int columns = std::max(1, width / LeastColumn());
   const int label = 2 * Padding + MostLines * fontMetrics().lineSpacing();
-  const int height = BoardTop + ShelfBoardHeight + LabelTop + label + Gap;
-  setGridSize(QSize(std::max(width / columns, LeastColumn), height));
+  const int height = BoardTop() + ShelfBoardHeight + LabelTop + label + Gap;
+  setGridSize(QSize(std::max(width / columns, LeastColumn()), height));
 }
 
 void JournalList::changeEvent(QEvent* event) {
@@ -168,7 +175,7 @@ void JournalList::resizeEvent(QResizeEvent* event) {
 void JournalList::PaintBoards(QPainter& painter) const {
   painter.fillRect(viewport()->rect(), look::Board);
   const int step = gridSize().height();
-  for (int top = BoardTop - verticalScrollBar()->value(); top < viewport()->height(); top += step)
+  for (int top = BoardTop() - verticalScrollBar()->value(); top < viewport()->height(); top += step)
     PaintShelfBoard(painter, top, viewport()->width());
 }
 
@@ -184,7 +191,7 @@ void JournalList::paintEvent(QPaintEvent* event) {
 // An empty bookcase says how it is filled.
 void JournalList::PaintHint(QPainter& painter) const {
   const QString hint = QStringLiteral("There is no journal here yet.\nThe button Add makes one.");
-  const QRect room = viewport()->rect().adjusted(LeastColumn / 2, 0, -LeastColumn / 2, 0);
+  const QRect room = viewport()->rect().adjusted(LeastColumn() / 2, 0, -LeastColumn() / 2, 0);
   constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
   const QRect card = painter.boundingRect(room, flags, hint).adjusted(-12, -8, 12, 8);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -5,8 +5,10 @@
 #include <QtGui/QPainter>
 
 #include "look/FocusLine.h"
+#include "look/Spoken.h"
 
 LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
+  look::SpeakAs(*this, QAccessible::Link);
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::StrongFocus);
 }

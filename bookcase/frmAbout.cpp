@@ -48,6 +48,7 @@ void frmAbout::DressTexts(const QString& webSite) {
   font.setBold(true);
   Label1->setFont(font);
   lblWebSite->setText(QStringLiteral("by ZANDOLK"));
+  lblWebSite->setAccessibleName(lblWebSite->text());
   lblWebSite->setIndent(look::Pixels(45));  // room for the line of the focus
   font.setBold(false);
   font.setUnderline(true);

@@ -13,6 +13,7 @@
 #include "editor/SavingPages.h"
 #include "editor/frmJournal.h"
 #include "look/Emblem.h"
+#include "look/Growth.h"
 #include "look/Spoken.h"
 #include "look/Theme.h"
 #include "output/frmExport.h"
@@ -111,7 +112,7 @@ void frmBookcase::LayOutButtons() {
   // clang-format on
   Image2->setFlat(true);
   Image2->setIcon(look::QuillAndInkwell());
-  Image2->setIconSize(QSize(80, 70));
+  Image2->setIconSize(QSize(look::Grown(80), look::Grown(70)));
   Image2->setFocusPolicy(Qt::NoFocus);  // the button About is the keyboard's
   Image2->setToolTip(QStringLiteral("About Thornquill"));
   SetBold(*cmdOpen);

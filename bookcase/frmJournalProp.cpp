@@ -18,6 +18,7 @@
 #include "platform/Rounding.h"
 #include "platform/desktop/Keystroke.h"
 #include "platform/dialogs/ColorDialog.h"
+#include "platform/dialogs/ColorName.h"
 #include "platform/dialogs/FontDialog.h"
 #include "platform/files/Files.h"
 #include "platform/files/InputFile.h"
@@ -173,7 +174,7 @@ void frmJournalProp::TakeFromRow() {
   const std::int32_t kilobytes = GetFileLength(platform::PathOf(row.FileName)) / 1024;
   lblJFsize->setText(QStringLiteral("File Size: %1 kb").arg(kilobytes));
   ChooseIcon(row.Icon);
-  lblSamplePage->SetBackColor(row.PaperColor);
+  ShowPaper(row.PaperColor);
   lblSamplePage->SetFont(platform::FromCodePage(row.FontName), row.FontSize, row.FontBold != False,
                          row.FontItalic != False, row.FontUnderline != False, row.FontStrikethru != False);
   lblSamplePage->SetForeColor(row.FontColor);
@@ -184,6 +185,11 @@ void frmJournalProp::ChooseIcon(int index) {
   Image1->setPixmap(JournalIcon(index).pixmap(QSize(IconSize, IconSize), devicePixelRatioF()));
   Image1->setAccessibleName(JournalIconName(index));
   Image1->setToolTip(JournalIconName(index));
+}
+
+void frmJournalProp::ShowPaper(std::uint32_t color) {
+  lblSamplePage->SetBackColor(color);
+  cmdPaperColor->setAccessibleDescription(platform::ColorInWords(platform::ToColor(color)));
 }
 
 // The ends are hard stops, and what a damaged row holds beyond them is at an end.
@@ -199,7 +205,7 @@ void frmJournalProp::cmdIconNext_Click() {
 
 void frmJournalProp::cmdPaperColor_Click() {
   const auto result = platform::AskForColor({lblSamplePage->BackColor()});
-  if (platform::WasChosen(result.end, "color")) lblSamplePage->SetBackColor(result.choice);
+  if (platform::WasChosen(result.end, "color")) ShowPaper(result.choice);
 }
 
 // The row's name of a font is text of the code page, so only such fonts are offered.

@@ -68,6 +68,7 @@ class frmJournalProp : public look::Form {
   void ConnectCommands();
   void TakeFromRow();
   void ChooseIcon(int index);
+  void ShowPaper(std::uint32_t color);
   void WriteToRow();
   void DressJournalWindow();
 

@@ -2,6 +2,7 @@
 
 #include <QtCore/QPointer>
 #include <QtGui/QPainter>
+#include <QtGui/QTextCursor>
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
@@ -10,8 +11,10 @@
 #include "editor/BindingShade.h"
 #include "editor/FilesOnPage.h"
 #include "look/Form.h"
+#include "look/Growth.h"
 #include "look/Palettes.h"
 #include "look/PictureBox.h"
+#include "look/Spoken.h"
 #include "look/Theme.h"
 #include "pictures/PictureSlots.h"
 #include "platform/Colors.h"
@@ -42,9 +45,9 @@ Control* Placed(Control* control, const QString& name, int left, int top, int wi
 }
 
 // The strip under a label is pale in every theme, so its letters are dark on every desktop.
-void DressLabel(QLabel* label, int pixelSize) {
+void DressLabel(QLabel* label, double pixelSize) {
   QFont font(QStringLiteral("Verdana"));
-  font.setPixelSize(pixelSize);
+  font.setPixelSize(look::Grown(pixelSize));
   label->setFont(font);
   QPalette palette = label->palette();
   palette.setColor(QPalette::WindowText, look::Ink);
@@ -85,6 +88,7 @@ void PageFace::MakePage() {
   txtM->document()->setDocumentMargin(PageMargin);
   txtM->PaintGround = &PaintGutterShade;
   connect(txtM, &richtext::RichTextBox::Change, this, &PageInHand::TextChanged);
+  connect(txtM, &QTextEdit::cursorPositionChanged, this, &PageFace::TellPictureAtCaret);
 }
 
 // Made after the page, and so above it, where a tall strip covers its first lines.
@@ -156,12 +160,30 @@ void PageFace::DockStrips() {
 // The page ends one twip before the right and the bottom edge. A window too small for it is no error: the
 // measure that would be negative stays what it was, and the other one is set.
 void PageFace::FitText() {
-  const float scaleWidth = static_cast<float>(width()) * 15;
-  const float scaleHeight = static_cast<float>(height()) * 15;
+  const auto twips = static_cast<float>(15 / look::Growth());
+  const float scaleWidth = static_cast<float>(width()) * twips;
+  const float scaleHeight = static_cast<float>(height()) * twips;
   const float pageWidth = scaleWidth - (PageLeft + 1);
   const float pageHeight = scaleHeight - (PageTop + 1);
   txtM->resize(pageWidth < 0 ? txtM->width() : Pixels(pageWidth),
                pageHeight < 0 ? txtM->height() : Pixels(pageHeight));
+}
+
+// Of a picture in the text a screen reader has but a sign without a name.
+void PageFace::TellPictureAtCaret() {
+  if (!QAccessible::isActive() || !txtM->hasFocus()) return;
+  QTextCursor next = txtM->textCursor();
+  if (next.hasSelection()) return;
+  next.movePosition(QTextCursor::NextCharacter);
+  const QTextImageFormat picture = next.charFormat().toImageFormat();
+  const bool stands = picture.isValid() && next.position() != txtM->textCursor().position();
+  if (!stands && !toldPicture_) return;
+  look::Announce({});  // so that a second one is told as well
+  toldPicture_ = stands;
+  if (!stands) return;
+  look::Announce(QStringLiteral("Picture, %1 by %2 pixels")
+                     .arg(picture.width(), 0, 'f', 0)
+                     .arg(picture.height(), 0, 'f', 0));
 }
 
 PageFace& Face() {

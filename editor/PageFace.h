@@ -60,8 +60,10 @@ class PageFace : public QWidget {
   void MakePictures();
   void DockStrips();
   void FitText();
+  void TellPictureAtCaret();
 
   int headHeight_ = 870;
+  bool toldPicture_ = false;  // the last thing that was said at the caret
 };
 
 // The face of the one journal window, which must be loaded.

@@ -9,6 +9,7 @@
 
 #include "editor/ToolbarPictures.h"
 #include "look/Form.h"
+#include "look/Growth.h"
 #include "look/Palettes.h"
 #include "look/Spoken.h"
 
@@ -17,10 +18,13 @@ namespace {
 constexpr int ButtonWidth = 555;  // twips
 constexpr int ButtonHeight = 540;
 constexpr int SeparatorWidth = 120;
-constexpr int PictureSize = 16;  // pixels
+// In pixels of the design.
+constexpr int PictureSize = 16;
 constexpr int PictureTop = 3;
 constexpr int CaptionTop = PictureTop + PictureSize + 3;
-constexpr int CaptionRoom = 3;  // pixels of a button's width that a caption leaves free
+constexpr int CaptionSize = 11;  // 8.25 points
+constexpr int LeastCaptionSize = 7;
+constexpr int CaptionRoom = 3;  // of a button's width that a caption leaves free
 
 struct Row {
   const char16_t* key;  // null: a separator
@@ -54,16 +58,16 @@ QString Text(const char16_t* text) {
   return QStringView(text).toString();
 }
 
-// The largest size up to 8.25 points at which no caption is cut, whatever stands in for the font.
+// The largest size up to the design's at which no caption is cut, whatever stands in for the font.
 QFont CaptionFont() {
   QFont font(QStringLiteral("Verdana"));
-  const int room = look::Pixels(ButtonWidth) - CaptionRoom;
+  const int room = look::Pixels(ButtonWidth) - look::Grown(CaptionRoom);
   const auto fits = [&](const Row& row) {
     return QFontMetrics(font).horizontalAdvance(Text(row.caption)) <= room;
   };
-  int size = 11;
+  int size = look::Grown(CaptionSize);
   do font.setPixelSize(size);
-  while (--size > 6 && !std::all_of(std::begin(rows), std::end(rows), fits));
+  while (--size >= LeastCaptionSize && !std::all_of(std::begin(rows), std::end(rows), fits));
   return font;
 }
 
@@ -78,15 +82,20 @@ class CaptionedButton : public QToolButton {
     QPainter painter(this);
     if (isDown() || underMouse() || hasFocus()) PaintPanel(painter);
     if (isDown()) painter.translate(0, 1);
-    const QRect picture((width() - PictureSize) / 2, PictureTop, PictureSize, PictureSize);
-    icon().paint(&painter, picture, Qt::AlignCenter, underMouse() ? QIcon::Active : QIcon::Normal);
+    PaintPicture(painter);
+    const int captionTop = look::Grown(CaptionTop);
     painter.setPen(look::Ink);
-    painter.drawText(QRect(0, CaptionTop, width(), height() - CaptionTop), Qt::AlignHCenter | Qt::AlignTop,
+    painter.drawText(QRect(0, captionTop, width(), height() - captionTop), Qt::AlignHCenter | Qt::AlignTop,
                      text());
     if (hasFocus()) PaintFocus(painter);
   }
 
  private:
+  void PaintPicture(QPainter& painter) const {
+    const int size = look::Grown(PictureSize);
+    const QRect place((width() - size) / 2, look::Grown(PictureTop), size, size);
+    icon().paint(&painter, place, Qt::AlignCenter, underMouse() ? QIcon::Active : QIcon::Normal);
+  }
   void PaintPanel(QPainter& painter) const {
     painter.setPen(QColor(0, 0, 0, 70));
     painter.setBrush(isDown() ? QColor(0, 0, 0, 25) : QColor(255, 255, 255, 110));
@@ -120,7 +129,8 @@ void MakeSeparator(int left, QWidget* parent) {
   QPalette palette = line->palette();
   palette.setColor(QPalette::WindowText, QColor(0, 0, 0, 70));
   line->setPalette(palette);
-  line->setGeometry(look::Pixels(left), 4, look::Pixels(SeparatorWidth), look::Pixels(ButtonHeight) - 6);
+  line->setGeometry(look::Pixels(left), look::Grown(4), look::Pixels(SeparatorWidth),
+                    look::Pixels(ButtonHeight) - look::Grown(6));
 }
 
 }  // namespace

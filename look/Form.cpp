@@ -11,13 +11,13 @@
 #include <QtWidgets/QLabel>
 
 #include "look/Emblem.h"
+#include "look/Growth.h"
 #include "look/LastInput.h"
 #include "look/Palettes.h"
 #include "look/Pass.h"
 #include "look/Shortening.h"
 #include "look/Spoken.h"
 #include "look/Theme.h"
-#include "platform/Rounding.h"
 
 namespace look {
 namespace {
@@ -48,7 +48,7 @@ QScreen* ScreenForNewWindows() {
 }  // namespace
 
 int Pixels(double twips) {
-  return static_cast<int>(platform::RoundHalfEven(twips / TwipsPerPixel));
+  return Grown(twips / TwipsPerPixel);
 }
 
 Form::Form(Kind kind, const QString& name, const QString& caption, int widthTwips, int heightTwips)
@@ -145,6 +145,7 @@ void Form::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.fillRect(event->rect(), palette().window());
   painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
+  painter.scale(Growth(), Growth());
   painter.drawPixmap(0, 0, picture_);
   painter.setPen(Gilt);
   painter.drawRect(rect().adjusted(GiltInset, GiltInset, -GiltInset - 1, -GiltInset - 1));
@@ -156,9 +157,11 @@ void Form::PlaceWidget(QWidget* control, const char* name, int left, int top, in
   control->setObjectName(QString::fromLatin1(name));
   control->setGeometry(Pixels(left), Pixels(top), Pixels(width), Pixels(height));
   if (!accessibleName.isEmpty()) control->setAccessibleName(accessibleName);
+  if (control->objectName() == QStringLiteral("cmdHelp")) control->setToolTip(QStringLiteral("F1"));
   // A name with a less-than sign is shown as it is.
   auto* label = qobject_cast<QLabel*>(control);
   if (label) label->setTextFormat(Qt::PlainText);
+  if (label && Growth() > 1) label->setScaledContents(true);  // its picture
   const auto* button = qobject_cast<QAbstractButton*>(control);
   if (label || (button && !button->text().isEmpty())) ShortenWhatOutgrows(*control);
 }

@@ -10,7 +10,8 @@
 
 namespace look {
 
-// The design measure of most windows: 15 twips are one logical pixel. Halves round to the even neighbour.
+// The design measure of most windows: 15 twips are one logical pixel, or as many as the desktop's font makes
+// of it (look/Growth.h). Halves round to the even neighbour.
 int Pixels(double twips);
 
 class Form : public QDialog {

@@ -1,6 +1,7 @@
 #include "look/Spoken.h"
 
 #include <QtCore/QPointer>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QTreeView>
@@ -10,10 +11,26 @@ namespace {
 
 constexpr char RoleName[] = "SpokenRole";
 
+class SpokenLink : public QAccessibleWidget {
+ public:
+  explicit SpokenLink(QWidget* link) : QAccessibleWidget(link, QAccessible::Link) {}
+
+  QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+  void doAction(const QString& action) override {
+    if (action != pressAction()) return QAccessibleWidget::doAction(action);
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent key(type, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "));
+      QCoreApplication::sendEvent(widget(), &key);
+    }
+  }
+};
+
 QAccessibleInterface* WithItsRole(const QString& /*className*/, QObject* object) {
   const QVariant role = object->property(RoleName);
   if (!role.isValid()) return nullptr;
-  return new QAccessibleWidget(static_cast<QWidget*>(object), static_cast<QAccessible::Role>(role.toInt()));
+  auto* control = static_cast<QWidget*>(object);
+  if (role.toInt() == QAccessible::Link) return new SpokenLink(control);
+  return new QAccessibleWidget(control, static_cast<QAccessible::Role>(role.toInt()));
 }
 
 // The description that a control has of its own comes back when the keyboard leaves it.

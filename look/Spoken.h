@@ -8,7 +8,8 @@
 namespace look {
 
 // The control counts as one of that role, whatever the toolkit takes it for. To be called before anything
-// else is told of it; for controls that have nothing but a name.
+// else is told of it; for controls that have nothing but a name. A link can be pressed by a screen reader, as
+// by the space bar.
 void SpeakAs(QWidget& control, QAccessible::Role role);
 
 // Says what has changed on the screen but not on the control that has the keyboard; where none has it, as

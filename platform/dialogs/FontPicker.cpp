@@ -11,6 +11,7 @@
 #include "platform/CodePage.h"
 #include "platform/Colors.h"
 #include "platform/dialogs/ColorDialog.h"
+#include "platform/dialogs/ColorName.h"
 
 namespace platform {
 namespace {
@@ -203,7 +204,7 @@ void FontPicker::ShowColor() {
   QPainter(&swatch).drawRect(swatch.rect().adjusted(0, 0, -1, -1));
   color->setIcon(swatch);
   color->setIconSize(Swatch);
-  color->setAccessibleDescription(chosen.name());
+  color->setAccessibleDescription(ColorInWords(chosen));
 }
 
 void FontPicker::ShowSample() {

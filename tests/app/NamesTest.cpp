@@ -15,6 +15,7 @@
 #include "bookcase/frmInitJournal.h"
 #include "bookcase/frmJournalProp.h"
 #include "bookcase/frmNewJournal.h"
+#include "editor/PageFace.h"
 #include "editor/frmCal.h"
 #include "editor/frmEmoticons.h"
 #include "editor/frmIndex.h"
@@ -22,6 +23,9 @@
 #include "lock/frmPass.h"
 #include "lock/frmPassChange.h"
 #include "look/Dress.h"
+#include "look/Growth.h"
+#include "look/Progress.h"
+#include "look/Shortening.h"
 #include "look/frmWait.h"
 #include "output/PrintDialog.h"
 #include "output/frmExport.h"
@@ -29,6 +33,7 @@
 #include "platform/dialogs/ColorDialog.h"
 #include "platform/dialogs/FontDialog.h"
 #include "platform/dialogs/FontPicker.h"
+#include "richtext/box/RichTextBox.h"
 #include "store/NewJournals.h"
 #include "tests/support/Windows.h"
 
@@ -43,12 +48,37 @@ bool Speaks(const QAccessibleInterface& part) {
   return speakers.contains(part.role()) && !part.state().invisible;
 }
 
+// The arrows lead on from the one of its group.
+const QWidget* Chosen(const QWidget& radio) {
+  for (const auto* each : radio.parentWidget()->findChildren<QRadioButton*>())
+    if (each->isChecked()) return each;
+  return nullptr;
+}
+
+// What can be pressed or written in can be so by a screen reader as well, and by the keyboard: it is a stop
+// of Tab, or a part of one. Of the bookcase's quill the button About is the stop.
+void ExpectWays(QAccessibleInterface& part, const std::string& where) {
+  using enum QAccessible::Role;
+  static const QSet<QAccessible::Role> pressed{PushButton, CheckBox, RadioButton, ButtonMenu, Link};
+  const auto* control = qobject_cast<QWidget*>(part.object());
+  if (!control || !control->isEnabled() || control->objectName() == u"Image2") return;
+  const auto* actions = part.actionInterface();
+  const bool isWritten = part.role() == EditableText;
+  if (!isWritten && !pressed.contains(part.role())) return;
+  EXPECT_TRUE(isWritten ? part.textInterface() != nullptr : actions && !actions->actionNames().isEmpty())
+      << where;
+  if (part.role() == RadioButton) control = Chosen(*control);
+  while (control && !(control->focusPolicy() & Qt::TabFocus)) control = control->parentWidget();
+  EXPECT_TRUE(control && !control->isWindow()) << where << " is out of the keyboard's reach";
+}
+
 void ExpectNames(QAccessibleInterface* part, const QString& path, int& spoken) {
   const QString name = part->text(QAccessible::Name).trimmed();
   const QString here = path + u'/' + (part->object() ? part->object()->objectName() : name);
   if (Speaks(*part)) {
     ++spoken;
     EXPECT_NE(name, QString()) << here.toStdString() << ", of role " << part->role();
+    ExpectWays(*part, here.toStdString());
   }
   for (int i = 0; i < part->childCount(); ++i)
     if (QAccessibleInterface* child = part->child(i)) ExpectNames(child, here, spoken);
@@ -135,6 +165,33 @@ TEST_F(EveryWindow, HasANameForEachControlAndEntry) {
   ForAll([](QWidget& window) { ExpectNames(window); });
   HelpWindow help(u"<h2><a name=\"a\">A chapter</a></h2>"_qs);
   ExpectNames(help);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(help.Browser)->role(), QAccessible::EditableText);
+}
+
+// As far as the screen lets it: to 20 points on a large one.
+TEST_F(EveryWindow, GrowsAsAWholeWithTheDesktopsFont) {
+  const QFont design = QApplication::font();
+  EXPECT_EQ(look::Growth(), 1);
+  EXPECT_EQ(look::GrowthFor(QFont(design.family(), 20), {2560, 1440}), 2.25);
+  for (const int points : {11, 15, 20}) {
+    QFont larger = design;
+    larger.setPointSize(points);
+    if (look::GrowthFor(larger, QGuiApplication::primaryScreen()->availableSize()) * 1.3 <
+        look::GrowthFor(larger, {9999, 9999}))
+      continue;  // there is no room
+    QApplication::setFont(larger);
+    QString cut;
+    ForAll([&](look::Form& window) {
+      for (const QWidget* control : window.findChildren<QWidget*>())
+        if (!control->isHidden() && !qobject_cast<const QToolButton*>(control))
+          cut += look::OutgrownText(*control);
+    });
+    EXPECT_EQ(cut.toStdString(), "") << points;
+    EXPECT_EQ(look::The<frmBookcase>().cmdOpen->width(), look::Grown(120));
+    EXPECT_EQ(look::The<frmJournal>().face->txtM->pos(), QPoint(look::Grown(66), look::Grown(58)));
+    look::UnloadAllForms();
+    QApplication::setFont(design);
+  }
 }
 
 // Which block until they are answered: hiding them ends them.
@@ -208,6 +265,7 @@ TEST_F(EveryWindow, StandsAsOnItsSheet) {
   std::string sheet, is, shouldBe;
   ForAll([&](QWidget& window) { Draw(window, sheet); });
   Draw(look::The<look::frmWait>(), sheet);
+  Draw(look::frmProgress(), sheet);
   Draw(HelpWindow(u"<h2><a name=\"a\">A chapter</a></h2>"_qs), sheet);
   Draw(platform::FontPicker({}, nullptr), sheet);
   std::istringstream drawn(sheet);

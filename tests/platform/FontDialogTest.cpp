@@ -1,4 +1,5 @@
 #include "platform/dialogs/ColorDialog.h"
+#include "platform/dialogs/ColorName.h"
 #include "platform/dialogs/FontDialog.h"
 #include "platform/dialogs/FontPicker.h"
 #include "tests/support/Fixtures.h"
@@ -83,6 +84,19 @@ TEST_F(FontDialogTest, TheColourDialogGivesItsColourUnlessItIsCancelled) {
     EXPECT_EQ(asked.end.number, number);
     EXPECT_TRUE(number != 0 || asked.choice == 0x123456u);
   }
+}
+
+TEST(ColorName, IsWhatAPersonWouldSay) {
+  for (const auto& [color, words] : {std::pair{0x000000u, "black"},
+                                     {0xffffffu, "white"},
+                                     {0x808080u, "grey"},
+                                     {0xa02060u, "dark pink"},
+                                     {0x1c2b6eu, "dark blue"},
+                                     {0xd8ecd0u, "light green"},
+                                     {0x8b4513u, "brown"},
+                                     {0xff0000u, "red"},
+                                     {0xffd700u, "yellow"}})
+    EXPECT_EQ(platform::ColorInWords(QColor(color)).section(u',', 0, 0), QLatin1String(words));
 }
 
 }  // namespace
