@@ -159,6 +159,13 @@ const std::vector<Sitting>& Sittings() {
        closeAndPressExit,
        Sample("2-three-journals")},
       {"A year later", {ReadAYear}, closeAndPressExit, StageAYear},
+      {"Everything by keys, and nothing by the mouse",
+       {LiveByKeys},
+       [](Person& person) {
+         person.Close("frmBookcase");
+         person.CloseWindow();
+       },
+       StageForKeys},
       {"Left at the lock", {SeeTheLock}, pressCancel, Sample("1-first-diary")},
   };
   return all;

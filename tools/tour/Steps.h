@@ -46,6 +46,12 @@ void ComeBackWithTheNewPassword(Person& person);
 // its chapter. Ends at the bookcase.
 void AskForHelpEverywhere(Person& person);
 
+// From the first run to the journal, which stays open, and nothing touches the mouse: every command of the
+// bookcase and the toolbar that a window or a photograph stands behind.
+void LiveByKeys(Person& person);
+// The small pictures, the frames and the help in the program's folder.
+void StageForKeys();
+
 // A diary as it looks after a year, in the program's folder; the password is "p". The README shows it.
 void StageAYear();
 
