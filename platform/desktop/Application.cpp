@@ -8,6 +8,7 @@
 #include <QtCore/QSettings>
 
 #include "platform/Process.h"
+#include "platform/desktop/PopupEscape.h"
 #include "platform/dialogs/MessageBox.h"
 
 namespace platform {
@@ -53,6 +54,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   GiveLargeBlocksBack();
   KeepNoNotesOfTheToolkit();
   LeaveNoImageOfTheMemory();
+  KeepEscapeToPopups();
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

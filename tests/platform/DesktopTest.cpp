@@ -102,3 +102,24 @@ TEST(WayOut, ASessionThatAsksForASaveIsNoEnd) {
   EXPECT_EQ(std::pair(asked, saved), std::pair(0, 1));
   platform::ListenForTheWayOut({});
 }
+
+// As Wayland delivers it: the list goes when the stroke is offered as a shortcut, and the dialog gets the
+// key.
+TEST(PopupEscape, TheStrokeThatClosesAListClosesNoDialog) {
+  QDialog dialog;
+  QComboBox choices(&dialog);
+  choices.addItem(u"one"_qs);
+  dialog.show();
+  const auto stroke = [&](QEvent::Type type, QObject* receiver, quint64 time) {
+    QKeyEvent key(type, Qt::Key_Escape, {});
+    key.setTimestamp(time);
+    QCoreApplication::sendEvent(receiver, &key);
+  };
+  choices.showPopup();
+  stroke(QEvent::ShortcutOverride, choices.view(), 7);
+  choices.hidePopup();
+  stroke(QEvent::KeyPress, &dialog, 7);
+  EXPECT_TRUE(dialog.isVisible());
+  stroke(QEvent::KeyPress, &dialog, 8);
+  EXPECT_FALSE(dialog.isVisible());
+}
