@@ -7,6 +7,7 @@
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/Links.h"
 #include "richtext/textdocument/Marks.h"
+#include "richtext/textdocument/RowTables.h"
 
 namespace richtext {
 namespace {
@@ -20,7 +21,7 @@ QTextCharFormat LettersOnly(const QTextCharFormat& format) {
 QTextCharFormat CaretFormat::InHand() const {
   const QTextCursor caret = box_.textCursor();
   if (IsKeptAt(caret)) return kept_->format;
-  const QTextCharFormat format = caret.hasSelection() ? LastFormat(caret) : caret.charFormat();
+  const QTextCharFormat format = WithoutCell(caret.hasSelection() ? LastFormat(caret) : caret.charFormat());
   return FormatBesideLink(caret, format).value_or(format);
 }
 

@@ -7,9 +7,11 @@
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtGui/QTextCursor>
 
+#include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/PageHeight.h"
 #include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/RowTables.h"
 
 namespace richtext {
 namespace {
@@ -31,7 +33,13 @@ PrintedPiece::PrintedPiece(const QTextDocument& source, int from, int to, const 
 
 // What the page tells, which the screen may show with smaller indents and lower lines.
 QTextBlockFormat PrintedPiece::OnPaper(const QTextBlock& block) const {
+  const bool isEnd = block.position() < from_ && block.position() + block.length() - 1 == from_;
+  if (IsGap(block) || (isEnd && TableAt(source_, from_ + 1))) return GapFormat();
   return ToBlockFormat(FromBlockFormat(block.blockFormat()), sheet_.width());
+}
+
+bool PrintedPiece::IsCopied(const QTextTable* row, int to) const {
+  return row && row->firstPosition() > from_ && row->lastPosition() < to;
 }
 
 // `to` and the blocks are the source's.
@@ -44,10 +52,27 @@ void PrintedPiece::Copy(int to) {
   cursor.setBlockFormat(format);
   cursor.setBlockCharFormat(first.charFormat());
   for (QTextBlock block = first; block.isValid() && block.position() < to; block = block.next()) {
-    if (block != first) cursor.insertBlock(OnPaper(block), block.charFormat());
+    if (block != first) CopyEnd(block, to, cursor);
     CopyText(block, to, cursor);
   }
   cursor.endEditBlock();
+}
+
+// What stands between a paragraph and the one before.
+void PrintedPiece::CopyEnd(const QTextBlock& block, int to, QTextCursor& cursor) const {
+  const int begin = block.position();
+  const QTextTable* const row = TableAt(source_, begin);
+  const bool isInRow = IsCopied(row, to);
+  const bool beginsCell = isInRow && begin == BeginOfCell(*row, CellAt(*row, begin));
+  const bool isBehindRow = !row && IsCopied(TableAt(source_, begin - 1), to);
+  if (beginsCell && begin == row->firstPosition())
+    InsertRow(cursor, RowOf(*row), sheet_.width());
+  else if (beginsCell || isBehindRow)
+    cursor.setPosition(cursor.position() + 1);
+  else
+    return cursor.insertBlock(OnPaper(block), block.charFormat());
+  cursor.setBlockFormat(OnPaper(block));
+  cursor.setBlockCharFormat(block.charFormat());
 }
 
 void PrintedPiece::CopyText(const QTextBlock& block, int to, QTextCursor& cursor) const {
@@ -58,18 +83,21 @@ void PrintedPiece::CopyText(const QTextBlock& block, int to, QTextCursor& cursor
     const bool beginsParagraph = begin == block.position();
     if (begin < end)
       cursor.insertText(fragment.text().mid(begin - fragment.position(), end - begin),
-                        Fitting(fragment.charFormat(), cursor.blockFormat(), beginsParagraph));
+                        Fitting(fragment.charFormat(), cursor, beginsParagraph));
   }
 }
 
 // On the screen one scrolls to see the rest of a large picture. On paper it is made as small as need be. One
 // that has other letters before it goes into a line of its own, without the first line's indent.
-QTextCharFormat PrintedPiece::Fitting(const QTextCharFormat& format, const QTextBlockFormat& paragraph,
+QTextCharFormat PrintedPiece::Fitting(const QTextCharFormat& format, const QTextCursor& cursor,
                                       bool beginsParagraph) const {
   if (!format.isImageFormat()) return format;
+  const QTextBlockFormat paragraph = cursor.blockFormat();
+  const QTextTable* const row = cursor.currentTable();
+  const double width = row ? RoomInCell(*row, cursor.position(), sheet_.width()) : sheet_.width();
   QTextImageFormat image = format.toImageFormat();
   const double indent = beginsParagraph ? std::max(0.0, paragraph.textIndent()) : 0;
-  const double room = sheet_.width() - paragraph.leftMargin() - paragraph.rightMargin() - indent;
+  const double room = width - paragraph.leftMargin() - paragraph.rightMargin() - indent;
   const double share = std::min({1.0, std::max(1.0, std::floor(room)) / image.width(),
                                  TallestPicture * sheet_.height() / image.height()});
   image.setWidth(image.width() * share);
@@ -89,12 +117,15 @@ void PrintedPiece::LayOut() {
 std::vector<PrintedLine> PrintedPiece::Lines() const {
   std::vector<PrintedLine> lines;
   for (QTextBlock block = begin(); block.isValid(); block = block.next()) {
+    if (block.length() == 1 && block.blockFormat().hasProperty(BeforeRow)) continue;
     const QTextLayout& layout = *block.layout();
+    const QPointF place = documentLayout()->blockBoundingRect(block).topLeft();
+    const QTextTable* const row = TableAt(*this, block.position());
     for (int i = 0; i < layout.lineCount(); ++i) {
       const QTextLine line = layout.lineAt(i);
-      const double top = layout.position().y() + line.y();
+      const double top = place.y() + line.y();
       const int position = InSource(block.position() + line.textStart());
-      lines.push_back({block, line, position, top, top + line.height()});
+      lines.push_back({block, line, position, place, top, top + line.height(), row});
     }
   }
   return lines;

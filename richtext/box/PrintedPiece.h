@@ -19,31 +19,36 @@ namespace richtext {
 struct PrintedLine {
   QTextBlock block;  // of the piece
   QTextLine line;
-  int position;  // of its first letter, in the source
-  double top;    // in the piece, as is the bottom
+  int position;   // of its first letter, in the source
+  QPointF place;  // of its block, in the piece, as are top and bottom
+  double top;
   double bottom;
+  const QTextTable* row;  // that it stands in; none where it is text
 };
 
 class PrintedPiece : public QTextDocument {
  public:
   // Copies the positions `from` to `to` of the source, which must outlive the piece, for sheets of this size.
-  // Where `from` is not the start of its paragraph, the first line has no indent.
+  // Where `from` is not the start of its paragraph, the first line has no indent. A row of which not all is
+  // copied comes as the paragraphs of its cells.
   PrintedPiece(const QTextDocument& source, int from, int to, const QSizeF& sheet);
 
   // Whether the toolkit can lay it out.
   bool CanBeLaidOut() const;
   // Breaks the text into lines.
   void LayOut();
-  // The lines from top to bottom, when they are laid out.
+  // The lines from top to bottom, when they are laid out; those of a row one cell after the other.
   std::vector<PrintedLine> Lines() const;
 
   QVariant loadResource(int type, const QUrl& name) override;
 
  private:
   QTextBlockFormat OnPaper(const QTextBlock& block) const;
+  bool IsCopied(const QTextTable* row, int to) const;
   void Copy(int to);
+  void CopyEnd(const QTextBlock& block, int to, QTextCursor& cursor) const;
   void CopyText(const QTextBlock& block, int to, QTextCursor& cursor) const;
-  QTextCharFormat Fitting(const QTextCharFormat& format, const QTextBlockFormat& paragraph,
+  QTextCharFormat Fitting(const QTextCharFormat& format, const QTextCursor& cursor,
                           bool beginsParagraph) const;
 
   // A position in this document, as one in the source.

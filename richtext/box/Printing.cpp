@@ -1,6 +1,7 @@
 // The text goes to the paper in pieces (see PrintedPiece.h). A piece begins with what was printed last, so
 // that the space between two paragraphs is measured and not guessed, and ends with a paragraph. A paragraph
-// that is too long for a piece is cut where a line begins.
+// that is too long for a piece is cut where a line begins. A row goes onto one sheet where it fits on one; of
+// a higher one each sheet has whole lines.
 //
 // All positions in this file are the source's. Those of a piece, which begin with 0, are its own affair.
 #include "richtext/box/Printing.h"
@@ -17,6 +18,8 @@
 #include "richtext/box/PrintedPiece.h"
 #include "richtext/box/Sheets.h"
 #include "richtext/textdocument/Labels.h"
+#include "richtext/textdocument/RowPainter.h"
+#include "richtext/textdocument/RowTables.h"
 
 namespace richtext {
 namespace {
@@ -70,14 +73,20 @@ class Printing {
 
   // As many whole paragraphs as fit in `length` positions, one at least, or the part of a long one.
   int PieceEnd(int length) const {
-    QTextBlock block = source_.findBlock(at_);
     const int longest = at_ + LongParagraph * length;
-    if (block.position() + block.length() > longest) return std::min(longest, end_);
-    int to = block.position() + block.length();
-    for (block = block.next(); block.isValid() && block.position() + block.length() <= at_ + length;
-         block = block.next())
-      to = block.position() + block.length();
+    int to = EndOf(at_);
+    if (to > longest) return std::min(longest, end_);
+    for (int next = to; next <= at_ + length && to < end_; next = EndOf(next)) to = next;
     return std::min(to, end_);
+  }
+
+  // Of the paragraph or the row at a position.
+  int EndOf(int position) const {
+    if (const QTextTable* const row = TableAt(source_, position)) return row->lastPosition() + 1;
+    const QTextBlock block = source_.findBlock(position);
+    const int end = block.position() + block.length();
+    const QTextTable* const row = TableAt(source_, end);
+    return row ? row->lastPosition() + 1 : end;
   }
 
   // Sets where the next piece begins, behind one that ends at `to`. The last line of a paragraph that is cut
@@ -93,22 +102,49 @@ class Printing {
       return;
     }
     at_ = to;
-    context_ = isCut ? to : std::max(last.position(), to - PieceLength);
+    const QTextTable* const row = TableAt(source_, to - 1);
+    const int begin = row ? row->firstPosition() - 1 : last.position();
+    context_ = isCut ? to : std::max(begin, to - PieceLength);
   }
 
   // The lines before `begin` were printed before: they only tell how far below them the next one stands.
   void Draw(const std::vector<PrintedLine>& lines, int begin) {
     double bottom = 0;
-    for (const PrintedLine& line : lines) {
-      if (line.position >= begin) DrawLine(line, sheets_.Place(line.top - bottom, line.bottom - line.top));
-      bottom = line.bottom;
+    for (std::size_t at = 0; at < lines.size();) {
+      const PrintedLine& line = lines[at++];
+      if (!line.row) {
+        if (line.position >= begin) DrawLine(line, sheets_.Place(line.top - bottom, line.bottom - line.top));
+        bottom = line.bottom;
+        continue;
+      }
+      std::vector<PrintedLine> row{line};
+      while (at < lines.size() && lines[at].row == line.row) row.push_back(lines[at++]);
+      const RowPlace place = PlaceOf(*line.row);
+      if (line.position >= begin) DrawRow(row, place, place.top - bottom);
+      bottom = place.bottom;
+    }
+  }
+
+  // In parts, each as high as a sheet at most, which begin with a line.
+  void DrawRow(const std::vector<PrintedLine>& lines, const RowPlace& row, double gap) {
+    const double most = sheets_.Size().height();
+    for (double begin = row.top, end = 0; begin < row.bottom && !sheets_.Failed(); begin = end, gap = 0) {
+      end = row.bottom - begin > most ? begin + most : row.bottom;
+      for (const PrintedLine& line : lines)
+        if (line.top > begin && line.top < end && line.bottom > end) end = line.top;
+      const double top = sheets_.Place(gap, end - begin);
+      const RowPlace part{top, top + end - begin, row.edges};
+      DrawGrounds(sheets_.Painter(), *lines.front().row, part);
+      for (const PrintedLine& line : lines)
+        if (line.top >= begin && line.top < end) DrawLine(line, top + line.top - begin);
+      DrawBorders(sheets_.Painter(), *lines.front().row, part);
     }
   }
 
   void DrawLine(const PrintedLine& line, double top) {
     if (sheets_.Failed()) return;
     QPainter& painter = sheets_.Painter();
-    const QPointF place(line.block.layout()->position().x(), top - line.line.y());
+    const QPointF place(line.place.x(), top - line.line.y());
     painter.setPen(Qt::black);
     line.line.draw(&painter, place);
     DrawLabelBeside(line, place);

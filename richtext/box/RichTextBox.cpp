@@ -22,6 +22,7 @@
 #include "richtext/textdocument/Marks.h"
 #include "richtext/textdocument/PageHeight.h"
 #include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/RowPainter.h"
 #include "richtext/textdocument/TextDocument.h"
 
 namespace richtext {
@@ -228,18 +229,24 @@ std::unique_ptr<QMenu> RichTextBox::ContextMenu(const QPoint& place) {
   return menu;
 }
 
+// The looks of rows lie under the text, the labels beside it.
 void RichTextBox::paintEvent(QPaintEvent* event) {
   if (PaintGround) {
     QPainter ground(viewport());
     PaintGround(ground, viewport()->rect());
   }
-  QTextEdit::paintEvent(event);
-  QPainter painter(viewport());
   const QScrollBar& across = *horizontalScrollBar();
   const QPoint scrolled(isRightToLeft() ? across.maximum() - across.value() : across.value(),
                         verticalScrollBar()->value());
-  painter.translate(-scrolled);
-  labelled_ = DrawLabels(painter, *document(), QRectF(event->rect().translated(scrolled)), *labels_);
+  const QRectF shown(event->rect().translated(scrolled));
+  const auto draw = [&](const auto& what) {
+    QPainter painter(viewport());
+    painter.translate(-scrolled);
+    what(painter);
+  };
+  draw([&](QPainter& painter) { DrawRows(painter, *document(), shown); });
+  QTextEdit::paintEvent(event);
+  draw([&](QPainter& painter) { labelled_ = DrawLabels(painter, *document(), shown, *labels_); });
 }
 
 // What lies on the ground stays where it is when the text goes aside.

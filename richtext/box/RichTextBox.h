@@ -161,6 +161,7 @@ class RichTextBox : public QTextEdit {
   void PressKey(QKeyEvent& event);
   bool TypeOver(const QKeyEvent& event);
   bool EnterNextCell();
+  bool EnterNextRow(const QKeyEvent& event);
   bool LeaveList();
   void DeleteBack(QKeyEvent& event);
   void DeleteNext(QKeyEvent& event);

@@ -1,5 +1,7 @@
 // The text box and its keys. The toolkit carries out most of them; those are looked at first whose own way
 // would lose a format, a list or hidden text.
+#include <algorithm>
+
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QTextBlock>
@@ -8,6 +10,7 @@
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Marks.h"
 #include "richtext/textdocument/Paragraphs.h"
+#include "richtext/textdocument/RowTables.h"
 #include "richtext/textdocument/Rows.h"
 
 namespace richtext {
@@ -73,6 +76,7 @@ void RichTextBox::PressKey(QKeyEvent& event) {
     return;
   }
   if (event.key() == Qt::Key_Tab && !event.modifiers() && EnterNextCell()) return;
+  if (EnterNextRow(event)) return;
   if (IsBackspace(event)) return DeleteBack(event);
   if (event.matches(QKeySequence::Delete)) return DeleteNext(event);
   if (event.matches(QKeySequence::DeleteStartOfWord)) return DeleteWord(QTextCursor::PreviousWord);
@@ -106,8 +110,17 @@ void RichTextBox::DeleteNext(QKeyEvent& event) {
 }
 
 void RichTextBox::DeleteWord(QTextCursor::MoveOperation across) {
+  const bool isBack = across == QTextCursor::PreviousWord;
   QTextCursor cursor = textCursor();
-  cursor.movePosition(across, QTextCursor::KeepAnchor);
+  const int caret = cursor.position();
+  cursor.movePosition(across);
+  const int end = cursor.position();
+  int at = caret;
+  while (at != end && !IsBorder(*document(), isBack ? at - 1 : at)) at += isBack ? -1 : 1;
+  if (at == caret && at != end)
+    return moveCursor(isBack ? QTextCursor::PreviousCharacter : QTextCursor::NextCharacter);
+  cursor.setPosition(caret);
+  cursor.setPosition(at, QTextCursor::KeepAnchor);
   RemoveShown(cursor);
   ensureCursorVisible();
 }
@@ -115,6 +128,24 @@ void RichTextBox::DeleteWord(QTextCursor::MoveOperation across) {
 bool RichTextBox::EnterNextCell() {
   QTextCursor cursor = textCursor();
   if (!GoToNextCell(cursor)) return false;
+  setTextCursor(cursor);
+  return true;
+}
+
+// The toolkit would stop between the rows, and go on in the next one's first cell or the last of the one
+// before.
+bool RichTextBox::EnterNextRow(const QKeyEvent& event) {
+  const bool isDown = event.matches(QKeySequence::MoveToNextLine);
+  QTextCursor cursor = textCursor();
+  const QTextTable* const row = TableAt(*document(), cursor.position());
+  if (!row || !(isDown || event.matches(QKeySequence::MoveToPreviousLine))) return false;
+  const QTextTable* const next = isDown ? RowBehind(*row) : RowBefore(*row);
+  const int cell = CellAt(*row, cursor.position());
+  cursor.movePosition(isDown ? QTextCursor::Down : QTextCursor::Up);
+  if (!next || (TableAt(*document(), cursor.position()) == row && CellAt(*row, cursor.position()) == cell))
+    return false;
+  const int into = std::min(cell, next->columns() - 1);
+  cursor.setPosition(isDown ? BeginOfCell(*next, into) : EndOfCell(*next, into));
   setTextCursor(cursor);
   return true;
 }

@@ -16,6 +16,7 @@
 #include "richtext/textdocument/PageHeight.h"
 #include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/RowTables.h"
 #include "richtext/textdocument/Rows.h"
 #include "richtext/textdocument/TextDocument.h"
 
@@ -37,12 +38,6 @@ char16_t WithinParagraph(char16_t unit) {
   }
 }
 
-// In pixels; of a document that nobody has laid out yet, that of a narrow window.
-double PageWidth(const QTextDocument& document) {
-  const double width = document.pageSize().width();
-  return width > 0 ? width : 400;
-}
-
 // Writes a page at a cursor. The toolkit's formats are made once for each format of the page.
 class Filler {
  public:
@@ -52,8 +47,9 @@ class Filler {
     std::transform(source.formats.begin(), source.formats.end(), std::back_inserter(marks_), ToMarkFormat);
     for (const ParagraphFormat& format : source.paragraphFormats)
       blockFormats_.push_back(ToBlockFormat(format));
-    isWithinRow_ = IsInRow(cursor.blockFormat()) && !cursor.document()->isEmpty();
-    if (isWithinRow_)
+    const bool isInColumns = IsInRow(cursor.blockFormat()) && !cursor.document()->isEmpty();
+    isWithinRow_ = isInColumns || TableAt(*cursor.document(), cursor.position());
+    if (isInColumns)
       for (QTextBlockFormat& format : blockFormats_) format = InSameRow(format, cursor.blockFormat());
     else if (cursor.block().previous().isValid())
       isOddRow_ = IsOddRow(cursor.block().previous().blockFormat());
@@ -66,7 +62,7 @@ class Filler {
     const bool endsInRow = source_.paragraphs.back().place == Place::RowEnd && !isWithinRow_;
     const bool parts = (source_.paragraphs.size() > 1 || endsInRow) && !cursor_.atBlockEnd();
     FillIn();
-    if (!parts) return;
+    if (!parts || keepsRest_) return;
     if (endsInRow) cursor_.insertBlock();
     cursor_.setBlockFormat(format);
     SetMark(cursor_.block(), mark);
@@ -76,8 +72,13 @@ class Filler {
   void FillIn() {
     Place before = Place::Text;
     for (const Paragraph& paragraph : source_.paragraphs) {
-      const bool goesOn = before == Place::CellEnd && !isWithinRow_;
-      if (!goesOn) Begin(paragraph, before);
+      const bool isInRow = paragraph.place != Place::Text && !isWithinRow_;
+      const bool beginsRow = isInRow && (before == Place::Text || before == Place::RowEnd);
+      if (beginsRow) BeginRow(paragraph);
+      if (isInRow && isTable_)
+        BeginInTable(paragraph, beginsRow, before);
+      else if (!isInRow || before != Place::CellEnd)
+        Begin(paragraph, isInRow);
       for (std::uint32_t left = paragraph.length; left > 0; ++run_) {
         Insert(source_.runs[run_]);
         left -= std::min(left, source_.runs[run_].length);
@@ -87,9 +88,7 @@ class Filler {
     }
   }
 
-  void Begin(const Paragraph& paragraph, Place before) {
-    const bool isInRow = paragraph.place != Place::Text && !isWithinRow_;
-    if (isInRow && before != Place::Cell) BeginRow();
+  void Begin(const Paragraph& paragraph, bool isInRow) {
     const Paragraph& last = isInRow ? EndOfBlock(paragraph) : paragraph;
     const QTextBlockFormat format = isInRow ? RowFormatOf(paragraph, last) : blockFormats_[paragraph.format];
     const QTextCharFormat& mark = marks_[last.markFormat];
@@ -101,9 +100,43 @@ class Filler {
     SetMark(cursor_.block(), mark);
   }
 
-  void BeginRow() {
+  void BeginRow(const Paragraph& first) {
     row_ = &source_.rowFormats[source_.rows[rowAt_++]];
     isOddRow_ = !isOddRow_;
+    cells_ += row_->cells.size();
+    isTable_ = tables_ < MostTables && cells_ <= MostCells && LengthOfRow(first) <= LongestTable;
+    if (!isTable_) return;
+    if (&first == source_.paragraphs.data() && cursor_.atBlockStart()) GoBeforeBlock();
+    InsertRow(cursor_, *row_, PageWidth(*cursor_.document()));
+    cell_ = 0;
+    ++tables_;
+  }
+
+  static std::size_t LengthOfRow(const Paragraph& first) {
+    std::size_t length = first.length;
+    for (const Paragraph* at = &first; at->place != Place::RowEnd; ++at) length += at[1].length;
+    return length;
+  }
+
+  // A row that comes in at the start of a paragraph does not part it: it stands between this and the one
+  // before.
+  void GoBeforeBlock() {
+    const QTextBlock block = cursor_.block();
+    if (block.blockNumber() == 0) {
+      cursor_.setBlockFormat(GapFormat());
+      return;
+    }
+    if (cursor_.document()->characterAt(block.position() - 1) == QChar(RowEndSign)) return;
+    cursor_.setPosition(block.position() - 1);
+    keepsRest_ = true;
+  }
+
+  void BeginInTable(const Paragraph& paragraph, bool beginsRow, Place before) {
+    const QTextBlockFormat& format = blockFormats_[paragraph.format];
+    const QTextCharFormat& mark = marks_[paragraph.markFormat];
+    if (!beginsRow && before != Place::CellEnd) return cursor_.insertBlock(format, mark);
+    cursor_.setBlockFormat(format);
+    cursor_.setBlockCharFormat(WithPlace(mark, row_->cells[cell_++].place));
   }
 
   // The paragraphs of a row share a block as far as one that does not end with its cell.
@@ -121,9 +154,13 @@ class Filler {
 
   void EndCell(const Paragraph& paragraph) {
     if (paragraph.place != Place::CellEnd && paragraph.place != Place::RowEnd) return;
-    cursor_.insertText(QStringLiteral("\t"),
-                       CellEnd(marks_[paragraph.markFormat], blockFormats_[paragraph.format],
-                               paragraph.place == Place::RowEnd));
+    const QTextCharFormat& mark = marks_[paragraph.markFormat];
+    const bool endsRow = paragraph.place == Place::RowEnd;
+    if (!isTable_)
+      return cursor_.insertText(QStringLiteral("\t"),
+                                CellEnd(mark, blockFormats_[paragraph.format], endsRow));
+    cursor_.setPosition(cursor_.position() + 1);
+    if (endsRow) cursor_.setBlockCharFormat(mark);
   }
 
   // A few words that come into an empty list item do not end the list.
@@ -166,6 +203,11 @@ class Filler {
   std::vector<QTextCharFormat> marks_;
   std::vector<QTextBlockFormat> blockFormats_;
   bool isWithinRow_ = false;  // what comes in is a part of a cell
+  bool keepsRest_ = false;    // nothing of the paragraph at the cursor stands behind it
+  bool isTable_ = false;      // the row in hand, and not one in columns
+  int tables_ = static_cast<int>(cursor_.document()->rootFrame()->childFrames().size());
+  std::size_t cells_ = 0;
+  std::size_t cell_ = 0;  // of the row, the next one
   const RowFormat* row_ = nullptr;
   bool isOddRow_ = false;
   std::size_t rowAt_ = 0;

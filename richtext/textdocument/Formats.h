@@ -32,7 +32,8 @@ enum BoxProperty : int {
   TwinListOfDocument,  // bool
   TextBeforeNumber,    // QString
   TextAfterNumber,
-  RowOfTable,          // QByteArray, see Rows.h
+  RowOfTable,          // QByteArray, see Rows.h and RowTables.h
+  BeforeRow,           // bool, see RowTables.h
   OddRow,              // bool
   ParagraphOfCellEnd,  // QTextFormat
   EndOfRow,            // bool

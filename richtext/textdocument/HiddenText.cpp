@@ -1,6 +1,7 @@
 #include "richtext/textdocument/HiddenText.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include <QtGui/QTextBlock>
@@ -8,6 +9,7 @@
 #include <QtGui/QTextDocument>
 
 #include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/RowTables.h"
 
 namespace richtext {
 namespace {
@@ -19,13 +21,25 @@ void AddPlaces(const QTextFragment& fragment, std::vector<int>& places) {
     places.push_back(fragment.position() + static_cast<int>(at));
 }
 
-// Where the signs are; hardly a page has any.
+// Where the signs are, and the end of a paragraph that is none; hardly a page has any.
 std::vector<int> Places(const QTextDocument& document) {
   std::vector<int> places;
+  if (HasTables(document) && IsGap(document.firstBlock())) places.push_back(0);
   if (!document.toRawText().contains(QChar(HiddenSign))) return places;
   for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
     for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) AddPlaces(fragment.fragment(), places);
   return places;
+}
+
+// As the plain text of a page has them.
+void ShowCells(QString& text) {
+  bool isInRow = false;
+  for (QChar& unit : text) {
+    if (unit == QChar(CellSign))
+      unit = std::exchange(isInRow, true) ? QChar(u'\t') : QChar(u'\n');
+    else if (unit == QChar(RowEndSign))
+      unit = u'\t', isInRow = false;
+  }
 }
 
 bool IsSign(const QTextCursor& cursor, int position) {
@@ -49,6 +63,7 @@ QString HiddenTextOf(const QTextCharFormat& format) {
 
 QString ShownText(const QTextDocument& document) {
   QString text = document.toRawText();
+  if (HasTables(document)) ShowCells(text);
   const std::vector<int> places = Places(document);
   for (auto place = places.rbegin(); place != places.rend(); ++place) text.remove(*place, 1);
   return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');

@@ -11,6 +11,7 @@
 #include "richtext/document/Twips.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/Paragraphs.h"
+#include "richtext/textdocument/RowTables.h"
 
 namespace richtext {
 namespace {
@@ -93,13 +94,16 @@ bool DrawLabels(QPainter& painter, const QTextDocument& document, const QRectF& 
                 KeptCounters& counters) {
   const QAbstractTextDocumentLayout& layout = *document.documentLayout();
   QTextBlock block = FirstBelow(shown.topLeft(), document);
+  if (const QTextTable* const row = TableAt(document, block.position()))
+    block = document.findBlock(row->firstPosition());
   LabelCounter counter = counters.Before(block);
   bool drawn = false;
-  for (; block.isValid() && block.isVisible() && layout.blockBoundingRect(block).top() < shown.bottom();
-       block = block.next()) {
+  for (; block.isValid() && block.isVisible(); block = block.next()) {
+    if (layout.blockBoundingRect(block).top() >= shown.bottom() && !TableAt(document, block.position()))
+      break;
     const QString label = counter.Count(block);
     if (label.isEmpty() || block.layout()->lineCount() == 0) continue;
-    DrawLabel(painter, block, block.layout()->position(), label);
+    DrawLabel(painter, block, layout.blockBoundingRect(block).topLeft(), label);
     drawn = true;
   }
   return drawn;

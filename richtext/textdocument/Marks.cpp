@@ -8,6 +8,8 @@
 #include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
 
+#include "richtext/textdocument/RowTables.h"
+
 namespace richtext {
 namespace {
 
@@ -40,7 +42,7 @@ struct Ends {
 void PutMark(const QTextBlock& paragraph, const QTextCharFormat& format) {
   QTextCursor cursor(paragraph);
   if (paragraph.blockNumber() == 0) cursor.setBlockFormat(cursor.blockFormat());
-  cursor.setBlockCharFormat(format);
+  cursor.setBlockCharFormat(WithPlace(format, PlaceOf(paragraph)));
 }
 
 void MergeInto(const QTextBlock& block, const QTextCharFormat& attribute) {
@@ -76,7 +78,7 @@ void SetMark(const QTextBlock& paragraph, const QTextCharFormat& format) {
 // The toolkit's stretch from a paragraph's letters to the end of a later one has the ends between the two,
 // but not the first one's.
 void MergeFormat(const QTextCursor& selection, const QTextCharFormat& attribute) {
-  const int from = selection.selectionStart(), to = selection.selectionEnd();
+  const auto [from, to] = HeldBy(selection);
   const Ends ends(selection);
   const QTextBlock lastBlock = selection.document()->findBlock(to);
   QTextCursor step(selection);
@@ -89,7 +91,7 @@ void MergeFormat(const QTextCursor& selection, const QTextCharFormat& attribute)
 }
 
 void VisitFormats(const QTextCursor& selection, const std::function<bool(const QTextCharFormat&)>& wants) {
-  const int from = selection.selectionStart(), to = selection.selectionEnd();
+  const auto [from, to] = HeldBy(selection);
   bool found = false;
   for (QTextBlock block = selection.document()->findBlock(from); block.isValid() && block.position() < to;
        block = block.next())

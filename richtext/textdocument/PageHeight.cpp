@@ -14,6 +14,7 @@
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/LayoutFormats.h"
 #include "richtext/textdocument/Paragraphs.h"
+#include "richtext/textdocument/RowTables.h"
 
 namespace richtext {
 namespace {
@@ -88,7 +89,8 @@ bool ShowLetters(const QTextBlock& block, std::optional<double> points) {
 double HeightBound::Of(const QTextBlock& block, int from, int to) {
   Measure(block, from, to);
   const QTextBlockFormat format = block.blockFormat();
-  return format.topMargin() + format.bottomMargin() + InLines(format, lines_, line_, pictures_);
+  return 2 * PaddingOfCell + format.topMargin() + format.bottomMargin() +
+         InLines(format, lines_, line_, pictures_);
 }
 
 // Pictures and what stands empty behind a last line break stay as they are.
@@ -116,8 +118,10 @@ double HeightBound::OfAll() {
 
 void HeightBound::Measure(const QTextBlock& block, int from, int to) {
   const QTextBlockFormat format = block.blockFormat();
-  const double margins = 2 * document_.documentMargin() + format.leftMargin() + format.rightMargin();
-  room_ = std::max(width_ - margins, NarrowestRoom);
+  const double margins = format.leftMargin() + format.rightMargin();
+  const double page = width_ - 2 * document_.documentMargin();
+  const QTextTable* const row = TableAt(document_, block.position());
+  room_ = std::max((row ? RoomInCell(*row, block.position(), page) : page) - margins, NarrowestRoom);
   tab_ = TabWidth(format, document_.defaultTextOption().tabStopDistance(), room_);
   lines_ = 2;  // the first may be indented
   word_ = pictures_ = 0;

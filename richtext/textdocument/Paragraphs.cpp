@@ -205,7 +205,10 @@ QTextBlockFormat ToBlockFormat(const ParagraphFormat& format, double width) {
   SetSpacing(made, format, width);
   SetTabs(made, format, shown);
   if (IsItem(format)) SetList(made, format.list);
-  if (format.ground) made.setBackground(ToColor(*format.ground));
+  if (format.ground)
+    made.setBackground(ToColor(*format.ground));
+  else
+    made.setBackground(Qt::NoBrush);  // told, so that the toolkit shows an empty one before a table
   return made;
 }
 

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include <QtCore/QDataStream>
-#include <QtCore/QIODevice>
 #include <QtCore/QList>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
@@ -11,93 +9,10 @@
 
 #include "richtext/document/Twips.h"
 #include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/PackedRow.h"
+#include "richtext/textdocument/RowTables.h"
 
 namespace richtext {
-namespace {
-
-constexpr qint32 NoColor = -1;
-
-template <class Value>
-void Put(QDataStream& out, Value value) {
-  out << static_cast<qint32>(value);
-}
-
-void PutColor(QDataStream& out, const std::optional<std::uint32_t>& color) {
-  Put(out, color ? static_cast<qint32>(*color) : NoColor);
-}
-
-void PutBorder(QDataStream& out, const Border& border) {
-  Put(out, border.kind);
-  if (border.kind == BorderKind::None) return;
-  Put(out, border.width);
-  PutColor(out, border.color);
-}
-
-template <class Value>
-void Get(QDataStream& in, Value& value) {
-  qint32 number = 0;
-  in >> number;
-  value = static_cast<Value>(number);
-}
-
-void GetColor(QDataStream& in, std::optional<std::uint32_t>& color) {
-  qint32 number = NoColor;
-  in >> number;
-  if (number != NoColor) color = static_cast<std::uint32_t>(number);
-}
-
-void GetBorder(QDataStream& in, Border& border) {
-  Get(in, border.kind);
-  if (border.kind == BorderKind::None) return;
-  Get(in, border.width);
-  GetColor(in, border.color);
-}
-
-QByteArray Packed(const RowFormat& row) {
-  QByteArray bytes;
-  QDataStream out(&bytes, QIODevice::WriteOnly);
-  Put(out, row.left);
-  Put(out, row.gap);
-  Put(out, row.height);
-  Put(out, row.place);
-  Put(out, row.isHead);
-  for (const Border& border : row.borders) PutBorder(out, border);
-  Put(out, row.cells.size());
-  for (const CellFormat& cell : row.cells) {
-    Put(out, cell.right);
-    Put(out, cell.across);
-    Put(out, cell.down);
-    Put(out, cell.place);
-    PutColor(out, cell.ground);
-    for (const Border& border : cell.borders) PutBorder(out, border);
-  }
-  return bytes;
-}
-
-RowFormat Unpacked(const QByteArray& bytes) {
-  RowFormat row;
-  QDataStream in(bytes);
-  Get(in, row.left);
-  Get(in, row.gap);
-  Get(in, row.height);
-  Get(in, row.place);
-  Get(in, row.isHead);
-  for (Border& border : row.borders) GetBorder(in, border);
-  std::size_t cells = 0;
-  Get(in, cells);
-  row.cells.resize(cells);
-  for (CellFormat& cell : row.cells) {
-    Get(in, cell.right);
-    Get(in, cell.across);
-    Get(in, cell.down);
-    Get(in, cell.place);
-    GetColor(in, cell.ground);
-    for (Border& border : cell.borders) GetBorder(in, border);
-  }
-  return row;
-}
-
-}  // namespace
 
 QTextBlockFormat InRow(QTextBlockFormat format, const RowFormat& row, bool isOdd) {
   format.setProperty(RowOfTable, Packed(row));
@@ -210,6 +125,11 @@ void AddRow(QTextCursor& cursor) {
 bool IsBorder(const QTextDocument& document, int position) {
   const QTextBlock block = document.findBlock(position), next = block.next();
   if (position < 0 || !block.isValid()) return false;
+  if (HasTables(document)) {
+    const QChar sign = document.characterAt(position);
+    if (sign == QChar(CellSign) || sign == QChar(RowEndSign)) return true;
+    if (IsGap(block)) return next.length() > 1;
+  }
   if (position < block.position() + block.length() - 1) return IsCellEndAt(block, position);
   if (!next.isValid() || (!HoldsRow(block) && !HoldsRow(next))) return false;
   if (HoldsRow(block) && MayGoOn(block))
@@ -218,6 +138,8 @@ bool IsBorder(const QTextDocument& document, int position) {
 }
 
 bool GoToNextCell(QTextCursor& cursor) {
+  if (const QTextTable* const table = TableAt(*cursor.document(), cursor.position()))
+    return GoToNextCell(*table, cursor), true;
   if (!HoldsRow(cursor.block())) return false;
   for (QTextBlock block = cursor.block(); HoldsRow(block); block = block.next())
     for (int at = std::max(cursor.position(), block.position()); at <= LastOf(block); ++at) {

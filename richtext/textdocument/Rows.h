@@ -1,5 +1,6 @@
-// The rows of tables as the text box holds them: the cells of a row follow each other in one paragraph, each
-// ended by a tab, and stand in columns where their texts have room there.
+// Rows of tables without the toolkit's tables, which are for the many and the long (RowTables.h): the cells
+// of such a row follow each other in one paragraph, each ended by a tab, and stand in columns where their
+// texts have room there. What keys do to rows of both kinds is here.
 //
 // What the row is, its paragraphs' formats tell; what the paragraph is that a cell ends with, the format of
 // its tab. Such a paragraph goes on in the next one where it does not end with the tab of a cell. So a person

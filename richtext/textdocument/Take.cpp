@@ -12,6 +12,7 @@
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
+#include "richtext/textdocument/RowTables.h"
 #include "richtext/textdocument/Rows.h"
 #include "richtext/textdocument/TextDocument.h"
 
@@ -42,7 +43,10 @@ class Known {
 // Reads the part of a document between two positions.
 class Taker {
  public:
-  Taker(const QTextDocument& source, int from, int to) : source_(source), from_(from), to_(to) {}
+  Taker(const QTextDocument& source, int from, int to)
+      : source_(source), from_(from), to_(to), hasTables_(HasTables(source)) {
+    if (hasTables_) BeginTable(TableAt(source, source.findBlock(from).position()));
+  }
 
   Document Take() {
     QTextBlock block = source_.findBlock(from_);
@@ -50,6 +54,8 @@ class Taker {
     for (int at = block.position(); block.isValid() && at <= to_; at += block.length(), block = block.next())
       TakeBlock(block, at);
     EndRow();
+    if (taken_.paragraphs.empty())
+      EndParagraph(paragraphNumbers_(ParagraphFormat()), numbers_(CharacterFormat()), Place::Text);
     return std::move(taken_);
   }
 
@@ -58,7 +64,7 @@ class Taker {
     word_ = &word;
     QTextBlock block = source_.findBlock(from_);
     int at = from_;
-    for (; block.isValid() && at <= to_ && (work_ < most || IsRowOpen());
+    for (; block.isValid() && at <= to_ && (work_ < most || IsRowOpen() || table_);
          at += block.length(), block = block.next())
       TakeBlock(block, at);
     EndRow();
@@ -67,7 +73,43 @@ class Taker {
 
  private:
   void TakeBlock(const QTextBlock& block, int at) {
-    isInRow_ = IsRowTaken(block, at);
+    const char16_t sign = hasTables_ ? SignBehind(block, at) : ParagraphSeparator;
+    if (!hasTables_ || !IsGap(block) || IsWordIn(at, at + 1)) TakeParagraph(block, at, sign);
+    if (sign == RowEndSign)
+      table_ = nullptr;
+    else if (sign == CellSign && !table_ && at + block.length() <= to_)
+      BeginTable(TableAt(source_, at + block.length()));
+  }
+
+  char16_t SignBehind(const QTextBlock& block, int at) const {
+    return source_.characterAt(at + block.length() - 1).unicode();
+  }
+
+  // A row of the cells that are taken whole; where it is a part of one alone, that is text.
+  void BeginTable(const QTextTable* table) {
+    table_ = table;
+    isRowTaken_ = false;
+    if (!table) return;
+    const bool isWhole = table->firstPosition() > from_ && table->lastPosition() <= to_;
+    const int first = from_ < table->firstPosition() ? 0 : CellAt(*table, from_);
+    const int last = to_ > table->lastPosition() ? table->columns() - 1 : CellAt(*table, to_);
+    isRowTaken_ = isWhole || first < last;
+    if (!isRowTaken_) return;
+    RowFormat row = RowOf(*table);
+    row.cells.resize(static_cast<std::size_t>(last) + 1);
+    if (first > 0) row.left = row.cells[static_cast<std::size_t>(first) - 1].right;
+    row.cells.erase(row.cells.begin(), row.cells.begin() + first);
+    taken_.rows.push_back(rowNumbers_(FittingRow(row, row.cells.size())));
+    endOfRow_ = last + 1 < table->columns() ? EndOfCell(*table, last) : table->lastPosition();
+  }
+
+  Place PlaceInTable(int end, char16_t sign) const {
+    if (end == endOfRow_) return Place::RowEnd;
+    return sign == ParagraphSeparator ? Place::Cell : Place::CellEnd;
+  }
+
+  void TakeParagraph(const QTextBlock& block, int at, char16_t sign) {
+    isInRow_ = !table_ && IsRowTaken(block, at);
     if (!isInRow_) EndRow();
     ++work_;
     for (auto it = block.begin(); !it.atEnd(); ++it, ++work_) {
@@ -82,9 +124,11 @@ class Taker {
     if (IsWordIn(at, at + 1)) TakeWord();
     const bool isBehindCell = cells_ > 0 && inCell_ == 0 && paragraphStart_ == taken_.text.size();
     if (isInRow_ && isBehindCell && (endsRow_ || !MayGoOn(block))) return EndRow();
+    const Place place = table_ && isRowTaken_ ? PlaceInTable(block.position() + block.length() - 1, sign)
+                        : isInRow_            ? Place::Cell
+                                              : Place::Text;
     EndParagraph(paragraphFormat_(block.blockFormatIndex(), [&] { return FromBlockFormat(FormatOf(block)); }),
-                 mark_(block.charFormatIndex(), [&] { return FromMarkFormat(block.charFormat()); }),
-                 isInRow_ ? Place::Cell : Place::Text);
+                 mark_(block.charFormatIndex(), [&] { return FromMarkFormat(block.charFormat()); }), place);
     if (isInRow_ && !MayGoOn(block)) EndRow();
   }
 
@@ -106,6 +150,7 @@ class Taker {
     taken_.paragraphs.push_back({length, format, mark, place});
     paragraphStart_ = taken_.text.size();
     firstRun_ = taken_.runs.size();
+    if (!isInRow_) return;
     inCell_ = place == Place::Cell ? inCell_ + 1 : 0;
     if (place == Place::CellEnd) ++cells_;
   }
@@ -206,6 +251,10 @@ class Taker {
   const QTextDocument& source_;
   const int from_;
   const int to_;
+  const bool hasTables_;
+  const QTextTable* table_ = nullptr;  // that the next block lies in
+  bool isRowTaken_ = false;            // of it, as a row
+  int endOfRow_ = 0;                   // where the last cell that is taken ends
   const ComposedWord* word_ = nullptr;
   std::size_t work_ = 0;
   Document taken_;
@@ -245,7 +294,8 @@ TakenPart TakePart(const QTextDocument& source, int from, int length, std::size_
 }
 
 Document TakeSelection(const QTextCursor& selection) {
-  return Taker(*selection.document(), selection.selectionStart(), selection.selectionEnd()).Take();
+  const Held held = HeldBy(selection);
+  return Taker(*selection.document(), held.from, held.to).Take();
 }
 
 }  // namespace richtext

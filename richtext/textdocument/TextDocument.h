@@ -3,10 +3,10 @@
 //
 // What the toolkit's document cannot say of itself, it carries along as properties of its formats
 // (Formats.h), so that what is taken back is what was filled in: twips and half points that it would round,
-// the list of a paragraph and measures that no page has room for (Paragraphs.h), the rows of tables (Rows.h),
-// pictures in the form in which they came (Pictures.h), text that is not shown (HiddenText.h). The hard part
-// is what a person does in between: typing carries formats to where they were never meant, and the toolkit's
-// own commands know nothing of the properties.
+// the list of a paragraph and measures that no page has room for (Paragraphs.h), the rows of tables
+// (RowTables.h), pictures in the form in which they came (Pictures.h), text that is not shown (HiddenText.h).
+// The hard part is what a person does in between: typing carries formats to where they were never meant, and
+// the toolkit's own commands know nothing of the properties.
 #pragma once
 
 #include <cstddef>

@@ -231,6 +231,28 @@ TEST_F(Print, PaperHasTheIndentsOfThePage) {
   EXPECT_NEAR(printer.Pictures().front().left() / printer.Pictures().front().width(), 5040 / 300.0, 1.5);
 }
 
+// A row of two lines goes onto one sheet, and each sheet is filled with rows.
+TEST_F(Print, RowsAreNotParted) {
+  std::string page = "before\\par ";
+  for (int i = 0; i < 60; ++i)
+    page += "\\trowd\\cellx9000\\cellx30000\\pard\\intbl a\\par b\\cell c\\cell\\row ";
+  Load(AddJournal({page + "\\pard after"}));
+  text().selectAll();
+  Printed printer({4.001, 5.031});
+  const Sheets sheets = PrintOn(printer, PrintChoice::Selection);
+  ASSERT_GT(sheets.size(), 3U);
+  std::map<QString, std::map<std::size_t, int>> letters;
+  for (const Drawn& drawn : printer.All()) {
+    ++letters[drawn.text][drawn.sheet];
+    EXPECT_LE(drawn.place.bottom(), printer.height() + 1);
+    EXPECT_LE(drawn.place.right(), printer.width());
+    EXPECT_TRUE(drawn.text != QStringLiteral("c") || drawn.place.left() > printer.width() / 4);
+  }
+  EXPECT_EQ(letters[QStringLiteral("a")], letters[QStringLiteral("b")]);
+  EXPECT_EQ(letters[QStringLiteral("a")], letters[QStringLiteral("c")]);
+  EXPECT_EQ(letters[QStringLiteral("a")][1], letters[QStringLiteral("a")][2]);
+}
+
 TEST_F(Print, WhatCannotBePrintedIsTold) {
   Load(AddJournal({"text", "more"}));
   EXPECT_EQ(FirstSheet(PrintChoice::Selection), Texts());

@@ -26,17 +26,20 @@ TEST_F(BoxFormatsTest, TablesHoldAndStandEveryEdit) {
     if (example.dump.find('$') != std::string::npos) ExpectHeld(example.source);
   const std::string row = R"(\trowd\clvmgf\cellx99\cellx198\pard\intbl\qc a\cell\par b\par\cell\row )";
   const std::string table = Page(row + row + R"(\pard x\par )" + row);
+  std::mt19937 random(3);
+  const auto any = [&](int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); };
   const std::function<void()> edits[] = {[&] { Type("x"); },
                                          [&] { Press(Qt::Key_Return); },
                                          [&] { Press(Qt::Key_Backspace); },
                                          [&] { Press(Qt::Key_Delete); },
                                          [&] { Press(Qt::Key_Tab); },
+                                         [&] { Press(Qt::Key_Backspace, Qt::ControlModifier); },
+                                         [&] { Press(Qt::Key_Delete, Qt::ControlModifier); },
                                          [&] { box.undo(); },
+                                         [&] { box.redo(); },
                                          [&] { box.SetSelBold(true); },
-                                         [&] { Press(Qt::Key_C, Qt::ControlModifier); },
+                                         [&] { Press(any(2) ? Qt::Key_C : Qt::Key_X, Qt::ControlModifier); },
                                          [&] { Press(Qt::Key_V, Qt::ControlModifier); }};
-  std::mt19937 random(3);
-  const auto any = [&](int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); };
   for (int sitting = 0; sitting < 20; ++sitting) {
     ExpectHeld(table);
     EXPECT_EQ(Text(), "a\t\nb\n\t\na\t\nb\n\t\nx\na\t\nb\n\t");
@@ -50,7 +53,79 @@ TEST_F(BoxFormatsTest, TablesHoldAndStandEveryEdit) {
       other.SetTextRTF(stored);
       ASSERT_EQ(other.TextRTF(), stored);
     }
+    while (box.document()->isUndoAvailable()) box.undo();
+    ASSERT_EQ(WriteRtf(ReadRtf(box.TextRTF())), WriteRtf(ReadRtf(table))) << "undone to the start";
   }
+}
+
+class TableTest : public BoxTest {
+ protected:
+  TableTest() { Set(Page("x\\par " + row_ + row_ + R"(\pard y)")); }
+  const std::string row_ =
+      R"(\trowd\trbrdrh\brdrs\brdrw45\cellx900\clcbpat2\cellx2500\pard\intbl a long cell\cell b\cell\row )";
+};
+
+TEST_F(TableTest, IsDrawnInItsCells) {
+  box.show();
+  const QImage shot = box.viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+  const auto isAt = [&](QRgb color, int x) {
+    int pixels = 0;
+    for (int y = 0; y < shot.height(); ++y) pixels += shot.pixel(x, y) == color;
+    return pixels;
+  };
+  QTextCursor b(box.document()->find(QStringLiteral("b")));
+  b.setPosition(b.selectionStart());
+  const QRect cell = box.cursorRect(b);
+  EXPECT_NEAR(cell.left(), 4 + 900 / 15 + 3, 2);
+  EXPECT_GT(isAt(qRgb(1, 0, 0), 130), 2 * 2 * cell.height())
+      << "the ground of both rows, two lines high each";
+  EXPECT_EQ(isAt(qRgb(1, 0, 0), 30), 0);
+  EXPECT_EQ(isAt(qRgb(0, 0, 0), 130), 3) << "one border between the rows";
+}
+
+// A tab ends a cell and a line a row; the brackets are what is selected.
+TEST_F(TableTest, KeysKeepItsCells) {
+  const auto all = Qt::ControlModifier;
+  struct {
+    int start, length;
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    const char* left;
+  } cases[] = {{14, 0, Qt::Key_Backspace, {}, "x\na long cell[]\tb\t\na long cell\tb\t\ny"},
+               {14, 0, Qt::Key_Backspace, all, "x\na long cell[]\tb\t\na long cell\tb\t\ny"},
+               {13, 0, Qt::Key_Delete, all, "x\na long cell\t[]b\t\na long cell\tb\t\ny"},
+               {1, 0, Qt::Key_Delete, {}, "x\n[]a long cell\tb\t\na long cell\tb\t\ny"},
+               {17, 0, Qt::Key_Backspace, {}, "x\na long cell\tb\t[]\na long cell\tb\t\ny"},
+               {14, 0, Qt::Key_Down, {}, "x\na long cell\tb\t\na long cell\t[]b\t\ny"},
+               {5, 10, Qt::Key_Delete, {}, "x\n[\t]\t\na long cell\tb\t\ny"},
+               {5, 20, Qt::Key_Delete, {}, "x[]\ny"},
+               {30, 0, Qt::Key_Tab, {}, "x\na long cell\tb\t\na long cell\tb\t\n[]\t\t\ny"}};
+  for (const auto& [start, length, key, modifiers, left] : cases) {
+    Set(Page("x\\par " + row_ + row_ + R"(\pard y)"));
+    Select(start, length);
+    Press(key, modifiers);
+    QString text = box.Text();
+    text.insert(box.SelStart() + box.SelLength(), u']').insert(box.SelStart(), u'[');
+    EXPECT_EQ(text.toStdString(), left) << start;
+    while (box.document()->isUndoAvailable()) box.undo();
+    EXPECT_EQ(Text(), "x\na long cell\tb\t\na long cell\tb\t\ny");
+  }
+}
+
+// Of cells that are copied a row is made; in a cell they are its paragraphs.
+TEST_F(TableTest, CellsAreCutAndPasted) {
+  Select(5, 10);
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("a long cell\tb\t"));
+  Select(0, 0);
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Text(), "a long cell\tb\t\nx\na long cell\tb\t\na long cell\tb\t\ny");
+  Type("z");
+  EXPECT_EQ(Text().substr(0, 17), "a long cell\tb\t\nzx");
+  Select(12, 0);
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Text().substr(0, 27), "a long cell\ta long cell\nbb\t");
+  ExpectKept();
 }
 
 TEST_F(BoxFormatsTest, UnderlineOfAPersonIsAPlainOne) {
