@@ -7,6 +7,7 @@
 
 #include <QtGui/QTextCursor>
 
+#include "richtext/box/PastedLook.h"
 #include "richtext/characters/Unicode.h"
 #include "richtext/document/Limits.h"
 #include "richtext/document/PlainText.h"
@@ -14,6 +15,7 @@
 #include "richtext/html/Writer.h"
 #include "richtext/rtf/Reader.h"
 #include "richtext/rtf/Writer.h"
+#include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/TextDocument.h"
 
@@ -92,6 +94,13 @@ std::optional<Document> OfferedRtf(const QMimeData& offered) {
   return std::nullopt;
 }
 
+// Where none is named, other programs would not take the one that the box shows.
+Document WithFonts(Document page) {
+  for (CharacterFormat& format : page.formats)
+    if (format.fontName.empty()) format.fontName = FontNameOf(ToTextFormat(format)).toStdString();
+  return page;
+}
+
 // The kinds of the selection that a program asks for are made when it asks.
 class SelectionOffer : public QMimeData {
  public:
@@ -108,7 +117,7 @@ class SelectionOffer : public QMimeData {
   QVariant retrieveData(const QString& name, QMetaType) const override {
     if (name == TextName) return QString::fromStdString(PlainText(page_));
     if (name == HtmlName) return WriteHtml(page_);
-    return name == RtfName ? QByteArray::fromStdString(WriteRtf(page_)) : QVariant();
+    return name == RtfName ? QByteArray::fromStdString(WriteRtf(WithFonts(page_))) : QVariant();
   }
 
  private:
@@ -126,7 +135,10 @@ bool CanBePasted(const QMimeData& offered) {
 // A browser offers a copied picture as a bitmap and as markup that names it.
 std::optional<PageOnOffer> OfferedPage(const QMimeData& offered, const CharacterFormat& caret) {
   if (auto rtf = OfferedRtf(offered))
-    if (Document page = Kept(std::move(*rtf)); SaysSomething(page)) return PageOnOffer{std::move(page)};
+    if (Document page = Kept(std::move(*rtf)); SaysSomething(page)) {
+      MakeLegible(page, caret);
+      return PageOnOffer{std::move(page)};
+    }
   if (!offered.hasHtml()) return std::nullopt;
   PageOnOffer offer;
   const auto carried = [&] {

@@ -11,6 +11,7 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QScrollBar>
 
+#include "richtext/box/PastedLook.h"
 #include "richtext/box/Pasting.h"
 #include "richtext/box/Printing.h"
 #include "richtext/box/RestNote.h"
@@ -157,7 +158,11 @@ void RichTextBox::InsertBitmap(const QImage& image) {
 }
 
 void RichTextBox::InsertPicture(const QTextCharFormat& picture) {
-  textCursor().insertText(QString(QChar::ObjectReplacementCharacter), picture);
+  QTextCursor cursor = textCursor();
+  cursor.beginEditBlock();
+  cursor.insertText(QString(QChar::ObjectReplacementCharacter), picture);
+  FitPictures(*document(), cursor.position() - 1, cursor.position());
+  cursor.endEditBlock();
   ensureCursorVisible();
 }
 
@@ -188,7 +193,11 @@ void RichTextBox::insertFromMimeData(const QMimeData* source) {
 
 void RichTextBox::InsertOffer(const PageOnOffer& offer) {
   QTextCursor cursor = textCursor();
+  const int from = std::max(0, cursor.selectionStart() - 1);
+  cursor.beginEditBlock();
   InsertDocument(offer.page, cursor);
+  FitPictures(*document(), from, cursor.position());
+  cursor.endEditBlock();
   if (!offer.bitmap.isNull()) MakeFile(offer.bitmap, *document());
 }
 

@@ -3,10 +3,10 @@
 // The room has what a person does to a page. RTF comes in and goes out through rtf/ and textdocument/;
 // between them a page is the toolkit's text document, and each key, paste, choice of a look and word of an
 // input method is looked at here before the toolkit carries it out (RichTextBox.cpp, RichTextBoxKeys.cpp,
-// RichTextBoxSelection.cpp, RichTextBoxComposing.cpp, RichTextBoxHeight.cpp). Pasting.h knows what other
-// programs offer, Printing.h lays a selection out on paper. The hard part is the caret: the look of what is
-// typed next is the toolkit's guess from the letter before it, which is not always what the person means;
-// CaretFormat.h tells when.
+// RichTextBoxSelection.cpp, RichTextBoxDragging.cpp, RichTextBoxComposing.cpp, RichTextBoxHeight.cpp).
+// Pasting.h knows what other programs offer, Printing.h lays a selection out on paper. The hard part is the
+// caret: the look of what is typed next is the toolkit's guess from the letter before it, which is not always
+// what the person means; CaretFormat.h tells when.
 #pragma once
 
 #include <cstdint>
@@ -134,11 +134,14 @@ class RichTextBox : public QTextEdit {
 
  protected:
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragLeaveEvent(QDragLeaveEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   QMimeData* createMimeDataFromSelection() const override;
   void insertFromMimeData(const QMimeData* source) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -189,6 +192,8 @@ class RichTextBox : public QTextEdit {
   bool edited_ = false;    // an edit was seen that Change has not told yet
   unsigned edits_ = 0;     // told so far
   bool labelled_ = false;  // list labels were drawn last
+  bool drags_ = false;     // words of its own are under way
+  QTextCursor dragged_;    // these, while they are outside
   QTextCursor composing_;  // where a word was being composed last
   unsigned commits_ = 0;   // texts that came from input methods so far
   QString awaited_;        // a word whose commit must not come any more

@@ -43,6 +43,8 @@ TEST_F(PastingTest, TakesTheRichestOffer) {
   const std::tuple<QByteArray, const char*, const char*, std::string> offers[] = {
       {"{\\rtf1{\\fonttbl{\\f0 Arial;}}\\f0\\fs20\\b rtf}", "<i>html</i>", "text", "(b 20 Arial)rtf"},
       {"\r\n {\\urtf1\\fs20 old\\u233?}", "", "", "(20)oldé"},
+      {"{\\rtf1{\\colortbl;\\red250\\green255\\blue255;}\\fs20\\cf1 white\\highlight1 x}", "", "",
+       "(20)white(20 #faffff on #faffff)x"},
       {"no rtf at all", "<i>html</i>", "text", "(i)html"},
       {"{\\rtf1 }", "", "a\1b\r\nc\uFFFCd\uFFFE", "ab|cd"},
   };
@@ -189,6 +191,9 @@ TEST_F(PastingTest, TheFileOfALargeBitmapIsMadeWhileOneGoesOnWriting) {
     const Picture picture = Taken().pictures.at(0);
     EXPECT_EQ(DecodedPicture(picture).convertToFormat(large.format()), large);
     EXPECT_EQ(picture.widthTwips == 4500 && picture.heightTwips == 3375, *html != 0);
+    EXPECT_LE(picture.widthTwips / 15, box.viewport()->width());
+    EXPECT_NEAR(picture.widthTwips * 1500.0 / 2000, picture.heightTwips, 1)
+        << "as wide as the page, in its shape";
   }
 }
 
