@@ -3,11 +3,14 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QtCore/QTextBoundaryFinder>
 #include <QtCore/QUrl>
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtGui/QTextCursor>
 
+#include "richtext/box/ColorLetters.h"
 #include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/PageHeight.h"
 #include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
@@ -75,15 +78,39 @@ void PrintedPiece::CopyEnd(const QTextBlock& block, int to, QTextCursor& cursor)
   cursor.setBlockCharFormat(block.charFormat());
 }
 
-void PrintedPiece::CopyText(const QTextBlock& block, int to, QTextCursor& cursor) const {
+void PrintedPiece::CopyText(const QTextBlock& block, int to, QTextCursor& cursor) {
   for (auto part = block.begin(); !part.atEnd(); ++part) {
     const QTextFragment fragment = part.fragment();
     const int begin = std::max(from_, fragment.position());
     const int end = std::min(to, fragment.position() + fragment.length());
     const bool beginsParagraph = begin == block.position();
     if (begin < end)
-      cursor.insertText(fragment.text().mid(begin - fragment.position(), end - begin),
-                        Fitting(fragment.charFormat(), cursor, beginsParagraph));
+      CopyLetters(fragment.text().mid(begin - fragment.position(), end - begin),
+                  Fitting(fragment.charFormat(), cursor, beginsParagraph), cursor);
+  }
+}
+
+// A picture in the place of letters is followed by signs that nobody sees: positions stay what they are.
+void PrintedPiece::CopyLetters(const QString& text, const QTextCharFormat& format, QTextCursor& cursor) {
+  if (!MayHaveColors(text)) return cursor.insertText(text, format);
+  QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, text);
+  for (qsizetype at = 0, end = letters.toNextBoundary(); end > at; at = end, end = letters.toNextBoundary()) {
+    const QString letter = text.mid(at, end - at);
+    QSizeF size;
+    const QImage image = MayHaveColors(letter) ? ColorLetter(letter, format, size) : QImage();
+    if (image.isNull()) {
+      cursor.insertText(letter, format);
+      continue;
+    }
+    QTextImageFormat picture;
+    picture.merge(format);
+    picture.setObjectType(QTextFormat::ImageObject);
+    picture.setName(QStringLiteral("letter:%1").arg(image.cacheKey()));
+    picture.setWidth(size.width());
+    picture.setHeight(size.height());
+    addResource(QTextDocument::ImageResource, QUrl(picture.name()), image);
+    cursor.insertText(QString(QChar::ObjectReplacementCharacter), picture);
+    cursor.insertText(QString(letter.size() - 1, QChar(HiddenSign)), format);
   }
 }
 

@@ -47,7 +47,8 @@ class PrintedPiece : public QTextDocument {
   bool IsCopied(const QTextTable* row, int to) const;
   void Copy(int to);
   void CopyEnd(const QTextBlock& block, int to, QTextCursor& cursor) const;
-  void CopyText(const QTextBlock& block, int to, QTextCursor& cursor) const;
+  void CopyText(const QTextBlock& block, int to, QTextCursor& cursor);
+  void CopyLetters(const QString& text, const QTextCharFormat& format, QTextCursor& cursor);
   QTextCharFormat Fitting(const QTextCharFormat& format, const QTextCursor& cursor,
                           bool beginsParagraph) const;
 
