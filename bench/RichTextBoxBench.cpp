@@ -111,6 +111,14 @@ void ShowLongPage(benchmark::State& state) {
 }
 BENCHMARK(ShowLongPage)->Unit(benchmark::kMillisecond);
 
+void ShowTables(benchmark::State& state) {
+  std::string rtf = "{\\rtf1\\trowd\\trbrdrh\\brdrs\\cellx2000\\cellx4500\\cellx7000\\pard\\intbl ";
+  while (rtf.size() < 1'000'000)
+    rtf += "a few words\\cell some more words in here\\cell and the third\\cell\\row ";
+  ShowPage(state, rtf + "\\pard the end}");
+}
+BENCHMARK(ShowTables)->Unit(benchmark::kMillisecond);
+
 void ShowEmoticons(benchmark::State& state) {
   std::mt19937 random(3);
   Document page = EmptyDocument();

@@ -123,6 +123,7 @@ ROWS = [
     (against, "write 10 MB of RTF; its parsing", "Write/10000000", "Parse/10000000", 1.1),
     (speed, "1 MB into the text box; bare fill", "ValueIntoBox/1000000", 0.7),
     (time, "a page of 1 MB, to laid out and drawn", "ShowLongPage", 150),
+    (time, "1 MB of tables, 14,000 rows, the same", "ShowTables", 600),
     (time, "a page of 50 emoticons, shown", "ShowEmoticons", 30),
     (time, "a key in one paragraph of soft line breaks, 100 KB", "TypeInOneParagraph/100000/1", 16),
     (counted, "the caret's blink there", "TypeInOneParagraph/100000/1", "blink_ms", 2),
