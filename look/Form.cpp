@@ -147,6 +147,7 @@ void Form::paintEvent(QPaintEvent* event) {
   painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
   painter.scale(Growth(), Growth());
   painter.drawPixmap(0, 0, picture_);
+  painter.resetTransform();
   painter.setPen(Gilt);
   painter.drawRect(rect().adjusted(GiltInset, GiltInset, -GiltInset - 1, -GiltInset - 1));
 }
