@@ -30,7 +30,7 @@ constexpr QSize FrameAround{16, 48};
 
 Qt::WindowFlags FlagsOf(Form::Kind kind) {
   const Qt::WindowFlags both = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-  if (kind == Form::Kind::Dialog) return Qt::Dialog | Qt::CustomizeWindowHint | both;
+  if (kind == Form::Kind::Dialog) return Qt::Dialog | both;
   return Qt::Window | both | Qt::WindowMinMaxButtonsHint;
 }
 
@@ -145,9 +145,10 @@ void Form::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.fillRect(event->rect(), palette().window());
   painter.setRenderHint(QPainter::SmoothPixmapTransform);  // at scalings between the whole ones
+  painter.save();
   painter.scale(Growth(), Growth());
   painter.drawPixmap(0, 0, picture_);
-  painter.resetTransform();
+  painter.restore();
   painter.setPen(Gilt);
   painter.drawRect(rect().adjusted(GiltInset, GiltInset, -GiltInset - 1, -GiltInset - 1));
 }
