@@ -104,7 +104,7 @@ void Context::EndCell() {
   if (State().destination != Destination::Body || !builder_.HasRoomForCell()) return EndNestedCell();
   SettleLabel();
   EndText();
-  if (!builder_.PassesEmptyCell(rows_.Told().cells.size())) EndParagraphAs(Place::CellEnd, ParagraphNumber());
+  EndParagraphAs(Place::CellEnd, ParagraphNumber());
 }
 
 // Tables within a cell are paragraphs of that, one for each row.

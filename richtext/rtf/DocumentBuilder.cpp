@@ -88,18 +88,7 @@ void DocumentBuilder::AddPicture(Picture picture) {
   document_.text += PictureMark;
 }
 
-bool DocumentBuilder::PassesEmptyCell(std::size_t told) {
-  const bool isBeyond = told > 0 && cells_ + passed_ >= told;
-  if (!isBeyond || inCell_ > 0 || HasOpenText()) return false;
-  ++passed_;
-  return true;
-}
-
 void DocumentBuilder::EndParagraph(std::uint32_t paragraphFormat, std::uint32_t markFormat, Place place) {
-  for (; passed_ > 0; --passed_, ++cells_) {
-    lastCell_ = document_.paragraphs.size();
-    document_.paragraphs.push_back({0, paragraphFormat, markFormat, Place::CellEnd});
-  }
   const auto length = static_cast<std::uint32_t>(claimed_ - paragraphStart_);
   document_.paragraphs.push_back({length, paragraphFormat, markFormat, place});
   paragraphStart_ = claimed_;
@@ -115,7 +104,7 @@ void DocumentBuilder::EndRow(const RowFormat& format) {
   std::vector<Paragraph>& paragraphs = document_.paragraphs;
   for (auto left = paragraphs.end() - static_cast<std::ptrdiff_t>(inCell_); left != paragraphs.end(); ++left)
     left->place = Place::Text;
-  inCell_ = passed_ = 0;
+  inCell_ = 0;
   if (cells_ == 0) return;
   paragraphs[lastCell_].place = Place::RowEnd;
   document_.rows.push_back(rowFormats_(FittingRow(format, cells_)));

@@ -46,13 +46,10 @@ class DocumentBuilder {
   // A paragraph of the place Cell belongs to the cell that ends next; where none does before the row ends, it
   // is text behind that. No row may be open where text ends.
   void EndParagraph(std::uint32_t paragraphFormat, std::uint32_t markFormat, Place place);
-  // Whether the cell that ends here is empty and beyond those that the row tells: it is one only where
-  // another paragraph of the row follows.
-  bool PassesEmptyCell(std::size_t told);
   // The row that is open has ended; nothing where none is.
   void EndRow(const RowFormat& format);
   bool HasOpenRow() const { return cells_ > 0; }
-  bool HasRoomForCell() const { return cells_ + passed_ < MaxCells; }
+  bool HasRoomForCell() const { return cells_ < MaxCells; }
 
   // Whether the paragraph that is being built has text.
   bool HasOpenText() const { return claimed_ != paragraphStart_; }
@@ -72,7 +69,6 @@ class DocumentBuilder {
   std::size_t cells_ = 0;           // of the open row
   std::size_t lastCell_ = 0;        // the paragraph that the last of them ended with
   std::size_t inCell_ = 0;          // paragraphs behind that
-  std::size_t passed_ = 0;          // empty cells behind it that may be none
   std::size_t claimed_ = 0;         // units of text that belong to runs
   std::size_t paragraphStart_ = 0;  // where the open paragraph begins
 };
