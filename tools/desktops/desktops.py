@@ -109,10 +109,10 @@ class Desktop:
             end.callback(lambda: self.all_get(signal.SIGKILL))
             desk.point(640, 900)
             if not self.wayland:
-                wait_for(lambda: manager_of(desk))
+                wait_for(lambda: manager_of(desk), PATIENCE)
                 yield outer | {"QT_QPA_PLATFORM": "xcb"}
                 return
-            inner = {**outer, "WAYLAND_DISPLAY": wait_for(names)[0], "QT_QPA_PLATFORM": self.platform}
+            inner = {**outer, "WAYLAND_DISPLAY": wait_for(names, PATIENCE)[0], "QT_QPA_PLATFORM": self.platform}
             if self.platform == "xcb": inner["DISPLAY"] = wait_for(lambda: (run / "xwayland").exists() and (run / "xwayland").read_text().strip())
             else: del inner["DISPLAY"]
             desk.stands_still()
@@ -287,13 +287,19 @@ def picture(path, width, height):
                      + b"\xff\x00\xff" * (width * height))
 
 def travel(desktop, album):
-    """A cell for each step, the first miss in words; what comes behind it was not tried."""
+    """A desktop that does not come up is no matter of the program: it is started anew, twice at most."""
+    for _ in range(3):
+        if cells := travel_once(desktop, album): return cells
+    return {"first start": "the desktop did not start"}
+
+def travel_once(desktop, album):
+    """A cell for each step, the first miss in words; what comes behind it was not tried. None: there was no desktop."""
     cells = {}
     with tempfile.TemporaryDirectory(prefix="desktops-") as top, contextlib.ExitStack() as life:
         run = pathlib.Path(top)
         desk, server = life.enter_context(screen(run))
         try: journey = Journey(desktop, desk, server, run, life.enter_context(desktop.session(run, desk)))
-        except TimeoutError: return {"first start": "the desktop did not start"}
+        except TimeoutError: return None
         try:
             for step, act in Journey.STEPS.items():
                 try: cells[step] = act(journey) or "yes"
