@@ -74,6 +74,9 @@ TEST(Palettes, WriteWhatIsEasyToRead) {
           Contrast(palette.color(QPalette::Disabled, text), palette.color(QPalette::Disabled, ground));
       EXPECT_GE(disabled, text == HighlightedText ? 3 : 4) << text << ' ' << surface.rgb();
     }
+    for (const auto mark : {Highlight, Text})  // what is chosen, and the line around what has the keyboard
+      for (const auto ground : {Window, Button, Base})
+        EXPECT_GE(Contrast(palette.color(mark), palette.color(ground)), 3) << mark << ' ' << surface.rgb();
   }
 }
 
