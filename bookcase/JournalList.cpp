@@ -88,11 +88,17 @@ void PaintLabel(QPainter& painter, const QRect& place, const QStyleOptionViewIte
 // Behind the icon that is selected, as if a lamp stood on the board.
 void PaintGlow(QPainter& painter, const QRect& cell, const QStyleOptionViewItem& option) {
   const QColor face = option.palette.color(QPalette::Button);
-  QRadialGradient glow(QPointF(cell.center().x() + 1, cell.top() + BoardTop() - 12), 40);
+  constexpr double wide = 1.6, below = 12;  // times its height; pixels of it that fall on the board
+  const double radius = BoardTop() - below;
+  QRadialGradient glow(QPointF(), radius);
   glow.setColorAt(0, face);
   glow.setColorAt(0.5, look::Mixed(face, look::Board, 0.75f));
   glow.setColorAt(1, look::Board);
-  painter.fillRect(QRect(cell.center().x() - 39, cell.top(), 80, BoardTop()), glow);
+  painter.save();
+  painter.translate(cell.center().x() + 1, cell.top() + radius);
+  painter.scale(wide, 1);
+  painter.fillRect(QRectF(-radius, -radius, 2 * radius, radius + below), glow);
+  painter.restore();
 }
 
 class JournalLabel : public QStyledItemDelegate {
@@ -149,6 +155,9 @@ JournalList::JournalList(QWidget* parent) : QListWidget(parent) {
   setUniformItemSizes(true);
   setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   setItemDelegate(new JournalLabel(this));
+  QPalette strip;
+  strip.setColor(QPalette::Base, look::Board);
+  verticalScrollBar()->setPalette(strip);
   RuleGrid();
 }
 

@@ -32,7 +32,7 @@ class TwoClickStyle : public look::PaperStyle {
   }
 };
 
-constexpr QColor Gilt(0xa8, 0x84, 0x3a);
+constexpr QColor RingOfGilt(0xa8, 0x84, 0x3a);
 constexpr QColor WeekendRed(0x7d, 0x1a, 0x30);
 constexpr float StandingBack = 0.62f;  // of the ink of a day of the months beside
 
@@ -58,11 +58,11 @@ QPixmap Chevron(bool toTheLeft, const QColor& color, double letterHeight, double
   return picture;
 }
 
-void PaintRing(QPainter& painter, const QRectF& room) {
+void PaintRing(QPainter& painter, const QRectF& room, const QColor& ink) {
   const double side = std::min(room.width(), room.height()) - 1;
   QRectF ring(0, 0, side * 1.25, side);
   ring.moveCenter(room.center());
-  painter.setPen(QPen(Gilt, 1.75));
+  painter.setPen(QPen(ink, 1.75));
   painter.setBrush(Qt::NoBrush);
   painter.drawEllipse(ring);
 }
@@ -188,7 +188,8 @@ void DateCalendar::paintCell(QPainter* painter, const QRect& cell, QDate day) co
     if (focusProxy()->hasFocus())
       look::DrawFocusLine(*painter, label.adjusted(1.5, 1.5, -1.5, -1.5), look::Ink);
   }
-  if (day == platform::CalendarDay(value_)) PaintRing(*painter, label);
+  if (day == platform::CalendarDay(value_))
+    PaintRing(*painter, label, day == selectedDate() ? look::Walnut : RingOfGilt);
   const bool isWeekend = !locale().weekdays().contains(static_cast<Qt::DayOfWeek>(day.dayOfWeek()));
   const QColor ink = isWeekend ? WeekendRed : look::Ink;
   painter->setPen(IsOfTheMonth(day) ? ink : look::Mixed(ink, look::Paper, StandingBack));

@@ -7,6 +7,7 @@
 #include <QtWidgets/QStyleOption>
 
 #include "look/ButtonFace.h"
+#include "look/Growth.h"
 #include "look/Palettes.h"
 #include "look/Theme.h"
 
@@ -60,6 +61,16 @@ bool IsFlatUnderMouse(const QStyleOption* option) {
          (button->state & QStyle::State_MouseOver) && !(button->state & QStyle::State_Sunken);
 }
 
+// By its four edges: the toolkit's line lies half outside at scalings between the whole ones.
+void PaintFrame(QPainter& painter, const QStyleOption& option) {
+  const QColor edge = option.palette.color(QPalette::Window).darker(140).lighter(108);
+  const QRect& place = option.rect;
+  painter.fillRect(QRect(place.topLeft(), QSize(place.width(), 1)), edge);
+  painter.fillRect(QRect(place.bottomLeft(), QSize(place.width(), 1)), edge);
+  painter.fillRect(QRect(place.topLeft(), QSize(1, place.height())), edge);
+  painter.fillRect(QRect(place.topRight(), QSize(1, place.height())), edge);
+}
+
 void PaintTip(QPainter& painter, const QStyleOption& option) {
   painter.fillRect(option.rect, option.palette.toolTipBase());
   painter.setPen(Walnut);
@@ -84,7 +95,7 @@ QRect SliderOf(const QStyleOptionSlider& bar) {
 // A strip of the paper that it stands beside, with a rod of walnut in it.
 void PaintScrollBar(QPainter& painter, const QStyleOptionSlider& bar) {
   painter.save();
-  painter.fillRect(bar.rect, bar.palette.color(QPalette::Window));
+  painter.fillRect(bar.rect, bar.palette.color(QPalette::Base));
   if (bar.maximum > bar.minimum) {
     QColor rod = Walnut;
     const bool isHeld =
@@ -105,6 +116,15 @@ void PaintScrollBar(QPainter& painter, const QStyleOptionSlider& bar) {
 
 PaperStyle::PaperStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+void PaperStyle::polish(QWidget* widget) {
+  QProxyStyle::polish(widget);
+  if (!widget->inherits("QTipLabel")) return;
+  QFont font = widget->font();
+  font.setFamilies({QStringLiteral("Verdana")});
+  widget->setFont(font);
+  widget->setPalette(PaperPalette());
+}
+
 void PaperStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {
   switch (element) {
@@ -116,11 +136,15 @@ void PaperStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
       return PaintHollow(*painter, *option);
     case PE_PanelScrollAreaCorner:
       return painter->fillRect(option->rect, option->palette.base());
+    case PE_Frame:
+      if (!widget || widget->isWindow()) break;
+      return PaintFrame(*painter, *option);
     case PE_FrameDefaultButton:
       return;  // its edge is double
     default:
-      return QProxyStyle::drawPrimitive(element, option, painter, widget);
+      break;
   }
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
 // A flat button is a label under the mouse alone, and a bar grows in the same colour behind another window.
@@ -171,11 +195,16 @@ QRect PaperStyle::subControlRect(ComplexControl control, const QStyleOptionCompl
 int PaperStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   switch (metric) {
     case PM_ScrollBarExtent:
-      return ScrollBarWidth;
+      return Grown(ScrollBarWidth);
     case PM_ButtonMargin:
       return ButtonMargin;
     case PM_ScrollBarSliderMin:
       return LeastSlider;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+      return Grown(QProxyStyle::pixelMetric(metric, option, widget));
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);
   }

@@ -12,6 +12,10 @@ class PaperStyle : public QProxyStyle {
  public:
   PaperStyle();
 
+  using QProxyStyle::polish;
+  // A tool tip has its colours and its font from the desktop, also from one that has just changed.
+  void polish(QWidget* widget) override;
+
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -32,7 +32,9 @@ QIcon OverSky(const std::string& path, double devicePixelRatio) {
   painter.drawImage(0, 0, Frame(path, picture.size()));
   painter.end();
   picture.setDevicePixelRatio(devicePixelRatio);
-  return picture;
+  QIcon icon(picture);
+  icon.addPixmap(picture, QIcon::Selected);  // the chosen one is no other
+  return icon;
 }
 
 }  // namespace

@@ -252,12 +252,18 @@ TEST_F(EveryWindow, WearsTheSameToThePixelOnALightAndOnADarkDesktop) {
     grab(help);
     grab(*std::unique_ptr<QMenu>(help.Browser->createStandardContextMenu()));
     ForEachOfTheToolkit(grab);
+    QToolTip::showText({5, 5}, u"A tip"_qs, &help);
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (window->inherits("QTipLabel")) {
+        grab(*std::unique_ptr<QWidget>(window));
+        break;
+      }
     look::UnloadAllForms();
     return pictures;
   };
   const auto light = grabbed(QPalette(QColor(0xef, 0xf0, 0xf1))),
              dark = grabbed(QPalette(QColor(0x31, 0x36, 0x3b)));
-  EXPECT_EQ(light.size(), 21u);
+  EXPECT_EQ(light.size(), 22u);
   for (const auto& [name, picture] : light) EXPECT_EQ(picture, dark.at(name)) << name.toStdString();
 }
 
