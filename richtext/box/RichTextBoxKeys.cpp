@@ -103,7 +103,11 @@ void RichTextBox::DeleteBack(QKeyEvent& event) {
 
 void RichTextBox::DeleteNext(QKeyEvent& event) {
   QTextCursor cursor = textCursor();
-  if (IsBorder(*document(), cursor.position())) return moveCursor(QTextCursor::NextCharacter);
+  PassNext(cursor);
+  if (IsBorder(*document(), cursor.position())) {
+    setTextCursor(cursor);
+    return moveCursor(QTextCursor::NextCharacter);
+  }
   SelectNextLetter(cursor);
   setTextCursor(cursor);
   QTextEdit::keyPressEvent(&event);

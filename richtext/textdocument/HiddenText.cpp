@@ -86,8 +86,12 @@ void PassBack(QTextCursor& cursor) {
     cursor.setPosition(cursor.position() - 1);
 }
 
-void SelectNextLetter(QTextCursor& cursor) {
+void PassNext(QTextCursor& cursor) {
   while (!cursor.atBlockEnd() && IsSign(cursor, cursor.position())) cursor.setPosition(cursor.position() + 1);
+}
+
+void SelectNextLetter(QTextCursor& cursor) {
+  PassNext(cursor);
   cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
   while (cursor.position() > cursor.anchor() && IsSign(cursor, cursor.position() - 1))
     cursor.setPosition(cursor.position() - 1, QTextCursor::KeepAnchor);

@@ -25,6 +25,8 @@ int FromShown(const QTextDocument& document, int position);
 
 // Moves a cursor that stands behind signs before them.
 void PassBack(QTextCursor& cursor);
+// Moves a cursor that stands before signs behind them, within its paragraph.
+void PassNext(QTextCursor& cursor);
 // Selects what the delete key takes away at the cursor: the letter that follows, without the signs around it.
 void SelectNextLetter(QTextCursor& cursor);
 // Removes the selection but for its signs, as one step of undo.

@@ -113,6 +113,28 @@ TEST_F(TableTest, KeysKeepItsCells) {
 }
 
 // Of cells that are copied a row is made; in a cell they are its paragraphs.
+// A selection that reaches over a border would be the toolkit's whole row.
+TEST_F(TableTest, DeleteTakesOneLetterWhereverHiddenTextStands) {
+  const std::string page = Page(
+      R"(before{\v a}\par\trowd\cellx2000\cellx4000\cellx6000\intbl one{\v b}\cell {\v c}\cell two\cell\row after)");
+  const auto letters = [&] {
+    const std::string text = Text();
+    return std::count_if(text.begin(), text.end(),
+                         [](char letter) { return letter >= 'a' && letter <= 'z'; });
+  };
+  Set(page);
+  const auto all = letters();
+  const int length = static_cast<int>(box.Text().size());
+  for (int place = 0; place <= length; ++place) {
+    Set(page);
+    box.SetSelStart(place);
+    for (int pressed = 1; pressed <= 3; ++pressed) {
+      Press(Qt::Key_Delete);
+      EXPECT_GE(letters(), all - pressed) << place;
+    }
+  }
+}
+
 TEST_F(TableTest, CellsAreCutAndPasted) {
   Select(5, 10);
   Press(Qt::Key_C, Qt::ControlModifier);
