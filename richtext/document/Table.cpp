@@ -21,7 +21,7 @@ RowFormat FittingRow(RowFormat row, std::size_t cells) {
   row.height = FittingIndent(row.height);
   cells = std::clamp<std::size_t>(cells, 1, MaxCells);
   while (row.cells.size() < cells) {
-    const std::int32_t left = row.cells.empty() ? row.left : row.cells.back().right;
+    const std::int32_t left = row.cells.empty() ? row.left : FittingIndent(row.cells.back().right);
     row.cells.emplace_back().right = FittingIndent(left + TwipsPerInch);
   }
   row.cells.resize(cells);
