@@ -38,9 +38,10 @@ class FormTest : public fixture::Windows {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&look::The<Dialog>()));
     return look::The<Dialog>();
   }
-  static void ServeFor(look::Pass& pass, int milliseconds) {
-    QElapsedTimer time;
-    for (time.start(); time.elapsed() < milliseconds; QThread::msleep(2)) pass.Yield();
+  static void Serve(
+      look::Pass& pass, int mostMilliseconds, const std::function<bool()>& isDone = [] { return false; }) {
+    for (QDeadlineTimer end(mostMilliseconds); !isDone() && !end.hasExpired(); QThread::msleep(2))
+      pass.Yield();
   }
 };
 
@@ -96,6 +97,7 @@ TEST_F(FormTest, ATextThatOutgrowsItsPlaceIsItsToolTip) {
 TEST_F(FormTest, InputOfAPassWaitsForItsEndInOrderAndSoDoesTheOneCloseRequest) {
   auto& dialog = ShownDialog();
   int turns = 0;
+  bool isTyped = false;
   {
     look::Pass outer;
     QTimer::singleShot(0, [&] {
@@ -104,18 +106,19 @@ TEST_F(FormTest, InputOfAPassWaitsForItsEndInOrderAndSoDoesTheOneCloseRequest) {
       commit.setCommitString(QStringLiteral("é"));
       QCoreApplication::sendEvent(dialog.box, &commit);
       QTest::keyClick(dialog.box, Qt::Key_B);
+      isTyped = true;
     });
-    ServeFor(outer, 60);
+    Serve(outer, 30'000, [&] { return isTyped; });
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] {
       const int before = ++turns;
       look::Pass inner;
       dialog.close();
-      ServeFor(inner, 20);
+      Serve(inner, 20);
       EXPECT_EQ(turns, before) << "a pass serves timers and never itself";
     });
     timer.start(1);
-    ServeFor(outer, 100);
+    Serve(outer, 30'000, [&] { return turns >= 2; });
     dialog.close();
     EXPECT_EQ(dialog.box->text(), QString());
     EXPECT_TRUE(dialog.isVisible());
@@ -141,7 +144,7 @@ TEST_F(FormTest, TheWaitWindowComesWithALongPassAndLeavesTheFocusAlone) {
   {
     look::Pass pass;
     wait.ShowSoon();
-    ServeFor(pass, 100);
+    Serve(pass, 30'000, [&] { return wait.isVisible(); });
     EXPECT_TRUE(wait.isVisible());
     EXPECT_FALSE(wait.isModal());
     wait.close();

@@ -140,7 +140,7 @@ TEST_F(AddPicture, OpensBeforeALargePictureIsDecoded) {
       EXPECT_TRUE(dialog.isVisible() && !dialog.cmdOK->isEnabled());
       Click(dialog.cmdResizeFactor50);
       EXPECT_EQ(dialog.lblScale->text(), u"Scale: 50%");
-      EXPECT_EQ(QTest::qWaitFor([&] { return dialog.cmdOK->isEnabled(); }, waits ? 60000 : 1), waits);
+      EXPECT_TRUE(!waits || QTest::qWaitFor([&] { return dialog.cmdOK->isEnabled(); }, 60000));
       EXPECT_EQ(AddWidth == 7056, waits) << AddWidth;
       dialog.CloseBox();
     });

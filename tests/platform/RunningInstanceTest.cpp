@@ -60,7 +60,7 @@ QByteArray Say(const RunningInstance& instance, const QByteArray& words, uid_t u
   socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
   AsAnotherUser([&] { socket.connectToServer(instance.Name()); }, user);
   socket.write(words);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return socket.state() == QLocalSocket::UnconnectedState; }, 4000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return socket.state() == QLocalSocket::UnconnectedState; }, 30000));
   return socket.readAll();
 }
 

@@ -23,19 +23,25 @@ QImage Noise(QSize size) {
 
 TEST(PngMaker, IsStoppedInSilenceWhenNobodyWantsTheFile) {
   const QImage image = Noise({2500, 2000});
-  const auto stoppedAfter = [&](int milliseconds) {
-    std::atomic<bool> stop = false;
-    auto made = std::async(std::launch::async, [&] { return SmallPng(image, &stop); });
-    QThread::msleep(static_cast<unsigned long>(milliseconds));
-    stop = true;
+  const std::string whole = SmallPng(image);
+  std::atomic<bool> isStopped = false;
+  const auto stoppedAfter = [&](unsigned long milliseconds) {
+    isStopped = milliseconds == 0;
+    auto made = std::async(std::launch::async, [&] { return SmallPng(image, &isStopped); });
+    QThread::msleep(milliseconds);
+    isStopped = true;
     return made.get();
   };
   testing::internal::CaptureStderr();
-  for (const int milliseconds : {0, 20, 60}) EXPECT_EQ(stoppedAfter(milliseconds), "") << milliseconds;
+  EXPECT_EQ(stoppedAfter(0), "");
+  for (const unsigned long milliseconds : {1, 20, 60}) {
+    const std::string made = stoppedAfter(milliseconds);
+    EXPECT_TRUE(made.empty() || made == whole) << milliseconds;
+  }
   { const PngMaker unwanted(image); }
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
   const PngMaker wanted(image);
-  EXPECT_TRUE(wanted.Bytes() == SmallPng(image));
+  EXPECT_TRUE(wanted.Bytes() == whole);
   EXPECT_TRUE(wanted.IsDone());
 }
 
