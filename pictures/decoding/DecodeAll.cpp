@@ -11,6 +11,9 @@
 namespace pictures {
 namespace {
 
+// Each may need the memory of a whole picture of the largest size, and a page seldom has more photographs.
+constexpr std::size_t MostAtOnce = 4;
+
 Outcome OutcomeOf(const WantedPicture& wanted) {
   try {
     return {Decode(wanted), nullptr};
@@ -51,7 +54,7 @@ std::vector<std::thread> MakeThreads(std::size_t count, Decoding& decoding) {
 std::vector<Outcome> DecodeAll(const std::vector<WantedPicture>& wanted) {
   Decoding decoding(wanted);
   const std::size_t processors = std::max(1U, std::thread::hardware_concurrency());
-  const std::size_t atOnce = std::min(processors, wanted.size());
+  const std::size_t atOnce = std::min({processors, wanted.size(), MostAtOnce});
   std::vector<std::thread> threads = MakeThreads(atOnce > 0 ? atOnce - 1 : 0, decoding);
   decoding.TakeOneAfterAnother();
   for (std::thread& thread : threads) thread.join();

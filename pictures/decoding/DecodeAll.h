@@ -1,4 +1,4 @@
-// Several pictures at once, on all processors.
+// Several pictures at once, on up to four processors.
 #pragma once
 
 #include <exception>
