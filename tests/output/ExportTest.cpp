@@ -38,6 +38,7 @@ class Export : public fixture::OpenBook {
 
 TEST_F(Export, OneDatedPageMakesTwoFiles) {
   Begin({"A title\\par 1 < 2 & 3", "\\'e9 \\u1046?\\line b\\par\\par"});
+  EXPECT_FALSE(dialog().txtH3headline->hasSelectedText());
   Click(dialog().chkMulti);
   Click(dialog().chkShowDates);
   dialog().txtH3headline->setText(u"\u0416"_qs);

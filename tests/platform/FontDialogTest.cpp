@@ -66,6 +66,7 @@ TEST_F(FontDialogTest, TypingLeadsTheListAndAnUnknownNameIsNotAccepted) {
   back = After({u"DejaVu Sans"_qs, 16}, [](FontPicker& picker) {
     QListWidget& sizes = *picker.size->list;
     ASSERT_TRUE(sizes.isVisible());
+    EXPECT_GT(sizes.y(), picker.size->edit->y());
     sizes.scrollToTop();
     QTest::mouseClick(sizes.viewport(), Qt::LeftButton, {}, sizes.visualItemRect(sizes.item(1)).center());
     EXPECT_EQ(picker.size->edit->text(), sizes.item(1)->text());

@@ -101,6 +101,11 @@ TEST_F(PastingTest, PicturesComeFromTheClipboardAlone) {
   const QString styled = QString(held).replace(QLatin1String("width=30"),
                                                QLatin1String("height=9 style='width:80.5px; height:auto'"));
   EXPECT_TRUE(Dump(Read(styled)).ends_with(" 1200x0>")) << "as wide";
+  Document high = ReadRtf("{\\rtf1{\\pict\\pngblip\\pichgoal150 00}}");
+  high.pictures[0].bytes = SmallPng(Checkers({64, 32}));
+  FillDocument(high, *box.document());
+  box.SetSelStart(1);
+  EXPECT_EQ(box.textCursor().charFormat().toImageFormat().width(), 20) << "in its shape";
 }
 
 // Each element costs the toolkit a look at all that is open.

@@ -34,7 +34,7 @@ TEST(PngMaker, IsStoppedInSilenceWhenNobodyWantsTheFile) {
   };
   testing::internal::CaptureStderr();
   EXPECT_EQ(stoppedAfter(0), "");
-  for (const unsigned long milliseconds : {1, 20, 60}) {
+  for (const unsigned long milliseconds : {1UL, 20UL, 60UL}) {
     const std::string made = stoppedAfter(milliseconds);
     EXPECT_TRUE(made.empty() || made == whole) << milliseconds;
   }

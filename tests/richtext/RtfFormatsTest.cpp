@@ -9,6 +9,7 @@ namespace {
 
 TEST(RtfFormats, HasNoMoreLinkAndTabsThanAreKept) {
   const std::string link = R"({\rtf1{\field{\*\fldinst HYPERLINK )";
+  ExpectReads(link + R"(\\o "tip" \\n "x://y"}{\fldrslt b}}})", "(-> x://y)b()");
   for (const bool isTooLong : {false, true}) {
     const std::string target(MaxLink + isTooLong, 'x');
     ExpectReads(link + target + R"(}{\fldrslt b}}})", isTooLong ? "b" : "(-> " + target + ")b()");
