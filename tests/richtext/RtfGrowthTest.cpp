@@ -12,8 +12,8 @@ std::string Repeated(const std::string& part, std::size_t times) {
   return all;
 }
 
-// A reader that looks things up in a list, copies as it grows, or recurses does not come to the end of these in
-// an hour.
+// A reader that looks things up in a list, copies as it grows, or recurses does not come to the end of these
+// in an hour.
 TEST(RtfGrowth, TakesTimeByTheInputsLengthOnly) {
   const std::size_t many = 200'000;
   std::string fonts = "{\\rtf1{\\fonttbl", sizes = "{\\rtf1{\\colortbl;" + Repeated("\\red1;", many) + "}";
