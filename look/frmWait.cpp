@@ -14,11 +14,18 @@ constexpr std::chrono::milliseconds Frame{16};
 // A window manager that takes longer is not waited for.
 constexpr std::chrono::milliseconds MostForAppearing{250};
 
+// Wayland gives the keyboard to every window, and what is typed meanwhile would go with this one; a window
+// like a tip's gets none.
+Qt::WindowFlags FlagsHere() {
+  if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) return Qt::ToolTip;
+  return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowDoesNotAcceptFocus;
+}
+
 }  // namespace
 
 frmWait::frmWait()
     : Form(Kind::Dialog, QStringLiteral("frmWait"), QStringLiteral("Thorn Quill"), 5400, 1560) {
-  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowDoesNotAcceptFocus);
+  setWindowFlags(FlagsHere());
   setAttribute(Qt::WA_ShowWithoutActivating);
   setFocusPolicy(Qt::NoFocus);
   SetPicture(CurrentTheme().large);
