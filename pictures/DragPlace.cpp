@@ -1,19 +1,24 @@
 #include "pictures/DragPlace.h"
 
+#include <algorithm>
+
 namespace pictures {
 namespace {
 
-constexpr QPoint TitleBarAllowance(0, 32);
+constexpr int TitleBarAllowance = 32;
 
-bool HasTitleBar(const QRect& frame, const QRect& client) {
-  return client.top() - frame.top() > frame.bottom() - client.bottom();
+int TitleBar(const QRect& frame, const QRect& client) {
+  const int above = client.top() - frame.top();
+  return above > frame.bottom() - client.bottom() ? above : 0;
 }
 
 }  // namespace
 
 QPoint DragPlace(QPoint pointer, const QRect& frame, const QRect& client) {
-  if (HasTitleBar(frame, client)) return pointer - frame.topLeft() - TitleBarAllowance;
-  return pointer - client.topLeft() - QPoint(0, HandleTop);
+  const int bar = TitleBar(frame, client);
+  if (bar == 0) return pointer - client.topLeft() - QPoint(0, HandleTop);
+  const int onHandle = std::clamp(TitleBarAllowance - bar, HandleTop, HandleTop + HandleHeight - 1);
+  return {pointer.x() - frame.left(), pointer.y() - client.top() - onHandle};
 }
 
 }  // namespace pictures

@@ -27,7 +27,6 @@ static void LinkResources() {
 
 namespace {
 
-constexpr int HandleHeight = 20;
 constexpr int FrameLeft = 1;
 constexpr std::chrono::milliseconds Lingering(500);
 
@@ -81,7 +80,7 @@ void PictureSlots::MakeSlot(std::size_t slot, QWidget* page) {
   imgFrame[slot] = MakeImage(slot, "imgFrame", "Frame");
   imgFrame[slot]->move(FrameLeft, 0);
   imgController[slot] = MakeImage(slot, "imgController", "Handle");
-  imgController[slot]->setGeometry(0, pictures::HandleTop, box->width(), HandleHeight);
+  imgController[slot]->setGeometry(0, pictures::HandleTop, box->width(), pictures::HandleHeight);
   imgController[slot]->SetPicture(HandleBar(page->devicePixelRatioF()));
   imgController[slot]->setCursor(Qt::SizeAllCursor);
   imgController[slot]->hide();
@@ -140,7 +139,7 @@ void PictureSlots::Show(std::size_t slot, std::int32_t row) {
   imgPhoto[slot]->resize(size);
   rows_[slot] = row;
   picDisplayPics[slot]->resize(size);
-  imgController[slot]->resize(size.width(), HandleHeight);
+  imgController[slot]->resize(size.width(), pictures::HandleHeight);
   picDisplayPics[slot]->move(PlaceOf(picture));
   imgFrame[slot]->hide();
   picDisplayPics[slot]->show();
