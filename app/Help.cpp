@@ -5,6 +5,7 @@
 #include <QtWidgets/QApplication>
 
 #include "app/HelpWindow.h"
+#include "look/Pass.h"
 #include "platform/Failure.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/Files.h"
@@ -52,6 +53,8 @@ class F1Filter : public QObject {
   bool eventFilter(QObject* receiver, QEvent* event) override {
     if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1)
       return false;
+    if (look::Pass::InProgress())
+      return true;  // a help that takes no keys would lie over what can be pressed
     auto* control = qobject_cast<QWidget*>(receiver);
     if (!control) return false;  // the window's own part of the way; its control comes next
     ShowHelp(control->window());

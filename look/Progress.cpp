@@ -59,6 +59,7 @@ bool Progress::GoOn(const QString& what, int done, int all) {
   }
   if (window_) {
     window_->lblInfo->setText(what);
+    window_->ProgressBar1->setVisible(all > 0);
     window_->ProgressBar1->setRange(0, all);
     window_->ProgressBar1->setValue(done);
   }

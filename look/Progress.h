@@ -22,7 +22,7 @@ class frmProgress : public Form {
   frmProgress();
 
   QLabel* lblInfo;
-  QProgressBar* ProgressBar1;  // running to and fro where its maximum is 0
+  QProgressBar* ProgressBar1;  // hidden where nobody knows how much there is
   PictureButton* cmdCancel;
 
   bool IsCancelled() const { return cancelled_; }

@@ -5,9 +5,11 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QPointer>
+#include <QtCore/QScopeGuard>
 #include <QtPrintSupport/QPrintDialog>
 #include <QtPrintSupport/QPrinter>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QVBoxLayout>
 
@@ -41,11 +43,10 @@ class PrinterPaper : public richtext::Paper {
     if (refusal.empty()) return true;
     throw platform::Failure(platform::FailureKind::DeviceError, Name() + " (" + refusal + ")");
   }
+  void GiveUp() override { nowhere_.emplace(); }
   void Withdraw() override {
-    if (IsFile())
-      QFile::remove(printer_->outputFileName());
-    else
-      CancelNewestJob(Name(), printer_->docName().toStdString());
+    nowhere_.reset();
+    if (IsFile()) QFile::remove(printer_->outputFileName());
   }
   bool NextSheet() override { return printer_->newPage() && printer_->printerState() != QPrinter::Error; }
 
@@ -54,6 +55,7 @@ class PrinterPaper : public richtext::Paper {
   std::string Name() const { return printer_->printerName().toStdString(); }
 
   std::unique_ptr<QPrinter> printer_;
+  std::optional<NoPrintSystem> nowhere_;
 };
 
 // The toolkit's own choice of pages knows no page 0: its boxes begin at 1, and a range of 0 to 0 means all to
@@ -99,6 +101,18 @@ QPrintDialog* MakeDialog(QPrinter& printer, PrintRange*& range, const PrintReque
   return dialog;
 }
 
+// A printer may have gone while the dialog showed it; then the toolkit prints on the one that was chosen
+// before.
+void CheckPrinter(const QPrintDialog& dialog, const QPrinter& printer) {
+  const auto* shown = dialog.findChild<QComboBox*>(QStringLiteral("printers"));
+  if (printer.outputFormat() == QPrinter::PdfFormat || !shown ||
+      shown->currentText() == printer.printerName())
+    return;
+  throw platform::Failure(
+      platform::FailureKind::DeviceError,
+      shown->currentText().toStdString() + " (the print system does not have it any more)");
+}
+
 QString NameOf(const QPrinter& printer) {
   return printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName();
 }
@@ -110,11 +124,10 @@ std::optional<PrintOrder> AskOnTheDesktop(const PrintRequest& request) {
   PrintRange* range = nullptr;
   // The window under the dialog may be destroyed while it is up, and takes the dialog with it.
   const QPointer<QPrintDialog> dialog = MakeDialog(*printer, range, request);
-  const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
-  PrintOrder order;
-  if (accepted) order = range->Order();
-  delete dialog;
-  if (!accepted) return std::nullopt;
+  const auto forget = qScopeGuard([&] { delete dialog; });
+  if (dialog->exec() != QDialog::Accepted || !dialog) return std::nullopt;
+  CheckPrinter(*dialog, *printer);
+  PrintOrder order = range->Order();
   order.printer = NameOf(*printer).toStdString();
   order.paper = std::make_unique<PrinterPaper>(std::move(printer));
   return order;

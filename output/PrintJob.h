@@ -1,4 +1,4 @@
-// What became of a job that the print system was given: the toolkit does not tell.
+// What becomes of a job that the toolkit hands to the print system: it can neither be told nor stopped there.
 #pragma once
 
 #include <string>
@@ -7,5 +7,12 @@
 // where it has.
 std::string WhyJobWasRefused();
 
-// Takes back the newest job of this user and this title that the printer has not printed yet.
-void CancelNewestJob(const std::string& printer, const std::string& title);
+// While one lives, this thread finds no print system, and a job that ends is dropped before anybody has a
+// part of it. To take it back afterwards would be too late where the printer is idle.
+class NoPrintSystem {
+ public:
+  NoPrintSystem();
+  ~NoPrintSystem();
+  NoPrintSystem(const NoPrintSystem&) = delete;
+  NoPrintSystem& operator=(const NoPrintSystem&) = delete;
+};

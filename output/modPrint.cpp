@@ -42,7 +42,9 @@ class LivelyPaper : public richtext::Paper {
   bool IsWhole() const override { return paper_.IsWhole(); }
   bool NextSheet() override {
     const QString printing = QStringLiteral("Printing sheet %1").arg(++sheets_);
-    return progress_.GoOn(printing, 0, 0) && paper_.NextSheet();
+    if (progress_.GoOn(printing, 0, 0)) return paper_.NextSheet();
+    paper_.GiveUp();
+    return false;
   }
 
  private:

@@ -20,7 +20,9 @@ class Paper {
   // When the painter has ended: whether everything has arrived, as far as can be known. Throws a
   // platform::Failure where it is known why not.
   virtual bool IsWhole() const { return true; }
-  // When the painter has ended: takes back what was printed, as far as that is possible.
+  // In place of NextSheet, while a painter is at work: what was printed so far is to go nowhere.
+  virtual void GiveUp() {}
+  // When the painter has ended behind that: removes what it has left.
   virtual void Withdraw() {}
 };
 

@@ -101,10 +101,11 @@ class Printed : public QPaintDevice {
       return true;
     }
     bool IsWhole() const override { return whole; }
-    void Withdraw() override { device.withdrawn = true; }
+    void GiveUp() override { isGivenUp = device.paintEngine()->isActive(); }
+    void Withdraw() override { device.withdrawn = isGivenUp && !device.paintEngine()->isActive(); }
 
     Printed& device;
-    bool whole;
+    bool whole, isGivenUp = false;
   };
 
   QSizeF inches_;
