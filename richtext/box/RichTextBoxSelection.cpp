@@ -5,8 +5,8 @@
 
 #include "richtext/box/RichTextBox.h"
 #include "richtext/textdocument/Formats.h"
-#include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Marks.h"
+#include "richtext/textdocument/ShownText.h"
 
 namespace richtext {
 namespace {
@@ -51,15 +51,14 @@ void RichTextBox::SetSelLength(int length) {
   QTextCursor cursor = textCursor();
   const int start = SelStart();
   cursor.setPosition(cursor.selectionStart());
-  cursor.setPosition(PlaceOf(start + std::clamp(length, 0, document()->characterCount() - start)),
+  cursor.setPosition(PlaceOf(start + std::clamp(length, 0, 2 * document()->characterCount())),
                      QTextCursor::KeepAnchor);
   setTextCursor(cursor);
 }
 
 // The place in the document for one in the shown text, which may be too large or too small.
 int RichTextBox::PlaceOf(int position) const {
-  const int end = document()->characterCount() - 1;
-  return std::min(FromShown(*document(), std::clamp(position, 0, end)), end);
+  return FromShown(*document(), std::max(position, 0));
 }
 
 std::optional<QString> RichTextBox::SelFontName() const {

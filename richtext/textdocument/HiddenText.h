@@ -17,12 +17,6 @@ QTextCharFormat HiddenFormat(QTextCharFormat format, const QString& text);
 // The text behind a sign of this format; empty where it is no such format.
 QString HiddenTextOf(const QTextCharFormat& format);
 
-// What is shown: the document's text with '\n' for paragraph ends and line breaks, without signs.
-QString ShownText(const QTextDocument& document);
-// Places in that text and in the document. A place beside signs is the one behind them.
-int ToShown(const QTextDocument& document, int position);
-int FromShown(const QTextDocument& document, int position);
-
 // Moves a cursor that stands behind signs before them.
 void PassBack(QTextCursor& cursor);
 // Moves a cursor that stands before signs behind them, within its paragraph.

@@ -52,6 +52,7 @@ TEST_F(BoxFormatsTest, TablesHoldAndStandEveryEdit) {
       RichTextBox other;
       other.SetTextRTF(stored);
       ASSERT_EQ(other.TextRTF(), stored);
+      ASSERT_EQ(Text(), other.Text().toStdString()) << stored;
     }
     while (box.document()->isUndoAvailable()) box.undo();
     ASSERT_EQ(WriteRtf(ReadRtf(box.TextRTF())), WriteRtf(ReadRtf(table))) << "undone to the start";
