@@ -24,6 +24,7 @@ struct PrintedLine {
   double top;
   double bottom;
   const QTextTable* row;  // that it stands in; none where it is text
+  QString label = {};     // of a list's item that begins with it
 };
 
 class PrintedPiece : public QTextDocument {

@@ -103,12 +103,15 @@ class Printing {
     }
     at_ = to;
     const QTextTable* const row = TableAt(source_, to - 1);
-    const int begin = row ? row->firstPosition() - 1 : last.position();
+    const bool isWhole = row && to > row->lastPosition();
+    const int begin = isWhole ? row->firstPosition() - 1 : last.position();
     context_ = isCut ? to : std::max(begin, to - PieceLength);
   }
 
   // The lines before `begin` were printed before: they only tell how far below them the next one stands.
-  void Draw(const std::vector<PrintedLine>& lines, int begin) {
+  void Draw(std::vector<PrintedLine>& lines, int begin) {
+    for (PrintedLine& line : lines)
+      if (line.position >= begin) line.label = LabelBeside(line);
     double bottom = 0;
     for (std::size_t at = 0; at < lines.size();) {
       const PrintedLine& line = lines[at++];
@@ -125,19 +128,26 @@ class Printing {
     }
   }
 
-  // In parts, each as high as a sheet at most, which begin with a line.
-  void DrawRow(const std::vector<PrintedLine>& lines, const RowPlace& row, double gap) {
+  // In parts, each as high as a sheet at most. The lines of one cell need not end where those of another do:
+  // what a sheet has no room for is left to the next part, which begins with the highest line of these.
+  void DrawRow(std::vector<PrintedLine> lines, const RowPlace& row, double gap) {
     const double most = sheets_.Size().height();
-    for (double begin = row.top, end = 0; begin < row.bottom && !sheets_.Failed(); begin = end, gap = 0) {
-      end = row.bottom - begin > most ? begin + most : row.bottom;
-      for (const PrintedLine& line : lines)
-        if (line.top > begin && line.top < end && line.bottom > end) end = line.top;
+    const QTextTable& table = *lines.front().row;
+    for (double begin = row.top; (begin < row.bottom || !lines.empty()) && !sheets_.Failed(); gap = 0) {
+      const auto left = std::stable_partition(lines.begin(), lines.end(), [&](const PrintedLine& line) {
+        return line.bottom <= begin + most || line.top <= begin;
+      });
+      double end = std::max(begin, std::min(row.bottom, begin + most));
+      for (auto line = lines.begin(); line != left; ++line)
+        end = std::max(end, std::min(line->bottom, begin + most));
       const double top = sheets_.Place(gap, end - begin);
       const RowPlace part{top, top + end - begin, row.edges};
-      DrawGrounds(sheets_.Painter(), *lines.front().row, part);
-      for (const PrintedLine& line : lines)
-        if (line.top >= begin && line.top < end) DrawLine(line, top + line.top - begin);
-      DrawBorders(sheets_.Painter(), *lines.front().row, part);
+      DrawGrounds(sheets_.Painter(), table, part);
+      for (auto line = lines.begin(); line != left; ++line) DrawLine(*line, top + line->top - begin);
+      DrawBorders(sheets_.Painter(), table, part);
+      begin = end;
+      lines.erase(lines.begin(), left);
+      for (const PrintedLine& line : lines) begin = std::min(begin, line.top);
     }
   }
 
@@ -147,18 +157,17 @@ class Printing {
     const QPointF place(line.place.x(), top - line.line.y());
     painter.setPen(Qt::black);
     line.line.draw(&painter, place);
-    DrawLabelBeside(line, place);
+    if (!line.label.isEmpty()) DrawLabel(painter, line.block, place, line.label);
   }
 
   // Each paragraph of the source is counted once, also one whose first line is not selected and shows no
   // label.
-  void DrawLabelBeside(const PrintedLine& line, const QPointF& place) {
+  QString LabelBeside(const PrintedLine& line) {
     const QTextBlock paragraph = source_.findBlock(line.position);
-    if (paragraph.blockNumber() == counted_) return;
+    if (paragraph.blockNumber() == counted_) return {};
     counted_ = paragraph.blockNumber();
     const QString label = labels_.Count(paragraph);
-    const bool isFirstLine = line.position == paragraph.position();
-    if (isFirstLine && !label.isEmpty()) DrawLabel(sheets_.Painter(), line.block, place, label);
+    return line.position == paragraph.position() ? label : QString();
   }
 
   const QTextDocument& source_;

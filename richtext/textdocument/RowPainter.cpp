@@ -121,10 +121,11 @@ RowPlace PlaceOf(const QTextTable& row) {
     place.top = std::min(place.top, begin.y() - PaddingOfCell);
     place.edges.push_back(begin.x() - PaddingOfCell);
   }
+  const QRectF frame = layout.frameBoundingRect(const_cast<QTextTable*>(&row));
+  if (place.edges.empty()) place = {frame.top(), 0, {frame.left() + row.format().leftMargin()}};
   place.edges.resize(static_cast<std::size_t>(row.columns()), place.edges.back());
-  const QSizeF size = layout.frameBoundingRect(const_cast<QTextTable*>(&row)).size();
-  place.bottom = place.top + size.height();
-  place.edges.push_back(place.edges.front() + size.width() - row.format().leftMargin());
+  place.bottom = place.top + frame.height();
+  place.edges.push_back(place.edges.front() + frame.width() - row.format().leftMargin());
   return place;
 }
 

@@ -254,6 +254,26 @@ TEST_F(Print, RowsAreNotParted) {
   EXPECT_EQ(letters[QStringLiteral("a")][1], letters[QStringLiteral("a")][2]);
 }
 
+// The lines of its cells end at different heights, so that no cut goes between them all, and one begins above
+// its cell, whose lines are told to be low.
+TEST_F(Print, ARowThatIsHigherThanASheetLosesNoLine) {
+  std::string row = "\\trowd\\cellx1000\\cellx2000\\cellx3000\\pard\\intbl";
+  for (const std::string line : {"\\fs20 a", "\\fs34 b", "\\sl-100 c"}) {
+    for (int i = 1; i < 90; ++i) row += line + "\\par";
+    row += line + "\\cell";
+  }
+  Load(AddJournal({"{\\fs2 before}\\par " + row + "\\row\\pard after"}));
+  text().selectAll();
+  Printed printer({4.001, 5.031});
+  PrintOn(printer, PrintChoice::Selection);
+  std::map<QString, int> letters;
+  for (const Drawn& drawn : printer.All()) {
+    ++letters[drawn.text];
+    EXPECT_LE(drawn.at.y(), printer.height());
+  }
+  for (const char16_t letter : {u'a', u'b', u'c'}) EXPECT_EQ(letters[QString(QChar(letter))], 90);
+}
+
 TEST_F(Print, WhatCannotBePrintedIsTold) {
   Load(AddJournal({"text", "more"}));
   EXPECT_EQ(FirstSheet(PrintChoice::Selection), Texts());
