@@ -17,6 +17,7 @@
 #include "richtext/box/Paper.h"
 #include "richtext/box/PrintedPiece.h"
 #include "richtext/box/Sheets.h"
+#include "richtext/textdocument/FramePainter.h"
 #include "richtext/textdocument/Labels.h"
 #include "richtext/textdocument/RowPainter.h"
 #include "richtext/textdocument/RowTables.h"
@@ -155,9 +156,27 @@ class Printing {
     if (sheets_.Failed()) return;
     QPainter& painter = sheets_.Painter();
     const QPointF place(line.place.x(), top - line.line.y());
+    const bool hasFrame = HasFrame(line.block);
+    const FramePart frame = hasFrame ? FrameBeside(line, top) : FramePart();
+    if (hasFrame) DrawGround(painter, line.block, frame);
     painter.setPen(Qt::black);
     line.line.draw(&painter, place);
+    if (hasFrame) DrawBorders(painter, line.block, frame);
     if (!line.label.isEmpty()) DrawLabel(painter, line.block, place, line.label);
+  }
+
+  // The part of its paragraph's frame that the line stands in.
+  static FramePart FrameBeside(const PrintedLine& line, double top) {
+    const bool isFirst = line.line.lineNumber() == 0;
+    const bool isLast = line.line.lineNumber() == line.block.layout()->lineCount() - 1;
+    FramePart part = FrameOf(line.block);
+    part.begins = part.begins && isFirst;
+    part.ends = part.ends && isLast;
+    if (!isFirst) part.place.setTop(line.top);
+    if (!isLast) part.place.setBottom(line.bottom);
+    part.place.translate(0, top - line.top);
+    part.place.setTop(std::max(0.0, part.place.top()));
+    return part;
   }
 
   // Each paragraph of the source is counted once, also one whose first line is not selected and shows no

@@ -19,6 +19,7 @@
 #include "richtext/rtf/Writer.h"
 #include "richtext/textdocument/DocumentCopy.h"
 #include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/FramePainter.h"
 #include "richtext/textdocument/Labels.h"
 #include "richtext/textdocument/Marks.h"
 #include "richtext/textdocument/PageHeight.h"
@@ -238,7 +239,7 @@ std::unique_ptr<QMenu> RichTextBox::ContextMenu(const QPoint& place) {
   return menu;
 }
 
-// The looks of rows lie under the text, the labels beside it.
+// The looks of rows and the grounds of paragraphs lie under the text, the labels beside it.
 void RichTextBox::paintEvent(QPaintEvent* event) {
   if (PaintGround) {
     QPainter ground(viewport());
@@ -253,8 +254,12 @@ void RichTextBox::paintEvent(QPaintEvent* event) {
     painter.translate(-scrolled);
     what(painter);
   };
-  draw([&](QPainter& painter) { DrawRows(painter, *document(), shown); });
+  draw([&](QPainter& painter) {
+    DrawRows(painter, *document(), shown);
+    DrawFrames(painter, *document(), shown, DrawGround);
+  });
   QTextEdit::paintEvent(event);
+  draw([&](QPainter& painter) { DrawFrames(painter, *document(), shown, DrawBorders); });
   draw([&](QPainter& painter) { labelled_ = DrawLabels(painter, *document(), shown, *labels_); });
 }
 

@@ -166,6 +166,7 @@ class RichTextBox : public QTextEdit {
   bool EnterNextCell();
   bool EnterNextRow(const QKeyEvent& event);
   bool LeaveList();
+  bool LeaveFrame();
   void DeleteBack(QKeyEvent& event);
   void DeleteNext(QKeyEvent& event);
   void DeleteWord(QTextCursor::MoveOperation across);

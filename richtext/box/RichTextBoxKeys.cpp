@@ -7,6 +7,7 @@
 #include <QtGui/QTextBlock>
 
 #include "richtext/box/RichTextBox.h"
+#include "richtext/textdocument/FramePainter.h"
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Marks.h"
 #include "richtext/textdocument/Paragraphs.h"
@@ -154,6 +155,14 @@ bool RichTextBox::EnterNextRow(const QKeyEvent& event) {
   return true;
 }
 
+// A frame ends where its last paragraph is empty.
+bool RichTextBox::LeaveFrame() {
+  QTextCursor cursor = textCursor();
+  if (!HasFrame(cursor.block()) || !FrameOf(cursor.block()).ends) return false;
+  cursor.setBlockFormat(WithoutFrame(cursor.blockFormat()));
+  return true;
+}
+
 bool RichTextBox::LeaveList() {
   QTextCursor cursor = textCursor();
   const QTextBlockFormat format = cursor.blockFormat();
@@ -163,11 +172,12 @@ bool RichTextBox::LeaveList() {
 }
 
 // The toolkit's own Enter drops all formats after an empty paragraph, and now and then makes no paragraph. An
-// empty list item is where a list ends. What is left empty on either side has the format in hand.
+// empty list item is where a list ends, and so is a frame. What is left empty on either side has the format
+// in hand.
 void RichTextBox::InsertParagraph() {
   QTextCursor cursor = textCursor();
   const QTextBlock block = document()->findBlock(cursor.selectionEnd());
-  if (!cursor.hasSelection() && block.length() <= 1 && LeaveList()) return;
+  if (!cursor.hasSelection() && block.length() <= 1 && (LeaveList() || LeaveFrame())) return;
   const QTextCharFormat format = caret_.OfLetters();
   cursor.beginEditBlock();
   cursor.insertBlock(block.blockFormat(), format);

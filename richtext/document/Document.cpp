@@ -1,5 +1,7 @@
 #include "richtext/document/Document.h"
 
+#include <algorithm>
+
 #include "richtext/document/Limits.h"
 
 namespace richtext {
@@ -18,6 +20,21 @@ std::int32_t ShownSpaceBefore(const ParagraphFormat& format) {
 
 std::int32_t ShownSpaceAfter(const ParagraphFormat& format) {
   return ShownSpace(format.autoAfter, format.spaceAfter, format.list);
+}
+
+ParagraphBorders FittingBorders(ParagraphBorders borders) {
+  for (ParagraphBorder& border : borders) {
+    if (!IsShown(border.line)) border = {};
+    border.line.width = std::clamp(border.line.width, 0, MaxBorder);
+    border.space = std::clamp(border.space, 0, MaxBorderSpace);
+  }
+  return borders;
+}
+
+std::size_t RoomForTabs(const ParagraphBorders& borders) {
+  const auto sides = std::count_if(borders.begin(), borders.end(),
+                                   [](const ParagraphBorder& border) { return IsShown(border.line); });
+  return MaxTabStops - TabStopsOfBorder * static_cast<std::size_t>(sides);
 }
 
 Document EmptyDocument() {

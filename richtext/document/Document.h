@@ -7,6 +7,8 @@
 // allocations. That is the hard part: the lengths must add up, and whoever changes one changes its kin.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -81,6 +83,15 @@ struct ListFormat {
   bool operator==(const ListFormat&) const = default;
 };
 
+// The border on one side of a paragraph, and how far the text stands from it.
+struct ParagraphBorder {
+  Border line;
+  std::int32_t space = 0;  // twips
+
+  bool operator==(const ParagraphBorder&) const = default;
+};
+using ParagraphBorders = std::array<ParagraphBorder, 4>;  // by Side
+
 // Measures are in twips, 1440 to the inch.
 struct ParagraphFormat {
   Alignment alignment = Alignment::Left;
@@ -97,9 +108,15 @@ struct ParagraphFormat {
   std::vector<TabStop> tabs;     // by position
   ListFormat list;
   std::optional<std::uint32_t> ground;  // 0x00BBGGRR behind all of it; nothing: the paper
+  ParagraphBorders borders;  // outside of its indents; neighbours of the same ones stand in one frame
 
   bool operator==(const ParagraphFormat&) const = default;
 };
+
+// `borders` as a document can hold them (Limits.h): on a side that shows none, nothing is told.
+ParagraphBorders FittingBorders(ParagraphBorders borders);
+// How many tab stops a paragraph of such borders keeps.
+std::size_t RoomForTabs(const ParagraphBorders& borders);
 
 // The spaces before and after a paragraph as they are shown: where they are automatic, none between the items
 // of a list.

@@ -40,6 +40,12 @@ std::size_t WholeFormatHash::operator()(const ParagraphFormat& format) const {
       format.ground.value_or(None), std::hash<std::u16string>()(format.list.before),
       std::hash<std::u16string>()(format.list.after));
   for (const TabStop& stop : format.tabs) hash = HashOf(hash, stop.position, stop.kind);
+  return HashOf(hash, (*this)(format.borders));
+}
+
+std::size_t WholeFormatHash::operator()(const ParagraphBorders& borders) const {
+  std::size_t hash = 0;
+  for (const ParagraphBorder& border : borders) hash = HashOf(hash, HashOfBorder(border.line), border.space);
   return hash;
 }
 

@@ -12,6 +12,7 @@ namespace richtext {
 struct WholeFormatHash {
   std::size_t operator()(const CharacterFormat& format) const;
   std::size_t operator()(const ParagraphFormat& format) const;
+  std::size_t operator()(const ParagraphBorders& borders) const;
   std::size_t operator()(const RowFormat& format) const;
 };
 

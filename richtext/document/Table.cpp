@@ -9,7 +9,7 @@ namespace richtext {
 namespace {
 
 void Fit(Border& border) {
-  if (border.kind == BorderKind::None || border.kind == BorderKind::Hidden) border = {border.kind, 0, {}};
+  if (!IsShown(border)) border = {border.kind, 0, {}};
   border.width = std::clamp(border.width, 0, MaxBorder);
 }
 

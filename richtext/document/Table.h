@@ -37,6 +37,10 @@ struct Border {
   bool operator==(const Border&) const = default;
 };
 
+constexpr bool IsShown(const Border& border) {
+  return border.kind != BorderKind::None && border.kind != BorderKind::Hidden;
+}
+
 enum Side : std::uint8_t { TopSide, LeftSide, BottomSide, RightSide, BetweenRows, BetweenCells };
 
 struct CellFormat {

@@ -81,23 +81,22 @@ QColor OnWhite(const QColor& color) {
   return QColor(mixed(color.red()), mixed(color.green()), mixed(color.blue()));
 }
 
-// The length of the first word; blanks in brackets do not end it.
-qsizetype FirstWord(QStringView words) {
-  int depth = 0;
-  for (qsizetype at = 0; at < words.size(); ++at) {
-    if (words[at] == u'(') ++depth;
-    if (words[at] == u')') --depth;
-    if (depth <= 0 && words[at].isSpace()) return at;
-  }
-  return words.size();
-}
-
 }  // namespace
+
+qsizetype FirstWordOf(QStringView value) {
+  int depth = 0;
+  for (qsizetype at = 0; at < value.size(); ++at) {
+    if (value[at] == u'(') ++depth;
+    if (value[at] == u')') --depth;
+    if (depth <= 0 && value[at].isSpace()) return at;
+  }
+  return value.size();
+}
 
 std::optional<QColor> FirstCssColor(QStringView value) {
   const QString lowered = value.toString().toLower();
   for (QStringView rest = QStringView(lowered).trimmed(); !rest.isEmpty();) {
-    const qsizetype length = FirstWord(rest);
+    const qsizetype length = FirstWordOf(rest);
     const QColor color = ColorOf(rest.left(length));
     if (color.isValid()) return color.alpha() == 0 ? std::nullopt : std::optional(OnWhite(color));
     rest = rest.mid(length).trimmed();

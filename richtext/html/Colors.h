@@ -12,4 +12,7 @@ namespace richtext::html {
 // where there is none or where it is clear: what a keyword such as "inherit" leads to is not looked for.
 std::optional<QColor> FirstCssColor(QStringView value);
 
+// The length of a value's first word; blanks in brackets do not end it.
+qsizetype FirstWordOf(QStringView value);
+
 }  // namespace richtext::html

@@ -127,6 +127,13 @@ ParagraphFormat FromHtmlBlock(const QTextBlock& block) {
   return made;
 }
 
+void SetFrame(ParagraphFormat& format, const ParagraphBorders& frame) {
+  const auto room = [&](Side side) { return frame[side].space + frame[side].line.width; };
+  format.borders = frame;
+  format.leftIndent = FittingIndent(format.leftIndent + room(LeftSide));
+  format.rightIndent = FittingIndent(format.rightIndent + room(RightSide));
+}
+
 CellFormat FromHtmlCell(const QTextTableCell& cell, int row, const QTextTableFormat& table) {
   CellFormat made;
   const QTextTableCellFormat format = cell.format().toTableCellFormat();
@@ -164,6 +171,10 @@ bool IsLightInk(const QColor& color) {
 bool IsLikePaper(const QColor& color) {
   const auto [least, most] = std::minmax({color.red(), color.green(), color.blue()});
   return least >= 240 || (least >= 224 && most - least <= 16);
+}
+
+bool IsLightGround(const QColor& color) {
+  return qGray(color.rgb()) > 180 && color.rgb() != qRgb(255, 255, 255);
 }
 
 bool IsMarkersColor(const QColor& color) {

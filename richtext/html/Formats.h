@@ -14,6 +14,8 @@ namespace richtext::html {
 // Without background. What the markup leaves open is `caret`'s.
 CharacterFormat FromHtmlFormat(const QTextCharFormat& format, const CharacterFormat& caret);
 ParagraphFormat FromHtmlBlock(const QTextBlock& block);
+// Markup has the borders and the space within them beside its own margins.
+void SetFrame(ParagraphFormat& format, const ParagraphBorders& frame);
 
 // Without its right edge.
 CellFormat FromHtmlCell(const QTextTableCell& cell, int row, const QTextTableFormat& table);
@@ -24,6 +26,8 @@ std::vector<std::int32_t> RightEdgesOf(const QTextTable& table);
 bool IsLightInk(const QColor& color);
 // Whether a background is hardly seen on white paper, as those are that web pages lay behind code.
 bool IsLikePaper(const QColor& color);
+// Whether the ground of a paragraph leaves dark letters legible, and is not plain white.
+bool IsLightGround(const QColor& color);
 // Whether a background is one that people mark words with.
 bool IsMarkersColor(const QColor& color);
 

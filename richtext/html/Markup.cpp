@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "richtext/html/Frames.h"
 #include "richtext/html/Styles.h"
 #include "richtext/html/Tables.h"
 #include "richtext/html/Tag.h"
@@ -59,13 +60,13 @@ class Rewriting {
     made_.reserve(html.size());
   }
 
-  QString Rewrite() {
+  PlainMarkup Rewrite() {
     for (qsizetype tag = html_.indexOf(u'<'); tag >= 0; tag = html_.indexOf(u'<', at_)) {
       CopyTo(tag);
       TakeNext();
     }
     CopyTo(html_.size());
-    return std::move(made_);
+    return {std::move(made_), frames_.All()};
   }
 
  private:
@@ -82,6 +83,7 @@ class Rewriting {
     if (tag.name.isEmpty() || !nesting_.Keeps(tag)) return;
     if (!cells_.Take(tag)) return FlattenCell(tag.name);
     MakeStylesPlain(tag);
+    frames_.Take(tag);
     made_ += Written(tag);
     if (!tag.closes && tag.name == u"style") TakeSheet();
   }
@@ -116,13 +118,14 @@ class Rewriting {
   const QStringView html_;
   Nesting nesting_;
   TableCells cells_;
+  Frames frames_;
   QString made_;
   qsizetype at_ = 0;  // how far the markup is taken
 };
 
 }  // namespace
 
-QString WithPlainWords(const QString& html) {
+PlainMarkup WithPlainWords(const QString& html) {
   return Rewriting(html).Rewrite();
 }
 

@@ -1,7 +1,11 @@
 // Markup from elsewhere in the words that the toolkit understands.
 #pragma once
 
+#include <vector>
+
 #include <QtCore/QString>
+
+#include "richtext/document/Document.h"
 
 namespace richtext::html {
 
@@ -9,6 +13,10 @@ namespace richtext::html {
 // it by attributes; rows and cells beyond what a table of that much markup has become plain text; and what is
 // nested deeper than a person would is flat from there on, since the toolkit looks through all that is open
 // for each element.
-QString WithPlainWords(const QString& html);
+struct PlainMarkup {
+  QString html;
+  std::vector<ParagraphBorders> frames;  // by the user states of its blocks, of which 0 is that of none
+};
+PlainMarkup WithPlainWords(const QString& html);
 
 }  // namespace richtext::html

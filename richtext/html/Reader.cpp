@@ -1,6 +1,6 @@
 #include "richtext/html/Reader.h"
 
-#include <map>
+#include <algorithm>
 #include <utility>
 
 #include <QtCore/QBuffer>
@@ -14,6 +14,7 @@
 #include "richtext/document/FormatNumbers.h"
 #include "richtext/document/Limits.h"
 #include "richtext/document/Twips.h"
+#include "richtext/html/Backgrounds.h"
 #include "richtext/html/Formats.h"
 #include "richtext/html/Lists.h"
 #include "richtext/html/Markup.h"
@@ -34,18 +35,6 @@ class InertDocument : public QTextDocument {
  protected:
   QVariant loadResource(int, const QUrl&) override { return {}; }
 };
-
-std::optional<QColor> Background(const QTextFormat& format) {
-  const QBrush brush = format.background();
-  if (brush.style() == Qt::NoBrush || !brush.color().isValid() || brush.color().alpha() == 0)
-    return std::nullopt;
-  return brush.color();
-}
-
-QTextTableCell CellOf(const QTextBlock& block) {
-  const QTextTable* table = QTextCursor(block).currentTable();
-  return table == nullptr ? QTextTableCell() : table->cellAt(block.position());
-}
 
 // The outermost table around a block; nothing where it stands in none.
 const QTextTable* TableAround(const QTextBlock& block) {
@@ -93,39 +82,11 @@ Picture OfItsOwnSize(QByteArray file) {
   return picture;
 }
 
-// The background that most letters have is the page's own, unless one marks words with it.
-class Backgrounds {
- public:
-  explicit Backgrounds(const QTextDocument& html) {
-    std::map<QRgb, int> letters;
-    for (QTextBlock block = html.begin(); block.isValid(); block = block.next())
-      for (auto part = block.begin(); !part.atEnd(); ++part) {
-        all_ += part.fragment().length();
-        if (const auto color = Background(part.fragment().charFormat()))
-          letters[color->rgb()] += part.fragment().length();
-      }
-    for (const auto& [color, count] : letters)
-      if (2 * count > all_ && !IsMarkersColor(QColor(color))) page_ = color;
-  }
-
-  std::optional<std::uint32_t> HighlightOf(const QTextCharFormat& format, const QTextBlock& block) const {
-    const std::optional<QColor> color = Background(format);
-    if (!color || color == Background(block.blockFormat())) return std::nullopt;
-    const QTextTableCell cell = CellOf(block);
-    if (cell.isValid() && color == Background(cell.format())) return std::nullopt;
-    if (color->rgb() == page_) return std::nullopt;
-    return IsLikePaper(*color) ? std::nullopt : std::optional(FromColor(*color));
-  }
-
- private:
-  int all_ = 0;
-  std::optional<QRgb> page_;
-};
-
 class Reader {
  public:
-  Reader(const QTextDocument& html, const CharacterFormat& caret, std::function<Picture()> carried)
-      : html_(html), caret_(caret), carried_(std::move(carried)), backgrounds_(html) {}
+  Reader(const QTextDocument& html, const std::vector<ParagraphBorders>& frames, const CharacterFormat& caret,
+         std::function<Picture()> carried)
+      : html_(html), frames_(frames), caret_(caret), carried_(std::move(carried)), backgrounds_(html) {}
 
   Document Read() {
     for (QTextBlock block = html_.begin(); block.isValid(); block = block.next()) {
@@ -189,6 +150,9 @@ class Reader {
     if (begun_) EndParagraph(place_);
     begun_ = true;
     paragraph_ = FromHtmlBlock(block);
+    paragraph_.ground = backgrounds_.GroundOf(block);
+    const auto frame = static_cast<std::size_t>(std::max(0, block.userState()));
+    if (frame > 0 && frame < frames_.size()) SetFrame(paragraph_, frames_[frame]);
     lists_.Number(block, paragraph_.list);
     format_ = FromHtmlFormat(block.charFormat(), caret_);
   }
@@ -249,6 +213,7 @@ class Reader {
   }
 
   const QTextDocument& html_;
+  const std::vector<ParagraphBorders>& frames_;  // by the blocks' user states
   const CharacterFormat caret_;
   std::function<Picture()> carried_;
   const Backgrounds backgrounds_;
@@ -277,13 +242,13 @@ Document ReadHtml(const QString& html, const CharacterFormat& caret,
   InertDocument document;
   document.setUndoRedoEnabled(false);
   document.setDefaultStyleSheet(HouseStyle);
-  document.setHtml(
-      WithListStarts(WithPlainWords(html.left(html.indexOf(QLatin1String("<!--EndFragment-->"))))));
+  const PlainMarkup markup = WithPlainWords(html.left(html.indexOf(QLatin1String("<!--EndFragment-->"))));
+  document.setHtml(WithListStarts(markup.html));
   CharacterFormat plain;
   plain.fontName = caret.fontName;
   plain.halfPoints = caret.halfPoints;
   plain.color = caret.color;
-  return Reader(document, plain, carried).Read();
+  return Reader(document, markup.frames, plain, carried).Read();
 }
 
 }  // namespace richtext

@@ -2,38 +2,16 @@
 
 #include <algorithm>
 
+#include "richtext/html/BorderRules.h"
 #include "richtext/textdocument/Formats.h"
 
 namespace richtext::html {
 namespace {
 
-QLatin1String StyleOf(BorderKind kind) {
-  switch (kind) {
-    case BorderKind::Double:
-    case BorderKind::Triple:
-      return QLatin1String("double");
-    case BorderKind::Dotted:
-      return QLatin1String("dotted");
-    case BorderKind::Dashed:
-      return QLatin1String("dashed");
-    default:
-      return QLatin1String("solid");
-  }
-}
-
-QString BorderRule(const char* side, const Border& border) {
-  if (border.kind == BorderKind::None || border.kind == BorderKind::Hidden) return {};
-  return QStringLiteral("border-%1: %2pt %3 %4; ")
-      .arg(QLatin1String(side))
-      .arg(std::max(border.width, 1) / 20.0)
-      .arg(StyleOf(border.kind), ToColor(border.color.value_or(0)).name());
-}
-
 QString CellRules(const CellFormat& cell) {
-  constexpr const char* Sides[] = {"top", "left", "bottom", "right"};
   QString rules;
   for (std::size_t side = 0; side < cell.borders.size(); ++side)
-    rules += BorderRule(Sides[side], cell.borders[side]);
+    rules += BorderRule(SideNames[side], cell.borders[side]);
   if (cell.ground) rules += QStringLiteral("background-color: %1; ").arg(ToColor(*cell.ground).name());
   rules += QLatin1String("vertical-align: ");
   return rules + QLatin1String(cell.place == PlaceInCell::Top      ? "top"

@@ -3,6 +3,7 @@
 #include "richtext/characters/Unicode.h"
 #include "richtext/document/ItemCounter.h"
 #include "richtext/document/Twips.h"
+#include "richtext/html/FrameTags.h"
 #include "richtext/html/TableTags.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/Pictures.h"
@@ -71,9 +72,10 @@ QString LineHeight(const ParagraphFormat& format) {
 QString ParagraphRules(const ParagraphFormat& format) {
   const QLatin1String alignments[] = {QLatin1String("left"), QLatin1String("right"), QLatin1String("center"),
                                       QLatin1String("justify")};
+  const bool isFramed = format.borders != ParagraphBorders();
   QString rules = QLatin1String("margin: ") + Points(ShownSpaceBefore(format)) + u' ' +
-                  Points(format.rightIndent) + u' ' + Points(ShownSpaceAfter(format)) + u' ' +
-                  Points(format.leftIndent) + QLatin1String("; ");
+                  Points(isFramed ? 0 : format.rightIndent) + u' ' + Points(ShownSpaceAfter(format)) + u' ' +
+                  Points(isFramed ? 0 : format.leftIndent) + QLatin1String("; ");
   if (format.list.kind == ListKind::None)
     rules += Measure(QLatin1String("text-indent"), format.firstLineIndent);
   if (format.alignment != Alignment::Left)
@@ -109,11 +111,16 @@ class Writer {
   QString Write() {
     html_ = QLatin1String("<html><head><meta charset=\"utf-8\"></head><body>");
     for (const Paragraph& paragraph : page_.paragraphs) {
-      html_ += tables_.Before(paragraph);
+      const ParagraphFormat& format = page_.paragraphFormats[paragraph.format];
+      const bool staysOut = paragraph.place == Place::Text;
+      html_ += staysOut == isText_ ? frames_.EndBefore(format) : frames_.End();
+      isText_ = staysOut;
+      html_ += tables_.Before(paragraph) + frames_.Begin(format);
       WriteParagraph(paragraph);
+      if (paragraph.place == Place::CellEnd || paragraph.place == Place::RowEnd) html_ += frames_.End();
       html_ += tables_.Behind(paragraph);
     }
-    return html_ + tables_.End() + QLatin1String("</body></html>");
+    return html_ + frames_.End() + tables_.End() + QLatin1String("</body></html>");
   }
 
  private:
@@ -183,6 +190,8 @@ class Writer {
   std::vector<Picture>::const_iterator picture_;
   ItemCounter items_;
   TableTags tables_{page_};
+  FrameTags frames_;
+  bool isText_ = true;  // the paragraph in hand, and not of a row
   std::size_t run_ = 0;
   std::size_t at_ = 0;
 };

@@ -34,6 +34,8 @@ std::size_t HashOf(const ParagraphFormat& format) {
   for (const TabStop& tab : format.tabs) hash.AddAll({tab.position, static_cast<std::int32_t>(tab.kind)});
   for (const std::u16string& text : {format.list.before, format.list.after})
     for (const char16_t unit : text) hash.Add(unit);
+  if (format.borders != ParagraphBorders())
+    hash.Add(static_cast<std::uint32_t>(WholeFormatHash()(format.borders)));
   return hash.Value();
 }
 

@@ -67,6 +67,7 @@ struct ParagraphState {
   std::int32_t lineSpacing = 0;
   std::int32_t ground = AutomaticColor;
   std::uint32_t tabs = 0;
+  std::uint32_t borders = 0;
   std::uint32_t numbering = 0;  // list of a \pn
   std::int32_t listNumber = 0;  // \ls
   std::int32_t listLevel = 0;   // \ilvl

@@ -80,7 +80,9 @@ ParagraphFormat ParagraphFormats::FormatOf(const ParagraphState& state) const {
   format.autoBefore = state.autoBefore;
   format.autoAfter = state.autoAfter;
   SetLineSpacing(state, format);
+  format.borders = FittingBorders(borders_.At(state.borders));
   format.tabs = tabs_.StopsOf(state.tabs);
+  format.tabs.resize(std::min(format.tabs.size(), RoomForTabs(format.borders)));
   SetList(state, format);
   return format;
 }

@@ -1,9 +1,11 @@
-// The formats of paragraphs, made of their states and of what these refer to by number: tab stops and lists.
+// The formats of paragraphs, made of their states and of what these refer to by number: tab stops, borders
+// and lists.
 #pragma once
 
 #include <string>
 
 #include "richtext/document/Document.h"
+#include "richtext/rtf/BorderSets.h"
 #include "richtext/rtf/GroupState.h"
 #include "richtext/rtf/ListCounter.h"
 #include "richtext/rtf/ListTable.h"
@@ -15,6 +17,7 @@ namespace richtext::rtf {
 class ParagraphFormats {
  public:
   TabSets& Tabs() { return tabs_; }
+  BorderSets& Borders() { return borders_; }
   ListTable& Lists() { return lists_; }
   Numberings& OwnLists() { return numberings_; }  // which paragraphs tell themselves
 
@@ -32,6 +35,7 @@ class ParagraphFormats {
   ParagraphFormat FormatOf(const ParagraphState& state) const;
 
   TabSets tabs_;
+  BorderSets borders_;
   ListTable lists_;
   Numberings numberings_;
   ListCounter counter_;

@@ -4,6 +4,7 @@
 
 #include "richtext/document/Limits.h"
 #include "richtext/document/ListLabel.h"
+#include "richtext/rtf/BorderWriter.h"
 
 namespace richtext::rtf {
 namespace {
@@ -52,7 +53,8 @@ void ParagraphWriter::WriteFormat(const ParagraphFormat& format, const Around& a
   if (format.autoAfter) out_.Word("saauto", 1);
   WriteSpacing(format);
   WriteTabs(format);
-  out_.Measure("cbpat", around.ground);
+  WriteBorders(format.borders);
+  out_.Measure("cbpat", tables_.NumberOf(format.ground));
   if (format.alignment != Alignment::Left) out_.Word(WordOf(format.alignment));
 }
 
@@ -70,12 +72,20 @@ void ParagraphWriter::WriteTabs(const ParagraphFormat& format) {
   }
 }
 
+void ParagraphWriter::WriteBorders(const ParagraphBorders& borders) {
+  constexpr std::string_view Sides[] = {"brdrt", "brdrl", "brdrb", "brdrr"};
+  for (std::size_t side = 0; side < borders.size(); ++side) {
+    WriteBorder(Sides[side], borders[side].line, tables_, out_);
+    out_.Measure("brsp", borders[side].space);
+  }
+}
+
 // What the classic edit controls write: bullets are a symbol font's, whatever sign they are.
 void ParagraphWriter::WriteList(const ListFormat& list) {
   const bool bullet = list.kind == ListKind::Bullet;
   out_.BeginIgnorableGroup("pn");
   out_.Word(bullet ? "pnlvlblt" : "pnlvlbody");
-  if (IsPlainBullet(list)) out_.Word("pnf", symbolFont_);
+  if (IsPlainBullet(list)) out_.Word("pnf", tables_.SymbolFont());
   out_.Word("pnindent", 0);
   if (!bullet) {
     if (list.twin) out_.Word("pnrestart");
@@ -102,7 +112,7 @@ void ParagraphWriter::WriteLabel(const ListFormat& list, std::int32_t number) {
   const std::u16string label = LabelText(list, number);
   if (label.size() > Usual && (longLabels_ += label.size()) > MaxLongLabels) return;
   out_.BeginGroup("pntext");
-  if (IsPlainBullet(list)) out_.Word("f", symbolFont_);
+  if (IsPlainBullet(list)) out_.Word("f", tables_.SymbolFont());
   if (!WriteSymbol(list)) out_.Text(label);
   out_.Word("tab");
   out_.Raw("}");

@@ -7,18 +7,18 @@
 #include "richtext/document/Document.h"
 #include "richtext/document/ItemCounter.h"
 #include "richtext/rtf/Output.h"
+#include "richtext/rtf/Tables.h"
 
 namespace richtext::rtf {
 
 class ParagraphWriter {
  public:
-  // `symbolFont` is the \f number of a symbol font, for bullets.
-  ParagraphWriter(Output& out, std::int32_t symbolFont) : out_(out), symbolFont_(symbolFont) {}
+  // Both must outlive it.
+  ParagraphWriter(Output& out, const Tables& tables) : out_(out), tables_(tables) {}
 
   // What is told of a paragraph besides its format.
   struct Around {
-    std::int32_t list = 0;    // of the list table; 0: none
-    std::int32_t ground = 0;  // its number in the color table; 0: none
+    std::int32_t list = 0;  // of the list table; 0: none
     bool isInRow = false;
   };
   // The next paragraph is of this format.
@@ -28,12 +28,13 @@ class ParagraphWriter {
   void WriteFormat(const ParagraphFormat& format, const Around& around);
   void WriteSpacing(const ParagraphFormat& format);
   void WriteTabs(const ParagraphFormat& format);
+  void WriteBorders(const ParagraphBorders& borders);
   void WriteList(const ListFormat& list);
   void WriteLabel(const ListFormat& list, std::int32_t number);
   bool WriteSymbol(const ListFormat& list);
 
   Output& out_;
-  std::int32_t symbolFont_;
+  const Tables& tables_;
   std::optional<ParagraphFormat> format_;  // in force
   ListFormat list_;                        // likewise, as written
   bool isInRow_ = false;                   // likewise

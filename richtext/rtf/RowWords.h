@@ -16,7 +16,7 @@ namespace richtext::rtf {
 class RowWords {
  public:
   // What the words of a border are about.
-  enum class Owner : std::uint8_t { Nothing, Row, Cell };
+  enum class Owner : std::uint8_t { Nothing, Row, Cell, Paragraph };
 
   const RowFormat& Told() const { return rows_[Outer].row; }
 
@@ -32,8 +32,12 @@ class RowWords {
     InHand().owner = owner;
     InHand().side = side;
   }
-  // Nothing where the border is none that a page keeps.
+  // Nothing where the border is none of a row or a cell.
   Border* BorderInHand();
+  // It may be one of a paragraph, on one of its sides or on all of them.
+  static constexpr std::uint8_t EverySide = 0xFF;
+  bool IsOfParagraph() { return InHand().owner == Owner::Paragraph; }
+  std::uint8_t SideInHand() { return InHand().side; }
 
  private:
   enum Level : std::uint8_t { Outer, Nested };

@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "richtext/rtf/BorderWriter.h"
+
 namespace richtext::rtf {
 namespace {
 
-constexpr std::string_view BorderWords[] = {"",        "brdrnone", "brdrs",    "brdrth",    "brdrdb",
-                                            "brdrdot", "brdrdash", "brdrhair", "brdrtriple"};
 constexpr std::string_view RowSides[] = {"trbrdrt", "trbrdrl", "trbrdrb", "trbrdrr", "trbrdrh", "trbrdrv"};
 constexpr std::string_view CellSides[] = {"clbrdrt", "clbrdrl", "clbrdrb", "clbrdrr"};
 
@@ -19,14 +19,6 @@ std::string_view WordOf(Value value, const std::string_view (&words)[3]) {
 
 void WriteIfAny(std::string_view word, Output& out) {
   if (!word.empty()) out.Word(word);
-}
-
-void WriteBorder(std::string_view side, const Border& border, const Tables& tables, Output& out) {
-  if (border.kind == BorderKind::None) return;
-  out.Word(side);
-  out.Word(BorderWords[static_cast<std::size_t>(border.kind)]);
-  out.Measure("brdrw", border.width);
-  out.Measure("brdrcf", tables.NumberOf(border.color));
 }
 
 void WriteCell(const CellFormat& cell, const Tables& tables, Output& out) {

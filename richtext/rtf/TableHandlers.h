@@ -55,25 +55,50 @@ inline void RowBorder(Context& context, Number side, Number) {
 inline void CellBorder(Context& context, Number side, Number) {
   context.Rows().BeginBorder(RowWords::Owner::Cell, static_cast<std::uint8_t>(side));
 }
-// A border of a paragraph, a page or a letter, which a page does not keep.
+inline void BorderOfParagraph(Context& context, Number side, Number) {
+  context.Rows().BeginBorder(RowWords::Owner::Paragraph, static_cast<std::uint8_t>(side));
+}
+// A border of a sheet or a letter, or one between paragraphs, which a page does not keep.
 inline void OtherBorder(Context& context, Number, Number) {
   context.Rows().BeginBorder(RowWords::Owner::Nothing, 0);
 }
 
+template <class Change>
+void ChangeParagraphBorder(Context& context, const Change& change) {
+  RowWords& words = context.Rows();
+  if (!words.IsOfParagraph()) return;
+  BorderSets& sets = context.Paragraphs().Borders();
+  std::uint32_t& set = context.ChangeParagraph().borders;
+  ParagraphBorders borders = sets.At(set);
+  for (const Side side : {TopSide, LeftSide, BottomSide, RightSide})
+    if (words.SideInHand() == side || words.SideInHand() == RowWords::EverySide) change(borders[side]);
+  set = sets.NumberOf(borders, set);
+}
+
+template <class Change>
+void ChangeBorder(Context& context, const Change& change) {
+  if (Border* border = context.Rows().BorderInHand()) return change(*border);
+  ChangeParagraphBorder(context, [&](ParagraphBorder& border) { change(border.line); });
+}
+
 inline void KindOfBorder(Context& context, Number kind, Number) {
-  if (Border* border = context.Rows().BorderInHand()) border->kind = static_cast<BorderKind>(kind);
+  ChangeBorder(context, [&](Border& border) { border.kind = static_cast<BorderKind>(kind); });
 }
 
 inline void WidthOfBorder(Context& context, Number, Number twips) {
-  if (Border* border = context.Rows().BorderInHand()) border->width = twips;
+  ChangeBorder(context, [&](Border& border) { border.width = twips; });
 }
 
 inline void ColorOfBorder(Context& context, Number, Number index) {
-  Border* border = context.Rows().BorderInHand();
   const std::int32_t color = context.Colors().Find(index);
-  if (border == nullptr) return;
-  border->color.reset();
-  if (color != AutomaticColor) border->color = static_cast<std::uint32_t>(color);
+  ChangeBorder(context, [&](Border& border) {
+    border.color.reset();
+    if (color != AutomaticColor) border.color = static_cast<std::uint32_t>(color);
+  });
+}
+
+inline void SpaceOfBorder(Context& context, Number, Number twips) {
+  ChangeParagraphBorder(context, [&](ParagraphBorder& border) { border.space = twips; });
 }
 
 inline void NestedCellEnd(Context& context, Number, Number) {

@@ -1,4 +1,4 @@
-// The control words of tables.
+// The control words of tables, and of the borders that paragraphs have as their cells do.
 #pragma once
 
 #include "richtext/rtf/TableHandlers.h"
@@ -39,11 +39,11 @@ constexpr ControlWord Words[] = {
     WordOf("clbrdrl", CellBorder, LeftSide),
     WordOf("clbrdrb", CellBorder, BottomSide),
     WordOf("clbrdrr", CellBorder, RightSide),
-    Word("brdrt", OtherBorder),
-    Word("brdrl", OtherBorder),
-    Word("brdrb", OtherBorder),
-    Word("brdrr", OtherBorder),
-    Word("box", OtherBorder),
+    WordOf("brdrt", BorderOfParagraph, TopSide),
+    WordOf("brdrl", BorderOfParagraph, LeftSide),
+    WordOf("brdrb", BorderOfParagraph, BottomSide),
+    WordOf("brdrr", BorderOfParagraph, RightSide),
+    WordOf("box", BorderOfParagraph, RowWords::EverySide),
     Word("brdrbtw", OtherBorder),
     Word("brdrbar", OtherBorder),
     Word("chbrdr", OtherBorder),
@@ -65,6 +65,7 @@ constexpr ControlWord Words[] = {
     WordOf("brdrtriple", KindOfBorder, BorderKind::Triple),
     Word("brdrw", WidthOfBorder),
     Word("brdrcf", ColorOfBorder),
+    Word("brsp", SpaceOfBorder),
 };
 
 }  // namespace tables

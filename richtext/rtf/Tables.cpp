@@ -71,7 +71,10 @@ Tables::Tables(const Document& document)
     colorOfFormat_[number] = Place(format.color);
     highlightOfFormat_[number] = Place(format.highlight);
   }
-  for (const ParagraphFormat& format : document.paragraphFormats) Place(format.ground);
+  for (const ParagraphFormat& format : document.paragraphFormats) {
+    Place(format.ground);
+    for (const ParagraphBorder& border : format.borders) Place(border.line.color);
+  }
   for (const RowFormat& row : document.rowFormats) PlaceColorsOf(row);
 }
 

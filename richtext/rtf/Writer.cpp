@@ -24,7 +24,7 @@ class Writer {
       : document_(document),
         tables_(document),
         lists_(document),
-        paragraphs_(out_, tables_.SymbolFont()),
+        paragraphs_(out_, tables_),
         looks_(document, tables_, out_) {}
   std::string Write();
 
@@ -73,7 +73,7 @@ void Writer::WriteParagraph(const Paragraph& paragraph) {
   const bool isInRow = paragraph.place != Place::Text;
   if (isInRow && !isInRow_) WriteRow(document_.rowFormats[document_.rows[rowAt_++]], tables_, out_);
   isInRow_ = isInRow && paragraph.place != Place::RowEnd;
-  paragraphs_.Begin(format, {lists_.NumberOf(number), tables_.NumberOf(format.ground), isInRow});
+  paragraphs_.Begin(format, {lists_.NumberOf(number), isInRow});
   const std::size_t end = textAt_ + paragraph.length;
   while (textAt_ < end) {
     const Run& run = document_.runs[runAt_++];

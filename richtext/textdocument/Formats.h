@@ -37,6 +37,7 @@ enum BoxProperty : int {
   OddRow,              // bool
   ParagraphOfCellEnd,  // QTextFormat
   EndOfRow,            // bool
+  BordersOfParagraph,  // QByteArray, see PackedRow.h; none where there are none
 };
 
 // int, twips, of a document that was filled.

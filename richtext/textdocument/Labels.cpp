@@ -11,7 +11,7 @@
 #include "richtext/document/Twips.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/Paragraphs.h"
-#include "richtext/textdocument/RowTables.h"
+#include "richtext/textdocument/ShownBlocks.h"
 
 namespace richtext {
 namespace {
@@ -32,13 +32,6 @@ QFont PlainFont(QFont font) {
 
 bool FollowsAnItem(const QTextBlock& block) {
   return block.previous().isValid() && IsListItem(block.previous().blockFormat());
-}
-
-// Asked for a place above the first line, the toolkit looks at all blocks.
-QTextBlock FirstBelow(const QPointF& place, const QTextDocument& document) {
-  const QAbstractTextDocumentLayout& layout = *document.documentLayout();
-  if (place.y() < layout.blockBoundingRect(document.begin()).bottom()) return document.begin();
-  return document.findBlock(std::max(0, layout.hitTest(place, Qt::FuzzyHit)));
 }
 
 double LeftOf(const QTextBlock& block, const QPointF& place, double width, double gap) {
@@ -93,14 +86,11 @@ void DrawLabel(QPainter& painter, const QTextBlock& block, const QPointF& place,
 bool DrawLabels(QPainter& painter, const QTextDocument& document, const QRectF& shown,
                 KeptCounters& counters) {
   const QAbstractTextDocumentLayout& layout = *document.documentLayout();
-  QTextBlock block = FirstBelow(shown.topLeft(), document);
-  if (const QTextTable* const row = TableAt(document, block.position()))
-    block = document.findBlock(row->firstPosition());
+  QTextBlock block = FirstShown(document, shown);
   LabelCounter counter = counters.Before(block);
   bool drawn = false;
   for (; block.isValid() && block.isVisible(); block = block.next()) {
-    if (layout.blockBoundingRect(block).top() >= shown.bottom() && !TableAt(document, block.position()))
-      break;
+    if (IsBelow(block, shown)) break;
     const QString label = counter.Count(block);
     if (label.isEmpty() || block.layout()->lineCount() == 0) continue;
     DrawLabel(painter, block, layout.blockBoundingRect(block).topLeft(), label);

@@ -90,4 +90,24 @@ RowFormat Unpacked(const QByteArray& bytes) {
   return row;
 }
 
+QByteArray Packed(const ParagraphBorders& borders) {
+  QByteArray bytes;
+  QDataStream out(&bytes, QIODevice::WriteOnly);
+  for (const ParagraphBorder& border : borders) {
+    PutBorder(out, border.line);
+    Put(out, border.space);
+  }
+  return bytes;
+}
+
+ParagraphBorders UnpackedBorders(const QByteArray& bytes) {
+  ParagraphBorders borders;
+  QDataStream in(bytes);
+  for (ParagraphBorder& border : borders) {
+    GetBorder(in, border.line);
+    Get(in, border.space);
+  }
+  return borders;
+}
+
 }  // namespace richtext

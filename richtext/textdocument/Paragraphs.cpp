@@ -8,6 +8,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/document/Twips.h"
 #include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/PackedRow.h"
 #include "richtext/textdocument/Rows.h"
 
 namespace richtext {
@@ -136,8 +137,22 @@ Indents RoomForLabels(const ParagraphFormat& format) {
   return shown;
 }
 
-Indents ShownIndents(const ParagraphFormat& format, double width) {
+// Of the side of a frame that stands outside of the text.
+std::int32_t RoomForBorder(const ParagraphBorder& border) {
+  return IsShown(border.line) ? border.space + border.line.width : 0;
+}
+
+Indents RoomForFrame(const ParagraphFormat& format) {
   Indents shown = RoomForLabels(format);
+  if (format.borders == ParagraphBorders()) return shown;
+  const std::int32_t label = IsItem(format) ? RoomForLabel : 0;
+  shown.left = std::max(shown.left, RoomForBorder(format.borders[LeftSide]) + label);
+  shown.right = std::max(shown.right, RoomForBorder(format.borders[RightSide]));
+  return shown;
+}
+
+Indents ShownIndents(const ParagraphFormat& format, double width) {
+  Indents shown = RoomForFrame(format);
   const std::int32_t most = Twips(width) / 4 * 3;
   shown.left = std::min(shown.left, most);
   shown.right = std::min(shown.right, most - std::max(0, shown.left));
@@ -205,6 +220,7 @@ QTextBlockFormat ToBlockFormat(const ParagraphFormat& format, double width) {
   SetSpacing(made, format, width);
   SetTabs(made, format, shown);
   if (IsItem(format)) SetList(made, format.list);
+  if (format.borders != ParagraphBorders()) made.setProperty(BordersOfParagraph, Packed(format.borders));
   if (format.ground)
     made.setBackground(ToColor(*format.ground));
   else
@@ -229,6 +245,8 @@ ParagraphFormat FromBlockFormat(const QTextBlockFormat& format) {
   if (IsListItem(format)) taken.list = ListOf(format);
   taken.tabs = TabsOf(format);
   if (format.background().style() != Qt::NoBrush) taken.ground = FromColor(format.background().color());
+  if (format.hasProperty(BordersOfParagraph))
+    taken.borders = UnpackedBorders(format.property(BordersOfParagraph).toByteArray());
   return taken;
 }
 
@@ -262,6 +280,14 @@ QTextBlockFormat WithoutList(const QTextBlockFormat& format) {
   left.rightIndent = shown.right;
   left.firstLineIndent = shown.first;
   left.list = {};
+  const QTextBlockFormat made = ToBlockFormat(left);
+  return IsInRow(format) ? InSameRow(made, format) : made;
+}
+
+QTextBlockFormat WithoutFrame(const QTextBlockFormat& format) {
+  ParagraphFormat left = FromBlockFormat(format);
+  left.borders = {};
+  left.ground.reset();
   const QTextBlockFormat made = ToBlockFormat(left);
   return IsInRow(format) ? InSameRow(made, format) : made;
 }

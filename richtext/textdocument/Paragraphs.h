@@ -23,5 +23,7 @@ QTextBlockFormat WithLineHeight(QTextBlockFormat format, double height);
 bool HasOtherLines(const QTextBlockFormat& format);
 // The same paragraph as no item of a list; its text stays where it was.
 QTextBlockFormat WithoutList(const QTextBlockFormat& format);
+// Likewise without borders and ground.
+QTextBlockFormat WithoutFrame(const QTextBlockFormat& format);
 
 }  // namespace richtext

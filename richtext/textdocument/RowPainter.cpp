@@ -11,6 +11,7 @@
 #include <QtGui/QTextLayout>
 
 #include "richtext/document/Twips.h"
+#include "richtext/textdocument/BorderLine.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/RowTables.h"
 
@@ -18,38 +19,6 @@ namespace richtext {
 namespace {
 
 constexpr double Near = 2;  // pixels between edges that are meant to be one
-
-bool IsShown(const Border& border) {
-  return border.kind != BorderKind::None && border.kind != BorderKind::Hidden;
-}
-
-QPen PenOf(const Border& border) {
-  QPen pen(ToColor(border.color.value_or(0)));
-  const double told = std::max(1.0, std::round(border.width / TwipsPerPixel));
-  pen.setWidthF(border.kind == BorderKind::Thick      ? 2 * told
-                : border.kind == BorderKind::Hairline ? 0.5
-                                                      : told);
-  pen.setCapStyle(Qt::SquareCap);
-  if (border.kind == BorderKind::Dotted) pen.setDashPattern({1, 2});
-  if (border.kind == BorderKind::Dashed) pen.setDashPattern({4, 3});
-  if (pen.style() == Qt::CustomDashLine) pen.setCapStyle(Qt::FlatCap);
-  return pen;
-}
-
-// A line of two or three lies around the place of one.
-void DrawBorder(QPainter& painter, const Border& border, QLineF line) {
-  if (!IsShown(border)) return;
-  const QPen pen = PenOf(border);
-  painter.setPen(pen);
-  const bool isFlat = line.dy() == 0;
-  const auto draw = [&](double aside) {
-    painter.drawLine(line.translated(isFlat ? 0 : aside, isFlat ? aside : 0));
-  };
-  const double gap = 2 * pen.widthF();
-  if (border.kind == BorderKind::Double) return draw(-gap / 2), draw(gap / 2);
-  draw(0);
-  if (border.kind == BorderKind::Triple) draw(-gap), draw(gap);
-}
 
 // The borders of the cells of a row, as the row and its neighbours have them.
 class Borders {

@@ -151,6 +151,35 @@ TEST_F(TableTest, CellsAreCutAndPasted) {
   ExpectKept();
 }
 
+// Neighbours stand in one frame, which the last of them ends when Enter finds it empty.
+TEST_F(BoxFormatsTest, FramesAreDrawnAroundNeighbours) {
+  Set(Page(R"(x\par\sa200\brdrl\brdrs\brdrw45\brdrcf1\brsp60\brdrb\brdrs\brdrcf1 a\par b\par\pard y)"));
+  const auto inked = [&](int x) {
+    const QImage shot = box.viewport()->grab().toImage();
+    std::vector<int> rows;
+    for (int y = 0; y < shot.height(); ++y)
+      if (shot.pixelColor(x, y) == QColor(255, 0, 0)) rows.push_back(y);
+    return rows;
+  };
+  QTextCursor b(box.document()->find(QStringLiteral("b")));
+  const std::vector<int> left = inked(5), below = inked(200);
+  ASSERT_FALSE(left.empty());
+  EXPECT_EQ(left.back() - left.front() + 1, static_cast<int>(left.size())) << "the space between them too";
+  EXPECT_NEAR(left.back(), box.cursorRect(b).bottom(), 3);
+  EXPECT_EQ(below.size(), 1U) << "below the second alone";
+  Select(2, 3);
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->mimeData()->html().count(QStringLiteral("border-left: 2.25pt solid")),
+            1);
+  Select(5, 0);
+  Press(Qt::Key_Return);
+  EXPECT_GT(inked(5).size(), left.size());
+  Press(Qt::Key_Return);
+  EXPECT_EQ(inked(5), left);
+  EXPECT_EQ(Text(), "x\na\nb\n\ny");
+  ExpectKept();
+}
+
 TEST_F(BoxFormatsTest, UnderlineOfAPersonIsAPlainOne) {
   Set(Page(R"(\ulth thick)"));
   EXPECT_EQ(box.SelUnderline(), true);

@@ -72,6 +72,14 @@ inline std::string Dump(const ListFormat& list) {
          ToUtf8(list.after);
 }
 
+constexpr const char* Sides[] = {"t", "l", "b", "r", "h", "v"};  // of borders
+
+inline std::string Dump(const std::string& name, const Border& border) {
+  if (border == Border()) return {};
+  return name + NameOf(border.kind, {"?", "-", "", "th", "db", "dot", "dash", "hair", "tri"}) +
+         std::to_string(border.width) + (border.color ? DumpColor(*border.color) : "");
+}
+
 inline std::string Dump(const ParagraphFormat& format) {
   Words words;
   words.Add(NameOf(format.alignment, {"", "right", "center", "justify"}));
@@ -88,19 +96,16 @@ inline std::string Dump(const ParagraphFormat& format) {
     words.Add(NameOf(tab.kind, {"tab", "rtab", "ctab", "dtab"}), tab.position);
   words.Add(Dump(format.list));
   if (format.ground) words.Add("on " + DumpColor(*format.ground));
+  for (std::size_t side = 0; side < 4; ++side) {
+    words.Add(Dump(Sides[side], format.borders[side].line));
+    words.Add("space", format.borders[side].space);
+  }
   return words.line().empty() ? "" : '[' + words.line() + ']';
-}
-
-inline std::string Dump(const std::string& name, const Border& border) {
-  if (border == Border()) return {};
-  return name + NameOf(border.kind, {"?", "-", "", "th", "db", "dot", "dash", "hair", "tri"}) +
-         std::to_string(border.width) + (border.color ? DumpColor(*border.color) : "");
 }
 
 // "{center 0 1440<^ top.. 2880}": where the row begins and its cells end, each with what it is: "<" and "-"
 // is the first and one more of those that are one across, "^" and "v" downwards.
 inline std::string Dump(const RowFormat& format) {
-  constexpr const char* Sides[] = {"t", "l", "b", "r", "h", "v"};
   Words words;
   words.Add(NameOf(format.place, {"", "center", "right"}));
   if (format.isHead) words.Add("head");

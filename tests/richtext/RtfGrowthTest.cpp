@@ -45,6 +45,9 @@ TEST(RtfGrowth, StaysWithinABound) {
   const std::string signs = Repeated("\\u9999?", 32);
   std::string tabs;
   for (int i = 0; i < 40; ++i) tabs += "\\tqdec\\tx" + std::to_string(10'000 + i * 300);
+  std::string borders;
+  for (const char side : std::string("tlbr"))
+    borders += std::string("\\brdr") + side + "\\brdrtriple\\brdrw255\\brsp620";
   std::string row = R"({\colortbl;\red1;}\trowd\trgaph30000\trleft-30000\trrh-30000\trhdr\trqc)";
   for (const char side : std::string("tlbrhv"))
     row += std::string("\\trbrdr") + side + "\\brdrtriple\\brdrw255\\brdrcf1";
@@ -63,7 +66,7 @@ TEST(RtfGrowth, StaysWithinABound) {
       {R"({\*\pn\pndec{\pntxtb )" + signs + R"(}{\pntxta )" + signs + "}}" + Repeated("\\par", 6000), 0},
       {row + Repeated(R"(\cell\row)", 3000), 0},
       {tabs + row + Repeated(R"({\tx1\cell}\cell\row)", 3000), 0},
-      {tabs + Repeated("{\\tx1\\par}\\par", 3000), 0},
+      {borders + tabs + Repeated("{\\tx1\\par}\\par", 3000), 0},
       {R"({\colortbl;\red1;}\b\i\ulwave\strike\super\v\caps\fs44\cf1\highlight1 )" +
            Repeated(R"({\plain a}b)", 3000),
        0},

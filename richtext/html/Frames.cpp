@@ -1,0 +1,191 @@
+#include "richtext/html/Frames.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iterator>
+#include <optional>
+
+#include "richtext/document/Limits.h"
+#include "richtext/document/Twips.h"
+#include "richtext/html/Colors.h"
+#include "richtext/textdocument/Formats.h"
+
+namespace richtext::html {
+namespace {
+
+constexpr double Medium = 3;       // pixels; the width of a border that tells none
+constexpr double LetterSize = 16;  // pixels, of a letter that nobody tells the size of
+
+// The first end by themselves, so that nothing stands in their frames.
+constexpr QStringView FlatBlocks[] = {u"p", u"li", u"dd", u"dt"};
+constexpr QStringView Blocks[] = {
+    u"address", u"article", u"aside", u"blockquote", u"center", u"details", u"div",     u"dl", u"fieldset",
+    u"figure",  u"footer",  u"form",  u"h1",         u"h2",     u"h3",      u"h4",      u"h5", u"h6",
+    u"header",  u"main",    u"nav",   u"ol",         u"pre",    u"section", u"summary", u"ul"};
+constexpr QStringView Cells[] = {u"table", u"td", u"th", u"caption"};
+
+template <std::size_t Count>
+bool IsOneOf(const QStringView (&names)[Count], const QString& name) {
+  return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+std::optional<double> Pixels(QStringView word) {
+  if (word == u"thin") return 1;
+  if (word == u"medium") return Medium;
+  if (word == u"thick") return 5;
+  constexpr struct {
+    QStringView unit;
+    double pixels;
+  } Units[] = {{u"px", 1}, {u"pt", 4 / 3.0}, {u"em", LetterSize}, {u"rem", LetterSize}, {u"", 1}};
+  for (const auto& [unit, pixels] : Units) {
+    bool isNumber = false;
+    const double number = word.endsWith(unit) ? word.chopped(unit.size()).toDouble(&isNumber) : 0;
+    if (isNumber && std::isfinite(number)) return std::clamp(number * pixels, 0.0, 1000.0);
+  }
+  return std::nullopt;
+}
+
+std::optional<BorderKind> KindOf(QStringView word) {
+  constexpr struct {
+    QStringView style;
+    BorderKind kind;
+  } Styles[] = {{u"none", BorderKind::Hidden},   {u"hidden", BorderKind::Hidden},
+                {u"solid", BorderKind::Single},  {u"double", BorderKind::Double},
+                {u"dotted", BorderKind::Dotted}, {u"dashed", BorderKind::Dashed},
+                {u"groove", BorderKind::Single}, {u"ridge", BorderKind::Single},
+                {u"inset", BorderKind::Single},  {u"outset", BorderKind::Single}};
+  for (const auto& [style, kind] : Styles)
+    if (word == style) return kind;
+  return std::nullopt;
+}
+
+std::int32_t Twips(double pixels) {
+  return static_cast<std::int32_t>(std::lround(pixels * TwipsPerPixel));
+}
+
+enum class What { All, Width, Style, Color, Padding };
+
+// A word of a border's value may be any of the three.
+void TakeWord(What what, QStringView word, ParagraphBorder& border) {
+  const std::optional<double> pixels = Pixels(word);
+  if (what == What::Padding) {
+    border.space = Twips(pixels.value_or(0));
+  } else if (pixels) {
+    border.line.width = Twips(*pixels);
+  } else if (const std::optional<BorderKind> kind = KindOf(word)) {
+    border.line.kind = *kind;
+  } else if (const std::optional<QColor> color = FirstCssColor(word)) {
+    border.line.color = FromColor(*color);
+  }
+}
+
+std::vector<QStringView> WordsOf(QStringView value) {
+  std::vector<QStringView> words;
+  for (value = value.trimmed(); !value.isEmpty() && words.size() < 8;) {
+    const qsizetype length = FirstWordOf(value);
+    words.push_back(value.left(length));
+    value = value.mid(length).trimmed();
+  }
+  return words;
+}
+
+// "border", "border-left", "border-width", "border-left-width", "padding", "padding-left".
+struct Property {
+  What what;
+  int side;  // a Side, or -1 for all of them
+};
+std::optional<Property> PropertyOf(const QString& name) {
+  constexpr QStringView Sides[] = {u"top", u"left", u"bottom", u"right"};                 // by Side
+  constexpr QStringView Parts[] = {u"border", u"width", u"style", u"color", u"padding"};  // by What
+  const QStringList parts = name.split(u'-');
+  if (parts.size() > 3 || (parts[0] != Parts[0] && parts[0] != Parts[4])) return std::nullopt;
+  Property property{parts[0] == Parts[4] ? What::Padding : What::All, -1};
+  for (const QString& part : parts.mid(1)) {
+    const auto* const side = std::find(std::begin(Sides), std::end(Sides), part);
+    const auto* const what = std::find(std::begin(Parts) + 1, std::begin(Parts) + 4, part);
+    if (side != std::end(Sides))
+      property.side = static_cast<int>(side - std::begin(Sides));
+    else if (what != std::begin(Parts) + 4)
+      property.what = static_cast<What>(what - std::begin(Parts));
+    else
+      return std::nullopt;
+  }
+  return property;
+}
+
+// One value for all sides, or up to four: at the top, the right, the bottom and the left.
+void TakeSides(What what, const std::vector<QStringView>& words, ParagraphBorders& borders) {
+  constexpr std::size_t Order[] = {0, 3, 2, 1};  // of a Side in such values
+  constexpr std::size_t Given[4][4] = {{0, 0, 0, 0}, {0, 1, 0, 1}, {0, 1, 2, 1}, {0, 1, 2, 3}};
+  const std::size_t count = std::min<std::size_t>(words.size(), 4);
+  if (count == 0) return;
+  for (const Side side : {TopSide, LeftSide, BottomSide, RightSide})
+    TakeWord(what, words[Given[count - 1][Order[side]]], borders[side]);
+}
+
+void TakeDeclaration(QStringView declaration, ParagraphBorders& borders) {
+  const qsizetype colon = declaration.indexOf(u':');
+  if (colon < 0) return;
+  const std::optional<Property> property = PropertyOf(declaration.left(colon).trimmed().toString());
+  if (!property) return;
+  const std::vector<QStringView> words = WordsOf(declaration.mid(colon + 1));
+  const bool isWhole = property->what == What::All;
+  if (property->side < 0 && !isWhole) return TakeSides(property->what, words, borders);
+  for (int side = 0; side < 4; ++side) {
+    if (property->side >= 0 && property->side != side) continue;
+    ParagraphBorder& border = borders[static_cast<std::size_t>(side)];
+    if (isWhole) border.line = {BorderKind::None, Twips(Medium), {}};
+    for (const QStringView word : words) TakeWord(property->what, word, border);
+  }
+}
+
+}  // namespace
+
+ParagraphBorders BordersOfStyle(QStringView css) {
+  const QString plain = css.toString().toLower().remove(QLatin1String("!important"));
+  ParagraphBorders borders;
+  for (ParagraphBorder& border : borders) border.line.width = Twips(Medium);
+  for (const QStringView declaration : QStringView(plain).split(u';')) TakeDeclaration(declaration, borders);
+  for (ParagraphBorder& border : borders)
+    if (border.line.width == 0) border = {};
+  return FittingBorders(borders);
+}
+
+void Frames::Close(const QString& name) {
+  const auto last =
+      std::find_if(open_.rbegin(), open_.rend(), [&](const Open& open) { return open.name == name; });
+  if (last != open_.rend()) open_.erase(last.base() - 1, open_.end());
+}
+
+std::uint32_t Frames::FrameOf(const Tag& tag) {
+  if (IsOneOf(Cells, tag.name)) return 0;
+  for (const Attribute& attribute : tag.attributes) {
+    if (attribute.key != u"style" || !attribute.value.contains(u"border")) continue;
+    if (const ParagraphBorders own = BordersOfStyle(attribute.value); own != ParagraphBorders())
+      return numbers_(own);
+  }
+  return open_.empty() ? 0 : open_.back().frame;
+}
+
+// The toolkit reads the last style of a tag.
+void Frames::Tell(std::uint32_t frame, Tag& tag) {
+  const auto style = std::find_if(tag.attributes.rbegin(), tag.attributes.rend(),
+                                  [](const Attribute& attribute) { return attribute.key == u"style"; });
+  const QString state = QStringLiteral(";-qt-user-state:%1").arg(frame);
+  if (style != tag.attributes.rend())
+    style->value += state;
+  else
+    tag.attributes.push_back({QStringLiteral("style"), state.mid(1)});
+}
+
+void Frames::Take(Tag& tag) {
+  const bool isFlat = IsOneOf(FlatBlocks, tag.name);
+  if (!isFlat && !IsOneOf(Blocks, tag.name) && !IsOneOf(Cells, tag.name)) return;
+  if (tag.closes) return isFlat ? void() : Close(tag.name);
+  const std::uint32_t frame = FrameOf(tag);
+  if (frame != 0) Tell(frame, tag);
+  if (!isFlat && !tag.endsItself) open_.push_back({tag.name, frame});
+}
+
+}  // namespace richtext::html

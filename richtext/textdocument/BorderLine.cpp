@@ -1,0 +1,43 @@
+#include "richtext/textdocument/BorderLine.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QtGui/QPainter>
+
+#include "richtext/document/Twips.h"
+#include "richtext/textdocument/Formats.h"
+
+namespace richtext {
+namespace {
+
+QPen PenOf(const Border& border) {
+  QPen pen(ToColor(border.color.value_or(0)));
+  const double told = std::max(1.0, std::round(border.width / TwipsPerPixel));
+  pen.setWidthF(border.kind == BorderKind::Thick      ? 2 * told
+                : border.kind == BorderKind::Hairline ? 0.5
+                                                      : told);
+  pen.setCapStyle(Qt::SquareCap);
+  if (border.kind == BorderKind::Dotted) pen.setDashPattern({1, 2});
+  if (border.kind == BorderKind::Dashed) pen.setDashPattern({4, 3});
+  if (pen.style() == Qt::CustomDashLine) pen.setCapStyle(Qt::FlatCap);
+  return pen;
+}
+
+}  // namespace
+
+void DrawBorder(QPainter& painter, const Border& border, QLineF line) {
+  if (!IsShown(border)) return;
+  const QPen pen = PenOf(border);
+  painter.setPen(pen);
+  const bool isFlat = line.dy() == 0;
+  const auto draw = [&](double aside) {
+    painter.drawLine(line.translated(isFlat ? 0 : aside, isFlat ? aside : 0));
+  };
+  const double gap = 2 * pen.widthF();
+  if (border.kind == BorderKind::Double) return draw(-gap / 2), draw(gap / 2);
+  draw(0);
+  if (border.kind == BorderKind::Triple) draw(-gap), draw(gap);
+}
+
+}  // namespace richtext

@@ -1,0 +1,31 @@
+// The grounds of paragraphs, which the box and the paper have under the text, and their borders, which lie
+// over the toolkit's own ground of lines. Neighbours of the same look and the same indents stand in one
+// frame: what is between them has their ground, and its borders are around them all. The toolkit knows the
+// ground of lines alone, and no borders.
+#pragma once
+
+#include <QtCore/QRectF>
+#include <QtGui/QTextBlock>
+
+class QPainter;
+
+namespace richtext {
+
+// Of a paragraph that is laid out, in the document's own pixels: its part of the frame. A border above or
+// below keeps off the letters of the paragraph beside it, so that it may stand nearer than it is told to.
+struct FramePart {
+  QRectF place;
+  bool begins = false, ends = false;  // with the frame's own border
+};
+bool HasFrame(const QTextBlock& block);
+FramePart FrameOf(const QTextBlock& block);
+
+// The painter counts in the document's pixels.
+void DrawGround(QPainter& painter, const QTextBlock& block, const FramePart& part);
+void DrawBorders(QPainter& painter, const QTextBlock& block, const FramePart& part);
+
+// Draws of the frames that can be seen what is one or the other's affair.
+using FrameDrawer = void (*)(QPainter&, const QTextBlock&, const FramePart&);
+void DrawFrames(QPainter& painter, const QTextDocument& document, const QRectF& shown, FrameDrawer draw);
+
+}  // namespace richtext
