@@ -22,6 +22,7 @@ void Context::EndGroup() {
   if (const std::int32_t sign = sign_.TakeAtEnd(Depth(), builder_.Text().size())) PutUnicode(sign);
   if (!skipped && ended == Destination::FontTable) fonts_.EndGroup(Depth());
   if (!skipped && AsideText::IsFor(ended)) decoder_.EndText(aside_.Text());
+  if (note_.EndsAt(Depth())) EndNote();
   groups_.Pop();
   if (skipped || State().destination == ended) return;
   Finish(ended);
@@ -108,6 +109,23 @@ void Context::SetAside(Destination destination) {
   if (within == Destination::Body) EndText();
   aside_.Begin();
   SendTextTo(destination);
+}
+
+void Context::BeginNote() {
+  const bool isInText = State().destination == Destination::Body && !note_.IsOpen();
+  if (Depth() <= 1 || !isInText || !groups_.HasOwnState()) return SkipGroup();
+  EndText();
+  note_.Begin(Depth());
+  ChangeCharacter();
+}
+
+void Context::EndNote() {
+  decoder_.EndText(builder_.Text());
+  if (note_.HasText()) {
+    builder_.Text() += u']';
+    ClaimText();
+  }
+  note_.End();
 }
 
 void Context::BeginLabel(WrittenLabel::Kind kind) {

@@ -1,6 +1,6 @@
 // Where a reading of RTF stands: the place where the groups, the tables and the document so far meet. What
-// has a rule of its own is a class of its own (AsideText, DocumentCodePage, FieldSign, LinkTally, ShapeState,
-// WrittenLabel); here is only what one of them tells another.
+// has a rule of its own is a class of its own (AsideText, DocumentCodePage, FieldSign, LinkTally, NoteText,
+// ShapeState, WrittenLabel); here is only what one of them tells another.
 //
 // The order of calls. Groups open and close by BeginGroup and EndGroup. A word that names a destination acts
 // on the group in force (SkipGroup, SendTextTo, SetAside) and comes before the group's text. What such a
@@ -27,6 +27,7 @@
 #include "richtext/rtf/FontTable.h"
 #include "richtext/rtf/GroupState.h"
 #include "richtext/rtf/Links.h"
+#include "richtext/rtf/NoteText.h"
 #include "richtext/rtf/ParagraphFormats.h"
 #include "richtext/rtf/PictureReader.h"
 #include "richtext/rtf/RowWords.h"
@@ -82,6 +83,8 @@ class Context {
   void SetTabDistance(std::int32_t twips) { builder_.SetTabDistance(FittingTabDistance(twips)); }
   // Text begins that stands for itself, not within the paragraph around it.
   void EndOpenParagraph();
+  // A footnote's group begins.
+  void BeginNote();
   // A label's group begins.
   void BeginLabel(WrittenLabel::Kind kind);
 
@@ -90,6 +93,7 @@ class Context {
 
  private:
   void Finish(Destination ended);
+  void EndNote();
   void FinishLevelText();
   void FinishNumbering();
   void FinishInstruction();
@@ -125,6 +129,7 @@ class Context {
   WrittenLabel label_;
   FieldSign sign_;
   AsideText aside_;
+  NoteText note_;
 
   // The document so far.
   TextDecoder decoder_;

@@ -1,4 +1,6 @@
 // The formats of what is being read, and the numbers that the document gives them.
+#include <algorithm>
+
 #include "richtext/rtf/Characters.h"
 #include "richtext/rtf/Context.h"
 
@@ -27,7 +29,9 @@ void Context::ResetCharacter() {
 }
 
 std::uint32_t Context::FormatNumberOf(const CharacterState& state) {
-  return builder_.FormatNumber(KeyOf(state, fonts_), [&] { return FormatOf(state, fonts_, links_); });
+  CharacterState shown = state;
+  if (note_.IsOpen()) shown.halfPoints = std::min(shown.halfPoints, NoteText::MostHalfPoints);
+  return builder_.FormatNumber(KeyOf(shown, fonts_), [&] { return FormatOf(shown, fonts_, links_); });
 }
 
 std::uint32_t Context::FormatNumber() {
@@ -61,7 +65,7 @@ std::uint32_t Context::ParagraphNumber() {
 // Formats are asked for only where there is text, so that a document has none that nothing uses.
 void Context::ClaimText() {
   if (!builder_.HasUnclaimedText()) return;
-  openParagraph_ = State().paragraph;
+  if (!note_.IsOpen()) openParagraph_ = State().paragraph;
   if (!linkTally_.Admits(State().character.link, links_)) ChangeCharacter().link = 0;
   builder_.ClaimText(FormatNumber());
 }

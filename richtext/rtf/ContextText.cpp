@@ -25,6 +25,7 @@ const CodePage& Context::TextPage() const {
 std::u16string* Context::TextInHand() {
   if (State().destination == Destination::Body) {
     SettleLabel();
+    note_.BeginText(builder_.Text());
     return &builder_.Text();
   }
   return AsideText::IsFor(State().destination) && aside_.HasRoom() ? &aside_.Text() : nullptr;
@@ -41,6 +42,8 @@ void Context::PutBytes(std::string_view bytes) {
     default:
       break;
   }
+  if (State().destination == Destination::Body) bytes = note_.WithoutBlanks(bytes);
+  if (bytes.empty()) return;
   if (std::u16string* text = TextInHand()) {
     decoder_.AppendBytes(bytes, TextPage(), *text);
     ClaimText();
@@ -71,6 +74,7 @@ void Context::PutUnicode(std::int32_t number) {
 }
 
 void Context::PutCharacter(char16_t character) {
+  if (character == u'\t' && note_.PassesBlanks()) return;
   if (std::u16string* text = TextInHand()) {
     decoder_.AppendUnit(character, *text);
     ClaimText();
@@ -84,6 +88,7 @@ void Context::EndText() {
 
 void Context::EndParagraph() {
   if (State().destination != Destination::Body) return;
+  if (note_.IsOpen()) return note_.EndParagraph();
   SettleLabel();
   EndText();
   EndParagraphAs(State().paragraph.inTable ? Place::Cell : Place::Text, ParagraphNumber());
@@ -101,7 +106,8 @@ void Context::EndOpenParagraph() {
 }
 
 void Context::EndCell() {
-  if (State().destination != Destination::Body || !builder_.HasRoomForCell()) return EndNestedCell();
+  const bool isInText = State().destination == Destination::Body && !note_.IsOpen();
+  if (!isInText || !builder_.HasRoomForCell()) return EndNestedCell();
   SettleLabel();
   EndText();
   EndParagraphAs(Place::CellEnd, ParagraphNumber());
@@ -116,6 +122,7 @@ void Context::EndNestedCell() {
 // What is told of the row before its end is no format of its cells' paragraphs.
 void Context::EndRow() {
   if (State().destination != Destination::Body) return;
+  if (note_.IsOpen()) return note_.EndParagraph();
   SettleLabel();
   EndText();
   if (builder_.HasOpenText() && builder_.HasRoomForCell())

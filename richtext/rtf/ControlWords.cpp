@@ -163,6 +163,7 @@ constexpr ControlWord KnownWords[] = {
     {"pn", BeginNumbering, 0, 0, WordKind::Destination},
     Aside("pntxtb", Destination::NumberingBefore),
     Aside("pntxta", Destination::NumberingAfter),
+    {"footnote", Note, 0, 0, WordKind::Destination},
     LabelOf("pntext", WrittenLabel::Kind::Text),
     LabelOf("listtext", WrittenLabel::Kind::ListText),
     {"field", Field, 0, 0, WordKind::Destination},
@@ -190,15 +191,15 @@ constexpr ControlWord KnownWords[] = {
 
 // Groups that are passed over, which many write without "\*".
 constexpr std::string_view SkippedNames[] = {
-    "annotation", "background",   "bkmkend",  "bkmkstart",     "blipuid",     "colorschememapping",
-    "datafield",  "datastore",    "docvar",   "falt",          "filetbl",     "fname",
-    "footer",     "footerf",      "footerl",  "footerr",       "footnote",    "generator",
-    "header",     "headerf",      "headerl",  "headerr",       "info",        "latentstyles",
+    "annotation", "background",   "bkmkend",  "bkmkstart",     "blipuid",      "colorschememapping",
+    "datafield",  "datastore",    "docvar",   "falt",          "filetbl",      "fname",
+    "footer",     "footerf",      "footerl",  "footerr",       "generator",    "header",
+    "headerf",    "headerl",      "headerr",  "info",          "latentstyles",
 
-    "mmath",      "levelnumbers", "listname", "liststylename", "listpicture", "nonesttables",
-    "objclass",   "objdata",      "objname",  "panose",        "pgptbl",      "picprop",
+    "mmath",      "levelnumbers", "listname", "liststylename", "listpicture",  "nonesttables",
+    "objclass",   "objdata",      "objname",  "panose",        "pgptbl",       "picprop",
 
-    "private",    "revtbl",       "rsidtbl",  "stylesheet",    "tc",          "template",
+    "private",    "revtbl",       "rsidtbl",  "stylesheet",    "tc",           "template",
     "themedata",  "xe",           "xmlnstbl"};
 
 constexpr std::size_t WordCount = std::size(KnownWords) + std::size(tables::Words) + std::size(SkippedNames);

@@ -208,6 +208,10 @@ inline void SendTo(Context& context, Number destination, Number) {
   context.SendTextTo(static_cast<Destination>(destination));
 }
 
+inline void Note(Context& context, Number, Number) {
+  context.BeginNote();
+}
+
 inline void SetAside(Context& context, Number destination, Number) {
   context.SetAside(static_cast<Destination>(destination));
 }

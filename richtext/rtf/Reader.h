@@ -23,8 +23,8 @@ namespace richtext {
 bool IsRtf(std::string_view text);
 
 // Text that is no RTF is taken as plain text in Windows-1252. The very last \par of the document is
-// swallowed. Of a table within a cell each row is a paragraph, whose cells end in a tab; headers, footnotes
-// and comments are left out.
+// swallowed. Of a table within a cell each row is a paragraph, whose cells end in a tab. A footnote's text
+// stands at its mark, small and in brackets; headers and comments are left out.
 Document ReadRtf(std::string_view rtf);
 
 }  // namespace richtext
