@@ -1,7 +1,7 @@
 // The text goes to the paper in pieces (see PrintedPiece.h). A piece begins with what was printed last, so
 // that the space between two paragraphs is measured and not guessed, and ends with a paragraph. A paragraph
 // that is too long for a piece is cut where a line begins. A row goes onto one sheet where it fits on one; of
-// a higher one each sheet has whole lines.
+// a higher one each sheet has whole lines. A table's head rows come again on each sheet where it goes on.
 //
 // All positions in this file are the source's. Those of a piece, which begin with 0, are its own affair.
 #include "richtext/box/Printing.h"
@@ -14,6 +14,7 @@
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
 
+#include "richtext/box/HeadRows.h"
 #include "richtext/box/Paper.h"
 #include "richtext/box/PrintedPiece.h"
 #include "richtext/box/Sheets.h"
@@ -35,6 +36,7 @@ class Printing {
   Printing(const QTextCursor& selection, Paper& paper, QPainter& painter)
       : source_(*selection.document()),
         sheets_(paper, painter),
+        heads_(source_, sheets_.Size()),
         labels_(source_.findBlock(selection.selectionStart())),
         context_(selection.selectionStart()),
         at_(selection.selectionStart()),
@@ -58,6 +60,8 @@ class Printing {
     std::vector<PrintedLine> lines = piece->Lines();
     const int begin = at_;
     GoOnBehind(lines, PieceEnd(length));
+    for (PrintedLine& line : lines)
+      if (line.position >= begin) line.label = LabelBeside(line);
     Draw(lines, begin);
   }
 
@@ -110,9 +114,7 @@ class Printing {
   }
 
   // The lines before `begin` were printed before: they only tell how far below them the next one stands.
-  void Draw(std::vector<PrintedLine>& lines, int begin) {
-    for (PrintedLine& line : lines)
-      if (line.position >= begin) line.label = LabelBeside(line);
+  void Draw(const std::vector<PrintedLine>& lines, int begin) {
     double bottom = 0;
     for (std::size_t at = 0; at < lines.size();) {
       const PrintedLine& line = lines[at++];
@@ -124,9 +126,22 @@ class Printing {
       std::vector<PrintedLine> row{line};
       while (at < lines.size() && lines[at].row == line.row) row.push_back(lines[at++]);
       const RowPlace place = PlaceOf(*line.row);
-      if (line.position >= begin) DrawRow(row, place, place.top - bottom);
+      if (line.position >= begin) DrawRow(row, place, HeadBefore(line, place, place.top - bottom));
       bottom = place.bottom;
     }
+  }
+
+  // Where a row begins a sheet, its table's head stands above it, unless that leaves no room. Returns how far
+  // below what was printed last the row stands.
+  double HeadBefore(const PrintedLine& line, const RowPlace& place, double gap) {
+    const double height = place.bottom - place.top;
+    const QTextTable* const row = TableAt(source_, line.position);
+    if (!row || sheets_.HasRoom(gap, height)) return gap;
+    const HeadOfTable* const head = heads_.Of(*row);
+    if (!head || head->height + height > sheets_.Size().height()) return gap;
+    sheets_.Begin();
+    Draw(head->lines, 0);
+    return 0;
   }
 
   // In parts, each as high as a sheet at most. The lines of one cell need not end where those of another do:
@@ -191,6 +206,7 @@ class Printing {
 
   const QTextDocument& source_;
   Sheets sheets_;
+  HeadRows heads_;
   LabelCounter labels_;
   int counted_ = -1;  // number of the block that was counted last
   int context_;       // where the next piece begins, with what was printed last

@@ -23,11 +23,17 @@ Sheets::Sheets(Paper& paper, QPainter& painter)
                 paper.Device().logicalDpiY() / PixelsPerInch());
 }
 
+bool Sheets::HasRoom(double gap, double height) const {
+  return blank_ || used_ + gap + height <= size_.height();
+}
+
+void Sheets::Begin() {
+  failed_ = !paper_.NextSheet();
+  blank_ = true;
+}
+
 double Sheets::Place(double gap, double height) {
-  if (!blank_ && used_ + gap + height > size_.height()) {
-    failed_ = !paper_.NextSheet();
-    blank_ = true;
-  }
+  if (!HasRoom(gap, height)) Begin();
   const double top = blank_ ? 0 : used_ + gap;
   blank_ = false;
   used_ = top + height;

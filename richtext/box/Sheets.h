@@ -19,6 +19,10 @@ class Sheets {
   QPainter& Painter() { return painter_; }
   bool Failed() const { return failed_; }
 
+  // Whether there is room for a line on the sheet in hand, `gap` below the one before it.
+  bool HasRoom(double gap, double height) const;
+  // Begins the next sheet.
+  void Begin();
   // Makes room for a line, `gap` below the one before it, and gives its top. The gap is lost at the top of a
   // sheet.
   double Place(double gap, double height);

@@ -232,9 +232,9 @@ TEST_F(Print, PaperHasTheIndentsOfThePage) {
   EXPECT_NEAR(printer.Pictures().front().left() / printer.Pictures().front().width(), 5040 / 300.0, 1.5);
 }
 
-// A row of two lines goes onto one sheet, and each sheet is filled with rows.
+// A row of two lines goes onto one sheet, and each sheet is filled with rows below the table's head.
 TEST_F(Print, RowsAreNotParted) {
-  std::string page = "before\\par ";
+  std::string page = "before\\par\\trowd\\trhdr\\cellx9000\\pard\\intbl Head\\cell\\row ";
   for (int i = 0; i < 60; ++i)
     page += "\\trowd\\cellx9000\\cellx30000\\pard\\intbl a\\par b\\cell c\\cell\\row ";
   Load(AddJournal({page + "\\pard after"}));
@@ -252,6 +252,10 @@ TEST_F(Print, RowsAreNotParted) {
   EXPECT_EQ(letters[QStringLiteral("a")], letters[QStringLiteral("b")]);
   EXPECT_EQ(letters[QStringLiteral("a")], letters[QStringLiteral("c")]);
   EXPECT_EQ(letters[QStringLiteral("a")][1], letters[QStringLiteral("a")][2]);
+  for (std::size_t sheet = 0; sheet < sheets.size(); ++sheet) {
+    EXPECT_EQ(letters[QStringLiteral("Head")][sheet], 1);
+    EXPECT_EQ(sheets[sheet][sheet == 0 ? 1 : 0], "Head");
+  }
 }
 
 // The lines of its cells end at different heights, so that no cut goes between them all, and one begins above
