@@ -18,21 +18,18 @@
 
 namespace {
 
-// In pixels; the icons and their columns grow with the design.
-int IconSize() {
-  return look::Grown(32);
-}
-int LeastColumn() {
-  return look::Grown(104);
-}
+using look::Grown;
+
+// In pixels of the design.
+constexpr int IconSize = 32;
+constexpr int LeastColumn = 104;
 constexpr int Air = 8;          // above an icon
 constexpr int Gap = 4;          // between the labels
 constexpr int LabelTop = 4;     // from the board to the label below it
 constexpr int SidePadding = 6;  // from a label's edge to its text
 constexpr int Padding = 3;
-int BoardTop() {
-  return Air + IconSize() - 3;  // an icon has some pixels of air below it
-}
+constexpr int BoardTop = Air + IconSize - 3;  // an icon has some pixels of air below it
+constexpr int LabelsTop = BoardTop + ShelfBoardHeight + LabelTop;
 constexpr double Corner = 3;
 
 constexpr int MostLines = 3;
@@ -89,14 +86,15 @@ void PaintLabel(QPainter& painter, const QRect& place, const QStyleOptionViewIte
 void PaintGlow(QPainter& painter, const QRect& cell, const QStyleOptionViewItem& option) {
   const QColor face = option.palette.color(QPalette::Button);
   constexpr double wide = 1.6, below = 12;  // times its height; pixels of it that fall on the board
-  const double radius = BoardTop() - below;
+  constexpr double radius = BoardTop - below;
   QRadialGradient glow(QPointF(), radius);
   glow.setColorAt(0, face);
   glow.setColorAt(0.5, look::Mixed(face, look::Board, 0.75f));
   glow.setColorAt(1, look::Board);
   painter.save();
-  painter.translate(cell.center().x() + 1, cell.top() + radius);
-  painter.scale(wide, 1);
+  painter.translate(cell.center().x() + 1, cell.top());
+  painter.scale(look::Growth() * wide, look::Growth());
+  painter.translate(0, radius);
   painter.fillRect(QRectF(-radius, -radius, 2 * radius, radius + below), glow);
   painter.restore();
 }
@@ -109,15 +107,16 @@ class JournalLabel : public QStyledItemDelegate {
     const QStringList lines = NameIn(option, index).lines;
     const int lineHeight = option.fontMetrics.lineSpacing();
     const QRect& cell = option.rect;
-    QRect label = cell.adjusted(Gap, BoardTop() + ShelfBoardHeight + LabelTop, -Gap, 0);
-    label.setHeight(2 * Padding + static_cast<int>(lines.size()) * lineHeight);
+    QRect label = cell.adjusted(Grown(Gap), Grown(LabelsTop), -Grown(Gap), 0);
+    label.setHeight(2 * Grown(Padding) + static_cast<int>(lines.size()) * lineHeight);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     if (option.state & QStyle::State_Selected) PaintGlow(*painter, cell, option);
     PaintLabel(*painter, label, option);
-    const QRect icon(cell.center().x() - IconSize() / 2 + 1, cell.top() + Air, IconSize(), IconSize());
+    const int side = Grown(IconSize);
+    const QRect icon(cell.center().x() - side / 2 + 1, cell.top() + Grown(Air), side, side);
     index.data(Qt::DecorationRole).value<QIcon>().paint(painter, icon);
-    QRect line(label.left(), label.top() + Padding, label.width(), lineHeight);
+    QRect line(label.left(), label.top() + Grown(Padding), label.width(), lineHeight);
     painter->setFont(option.font);
     painter->setPen(option.palette.color(QPalette::Text));
     for (const QString& text : lines) {
@@ -142,7 +141,7 @@ class JournalLabel : public QStyledItemDelegate {
 
  private:
   static ShownName NameIn(const QStyleOptionViewItem& option, const QModelIndex& index) {
-    return Broken(index.data().toString(), option.font, option.rect.width() - 2 * (Gap + SidePadding));
+    return Broken(index.data().toString(), option.font, option.rect.width() - 2 * Grown(Gap + SidePadding));
   }
 };
 
@@ -164,10 +163,10 @@ JournalList::JournalList(QWidget* parent) : QListWidget(parent) {
 // The scroll bar has its place whether it shows or not, so that its coming moves no column.
 void JournalList::RuleGrid() {
   const int width = this->width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width() - 1;
-  const int columns = std::max(1, width / LeastColumn());
-  const int label = 2 * Padding + MostLines * fontMetrics().lineSpacing();
-  const int height = BoardTop() + ShelfBoardHeight + LabelTop + label + Gap;
-  setGridSize(QSize(std::max(width / columns, LeastColumn()), height));
+  const int least = Grown(LeastColumn);
+  const int columns = std::max(1, width / least);
+  const int label = 2 * Grown(Padding) + MostLines * fontMetrics().lineSpacing();
+  setGridSize(QSize(std::max(width / columns, least), Grown(LabelsTop) + label + Grown(Gap)));
 }
 
 void JournalList::changeEvent(QEvent* event) {
@@ -184,7 +183,7 @@ void JournalList::resizeEvent(QResizeEvent* event) {
 void JournalList::PaintBoards(QPainter& painter) const {
   painter.fillRect(viewport()->rect(), look::Board);
   const int step = gridSize().height();
-  for (int top = BoardTop() - verticalScrollBar()->value(); top < viewport()->height(); top += step)
+  for (int top = Grown(BoardTop) - verticalScrollBar()->value(); top < viewport()->height(); top += step)
     PaintShelfBoard(painter, top, viewport()->width());
 }
 
@@ -200,7 +199,7 @@ void JournalList::paintEvent(QPaintEvent* event) {
 // An empty bookcase says how it is filled.
 void JournalList::PaintHint(QPainter& painter) const {
   const QString hint = QStringLiteral("There is no journal here yet.\nThe button Add makes one.");
-  const QRect room = viewport()->rect().adjusted(LeastColumn() / 2, 0, -LeastColumn() / 2, 0);
+  const QRect room = viewport()->rect().adjusted(Grown(LeastColumn) / 2, 0, -Grown(LeastColumn) / 2, 0);
   constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
   const QRect card = painter.boundingRect(room, flags, hint).adjusted(-12, -8, 12, 8);
   painter.setRenderHint(QPainter::Antialiasing);

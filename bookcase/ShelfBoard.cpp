@@ -2,6 +2,8 @@
 
 #include <QtGui/QLinearGradient>
 
+#include "look/Growth.h"
+
 namespace {
 
 // Of walnut, from the light to the outline.
@@ -26,13 +28,13 @@ QColor Faint(QColor color, int alpha) {
 }
 
 // Long and short strokes in turn, none twice at the same distance.
-void Grain(QPainter& painter, int top, int width) {
+void Grain(QPainter& painter, int width) {
   constexpr int runs[] = {61, 37, 89, 23, 113, 47};
   painter.setPen(Faint(Line, 60));
   int at = 11;
   for (int i = 0; at < width; ++i) {
     const int run = runs[i % 6];
-    const int y = top + Lip + 1 + (i * 2) % (ShelfBoardHeight - Lip - 2);
+    const int y = Lip + 1 + (i * 2) % (ShelfBoardHeight - Lip - 2);
     painter.drawLine(at, y, at + run, y);
     at += run + runs[(i + 2) % 6] / 2;
   }
@@ -41,9 +43,15 @@ void Grain(QPainter& painter, int top, int width) {
 }  // namespace
 
 void PaintShelfBoard(QPainter& painter, int top, int width) {
-  Fall(painter, {0, top, width, Lip}, Fill, Light);
-  Fall(painter, {0, top + Lip, width, ShelfBoardHeight - Lip}, Fill, Shade);
-  Grain(painter, top, width);
-  painter.fillRect(0, top + ShelfBoardHeight - 1, width, 1, Line);
-  Fall(painter, {0, top + ShelfBoardHeight, width, Shadow}, Faint(Line, 70), Faint(Line, 0));
+  const double growth = look::Growth();
+  const int room = qCeil(width / growth);
+  painter.save();
+  painter.translate(0, top);
+  painter.scale(growth, growth);
+  Fall(painter, {0, 0, room, Lip}, Fill, Light);
+  Fall(painter, {0, Lip, room, ShelfBoardHeight - Lip}, Fill, Shade);
+  Grain(painter, room);
+  painter.fillRect(0, ShelfBoardHeight - 1, room, 1, Line);
+  Fall(painter, {0, ShelfBoardHeight, room, Shadow}, Faint(Line, 70), Faint(Line, 0));
+  painter.restore();
 }

@@ -3,7 +3,8 @@
 
 #include <QtGui/QPainter>
 
-inline constexpr int ShelfBoardHeight = 9;  // pixels, without its shadow
+inline constexpr int ShelfBoardHeight = 9;  // pixels of the design, without its shadow
 
-// A board of walnut over the whole width, its upper edge there, and its shadow on what lies behind.
+// A board of walnut over the whole width, its upper edge there, and its shadow on what lies behind; in pixels
+// of the screen.
 void PaintShelfBoard(QPainter& painter, int top, int width);

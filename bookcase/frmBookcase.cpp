@@ -85,6 +85,7 @@ void TellShared(const std::string& fileName) {
 frmBookcase::frmBookcase()
     : Form(Kind::Window, QStringLiteral("frmBookcase"), QStringLiteral("Thornquill"), DesignWidth,
            DesignHeight) {
+  look::WearGrownFont(*this);
   setMinimumSize(look::Pixels(6600), look::Pixels(DesignHeight));
   LayOutButtons();
   LayOutList();
@@ -112,7 +113,7 @@ void frmBookcase::LayOutButtons() {
   // clang-format on
   Image2->setFlat(true);
   Image2->setIcon(look::QuillAndInkwell());
-  Image2->setIconSize(QSize(look::Grown(80), look::Grown(70)));
+  Image2->setIconSize(look::Grown(QSize(80, 70)));
   Image2->setFocusPolicy(Qt::NoFocus);  // the button About is the keyboard's
   Image2->setToolTip(QStringLiteral("About Thornquill"));
   SetBold(*cmdOpen);

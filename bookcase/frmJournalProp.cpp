@@ -9,6 +9,7 @@
 #include "editor/PageFace.h"
 #include "editor/PageTurning.h"
 #include "editor/frmJournal.h"
+#include "look/Growth.h"
 #include "look/Palettes.h"
 #include "look/Spoken.h"
 #include "look/Theme.h"
@@ -26,7 +27,7 @@
 
 namespace {
 
-constexpr int IconSize = 32;
+constexpr QSize IconSize(32, 32);  // pixels of the design
 
 JournalEntry& Row() {
   return Journals.at(static_cast<std::size_t>(CurrentJournal));
@@ -182,7 +183,7 @@ void frmJournalProp::TakeFromRow() {
 
 void frmJournalProp::ChooseIcon(int index) {
   SelectedIcon = index;
-  Image1->setPixmap(JournalIcon(index).pixmap(QSize(IconSize, IconSize), devicePixelRatioF()));
+  Image1->setPixmap(JournalIcon(index).pixmap(look::Grown(IconSize), devicePixelRatioF()));
   Image1->setAccessibleName(JournalIconName(index));
   Image1->setToolTip(JournalIconName(index));
 }

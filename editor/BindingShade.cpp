@@ -5,6 +5,8 @@
 
 #include <QtGui/QLinearGradient>
 
+#include "look/Growth.h"
+
 namespace {
 
 // In pixels, as the picture's drawing has them (assets/drawing/draw_binding.py).
@@ -64,6 +66,9 @@ void PaintBindingShade(QPainter& painter, const QRect& binding) {
 }
 
 void PaintGutterShade(QPainter& painter, const QRect& page) {
-  Fall(painter, QRectF(page.topLeft(), QSizeF(Gutter, page.height())), Qt::Horizontal,
-       {{0, -0.16}, {5, -0.07}, {Gutter, 0}});
+  painter.save();
+  painter.translate(page.topLeft());
+  painter.scale(look::Growth(), 1);
+  Fall(painter, QRectF(0, 0, Gutter, page.height()), Qt::Horizontal, {{0, -0.16}, {5, -0.07}, {Gutter, 0}});
+  painter.restore();
 }

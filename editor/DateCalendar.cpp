@@ -13,6 +13,7 @@
 #include <QtWidgets/QToolButton>
 
 #include "look/FocusLine.h"
+#include "look/Growth.h"
 #include "look/Palettes.h"
 #include "look/PaperStyle.h"
 #include "look/Spoken.h"
@@ -32,6 +33,7 @@ class TwoClickStyle : public look::PaperStyle {
   }
 };
 
+constexpr int HeadIcon = 16;  // pixels of the design
 constexpr QColor RingOfGilt(0xa8, 0x84, 0x3a);
 constexpr QColor WeekendRed(0x7d, 0x1a, 0x30);
 constexpr float StandingBack = 0.62f;  // of the ink of a day of the months beside
@@ -45,7 +47,7 @@ QPalette PaletteFor(const QColor& color) {
 
 // To the month before or after, as high as the small letters beside it.
 QPixmap Chevron(bool toTheLeft, const QColor& color, double letterHeight, double scale) {
-  constexpr int size = 16;
+  const int size = look::Grown(HeadIcon);
   QPixmap picture(QSize(size, size) * scale);
   picture.setDevicePixelRatio(scale);
   picture.fill(Qt::transparent);
@@ -165,6 +167,7 @@ void DateCalendar::DressHead() {
   const double height = bar->fontMetrics().xHeight();
   previous->setIcon(Chevron(!isRightToLeft(), look::Ink, height, devicePixelRatioF()));
   next->setIcon(Chevron(isRightToLeft(), look::Ink, height, devicePixelRatioF()));
+  for (QToolButton* button : {previous, next}) button->setIconSize(look::Grown(QSize(HeadIcon, HeadIcon)));
 }
 
 QColor DateCalendar::BackColor() const {

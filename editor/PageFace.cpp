@@ -163,10 +163,9 @@ void PageFace::FitText() {
   const auto twips = static_cast<float>(15 / look::Growth());
   const float scaleWidth = static_cast<float>(width()) * twips;
   const float scaleHeight = static_cast<float>(height()) * twips;
-  const float pageWidth = scaleWidth - (PageLeft + 1);
-  const float pageHeight = scaleHeight - (PageTop + 1);
-  txtM->resize(pageWidth < 0 ? txtM->width() : Pixels(pageWidth),
-               pageHeight < 0 ? txtM->height() : Pixels(pageHeight));
+  const float right = scaleWidth - 1, bottom = scaleHeight - 1;
+  txtM->resize(right < PageLeft ? txtM->width() : Pixels(right) - Pixels(PageLeft),
+               bottom < PageTop ? txtM->height() : Pixels(bottom) - Pixels(PageTop));
 }
 
 // Of a picture in the text a screen reader has but a sign without a name.

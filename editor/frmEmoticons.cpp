@@ -10,6 +10,7 @@
 #include <QtWidgets/QApplication>
 
 #include "editor/PageFace.h"
+#include "look/Growth.h"
 #include "pictures/decoding/PictureFile.h"
 #include "platform/Colors.h"
 #include "platform/Failure.h"
@@ -26,7 +27,7 @@ constexpr int Columns = 10;
 constexpr int ColumnLeft[Columns] = {195, 690, 1185, 1680, 2175, 2670, 3165, 3660, 4155, 4650};
 constexpr int RowTop[] = {270, 780, 1290, 1785, 2265, 2760};  // uneven, and kept so
 constexpr int ScreenSize = 60;
-constexpr QSize LargestOnAButton{28, 26};  // pixels; anything larger is shown smaller
+constexpr QSize LargestOnAButton{28, 26};  // pixels of the design; anything larger is shown smaller
 
 std::string Folder() {
   return platform::ProgramFolder() + "/emoticons";
@@ -39,14 +40,23 @@ QImage LoadPicture(const std::string& fileName, QSize most = {}) try {
   return {};
 }
 
-// The picture with twice as many pixels where the screen can show them and there is one, to be shown as large
-// as the plain one; else this one.
-QImage AsSharpAs(const QWidget& screen, const std::string& fileName, const QImage& plain) {
-  if (screen.devicePixelRatioF() <= 1 || plain.isNull()) return plain;
+// The picture with twice as many pixels where so many pixels to one of its own can show them and there is
+// one, to be shown as large as the plain one; else this one.
+QImage AsSharpAs(double scale, const std::string& fileName, const QImage& plain) {
+  if (scale <= 1 || plain.isNull()) return plain;
   QImage sharp = LoadPicture("48/" + fileName);
   if (sharp.size() != 2 * plain.size()) return plain;
   sharp.setDevicePixelRatio(2);
   return sharp;
+}
+
+// The toolkit enlarges no icon.
+QPixmap OnAButton(const QImage& picture, double scale) {
+  if (look::Growth() == 1 || picture.isNull()) return QPixmap::fromImage(picture);
+  const QSize size = look::Grown(picture.deviceIndependentSize().toSize());
+  QImage grown = picture.scaled(size * scale, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  grown.setDevicePixelRatio(scale);
+  return QPixmap::fromImage(grown);
 }
 
 // A transparent picture comes out on the colour of the page.
@@ -132,11 +142,12 @@ void frmEmoticons::ShowScreen(int start) {
 
 bool frmEmoticons::LoadEmoticon(QPushButton& button, const std::string& fileName) {
   const QImage plain = LoadPicture(fileName, LargestOnAButton);
-  const QImage picture = AsSharpAs(*this, fileName, plain);
+  const double scale = devicePixelRatioF();
+  const QPixmap picture = OnAButton(AsSharpAs(scale * look::Growth(), fileName, plain), scale);
   if (picture.isNull()) return false;
   const QString name = QFile::decodeName(fileName.c_str());
-  button.setIcon(QPixmap::fromImage(picture));
-  button.setIconSize(plain.size());
+  button.setIcon(picture);
+  button.setIconSize(look::Grown(plain.size()));
   button.setProperty("Tag", QByteArray::fromStdString(fileName));
   button.setAccessibleName(SpokenName(name));
   button.setAccessibleDescription(name);
@@ -206,7 +217,7 @@ void frmEmoticons::cmdEmoticons_Click(const QPushButton& button) {
   if (const QImage picture = LoadPicture(fileName); picture.isNull())
     platform::ShowMessage("The emoticon cannot be read any more:\n" + Folder() + "/" + fileName);
   else
-    Paste(AsSharpAs(*Face().txtM, fileName, picture));
+    Paste(AsSharpAs(Face().txtM->devicePixelRatioF(), fileName, picture));
   look::Discard(this);
 }
 

@@ -36,6 +36,7 @@ frmIndex::frmIndex()
   cmdGoDate = Place(new look::PictureButton(QStringLiteral("Go to this date"), this), "cmdGoDate", 3225, 6750, 1965, 360);
   cmdClose  = Place(new look::PictureButton(QStringLiteral("Close"), this), "cmdClose", 5235, 6750, 1065, 360);
   // clang-format on
+  LowerToFit(*TreeView1);
   TreeView1->setHeaderHidden(true);
   TreeView1->setUniformRowHeights(true);
   look::SpeakCurrentEntry(*TreeView1);

@@ -3,6 +3,7 @@
 #include <QtWidgets/QApplication>
 
 #include "look/DrawnIcon.h"
+#include "look/Growth.h"
 
 // Outside every namespace, as the macro asks. Without it the linker leaves the pictures out.
 static void BringTheDrawings() {
@@ -13,10 +14,19 @@ namespace look {
 namespace {
 
 // Rendered beforehand: the toolkit decodes a picture several times faster than it draws its vector source,
-// and the program's start waits for it. With a picture it takes those for sharper screens that lie beside it.
+// and the program's start waits for it. With a picture it takes those for sharper screens that lie beside it,
+// but enlarges none.
 QIcon Drawing(const char* name) {
   BringTheDrawings();
-  return QIcon(QStringLiteral(":/emblem/%1.png").arg(QLatin1String(name)));
+  const QString path = QStringLiteral(":/emblem/") + QLatin1String(name);
+  if (Growth() == 1) return QIcon(path + QStringLiteral(".png"));
+  constexpr int times = 3;
+  const QImage sharpest(path + QStringLiteral("@%1x.png").arg(times));
+  const double scale = qGuiApp->devicePixelRatio();
+  QPixmap grown = QPixmap::fromImage(sharpest.scaled(Grown(sharpest.size() / times) * scale,
+                                                     Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  grown.setDevicePixelRatio(scale);
+  return QIcon(grown);
 }
 
 }  // namespace
@@ -29,17 +39,17 @@ QIcon QuillAndInkwell() {
 QPixmap EmblemPicture(int side) {
   BringTheDrawings();
   const double scale = qGuiApp->devicePixelRatio();
-  QPixmap picture = Drawn(QStringLiteral(":/emblem/emblem.svg"), qRound(side * scale));
+  QPixmap picture = Drawn(QStringLiteral(":/emblem/emblem.svg"), qRound(Grown(side) * scale));
   picture.setDevicePixelRatio(scale);
   return picture;
 }
 
 QPixmap ClaspedBook() {
-  return Drawing("clasped-book").pixmap(QSize(120, 120));
+  return Drawing("clasped-book").pixmap(Grown(QSize(120, 120)));
 }
 
 QPixmap HourglassAndInkwell() {
-  return Drawing("hourglass-and-inkwell").pixmap(QSize(64, 64));
+  return Drawing("hourglass-and-inkwell").pixmap(Grown(QSize(64, 64)));
 }
 
 void GiveTheProgramItsIcon() {

@@ -59,7 +59,7 @@ Form::Form(Kind kind, const QString& name, const QString& caption, int widthTwip
   GiveTheProgramItsIcon();
   NoteInput();
   const QSize size(Pixels(widthTwips), Pixels(heightTwips));
-  if (kind == Kind::Dialog) setFixedSize(size);
+  if (kind == Kind::Dialog) setFixedSize(size), WearGrownFont(*this);
   resize(size);
 }
 
@@ -107,6 +107,16 @@ void Form::StandOverActiveWindow() {
   if (!active || active == this) return;
   winId();  // makes the native window, which must know before it is shown
   windowHandle()->setTransientParent(active->windowHandle());
+}
+
+void Form::LowerToFit(QWidget& part) {
+  const int room = QApplication::primaryScreen()->availableSize().height() - FrameAround.height();
+  const int excess = std::min(height() - room, part.height());
+  if (Growth() == 1 || excess <= 0) return;
+  for (auto* control : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+    if (control->y() > part.geometry().bottom()) control->move(control->x(), control->y() - excess);
+  part.resize(part.width(), part.height() - excess);
+  setFixedHeight(height() - excess);
 }
 
 void Form::CloseBox() {
@@ -163,7 +173,6 @@ void Form::PlaceWidget(QWidget* control, const char* name, int left, int top, in
   // A name with a less-than sign is shown as it is.
   auto* label = qobject_cast<QLabel*>(control);
   if (label) label->setTextFormat(Qt::PlainText);
-  if (label && Growth() > 1) label->setScaledContents(true);  // its picture
   const auto* button = qobject_cast<QAbstractButton*>(control);
   if (label || (button && !button->text().isEmpty())) ShortenWhatOutgrows(*control);
 }

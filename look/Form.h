@@ -56,6 +56,10 @@ class Form : public QDialog {
     return control;
   }
 
+  // Where the window has grown higher than the screen, `part` gives up as much of its height, and what lies
+  // below it moves up. To be called when everything has its place.
+  void LowerToFit(QWidget& part);
+
   void closeEvent(QCloseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void reject() override;  // Escape

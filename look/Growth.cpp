@@ -17,18 +17,37 @@ constexpr double WidthOfTheSample = 385;  // pixels, in the design's font
 constexpr double HeightOfALine = 20;      // pixels: the room for one by design
 constexpr double Steps = 8;
 
-// Pixels, with what a window manager's frame takes.
+// Pixels, with what a window manager's frame takes. Higher ones have something that may be lower than
+// designed (Form::LowerToFit).
 constexpr double WidestDialog = 676 + 16;
-constexpr double HighestDialog = 560 + 48;
+constexpr double HighestDialog = 464 + 48;
+
+double WantedBy(const QFont& font) {
+  const QFontMetrics letters(font);
+  return std::max(letters.horizontalAdvance(Sample) / WidthOfTheSample, letters.height() / HeightOfALine);
+}
+
+double Step(double growth) {
+  return std::max(1.0, std::floor(growth * Steps) / Steps);
+}
+
+QSize Screen() {
+  return QApplication::primaryScreen()->availableSize();
+}
 
 }  // namespace
 
 double GrowthFor(const QFont& font, const QSize& screen) {
-  const QFontMetrics letters(font);
-  const double wanted =
-      std::max(letters.horizontalAdvance(Sample) / WidthOfTheSample, letters.height() / HeightOfALine);
   const double most = std::min(screen.width() / WidestDialog, screen.height() / HighestDialog);
-  return std::max(1.0, std::floor(std::min(wanted, most) * Steps) / Steps);
+  return Step(std::min(WantedBy(font), most));
+}
+
+QFont FontFor(const QFont& font, const QSize& screen) {
+  const double wanted = WantedBy(font), growth = GrowthFor(font, screen);
+  if (Step(wanted) <= growth) return font;
+  QFont smaller = font;
+  smaller.setPixelSize(static_cast<int>(QFontInfo(font).pixelSize() * growth / wanted));
+  return smaller;
 }
 
 double Growth() {
@@ -36,7 +55,7 @@ double Growth() {
   static double growth = 0;
   const QFont font = QApplication::font();
   if (growth == 0 || font != measured) {
-    growth = GrowthFor(font, QApplication::primaryScreen()->availableSize());
+    growth = GrowthFor(font, Screen());
     measured = font;
   }
   return growth;
@@ -44,6 +63,15 @@ double Growth() {
 
 int Grown(double pixels) {
   return static_cast<int>(platform::RoundHalfEven(pixels * Growth()));
+}
+
+QSize Grown(const QSize& pixels) {
+  return {Grown(pixels.width()), Grown(pixels.height())};
+}
+
+void WearGrownFont(QWidget& window) {
+  const QFont desktops = QApplication::font(), font = FontFor(desktops, Screen());
+  if (font != desktops) window.setFont(font);
 }
 
 }  // namespace look

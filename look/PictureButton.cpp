@@ -4,6 +4,7 @@
 #include <QtWidgets/QToolTip>
 
 #include "look/ButtonFace.h"
+#include "look/Growth.h"
 #include "look/Shortening.h"
 
 namespace look {
@@ -55,6 +56,7 @@ void PictureButton::PaintArrow(QPainter& painter) const {
   const double to = arrow_ == Qt::LeftArrow ? -1 : 1;
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(QRectF(rect()).center() + (isDown() ? QPointF(Sunk) : QPointF()));
+  painter.scale(Growth(), Growth());
   painter.setPen(QPen(palette().color(QPalette::Active, QPalette::ButtonText), 1.75, Qt::SolidLine,
                       Qt::RoundCap, Qt::RoundJoin));
   painter.drawLine(QPointF(-6 * to, 0), QPointF(6 * to, 0));

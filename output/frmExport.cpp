@@ -161,6 +161,7 @@ void frmExport::FlowDown() {
   bottom = PutDown(*ProgressBar1, bottom + together) + group;
   for (QWidget* button : {cmdExport, cmdViewWebPage}) PutDown(*button, bottom);
   setFixedHeight(PutDown(*cmdHelp, bottom) + group);
+  LowerToFit(*txtFooter);
 }
 
 // What belongs to several pages only is neither chosen nor to be chosen for one.

@@ -6,12 +6,13 @@
 #include <QtGui/QLinearGradient>
 #include <QtGui/QPainter>
 
+#include "look/Growth.h"
 #include "pictures/decoding/PictureFile.h"
 #include "platform/Failure.h"
 
 namespace {
 
-constexpr QSize Size(40, 30);  // pixels
+constexpr QSize Size(40, 30);  // pixels of the design
 constexpr QColor Sky(0x9c, 0xcb, 0xe4);
 constexpr QColor Horizon(0xf3, 0xf6, 0xf2);
 
@@ -23,7 +24,7 @@ QImage Frame(const std::string& path, QSize size) try {
 }
 
 QIcon OverSky(const std::string& path, double devicePixelRatio) {
-  QPixmap picture((QSizeF(Size) * devicePixelRatio).toSize());
+  QPixmap picture((QSizeF(look::Grown(Size)) * devicePixelRatio).toSize());
   QPainter painter(&picture);
   QLinearGradient sky(0, 0, 0, picture.height());
   sky.setColorAt(0, Sky);
@@ -40,7 +41,7 @@ QIcon OverSky(const std::string& path, double devicePixelRatio) {
 }  // namespace
 
 FrameThumbnails::FrameThumbnails(QListWidget& list) : list_(list) {
-  list.setIconSize(Size);
+  list.setIconSize(look::Grown(Size));
   list.setUniformItemSizes(true);
   QObject::connect(&turns_, &QTimer::timeout, [this] { DrawNext(); });
 }

@@ -9,6 +9,7 @@
 #include <QtGui/QPainter>
 
 #include "look/AiryRows.h"
+#include "look/Growth.h"
 #include "look/Shortening.h"
 #include "look/Spoken.h"
 #include "pictures/FrameThumbnails.h"
@@ -34,7 +35,7 @@ constexpr double ScaleStep = 0.01;
 constexpr int ExtensionLength = 4;  // ".gif"
 constexpr double OpeningScale = 0.25;
 constexpr QSize PreviewRoom(500, 456);
-constexpr int FieldEdge = 5;  // pixels of paper beside it
+constexpr int FieldEdge = 5;  // pixels of the design, of paper beside it
 constexpr int Margin = 9;     // from the field to the window's edge
 // A picture that takes longer to decode is awaited by the open dialog; one that does not comes with it.
 constexpr std::chrono::milliseconds MostWait{60};
@@ -73,6 +74,7 @@ frmAddPicture::frmAddPicture()
   PlaceScaleButtons();
   EvenScaleRow();
   PlacePreview();
+  LowerToFit(*List1);
   Label1->setBuddy(List1);
   look::SpeakCurrentEntry(*List1);
   List1->addItem(QStringLiteral("No Frame!"));
@@ -129,7 +131,7 @@ void frmAddPicture::EvenScaleRow() {
                                        cmdResizeFactor100, cmdResizeFactor200};
   QFont even = look::FittingFont(font(), lblScale->text(), lblScale->width());
   for (const QPushButton* button : buttons)
-    even = look::FittingFont(even, button->text(), button->width() - 2 * ButtonEdge);
+    even = look::FittingFont(even, button->text(), button->width() - 2 * look::Grown(ButtonEdge));
   lblScale->setFont(even);
   for (QPushButton* button : buttons) button->setFont(even);
 }
@@ -154,8 +156,8 @@ void frmAddPicture::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const QRect picture = picResize2->geometry();
   PaintField(painter,
-             QRect(picture.topLeft() - QPoint(FieldEdge, FieldEdge),
-                   QPoint(width(), height()) - QPoint(Margin, Margin)),
+             QRect(picture.topLeft() - QPoint(1, 1) * look::Grown(FieldEdge),
+                   QPoint(width(), height()) - QPoint(1, 1) * look::Grown(Margin)),
              picture);
 }
 
@@ -327,8 +329,9 @@ void frmAddPicture::ShowScaledPreview() {
 void frmAddPicture::ShowThatItComes() {
   lblScale->setText(QString::fromStdString(ScaleText()));
   imgFrameSet->hide();
-  picResize2->resize(PreviewRoom);
-  picResize2->SetPicture(DrawWaiting(PreviewRoom, picResize2->BackColor(), devicePixelRatioF()));
+  const QSize room = look::Grown(PreviewRoom);
+  picResize2->resize(room);
+  picResize2->SetPicture(DrawWaiting(room, picResize2->BackColor(), devicePixelRatioF()));
 }
 
 void frmAddPicture::ShowFrame() {

@@ -6,6 +6,7 @@
 #include <QtGui/QFontDatabase>
 #include <QtGui/QPainter>
 #include <QtGui/QRegularExpressionValidator>
+#include <QtGui/QScreen>
 #include <QtWidgets/QGridLayout>
 
 #include "platform/CodePage.h"
@@ -19,6 +20,7 @@ namespace {
 constexpr double LargestSize = 1638;  // points; what the pages' format can hold
 constexpr double SampleSize = 12;     // of a mixed text
 constexpr QSize Swatch{28, 14};       // pixels
+constexpr QSize FrameAround(16, 48);  // what a window manager's frame takes
 constexpr int SampleHeight = 84;
 constexpr QChar ArabicPoint = u'\u066B';
 
@@ -119,7 +121,9 @@ void FontPicker::LayOut() {
   grid->addWidget(buttons, 4, 0, 1, 3);
   grid->setColumnStretch(0, 1);
   const QFontMetrics metrics = fontMetrics();
-  resize(std::max(460, 64 * metrics.averageCharWidth()), std::max(430, 28 * metrics.lineSpacing()));
+  const QSize wanted(std::max(460, 64 * metrics.averageCharWidth()),
+                     std::max(430, 28 * metrics.lineSpacing()));
+  resize(wanted.boundedTo(screen()->availableSize() - FrameAround));
 }
 
 QLayout* FontPicker::EffectsColumn() {
