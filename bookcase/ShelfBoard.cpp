@@ -3,6 +3,7 @@
 #include <QtGui/QLinearGradient>
 
 #include "look/Growth.h"
+#include "look/PixelGrid.h"
 
 namespace {
 
@@ -51,7 +52,9 @@ void PaintShelfBoard(QPainter& painter, int top, int width) {
   Fall(painter, {0, 0, room, Lip}, Fill, Light);
   Fall(painter, {0, Lip, room, ShelfBoardHeight - Lip}, Fill, Shade);
   Grain(painter, room);
-  painter.fillRect(0, ShelfBoardHeight - 1, room, 1, Line);
+  const double line = look::Hairline(painter);
+  const QRectF board = look::OnPixels(painter, QRectF(0, 0, room, ShelfBoardHeight));
+  painter.fillRect(QRectF(0, board.bottom() - line, room, line), Line);
   Fall(painter, {0, ShelfBoardHeight, room, Shadow}, Faint(Line, 70), Faint(Line, 0));
   painter.restore();
 }

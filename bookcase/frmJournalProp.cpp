@@ -11,6 +11,7 @@
 #include "editor/frmJournal.h"
 #include "look/Growth.h"
 #include "look/Palettes.h"
+#include "look/PixelGrid.h"
 #include "look/Spoken.h"
 #include "look/Theme.h"
 #include "platform/CodePage.h"
@@ -54,9 +55,10 @@ void IconCard::paintEvent(QPaintEvent* event) {
   {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(look::HairlineOn(parentWidget()->palette().color(QPalette::Window)));
+    const QColor edge = look::HairlineOn(parentWidget()->palette().color(QPalette::Window));
+    painter.setPen(QPen(edge, look::Hairline(painter)));
     painter.setBrush(look::Paper);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    painter.drawRoundedRect(look::WithinEdge(painter, rect()), 3, 3);
   }
   QLabel::paintEvent(event);
 }
@@ -71,8 +73,8 @@ SamplePage::SamplePage(QWidget* parent) : QLabel(QStringLiteral("Aa Bb Cc Dd Ee 
 void SamplePage::paintEvent(QPaintEvent* event) {
   QLabel::paintEvent(event);
   QPainter painter(this);
-  painter.setPen(look::HairlineOn(parentWidget()->palette().color(QPalette::Window)));
-  painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+  look::FrameWithHairline(painter, rect(),
+                          look::HairlineOn(parentWidget()->palette().color(QPalette::Window)));
 }
 
 std::uint32_t SamplePage::BackColor() const {

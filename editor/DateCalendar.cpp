@@ -16,6 +16,7 @@
 #include "look/Growth.h"
 #include "look/Palettes.h"
 #include "look/PaperStyle.h"
+#include "look/PixelGrid.h"
 #include "look/Spoken.h"
 #include "look/Theme.h"
 #include "platform/Dates.h"
@@ -183,9 +184,9 @@ void DateCalendar::paintCell(QPainter* painter, const QRect& cell, QDate day) co
   painter->save();
   painter->fillRect(cell, look::Paper);  // over the toolkit's own mark
   painter->setRenderHint(QPainter::Antialiasing);
-  const QRectF label = QRectF(cell).adjusted(2.5, 2.5, -2.5, -2.5);
+  const QRectF label = look::WithinEdge(*painter, QRectF(cell).adjusted(2, 2, -2, -2));
   if (day == selectedDate()) {
-    painter->setPen(look::HairlineOn(backColor_));
+    painter->setPen(QPen(look::HairlineOn(backColor_), look::Hairline(*painter)));
     painter->setBrush(backColor_);
     painter->drawRoundedRect(label, 3, 3);
     if (focusProxy()->hasFocus())

@@ -5,12 +5,13 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
-#include <QtWidgets/QFrame>
 
 #include "editor/ToolbarPictures.h"
+#include "look/FocusLine.h"
 #include "look/Form.h"
 #include "look/Growth.h"
 #include "look/Palettes.h"
+#include "look/PixelGrid.h"
 #include "look/Spoken.h"
 
 namespace {
@@ -97,14 +98,12 @@ class CaptionedButton : public QToolButton {
     icon().paint(&painter, place, Qt::AlignCenter, underMouse() ? QIcon::Active : QIcon::Normal);
   }
   void PaintPanel(QPainter& painter) const {
-    painter.setPen(QColor(0, 0, 0, 70));
+    painter.setPen(QPen(QColor(0, 0, 0, 70), look::Hairline(painter)));
     painter.setBrush(isDown() ? QColor(0, 0, 0, 25) : QColor(255, 255, 255, 110));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter.drawRoundedRect(look::WithinEdge(painter, rect()), 2, 2);
   }
   void PaintFocus(QPainter& painter) const {
-    painter.setPen(QPen(look::Ink, 1, Qt::DotLine));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    look::DrawFocusLine(painter, rect().adjusted(1, 1, -1, -1), look::Ink);
   }
 };
 
@@ -122,13 +121,22 @@ QToolButton* MakeButton(const Row& row, const QFont& font, QWidget* parent) {
   return button;
 }
 
+// A line in the middle, as fine as each of the others at every scaling.
+class SeparatingLine : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const QRectF line(width() / 2, 0, look::Hairline(painter), height());
+    painter.fillRect(look::OnPixels(painter, line), QColor(0, 0, 0, 70));
+  }
+};
+
 void MakeSeparator(int left, QWidget* parent) {
-  auto* line = new QFrame(parent);
+  auto* line = new SeparatingLine(parent);
   look::SpeakAs(*line, QAccessible::Separator);
-  line->setFrameStyle(QFrame::VLine | QFrame::Plain);
-  QPalette palette = line->palette();
-  palette.setColor(QPalette::WindowText, QColor(0, 0, 0, 70));
-  line->setPalette(palette);
   line->setGeometry(look::Pixels(left), look::Grown(4), look::Pixels(SeparatorWidth),
                     look::Pixels(ButtonHeight) - look::Grown(6));
 }

@@ -5,24 +5,25 @@
 
 #include "look/FocusLine.h"
 #include "look/Palettes.h"
+#include "look/PixelGrid.h"
 #include "look/Theme.h"
 
 namespace look {
 namespace {
 
-// In pixels from the button's edge to the middle of the line.
-constexpr double HairlineInset = 0.5;
-constexpr double SecondHairlineInset = 2.5;
-constexpr double StitchInset = 4.5;
-constexpr double StitchInsetInDoubleEdge = 5.5;
+// In pixels from the button's edge to the line.
+constexpr double HairlineInset = 0;
+constexpr double SecondHairlineInset = 2;
+constexpr double StitchInset = 4;
+constexpr double StitchInsetInDoubleEdge = 5;
 
 constexpr double Corner = 2;
 constexpr QSize LeastForStitches(60, 22);
 constexpr int PaperVeil = 150;  // of 255: the material glimmers through
 
-QPainterPath Outline(const QRectF& rect, double inset) {
+QPainterPath Outline(const QRectF& rect) {
   QPainterPath path;
-  path.addRoundedRect(rect.adjusted(inset, inset, -inset, -inset), Corner, Corner);
+  path.addRoundedRect(rect, Corner, Corner);
   return path;
 }
 
@@ -32,20 +33,20 @@ QColor Veil(const QColor& color, int alpha) {
   return veil;
 }
 
-QPen Thread(const QColor& color) {
-  QPen pen(color, 1);
+QPen Thread(const QColor& color, double width) {
+  QPen pen(color, width);
   pen.setCapStyle(Qt::FlatCap);
   pen.setDashPattern({3, 3});
   pen.setDashOffset(0.5);  // the seam begins in the middle of a pixel, the stitches at its edges
   return pen;
 }
 
-// A line along the upper and the left edge, within the outline of that inset.
-void PaintInnerEdge(QPainter& painter, const QRectF& place, double inset, const QColor& color) {
-  const QRectF edge = place.adjusted(inset, inset, -inset, -inset);
-  painter.setPen(color);
-  painter.drawLine(edge.topLeft() + QPointF(2, 1), edge.topRight() + QPointF(-2, 1));
-  painter.drawLine(edge.topLeft() + QPointF(1, 2), edge.bottomLeft() + QPointF(1, -2));
+// A line along the upper and the left edge, within the outline there.
+void PaintInnerEdge(QPainter& painter, const QRectF& outline, const QPen& pen) {
+  const double line = pen.widthF();
+  painter.setPen(pen);
+  painter.drawLine(outline.topLeft() + QPointF(2, line), outline.topRight() + QPointF(-2, line));
+  painter.drawLine(outline.topLeft() + QPointF(line, 2), outline.bottomLeft() + QPointF(line, -2));
 }
 
 class Painting {
@@ -53,7 +54,8 @@ class Painting {
   Painting(QPainter& painter, const ButtonFace& face)
       : painter_(painter),
         face_(face),
-        place_(face.place),
+        place_(OnPixels(painter, face.place)),
+        line_(Hairline(painter)),
         edge_(HairlineOn(face.palette.color(QPalette::Button))) {}
 
   // At its natural size, whatever the button's own size is: a stretched weave would be another material.
@@ -80,11 +82,12 @@ class Painting {
 
   void Edges() {
     const double inner = face_.isDefault ? SecondHairlineInset : HairlineInset;
-    PaintInnerEdge(painter_, place_, inner, face_.isDown ? Veil(edge_, 90) : Veil(Qt::white, 190));
+    PaintInnerEdge(painter_, Inside(inner),
+                   QPen(face_.isDown ? Veil(edge_, 90) : Veil(Qt::white, 190), line_));
     painter_.setBrush(Qt::NoBrush);
-    painter_.setPen(Veil(edge_, face_.isEnabled ? 255 : 120));
-    painter_.drawPath(Outline(place_, HairlineInset));
-    if (face_.isDefault) painter_.drawPath(Outline(place_, SecondHairlineInset));
+    painter_.setPen(QPen(Veil(edge_, face_.isEnabled ? 255 : 120), line_));
+    painter_.drawPath(Outline(Inside(HairlineInset)));
+    if (face_.isDefault) painter_.drawPath(Outline(Inside(SecondHairlineInset)));
   }
 
   void Stitching() {
@@ -92,19 +95,25 @@ class Painting {
         (!face_.isStitched || face_.place.size().expandedTo(LeastForStitches) != face_.place.size()))
       return;
     const double inset = face_.isDefault ? StitchInsetInDoubleEdge : StitchInset;
-    const QRectF seam =
-        place_.adjusted(inset, inset, -inset, -inset).translated(face_.isDown ? QPointF(Sunk) : QPointF());
+    const QRectF seam = Inside(inset).translated(face_.isDown ? QPointF(Sunk) : QPointF());
     if (face_.hasFocus)
-      return DrawFocusLine(painter_, seam.adjusted(-0.5, -0.5, 0.5, 0.5),
+      return DrawFocusLine(painter_, seam.adjusted(-line_ / 2, -line_ / 2, line_ / 2, line_ / 2),
                            face_.palette.color(QPalette::ButtonText));
-    painter_.setPen(Thread(Veil(edge_, face_.isEnabled ? 95 : 50)));
+    painter_.setPen(Thread(Veil(edge_, face_.isEnabled ? 95 : 50), line_));
     painter_.drawRect(seam);
   }
 
  private:
+  // The middle of a line that lies so far within the edge.
+  QRectF Inside(double inset) const {
+    const double middle = OnPixels(painter_, inset) + line_ / 2;
+    return place_.adjusted(middle, middle, -middle, -middle);
+  }
+
   QPainter& painter_;
   const ButtonFace& face_;
   QRectF place_;
+  double line_;
   QColor edge_;
 };
 
@@ -113,7 +122,7 @@ class Painting {
 void PaintButtonFace(QPainter& painter, const ButtonFace& face) {
   painter.save();
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-  painter.setClipPath(Outline(face.place, 0), Qt::IntersectClip);
+  painter.setClipPath(Outline(OnPixels(painter, face.place)), Qt::IntersectClip);
   Painting painting(painter, face);
   painting.Material();
   painting.Relief();

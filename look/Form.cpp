@@ -15,6 +15,7 @@
 #include "look/LastInput.h"
 #include "look/Palettes.h"
 #include "look/Pass.h"
+#include "look/PixelGrid.h"
 #include "look/Shortening.h"
 #include "look/Spoken.h"
 #include "look/Theme.h"
@@ -23,7 +24,7 @@ namespace look {
 namespace {
 
 constexpr double TwipsPerPixel = 15;
-constexpr int GiltInset = 4;  // pixels from the edge to the line
+constexpr int GiltInset = 4;  // pixels from the edge to the line, where the controls leave it room
 
 // What a window manager's frame takes at most, in pixels; the frame itself is known only once it is there.
 constexpr QSize FrameAround{16, 48};
@@ -159,8 +160,15 @@ void Form::paintEvent(QPaintEvent* event) {
   painter.scale(Growth(), Growth());
   painter.drawPixmap(0, 0, picture_);
   painter.restore();
-  painter.setPen(Gilt);
-  painter.drawRect(rect().adjusted(GiltInset, GiltInset, -GiltInset - 1, -GiltInset - 1));
+  const int inset = std::clamp(RoomAroundControls() / 2, 0, GiltInset);
+  FrameWithHairline(painter, rect().adjusted(inset, inset, -inset, -inset), Gilt);
+}
+
+// Pixels from the edge to the nearest one.
+int Form::RoomAroundControls() const {
+  const QRect inner = childrenRect();
+  return std::min(
+      {inner.left(), inner.top(), rect().right() - inner.right(), rect().bottom() - inner.bottom()});
 }
 
 void Form::PlaceWidget(QWidget* control, const char* name, int left, int top, int width, int height,

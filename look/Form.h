@@ -74,6 +74,7 @@ class Form : public QDialog {
   void PlaceWidget(QWidget* control, const char* name, int left, int top, int width, int height,
                    const QString& accessibleName);
   void RequestClose();
+  int RoomAroundControls() const;
 
   Kind kind_;
   QString caption_;

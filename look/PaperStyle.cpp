@@ -9,12 +9,14 @@
 #include "look/ButtonFace.h"
 #include "look/Growth.h"
 #include "look/Palettes.h"
+#include "look/PixelGrid.h"
 #include "look/Theme.h"
 
 namespace look {
 namespace {
 
 // In pixels.
+constexpr int MenuMark = 12;  // its width, with the air around it
 constexpr int ScrollBarWidth = 11;
 constexpr int SliderMargin = 3;
 constexpr int LeastSlider = 28;
@@ -38,20 +40,20 @@ void PaintFace(QPainter& painter, const QStyleOption& option, const QWidget* wid
 
 // Pressed into the surface: dark where the light does not reach, and light on the edge that catches it.
 void PaintHollow(QPainter& painter, const QStyleOption& option) {
-  const QRectF place = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  const QRectF place = WithinEdge(painter, option.rect);
+  const double line = Hairline(painter);
   QColor edge = HairlineOn(option.palette.color(QPalette::Window)), depth = edge;
   depth.setAlpha(36);
   edge.setAlpha(150);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QColor(255, 255, 255, 190));
-  painter.drawRoundedRect(place.adjusted(1, 1, 0, 0), Corner, Corner);
-  painter.setPen(edge);
-  painter.drawRoundedRect(place.adjusted(0, 0, -1, -1), Corner, Corner);
-  painter.setPen(depth);
-  painter.drawRoundedRect(place.adjusted(1, 1, 0, 0).intersected(place.adjusted(1, 1, -2, -2)), Corner,
-                          Corner);
+  painter.setPen(QPen(QColor(255, 255, 255, 190), line));
+  painter.drawRoundedRect(place.adjusted(line, line, 0, 0), Corner, Corner);
+  painter.setPen(QPen(edge, line));
+  painter.drawRoundedRect(place.adjusted(0, 0, -line, -line), Corner, Corner);
+  painter.setPen(QPen(depth, line));
+  painter.drawRoundedRect(place.adjusted(line, line, -2 * line, -2 * line), Corner, Corner);
   painter.restore();
 }
 
@@ -61,21 +63,38 @@ bool IsFlatUnderMouse(const QStyleOption* option) {
          (button->state & QStyle::State_MouseOver) && !(button->state & QStyle::State_Sunken);
 }
 
-// By its four edges: the toolkit's line lies half outside at scalings between the whole ones.
+// Close around what is framed, so that no seam is left between where a pixel of the design is more than the
+// line.
 void PaintFrame(QPainter& painter, const QStyleOption& option) {
-  const QColor edge = option.palette.color(QPalette::Window).darker(140).lighter(108);
-  const QRect& place = option.rect;
-  painter.fillRect(QRect(place.topLeft(), QSize(place.width(), 1)), edge);
-  painter.fillRect(QRect(place.bottomLeft(), QSize(place.width(), 1)), edge);
-  painter.fillRect(QRect(place.topLeft(), QSize(1, place.height())), edge);
-  painter.fillRect(QRect(place.topRight(), QSize(1, place.height())), edge);
+  const double line = Hairline(painter);
+  const QRectF framed = OnPixels(painter, option.rect.adjusted(1, 1, -1, -1));
+  FrameWithHairline(painter, framed.adjusted(-line, -line, line, line),
+                    option.palette.color(QPalette::Window).darker(140).lighter(108));
 }
 
 void PaintTip(QPainter& painter, const QStyleOption& option) {
   painter.fillRect(option.rect, option.palette.toolTipBase());
-  painter.setPen(Walnut);
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
+  FrameWithHairline(painter, option.rect, Walnut);
+}
+
+// Beside the words and as high as their small letters: the toolkit's own, in the corner below them, reads as
+// a comma.
+void PaintMenuMark(QPainter& painter, const QStyleOption& option) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(
+      QPen(option.palette.color(QPalette::ButtonText), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const double half = option.fontMetrics.xHeight() / 2.0;
+  const QPointF tip(option.rect.right() - MenuMark / 2.0, option.rect.center().y() + half / 2 + 1);
+  painter.drawPolyline(QPolygonF({tip - QPointF(half, half), tip, tip + QPointF(half, -half)}));
+  painter.restore();
+}
+
+// By pressing it, and with nothing else that it does.
+bool LeadsToAMenu(const QStyleOption& option) {
+  const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(&option);
+  return button && button->features.testFlag(QStyleOptionToolButton::HasMenu) &&
+         !button->features.testFlag(QStyleOptionToolButton::MenuButtonPopup) && !button->text.isEmpty();
 }
 
 // Where it lies, with the pixels that each lines up between.
@@ -164,7 +183,18 @@ void PaperStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
   if (control == CC_ScrollBar)
     if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
       return PaintScrollBar(*painter, *bar);
-  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (!LeadsToAMenu(*option)) return QProxyStyle::drawComplexControl(control, option, painter, widget);
+  QStyleOptionToolButton plain(*qstyleoption_cast<const QStyleOptionToolButton*>(option));
+  plain.features &= ~QStyleOptionToolButton::HasMenu;
+  QProxyStyle::drawComplexControl(control, &plain, painter, widget);
+  PaintMenuMark(*painter, *option);
+}
+
+// Words that lead to a menu stand in the middle, with room for the mark behind them.
+QSize PaperStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                   const QWidget* widget) const {
+  const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  return type == CT_ToolButton && option && LeadsToAMenu(*option) ? size + QSize(2 * MenuMark, 0) : size;
 }
 
 QRect PaperStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "look/Palettes.h"
+#include "look/PixelGrid.h"
 #include "platform/Colors.h"
 #include "platform/Rounding.h"
 
@@ -88,8 +89,7 @@ QPixmap DrawWaiting(QSize size, std::uint32_t paper, double ratio) {
 
 void PaintField(QPainter& painter, const QRect& field, const QRect& picture) {
   painter.fillRect(field, look::Paper);
-  painter.setPen(look::Mixed(look::Walnut, look::Board, 0.45f));
-  painter.drawRect(field.adjusted(0, 0, -1, -1));
+  look::FrameWithHairline(painter, field, look::Mixed(look::Walnut, look::Board, 0.45f));
   painter.setClipRect(field);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);

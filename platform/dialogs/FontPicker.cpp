@@ -203,9 +203,10 @@ void FontPicker::ChooseColor() {
 
 void FontPicker::ShowColor() {
   const QColor chosen = ToColor(chosenColor_);
-  QPixmap swatch(Swatch);
+  QPixmap swatch((QSizeF(Swatch) * devicePixelRatioF()).toSize());
   swatch.fill(chosen);
   QPainter(&swatch).drawRect(swatch.rect().adjusted(0, 0, -1, -1));
+  swatch.setDevicePixelRatio(devicePixelRatioF());
   color->setIcon(swatch);
   color->setIconSize(Swatch);
   color->setAccessibleDescription(ColorInWords(chosen));

@@ -5,6 +5,7 @@
 #include "look/CodePageEdit.h"
 #include "look/Emblem.h"
 #include "look/Pass.h"
+#include "look/PixelGrid.h"
 #include "look/Shortening.h"
 #include "look/Spoken.h"
 #include "look/Theme.h"
@@ -195,6 +196,30 @@ TEST_F(FormTest, WhatChangesElsewhereIsSaidAtTheKeyboardAndAListSaysItsEntry) {
   EXPECT_EQ(dialog.box->accessibleDescription(), u"late");
   QAccessible::installUpdateHandler(before);
   bridge.setActive(false);
+}
+
+TEST(PixelGrid, ALineIsSharpAndAsFineOnEachSideAtEveryScaling) {
+  for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0})
+    for (int at = 0; at < 4; ++at) {
+      QImage screen(40, 40, QImage::Format_Grayscale8);
+      screen.fill(Qt::white);
+      screen.setDevicePixelRatio(scale);
+      QPainter painter(&screen);
+      look::FrameWithHairline(painter, QRectF(at, at, 11, 11), Qt::black);
+      painter.end();
+      const auto sign = [&](int x, int y) {
+        const int grey = screen.pixelColor(x, y).red();
+        return grey == 0 ? '#' : grey == 255 ? ' ' : '?';
+      };
+      const auto middle = static_cast<int>((at + 5) * scale);
+      std::string across, down;
+      for (int i = 0; i < 40; ++i) across += sign(i, middle), down += sign(middle, i);
+      const std::string line(scale < 1.75 ? 1 : 2, '#'), inner = across.substr(0, across.rfind(line));
+      EXPECT_EQ(across, down);
+      EXPECT_EQ(std::count(across.begin(), across.end(), '#'), 2 * line.size()) << scale << ": " << across;
+      EXPECT_EQ(across.find('?'), std::string::npos) << across;
+      EXPECT_NE(inner.find(line + ' '), std::string::npos) << across;
+    }
 }
 
 TEST_F(FormTest, ABoxRefusesWhatTheFilesCannotHoldAndSaysWhich) {
