@@ -1,5 +1,7 @@
 #include "look/CodePageEdit.h"
 
+#include <utility>
+
 #include <QtGui/QValidator>
 #include <QtWidgets/QToolTip>
 
@@ -50,10 +52,26 @@ class AsteriskStyle : public PaperStyle {
 CodePageEdit::CodePageEdit(QWidget* parent) : QLineEdit(parent) {
   setValidator(new CodePageValidator(this));
   setTextMargins(SideMargin, 0, SideMargin, 0);
+  connect(this, &QLineEdit::inputRejected, this, [this] { wasRefused_ = true; });
 }
 
 std::string CodePageEdit::Bytes() const {
   return platform::ToCodePage(text()).value_or(std::string());
+}
+
+// The toolkit takes the selection away with the first letter of a word, and asks about the word at its end.
+void CodePageEdit::inputMethodEvent(QInputMethodEvent* event) {
+  if (!std::exchange(isComposing_, !event->preeditString().isEmpty()))
+    beforeTheWord_ = {text(), selectionStart(), selectionLength()};
+  wasRefused_ = false;
+  QLineEdit::inputMethodEvent(event);
+  if (wasRefused_ && !isComposing_ && beforeTheWord_.selectionLength > 0) ComeBack(beforeTheWord_);
+}
+
+void CodePageEdit::ComeBack(const Content& content) {
+  selectAll();
+  insert(content.text);
+  setSelection(content.selectionStart, content.selectionLength);
 }
 
 void CodePageEdit::HideText() {

@@ -235,6 +235,11 @@ TEST_F(FormTest, ABoxRefusesWhatTheFilesCannotHoldAndSaysWhich) {
   EXPECT_EQ(box.text(), QStringLiteral("Zoë €ž"))
       << "a paste is refused whole, and what was selected is kept";
   EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("☃")));
+  QInputMethodEvent composing(u"にほん"_qs, {}), word;
+  word.setCommitString(u"日本"_qs);
+  for (QInputMethodEvent* event : {&composing, &word}) QCoreApplication::sendEvent(&box, event);
+  EXPECT_EQ(box.selectedText(), u"Zoë €ž"_qs) << "and so is what a refused word was composed over";
+  EXPECT_TRUE(QToolTip::text().contains(u"日"_qs));
   QGuiApplication::clipboard()->setText(QStringLiteral("new"));
   box.paste();
   box.HideText();
