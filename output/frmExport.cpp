@@ -82,6 +82,7 @@ frmExport::frmExport()
   connect(chkMulti, &QCheckBox::clicked, this, &frmExport::chkMulti_Click);
   connect(cmdExport, &QPushButton::clicked, this, &frmExport::cmdExport_Click);
   connect(cmdViewWebPage, &QPushButton::clicked, this, [] { platform::RunUrl(ExportTarget); });
+  cmdViewWebPage->installEventFilter(this);
   connect(cmdHelp, &QPushButton::clicked, this, [] { platform::SendKey(Qt::Key_F1); });
 }
 
@@ -204,6 +205,11 @@ void frmExport::TellFailure(const platform::Failure& failure) {
              : "The journal is as it was. When the cause is removed, press Export again.";
   platform::ShowMessage("The web pages could not be written.\n" + std::string(failure.what()) + "\n\n" +
                         advice);
+}
+
+// The browser comes a while after the click, and a person may click twice.
+bool frmExport::eventFilter(QObject* watched, QEvent* event) {
+  return watched == cmdViewWebPage && event->type() == QEvent::MouseButtonDblClick;
 }
 
 void frmExport::HideResult() {

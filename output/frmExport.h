@@ -44,6 +44,7 @@ class frmExport : public look::Form, private ExportDisplay {
 
   // Unloads the window, empties the journal that was loaded for it, and tells it.
   void CloseBox() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  Q_SIGNALS:
   void Closed();

@@ -71,11 +71,13 @@ TEST_F(Export, OneFileHoldsAllPagesAndTheClosingNone) {
   Click(dialog().chkShowPageNumbers);
   Run();
   ExpectAsIn("one-file.html", "Caf\xC3\xA9 #1%.html");
-  std::string opened;
-  platform::SetUrlRunner([&](const std::string& url) { opened = url; });
+  fixture::Texts opened;
+  platform::SetUrlRunner([&](const std::string& url) { opened.push_back(url); });
   Click(dialog().cmdViewWebPage);
+  QTest::mouseDClick(dialog().cmdViewWebPage, Qt::LeftButton);  // the second press of two
+  QTest::mouseRelease(dialog().cmdViewWebPage, Qt::LeftButton);
   platform::SetUrlRunner({});
-  EXPECT_EQ(opened, "file://" + folder.PathOf("export/Caf%C3%A9%20%231%25.html"));
+  EXPECT_EQ(opened, fixture::Texts(1, "file://" + folder.PathOf("export/Caf%C3%A9%20%231%25.html")));
   EXPECT_FALSE(window().face->pictures->picDisplayPics[0]->isHidden());
   dialog().CloseBox();
   EXPECT_TRUE(window().face->pictures->picDisplayPics[0]->isHidden());
