@@ -14,6 +14,7 @@
 #include "look/FocusLine.h"
 #include "look/Growth.h"
 #include "look/Palettes.h"
+#include "look/PixelGrid.h"
 #include "look/Theme.h"
 
 namespace {
@@ -33,10 +34,11 @@ constexpr int LabelsTop = BoardTop + ShelfBoardHeight + LabelTop;
 constexpr double Corner = 3;
 
 constexpr int MostLines = 3;
+constexpr int MostKept = 500;  // names
 
-// What goes on in the next line within a word ends in a hyphen.
+// What goes on in the next line within a word ends in a hyphen; among digits it would read as one of theirs.
 bool BreaksAWord(const QString& name, int at) {
-  return at > 0 && at < name.size() && name[at - 1].isLetterOrNumber() && name[at].isLetterOrNumber();
+  return at > 0 && at < name.size() && name[at - 1].isLetter() && name[at].isLetter();
 }
 
 struct ShownName {
@@ -75,9 +77,11 @@ ShownName Broken(const QString& name, const QFont& font, int width) {
 void PaintLabel(QPainter& painter, const QRect& place, const QStyleOptionViewItem& option) {
   const bool isSelected = option.state.testFlag(QStyle::State_Selected);
   const QColor face = option.palette.color(isSelected ? QPalette::Button : QPalette::Base);
-  painter.setPen(isSelected ? look::HairlineOn(face) : look::Mixed(look::Walnut, look::Board, 0.45f));
+  const QColor edge = isSelected ? look::HairlineOn(face) : look::Mixed(look::Walnut, look::Board, 0.45f);
+  const double line = look::Hairline(painter);
+  painter.setPen(QPen(edge, line));
   painter.setBrush(face);
-  painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), Corner, Corner);
+  painter.drawRoundedRect(look::WithinEdge(painter, place), Corner, Corner);
   if (isSelected && option.state & QStyle::State_HasFocus)
     look::DrawFocusLine(painter, place.adjusted(2, 2, -2, -2), option.palette.color(QPalette::Text));
 }
@@ -104,7 +108,7 @@ class JournalLabel : public QStyledItemDelegate {
   using QStyledItemDelegate::QStyledItemDelegate;
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    const QStringList lines = NameIn(option, index).lines;
+    const QStringList& lines = NameIn(option, index).lines;
     const int lineHeight = option.fontMetrics.lineSpacing();
     const QRect& cell = option.rect;
     QRect label = cell.adjusted(Grown(Gap), Grown(LabelsTop), -Grown(Gap), 0);
@@ -140,9 +144,20 @@ class JournalLabel : public QStyledItemDelegate {
   }
 
  private:
-  static ShownName NameIn(const QStyleOptionViewItem& option, const QModelIndex& index) {
-    return Broken(index.data().toString(), option.font, option.rect.width() - 2 * Grown(Gap + SidePadding));
+  // A name is broken once for a column: that takes longer than to paint it.
+  const ShownName& NameIn(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const int width = option.rect.width() - 2 * Grown(Gap + SidePadding);
+    if (width != width_ || option.font != font_ || names_.size() > MostKept) names_.clear();
+    width_ = width;
+    font_ = option.font;
+    const QString name = index.data().toString();
+    const auto known = names_.constFind(name);
+    return known != names_.cend() ? *known : *names_.insert(name, Broken(name, font_, width_));
   }
+
+  mutable QHash<QString, ShownName> names_;  // as they are broken for this width and font
+  mutable int width_ = 0;
+  mutable QFont font_;
 };
 
 }  // namespace
@@ -203,9 +218,9 @@ void JournalList::PaintHint(QPainter& painter) const {
   constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
   const QRect card = painter.boundingRect(room, flags, hint).adjusted(-12, -8, 12, 8);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(look::Mixed(look::Walnut, look::Board, 0.45f));
+  painter.setPen(QPen(look::Mixed(look::Walnut, look::Board, 0.45f), look::Hairline(painter)));
   painter.setBrush(look::Paper);
-  painter.drawRoundedRect(QRectF(card).adjusted(0.5, 0.5, -0.5, -0.5), Corner, Corner);
+  painter.drawRoundedRect(look::WithinEdge(painter, card), Corner, Corner);
   painter.setPen(palette().color(QPalette::PlaceholderText));
   painter.drawText(room, flags, hint);
   if (hasFocus()) look::DrawFocusLine(painter, card.adjusted(3, 3, -3, -3), palette().color(QPalette::Text));
