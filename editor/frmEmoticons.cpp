@@ -9,16 +9,15 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 
+#include "editor/EmoticonPicture.h"
 #include "editor/PageFace.h"
 #include "look/Growth.h"
-#include "pictures/decoding/PictureFile.h"
 #include "platform/Colors.h"
 #include "platform/Failure.h"
 #include "platform/desktop/Keystroke.h"
 #include "platform/desktop/TaskBar.h"
 #include "platform/dialogs/MessageBox.h"
 #include "platform/files/FileList.h"
-#include "platform/files/Files.h"
 #include "richtext/box/RichTextBox.h"
 
 namespace {
@@ -28,27 +27,6 @@ constexpr int ColumnLeft[Columns] = {195, 690, 1185, 1680, 2175, 2670, 3165, 366
 constexpr int RowTop[] = {270, 780, 1290, 1785, 2265, 2760};  // uneven, and kept so
 constexpr int ScreenSize = 60;
 constexpr QSize LargestOnAButton{28, 26};  // pixels of the design; anything larger is shown smaller
-
-std::string Folder() {
-  return platform::ProgramFolder() + "/emoticons";
-}
-
-// Null for what is no picture, and no ordinary file. Of a moving picture the first one.
-QImage LoadPicture(const std::string& fileName, QSize most = {}) try {
-  return pictures::LoadUpTo(Folder() + "/" + fileName, most);
-} catch (const platform::Failure&) {
-  return {};
-}
-
-// The picture with twice as many pixels where so many pixels to one of its own can show them and there is
-// one, to be shown as large as the plain one; else this one.
-QImage AsSharpAs(double scale, const std::string& fileName, const QImage& plain) {
-  if (scale <= 1 || plain.isNull()) return plain;
-  QImage sharp = LoadPicture("48/" + fileName);
-  if (sharp.size() != 2 * plain.size()) return plain;
-  sharp.setDevicePixelRatio(2);
-  return sharp;
-}
 
 // The toolkit enlarges no icon.
 QPixmap OnAButton(const QImage& picture, double scale) {
@@ -96,7 +74,7 @@ QString PageCaption(int page, int pages) {
 
 frmEmoticons::frmEmoticons()
     : Form(Kind::Dialog, QStringLiteral("frmEmoticons"), QStringLiteral("Emoticons"), 5310, 3960),
-      file1_(platform::ListFiles(Folder(), {".jpg", ".gif"})) {
+      file1_(platform::ListFiles(EmoticonFolder(), {".jpg", ".gif"})) {
   LayOut();
   cmdPage->setVisible(file1_.size() > ScreenSize);
   ShowScreen(0);
@@ -141,7 +119,7 @@ void frmEmoticons::ShowScreen(int start) {
 }
 
 bool frmEmoticons::LoadEmoticon(QPushButton& button, const std::string& fileName) {
-  const QImage plain = LoadPicture(fileName, LargestOnAButton);
+  const QImage plain = LoadEmoticonPicture(fileName, LargestOnAButton);
   const double scale = devicePixelRatioF();
   const QPixmap picture = OnAButton(AsSharpAs(scale * look::Growth(), fileName, plain), scale);
   if (picture.isNull()) return false;
@@ -214,8 +192,8 @@ void frmEmoticons::cmdPage_Click() {
 void frmEmoticons::cmdEmoticons_Click(const QPushButton& button) {
   hide();
   const std::string fileName = button.property("Tag").toByteArray().toStdString();
-  if (const QImage picture = LoadPicture(fileName); picture.isNull())
-    platform::ShowMessage("The emoticon cannot be read any more:\n" + Folder() + "/" + fileName);
+  if (const QImage picture = LoadEmoticonPicture(fileName); picture.isNull())
+    platform::ShowMessage("The emoticon cannot be read any more:\n" + EmoticonFolder() + "/" + fileName);
   else
     Paste(AsSharpAs(Face().txtM->devicePixelRatioF(), fileName, picture));
   look::Discard(this);

@@ -1,6 +1,8 @@
 """Draws the emoticons: assets/emoticons/NNN-name.gif, each beside its source, and in the folder 48 below them the same in
-twice as many pixels, for sharper screens. Their numbers keep them in the order in which they are offered, sixty to a
+twice as many pixels, for sharper screens, with a list of the files that those are of. Their numbers keep them in the order in which they are offered, sixty to a
 screen."""
+
+import hashlib
 
 from emoticons.animals import ANIMALS
 from emoticons.faces import FACES
@@ -27,8 +29,10 @@ def main():
             for scale, folder in ((1, FOLDER), (2, SHARP)):
                 write_gif(rendered(source, scale), folder / f"{name}.gif")
             drawn.add(name)
+    sums = (f"{hashlib.md5((FOLDER / f'{name}.gif').read_bytes()).hexdigest()}  {name}.gif\n" for name in sorted(drawn))
+    (SHARP / "md5sums").write_text("".join(sums))
     for path in (*FOLDER.iterdir(), *SHARP.iterdir()):
-        if path.is_file() and path.stem not in drawn:
+        if path.is_file() and path.stem not in {*drawn, "md5sums"}:
             path.unlink()  # from a drawing that had another name or place
 
 
