@@ -98,7 +98,10 @@ StretchedImage* PictureSlots::MakeImage(std::size_t slot, const char* array, con
 
 void PictureSlots::ConnectSlot(std::size_t slot) {
   for (const StretchedImage* image : {imgPhoto[slot], imgFrame[slot]})
-    connect(image, &StretchedImage::Click, this, [this, slot] { imgPhoto_Click(slot); });
+    connect(image, &StretchedImage::Click, this, [this, slot] {
+      TakeKeysAlong(slot);
+      imgPhoto_Click(slot);
+    });
   const StretchedImage* handle = imgController[slot];
   connect(handle, &StretchedImage::MouseDown, this, [this, slot] { imgController_MouseDown(slot); });
   connect(handle, &StretchedImage::MouseMove, this, [this, slot] { imgController_MouseMove(slot); });
@@ -122,6 +125,12 @@ void PictureSlots::ListenToKeys(std::size_t slot) {
     look::Announce(QStringLiteral("The photograph is off the page."));
   });
   connect(keys, &PictureKeys::Left, this, &PictureSlots::Left);
+}
+
+// They are where the handle shows; a click beside the text that has them leaves them there.
+void PictureSlots::TakeKeysAlong(std::size_t slot) {
+  if (std::any_of(picDisplayPics.begin(), picDisplayPics.end(), [](auto* box) { return box->hasFocus(); }))
+    picDisplayPics[slot]->setFocus(Qt::MouseFocusReason);
 }
 
 std::vector<QWidget*> PictureSlots::Stops() const {

@@ -89,6 +89,8 @@ class PictureSlots : public QObject {
   void ShowFrame(std::size_t slot, PagePicture& picture);
 
   void ListenToKeys(std::size_t slot);
+  // The keyboard, where it is on a picture, goes to the one that the mouse chooses.
+  void TakeKeysAlong(std::size_t slot);
   void MoveTo(std::size_t slot, QPoint place);
   void Remove(std::size_t slot);
 

@@ -194,7 +194,12 @@ TEST_F(Slots, KeysMoveAPictureAndTakeItOffAndEachChangeIsSaved) {
   EXPECT_EQ(spoken->text(QAccessible::Description), u"99 pixels from the left, 8 from the top");
   QTest::keyClick(stops[1], Qt::Key_Escape);
   EXPECT_EQ(Rows(), "12");
-  stops[0]->setFocus();
+  Click({40, 80});
+  EXPECT_TRUE(text->hasFocus()) << "a click leaves the keys there";
+  stops[1]->setFocus();
+  Click({40, 80});
+  EXPECT_EQ(Rows(), "[1]2") << "the keys are where the handle is";
+  EXPECT_TRUE(stops[0]->hasFocus());
   QTest::keyClick(stops[0], Qt::Key_Delete);
   QCoreApplication::processEvents();
   EXPECT_EQ(Rows() + Saved(), "299,8 ");
