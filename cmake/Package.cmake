@@ -6,7 +6,6 @@ install(PROGRAMS packaging/desktop-menu DESTINATION . COMPONENT menu)
 
 set(debian ${CMAKE_BINARY_DIR}/debian)
 configure_file(packaging/debian/changelog.in ${debian}/changelog @ONLY)
-file(WRITE ${debian}/VERSION ${PROJECT_VERSION}\n)
 foreach(page changelog:${debian}/changelog thornquill.1:${CMAKE_SOURCE_DIR}/packaging/debian/thornquill.1)
   string(REPLACE ":" ";" page ${page})
   list(GET page 0 name)
@@ -15,12 +14,25 @@ foreach(page changelog:${debian}/changelog thornquill.1:${CMAKE_SOURCE_DIR}/pack
 endforeach()
 set(system COMPONENT system EXCLUDE_FROM_ALL)
 install(PROGRAMS packaging/debian/thornquill DESTINATION bin ${system})
-install(FILES ${debian}/VERSION DESTINATION lib/thornquill ${system})
 install(DIRECTORY packaging/icons/hicolor DESTINATION share/icons ${system})
 install(FILES packaging/thornquill.desktop DESTINATION share/applications ${system})
 install(FILES packaging/example.zandolk.thornquill.metainfo.xml DESTINATION share/metainfo ${system})
 install(FILES ${debian}/thornquill.1.gz DESTINATION share/man/man1 ${system})
 install(FILES packaging/debian/copyright ${debian}/changelog.gz DESTINATION share/doc/thornquill ${system})
+# What the launcher knows the folder's files by. They are there by now, stripped: the folder is laid out first.
+install(CODE [[
+  set(folder $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/lib/thornquill)
+  file(GLOB_RECURSE files LIST_DIRECTORIES false RELATIVE ${folder} ${folder}/*)
+  # The program takes its place last.
+  list(REMOVE_ITEM files thornquill)
+  set(sums "")
+  foreach(file IN LISTS files ITEMS thornquill)
+    file(SHA256 ${folder}/${file} sum)
+    string(APPEND sums "${sum}  ${file}\n")
+  endforeach()
+  file(WRITE ${folder}/CHECKSUMS "${sums}")
+  file(CHMOD ${folder}/CHECKSUMS PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+]] ${system})
 
 set(CPACK_GENERATOR TGZ)
 set(CPACK_PACKAGE_VENDOR ZANDOLK)
@@ -35,7 +47,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION editors)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, xdg-utils")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-image-formats-plugins, qt6-wayland")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-image-formats-plugins, qt6-wayland, zenity | kdialog | x11-utils")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "A bookcase of journals behind one password. Each journal is a book with
 a title page and dated pages of rich text, with photographs in frames and
 small pictures between the words, a calendar, an index, printing, and
