@@ -1,9 +1,6 @@
 // Every format of a page through the text box's document and back.
-#include <random>
-
 #include "platform/files/InputFile.h"
 #include "richtext/document/Limits.h"
-#include "richtext/document/PageParts.h"
 #include "richtext/textdocument/Labels.h"
 #include "richtext/textdocument/Pictures.h"
 #include "tests/richtext/BoxFixture.h"
@@ -18,45 +15,6 @@ using BoxFormatsTest = BoxTest;
 TEST_F(BoxFormatsTest, HoldsEveryLook) {
   for (const std::string page : {"looks.rtf", "paragraph-looks.rtf"})
     ExpectHeld(platform::ReadFile(fixture::PathOfSample("../../fuzz/seeds/rtf/" + page)));
-}
-
-// Whatever is done to a table, what is stored is shown again as it is, and the copy for the log is the same.
-TEST_F(BoxFormatsTest, TablesHoldAndStandEveryEdit) {
-  for (const Example& example : ExamplesOf("rtf.txt"))
-    if (example.dump.find('$') != std::string::npos) ExpectHeld(example.source);
-  const std::string row = R"(\trowd\clvmgf\cellx99\cellx198\pard\intbl\qc a\cell\par b\par\cell\row )";
-  const std::string table = Page(row + row + R"(\pard x\par )" + row);
-  std::mt19937 random(3);
-  const auto any = [&](int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); };
-  const std::function<void()> edits[] = {[&] { Type("x"); },
-                                         [&] { Press(Qt::Key_Return); },
-                                         [&] { Press(Qt::Key_Backspace); },
-                                         [&] { Press(Qt::Key_Delete); },
-                                         [&] { Press(Qt::Key_Tab); },
-                                         [&] { Press(Qt::Key_Backspace, Qt::ControlModifier); },
-                                         [&] { Press(Qt::Key_Delete, Qt::ControlModifier); },
-                                         [&] { box.undo(); },
-                                         [&] { box.redo(); },
-                                         [&] { box.SetSelBold(true); },
-                                         [&] { Press(any(2) ? Qt::Key_C : Qt::Key_X, Qt::ControlModifier); },
-                                         [&] { Press(Qt::Key_V, Qt::ControlModifier); }};
-  for (int sitting = 0; sitting < 20; ++sitting) {
-    ExpectHeld(table);
-    EXPECT_EQ(Text(), "a\t\nb\n\t\na\t\nb\n\t\nx\na\t\nb\n\t");
-    for (int step = 0; step < 20; ++step) {
-      Select(any(static_cast<int>(Text().size()) + 1), any(3) ? 0 : any(6));
-      edits[any(std::size(edits))]();
-      const std::string stored = box.TextRTF();
-      ASSERT_EQ(WriteRtf(Join(box.Copy())), stored);
-      ASSERT_EQ(WriteRtf(ReadRtf(stored)), stored);
-      RichTextBox other;
-      other.SetTextRTF(stored);
-      ASSERT_EQ(other.TextRTF(), stored);
-      ASSERT_EQ(Text(), other.Text().toStdString()) << stored;
-    }
-    while (box.document()->isUndoAvailable()) box.undo();
-    ASSERT_EQ(WriteRtf(ReadRtf(box.TextRTF())), WriteRtf(ReadRtf(table))) << "undone to the start";
-  }
 }
 
 class TableTest : public BoxTest {

@@ -255,5 +255,43 @@ TEST_F(BoxWalk, TheBoxDoesWhatAPlainPageDoes) {
   }
 }
 
+// Whatever is done to a table, what is stored is shown again as it is, and the copy for the log is the same.
+TEST_F(BoxWalk, TablesHoldAndStandEveryEdit) {
+  for (const Example& example : ExamplesOf("rtf.txt"))
+    if (example.dump.find('$') != std::string::npos) ExpectHeld(example.source);
+  const std::string row = R"(\trowd\clvmgf\cellx99\cellx198\pard\intbl\qc a\cell\par b\par\cell\row )";
+  const std::string table = Page(row + row + R"(\pard x\par )" + row);
+  const std::function<void()> edits[] = {[&] { Press(Qt::Key_X); },
+                                         [&] { Press(Qt::Key_Return); },
+                                         [&] { Press(Qt::Key_Backspace); },
+                                         [&] { Press(Qt::Key_Delete); },
+                                         [&] { Press(Qt::Key_Tab); },
+                                         [&] { Press(Qt::Key_Backspace, Qt::ControlModifier); },
+                                         [&] { Press(Qt::Key_Delete, Qt::ControlModifier); },
+                                         [&] { box.undo(); },
+                                         [&] { box.redo(); },
+                                         [&] { box.SetSelBold(true); },
+                                         [&] { Press(Any(2) ? Qt::Key_C : Qt::Key_X, Qt::ControlModifier); },
+                                         [&] { Press(Qt::Key_V, Qt::ControlModifier); }};
+  for (int sitting = 0; sitting < 20; ++sitting) {
+    ExpectHeld(table);
+    EXPECT_EQ(Text(), "a\t\nb\n\t\na\t\nb\n\t\nx\na\t\nb\n\t");
+    for (int step = 0; step < 20; ++step) {
+      box.SetSelStart(Any(static_cast<int>(Text().size()) + 1));
+      box.SetSelLength(Any(3) ? 0 : Any(6));
+      edits[Any(std::size(edits))]();
+      const std::string stored = box.TextRTF();
+      ASSERT_EQ(WriteRtf(Join(box.Copy())), stored);
+      ASSERT_EQ(WriteRtf(ReadRtf(stored)), stored);
+      RichTextBox other;
+      other.SetTextRTF(stored);
+      ASSERT_EQ(other.TextRTF(), stored);
+      ASSERT_EQ(Text(), other.Text().toStdString()) << stored;
+    }
+    while (box.document()->isUndoAvailable()) box.undo();
+    ASSERT_EQ(WriteRtf(ReadRtf(box.TextRTF())), WriteRtf(ReadRtf(table))) << "undone to the start";
+  }
+}
+
 }  // namespace
 }  // namespace richtext
