@@ -37,7 +37,16 @@ std::optional<double> Pixels(QStringView word) {
   constexpr struct {
     QStringView unit;
     double pixels;
-  } Units[] = {{u"px", 1}, {u"pt", 4 / 3.0}, {u"em", LetterSize}, {u"rem", LetterSize}, {u"", 1}};
+  } Units[] = {{u"px", 1},
+               {u"pt", 4 / 3.0},
+               {u"em", LetterSize},
+               {u"rem", LetterSize},
+               {u"ex", LetterSize / 2},
+               {u"ch", LetterSize / 2},
+               {u"in", 96},
+               {u"cm", 96 / 2.54},
+               {u"mm", 96 / 25.4},
+               {u"", 1}};
   for (const auto& [unit, pixels] : Units) {
     bool isNumber = false;
     const double number = word.endsWith(unit) ? word.chopped(unit.size()).toDouble(&isNumber) : 0;

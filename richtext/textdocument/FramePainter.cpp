@@ -50,6 +50,7 @@ double Room(const ParagraphBorder& border) {
 // From where the lines begin to where they end, whatever the first one's indent is.
 QRectF WithoutIndent(const QTextBlock& block, QRectF letters) {
   const QTextBlockFormat format = block.blockFormat();
+  if (block.layout()->lineCount() == 0) return letters;
   const QTextLine first = block.layout()->lineAt(0);
   const double indent = std::max(0.0, format.textIndent());
   const bool isRightToLeft = block.textDirection() == Qt::RightToLeft;
