@@ -18,6 +18,7 @@
 #include "look/PixelGrid.h"
 #include "look/Shortening.h"
 #include "look/Spoken.h"
+#include "look/StayingKeys.h"
 #include "look/Theme.h"
 
 namespace look {
@@ -59,6 +60,7 @@ Form::Form(Kind kind, const QString& name, const QString& caption, int widthTwip
   SetCaption(caption);
   GiveTheProgramItsIcon();
   NoteInput();
+  KeepHeldKeysInTheirWindow();
   const QSize size(Pixels(widthTwips), Pixels(heightTwips));
   if (kind == Kind::Dialog) setFixedSize(size), WearGrownFont(*this);
   resize(size);

@@ -20,6 +20,7 @@
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QTextEdit>
 
+#include "platform/HeldKeys.h"
 #include "richtext/box/CaretFormat.h"
 #include "richtext/document/PageParts.h"
 
@@ -139,8 +140,10 @@ class RichTextBox : public QTextEdit {
   bool canInsertFromMimeData(const QMimeData* source) const override;
   QMimeData* createMimeDataFromSelection() const override;
   void insertFromMimeData(const QMimeData* source) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -199,6 +202,7 @@ class RichTextBox : public QTextEdit {
   unsigned commits_ = 0;   // texts that came from input methods so far
   QString awaited_;        // a word whose commit must not come any more
   QDeadlineTimer awaiting_;
+  platform::HeldKeys held_;
 };
 
 }  // namespace richtext

@@ -43,13 +43,25 @@ bool IsBackspace(const QKeyEvent& event) {
 
 }  // namespace
 
+// Held on a photograph that goes by it, Delete would go on among the letters here.
 void RichTextBox::keyPressEvent(QKeyEvent* event) {
+  if (held_.BeganElsewhere(*event)) return;
   if (IsCommandOfOthers(*event)) return event->ignore();
   CarryFormatOver([&] {
     if (isReadOnly()) return QTextEdit::keyPressEvent(event);
     caret_.Apply();
     PressKey(*event);
   });
+}
+
+void RichTextBox::keyReleaseEvent(QKeyEvent* event) {
+  held_.BeganElsewhere(*event);
+  QTextEdit::keyReleaseEvent(event);
+}
+
+void RichTextBox::focusOutEvent(QFocusEvent* event) {
+  held_.Forget();
+  QTextEdit::focusOutEvent(event);
 }
 
 // A person who goes on typing in a paragraph that she has just emptied means the format that she had. The end

@@ -63,6 +63,29 @@ TEST_F(FormTest, IsMeasuredInTwipsHalvesToEvenAndCentredOnce) {
   EXPECT_EQ(ShownDialog().pos(), QPoint(3, 4));
 }
 
+TEST_F(FormTest, AKeyThatIsHeldEndsWithItsWindow) {
+  auto& dialog = ShownDialog();
+  const auto send = [](const QWidget& window, QEvent::Type type, quint64 time, bool repeats) {
+    QKeyEvent key(type, Qt::Key_X, Qt::NoModifier, u"x"_qs, repeats);
+    key.setTimestamp(time);
+    QCoreApplication::sendEvent(window.windowHandle(), &key);
+  };
+  send(dialog, QEvent::KeyPress, 1, false);
+  send(dialog, QEvent::KeyPress, 2, true);
+  QLineEdit other;
+  other.show();
+  other.setFocus();
+  send(other, QEvent::KeyPress, 3, true);
+  send(other, QEvent::KeyRelease, 4, false);
+  send(other, QEvent::KeyPress, 4, false);  // a repetition that the toolkit has not seen to be one
+  EXPECT_EQ(dialog.box->text() + u'|' + other.text(), u"xx|");
+  for (const quint64 time : {5ULL, 6ULL}) {
+    send(other, QEvent::KeyRelease, time, false);
+    send(other, QEvent::KeyPress, 6, false);
+  }
+  EXPECT_EQ(other.text(), u"xx") << "pressed anew, and repeated";
+}
+
 TEST_F(FormTest, UnloadBringsTheDesignValuesBackAndHidingDoesNot) {
   ShownDialog().box->setText(QStringLiteral("typed"));
   look::The<Dialog>().hide();
