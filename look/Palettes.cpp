@@ -22,8 +22,7 @@ QPalette PaletteOf(const QColor& ground, const QColor& button, const QColor& cho
   palette.setColor(QPalette::AlternateBase, Mixed(Paper, ground, 0.6f));
   palette.setColor(QPalette::Highlight, chosen);
   palette.setColor(QPalette::HighlightedText, Paper);
-  palette.setColor(QPalette::Inactive, QPalette::Highlight, ground);
-  palette.setColor(QPalette::Inactive, QPalette::HighlightedText, Ink);
+  palette.setColor(QPalette::Inactive, QPalette::Highlight, Mixed(Ink, Paper, DisabledShare));
   palette.setColor(QPalette::Link, DeepInkBlue);
   palette.setColor(QPalette::LinkVisited, Plum);
   palette.setColor(QPalette::ToolTipBase, Paper);

@@ -11,6 +11,7 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QScrollBar>
 
+#include "platform/Contrast.h"
 #include "richtext/box/PastedLook.h"
 #include "richtext/box/Pasting.h"
 #include "richtext/box/Printing.h"
@@ -133,15 +134,28 @@ void RichTextBox::SetText(const QString& text) {
   Q_EMIT Change();
 }
 
+// What is selected must be seen on any paper: ink, where the paper is too dark for it deeper ink, and on the
+// darkest the paper of others.
+struct SelectionLook {
+  QColor ground, letters;
+};
+SelectionLook SelectionOn(const QColor& paper) {
+  constexpr QColor cream(0xff, 0xfd, 0xf6), ink(0x2b, 0x24, 0x30);
+  for (const QColor blue : {QColor(0x46, 0x5a, 0x8f), QColor(0x2c, 0x3a, 0x63)})
+    if (platform::Contrast(blue, paper) >= 3) return {blue, cream};
+  return {cream, ink};
+}
+
 // Paper and ink are the journal's and not the desktop's: on a dark desktop the page stays what it is.
 void RichTextBox::SetBackColor(std::uint32_t color) {
   backColor_ = color & White;
+  const SelectionLook selection = SelectionOn(ToColor(backColor_));
   QPalette paper;
   paper.setColor(QPalette::Base, ToColor(backColor_));
   paper.setColor(QPalette::Text, Qt::black);
   paper.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
-  paper.setColor(QPalette::Highlight, QColor(0x46, 0x5a, 0x8f));
-  paper.setColor(QPalette::HighlightedText, QColor(0xff, 0xfd, 0xf6));
+  paper.setColor(QPalette::Highlight, selection.ground);
+  paper.setColor(QPalette::HighlightedText, selection.letters);
   setPalette(paper);
 }
 

@@ -6,6 +6,7 @@
 #include "look/Palettes.h"
 #include "look/Theme.h"
 #include "look/frmPicSource.h"
+#include "platform/Contrast.h"
 
 namespace {
 
@@ -40,19 +41,10 @@ TEST(ThemePictures, HaveTheirSizeAndTintAndAreEasyToReadOn) {
     EXPECT_TRUE(frmPicSource::picLarge(none).isNull() && frmPicSource::PicButtonSize(none).isNull());
 }
 
-double Contrast(const QColor& first, const QColor& second) {
-  const auto luminance = [](const QColor& color) {
-    const auto linear = [](float part) {
-      return part <= 0.04045f ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-  };
-  const auto [dark, light] = std::minmax({luminance(first), luminance(second)});
-  return (light + 0.05) / (dark + 0.05);
-}
-
 TEST(Palettes, WriteWhatIsEasyToRead) {
   using enum QPalette::ColorRole;
+  using platform::Contrast;
+  EXPECT_NEAR(Contrast(Qt::white, 0x777777), 4.48, 0.005);
   constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> texts[] = {{WindowText, Window},
                                                                            {Text, Base},
                                                                            {Text, AlternateBase},
@@ -76,7 +68,9 @@ TEST(Palettes, WriteWhatIsEasyToRead) {
     }
     for (const auto mark : {Highlight, Text})  // what is chosen, and the line around what has the keyboard
       for (const auto ground : {Window, Button, Base})
-        EXPECT_GE(Contrast(palette.color(mark), palette.color(ground)), 3) << mark << ' ' << surface.rgb();
+        for (const auto group : {QPalette::Active, QPalette::Inactive})
+          EXPECT_GE(Contrast(palette.color(group, mark), palette.color(group, ground)), 3)
+              << mark << ' ' << group << ' ' << surface.rgb();
   }
 }
 

@@ -1,5 +1,6 @@
 // The text box as a person uses it: shown, with real keys and clicks.
 
+#include "platform/Contrast.h"
 #include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/SmallPng.h"
 #include "tests/richtext/BoxFixture.h"
@@ -35,6 +36,7 @@ TEST_F(RichTextBoxTest, EverySetAndEveryEditIsOneChange) {
 }
 
 TEST_F(RichTextBoxTest, WhatIsNoEditIsNoChange) {
+  QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
   for (const std::string& page : {Page("one two three"), std::string()}) {
     Set(page);
     GiveJournalFont();
@@ -48,6 +50,7 @@ TEST_F(RichTextBoxTest, WhatIsNoEditIsNoChange) {
     Press(Qt::Key_Backspace);
     Press(Qt::Key_Z, Qt::ControlModifier);
     QTest::keyClick(&box, 'x', Qt::AltModifier);  // somebody's mnemonic
+    QApplication::sendEvent(&box, &repeated);
     QTest::mouseClick(box.viewport(), Qt::LeftButton);
     box.clearFocus();
     box.setFocus();
@@ -58,6 +61,9 @@ TEST_F(RichTextBoxTest, WhatIsNoEditIsNoChange) {
     EXPECT_EQ(Changes(), 0) << Text();
   }
   EXPECT_EQ(presses, 2);
+  QTest::keyPress(&box, Qt::Key_Return);
+  QApplication::sendEvent(&box, &repeated);
+  EXPECT_EQ(Changes(), 2) << "a key that is held has gone down here";
 }
 
 TEST_F(RichTextBoxTest, CaretFormatGovernsWhatIsTyped) {
@@ -255,6 +261,12 @@ TEST_F(RichTextBoxTest, PaperAndInkAreNotTheDesktops) {
   int black = 0;
   for (int x = 0; x < drawn.width(); ++x) black += drawn.pixelColor(x, 30) == QColor(Qt::black);
   EXPECT_GT(black, 10);
+  for (const std::uint32_t paper : {0xffffffu, 0xc0c0c0u, 0x909090u, 0x808080u, 0x903a4au, 0u}) {
+    box.SetBackColor(paper);
+    const QColor marked = box.palette().color(QPalette::Highlight);
+    EXPECT_GE(platform::Contrast(marked, box.palette().color(QPalette::Base)), 3) << paper;
+    EXPECT_GE(platform::Contrast(marked, box.palette().color(QPalette::HighlightedText)), 4.5) << paper;
+  }
 }
 
 }  // namespace
