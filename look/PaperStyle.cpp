@@ -7,6 +7,7 @@
 #include <QtWidgets/QStyleOption>
 
 #include "look/ButtonFace.h"
+#include "look/FocusLine.h"
 #include "look/Growth.h"
 #include "look/Palettes.h"
 #include "look/PixelGrid.h"
@@ -24,6 +25,11 @@ constexpr double Corner = 3;
 constexpr QPoint GroupTitle(8, 3);
 constexpr int ButtonMargin = 16;
 
+bool IsFlat(const QStyleOption& option) {
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+  return button && button->features.testFlag(QStyleOptionButton::Flat);
+}
+
 void PaintFace(QPainter& painter, const QStyleOption& option, const QWidget* widget) {
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
   const bool isLabel = button && qobject_cast<const QPushButton*>(widget);
@@ -35,7 +41,8 @@ void PaintFace(QPainter& painter, const QStyleOption& option, const QWidget* wid
                    .isDown = bool(option.state & (QStyle::State_Sunken | QStyle::State_On)),
                    .isUnderMouse = option.state.testFlag(QStyle::State_MouseOver),
                    .isDefault = isLabel && button->features.testFlag(QStyleOptionButton::DefaultButton),
-                   .isStitched = isLabel});
+                   .isStitched = isLabel,
+                   .hasFocus = isLabel && !IsFlat(option) && option.state.testFlag(QStyle::State_HasFocus)});
 }
 
 // Pressed into the surface: dark where the light does not reach, and light on the edge that catches it.
@@ -57,10 +64,17 @@ void PaintHollow(QPainter& painter, const QStyleOption& option) {
   painter.restore();
 }
 
-bool IsFlatUnderMouse(const QStyleOption* option) {
-  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-  return button && button->features.testFlag(QStyleOptionButton::Flat) &&
-         (button->state & QStyle::State_MouseOver) && !(button->state & QStyle::State_Sunken);
+bool IsFlatAndRaised(const QStyleOption& option) {
+  return IsFlat(option) && (option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus)) &&
+         !(option.state & QStyle::State_Sunken);
+}
+
+// Other buttons have it in the place of their stitches; a flat one is filled by its picture.
+void PaintFocusOfButton(QPainter& painter, const QPushButton& button) {
+  constexpr int inset = 2;
+  if (button.isFlat())
+    DrawFocusLine(painter, button.rect().adjusted(inset, inset, -inset, -inset),
+                  button.palette().color(QPalette::ButtonText));
 }
 
 // Close around what is framed, so that no seam is left between where a pixel of the design is more than the
@@ -160,16 +174,21 @@ void PaperStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
       return PaintFrame(*painter, *option);
     case PE_FrameDefaultButton:
       return;  // its edge is double
+    case PE_FrameFocusRect:
+      if (const auto* button = qobject_cast<const QPushButton*>(widget))
+        return PaintFocusOfButton(*painter, *button);
+      break;
     default:
       break;
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
-// A flat button is a label under the mouse alone, and a bar grows in the same colour behind another window.
+// A flat button is a label under the mouse or the keyboard alone, and a bar grows in the same colour behind
+// another window.
 void PaperStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const {
-  if (element == CE_PushButtonBevel && IsFlatUnderMouse(option)) PaintFace(*painter, *option, widget);
+  if (element == CE_PushButtonBevel && IsFlatAndRaised(*option)) PaintFace(*painter, *option, widget);
   const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
   if (element != CE_ProgressBarContents || !bar)
     return QProxyStyle::drawControl(element, option, painter, widget);

@@ -4,6 +4,7 @@
 
 #include "look/CodePageEdit.h"
 #include "look/Emblem.h"
+#include "look/PaperStyle.h"
 #include "look/Pass.h"
 #include "look/PixelGrid.h"
 #include "look/Shortening.h"
@@ -84,6 +85,24 @@ TEST_F(FormTest, AKeyThatIsHeldEndsWithItsWindow) {
     send(other, QEvent::KeyPress, 6, false);
   }
   EXPECT_EQ(other.text(), u"xx") << "pressed anew, and repeated";
+}
+
+TEST_F(FormTest, ButtonsShowThatTheyHaveTheKeyboard) {
+  auto& dialog = ShownDialog();
+  dialog.resize(300, 200);
+  look::PaperStyle style;
+  for (const bool isFlat : {false, true}) {
+    auto* button = new QPushButton(u"x"_qs, &dialog);
+    button->setStyle(&style);
+    button->setFlat(isFlat);
+    button->setAutoDefault(false);
+    button->setGeometry(10, 100, 32, 30);
+    button->show();
+    const QImage without = button->grab().toImage();
+    button->setFocus();
+    EXPECT_NE(button->grab().toImage(), without) << isFlat;
+    delete button;
+  }
 }
 
 TEST_F(FormTest, UnloadBringsTheDesignValuesBackAndHidingDoesNot) {
