@@ -1,6 +1,7 @@
 #include "editor/DateCalendar.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include <QtGui/QMouseEvent>
@@ -12,6 +13,7 @@
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QToolButton>
 
+#include "look/EnterPresses.h"
 #include "look/FocusLine.h"
 #include "look/Growth.h"
 #include "look/Palettes.h"
@@ -96,16 +98,19 @@ DateCalendar::DateCalendar(QWidget* parent) : QCalendarWidget(parent) {
 // Month and year can be changed without a mouse, too: the toolkit keeps the keyboard out of its buttons.
 void DateCalendar::OpenHeadToKeys() {
   QWidget* before = nullptr;
-  constexpr std::pair<const char*, const char*> buttons[] = {{"prevmonth", "previous month"},
-                                                             {"monthbutton", ""},  // say what they show
-                                                             {"yearbutton", ""},
-                                                             {"nextmonth", "next month"}};
-  for (const auto& [name, meaning] : buttons) {
+  constexpr std::tuple<const char*, const char*, const char*> buttons[] = {
+      {"prevmonth", "previous month", "Page Up"},
+      {"monthbutton", "", ""},  // say what they show
+      {"yearbutton", "", ""},
+      {"nextmonth", "next month", "Page Down"}};
+  for (const auto& [name, meaning, key] : buttons) {
     auto* button = findChild<QToolButton*>(QStringLiteral("qt_calendar_") + QLatin1String(name));
     if (!button) continue;
     button->setAccessibleName(QLatin1String(meaning));
+    button->setToolTip(QLatin1String(key));
     button->setFocusPolicy(Qt::TabFocus);
     button->installEventFilter(this);
+    look::LetEnterPress(*button);
     if (button->menu()) button->menu()->setFont(font());  // a window of its own, which takes no other's font
     if (before) setTabOrder(before, button);
     before = button;

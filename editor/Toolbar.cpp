@@ -7,6 +7,7 @@
 #include <QtGui/QPainter>
 
 #include "editor/ToolbarPictures.h"
+#include "look/EnterPresses.h"
 #include "look/FocusLine.h"
 #include "look/Form.h"
 #include "look/Growth.h"
@@ -156,6 +157,7 @@ Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
     }
     QToolButton* button = MakeButton(row, font, this);
     button->installEventFilter(this);
+    look::LetEnterPress(*button);
     button->setGeometry(look::Pixels(left), 0, look::Pixels(ButtonWidth), look::Pixels(ButtonHeight));
     connect(button, &QToolButton::clicked, this, [this, key = Text(row.key)] { Q_EMIT ButtonClick(key); });
     entries_.push_back({Text(row.key), {}, button});

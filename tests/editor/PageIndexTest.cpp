@@ -75,8 +75,10 @@ TEST_F(PageIndexTest, PressedAgainAddsThePagesASecondTimeAndDropsWhatIsTyped) {
   QTest::mouseDClick(tree().viewport(), Qt::RightButton, {},
                      tree().visualItemRect(tree().currentItem()).center());
   ASSERT_TRUE(look::IsLoaded<frmIndex>()) << "two clicks on an arrow, or of another button, lead nowhere";
+  window().Toolbar1->Button(1)->setFocus();
   QTest::keyClick(&tree(), Qt::Key_Return);
   EXPECT_FALSE(look::IsLoaded<frmIndex>());
+  EXPECT_EQ(window().focusWidget(), Face().txtM) << "wherever the keys were in the journal";
   EXPECT_EQ(Shown(), "day 38416Page 2: text");
   window().PageFirst();
   EXPECT_EQ(Text(), "kept text");
@@ -118,6 +120,9 @@ TEST_F(PageIndexTest, TheCalendarDatesThePageWithoutMovingOrDirtyingIt) {
   EXPECT_EQ(Shown(), "day -18140Page 2: twostored ");
   EXPECT_EQ(PageDirty, False);
   In<frmCal>("btnCal", [](frmCal& dialog) {
+    auto* next = dialog.Cal1->findChild<QToolButton*>(u"qt_calendar_nextmonth"_qs);
+    QTest::keyClick(next, Qt::Key_Return);
+    EXPECT_EQ(dialog.Cal1->selectedDate(), QDate(1850, 6, 1)) << "and sets nothing yet";
     dialog.Cal1->showNextYear();
     QTest::keyClick(dialog.Cal1->focusProxy(), Qt::Key_Escape);
   });

@@ -100,15 +100,26 @@ TEST_F(Window, F6LeadsRoundThePageTheToolbarAndThePictures) {
     QTest::keyClick(window().focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
     EXPECT_EQ(window().focusWidget(), round[target]);
   }
+  round[1]->setFocus();
+  QLineEdit inFront;
+  inFront.show();
+  inFront.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&inFront));
+  HidePagePictures();
+  EXPECT_EQ(window().focusWidget(), &text()) << "a picture that goes leaves the keys to the text";
 }
 
 TEST_F(Window, AfterACommandWithAWindowOfItsOwnTheKeysAreInThePage) {
   platform::SetFontChooser([](const auto&) { return platform::DialogResult<platform::FontValues>{}; });
   const fixture::Dismissal dismissal;
-  for (const char* key : {"btnFont", "btnInsertPicture", "btnCal", "btnInsertEmoticon", "btnIndex"}) {
+  for (const auto& [key, press] : {std::pair{"btnFont", Qt::Key_Space},
+                                   {"btnInsertPicture", Qt::Key_Return},
+                                   {"btnCal", Qt::Key_Enter},
+                                   {"btnInsertEmoticon", Qt::Key_Space},
+                                   {"btnIndex", Qt::Key_Return}}) {
     auto* button = window().Toolbar1->Button(QString::fromLatin1(key));
     button->setFocus();
-    QTest::keyClick(button, Qt::Key_Space);
+    QTest::keyClick(button, press);
     QCoreApplication::processEvents();
     EXPECT_EQ(window().focusWidget(), &text()) << key;
   }
