@@ -12,6 +12,7 @@
 #include "look/Theme.h"
 #include "platform/desktop/Keystroke.h"
 #include "platform/desktop/TaskBar.h"
+#include "richtext/box/RichTextBox.h"
 #include "state/PageInHand.h"
 
 namespace {
@@ -100,6 +101,7 @@ void frmIndex::cmdGoDate_Click() {
   PageInHand::TurnedTo(selected.front()->data(0, Tag).toInt());
   ShowCurrentPage();
   ShowPageHeader();
+  Face().txtM->setFocus();
   look::Discard(this);
 }
 

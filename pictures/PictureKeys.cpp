@@ -20,7 +20,6 @@ PictureKeys::PictureKeys(QWidget* box) : QObject(box), box_(*box) {
   box->installEventFilter(this);
 }
 
-// A picture that is hidden under the keyboard gives it back to the text.
 bool PictureKeys::eventFilter(QObject* /*watched*/, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
@@ -34,7 +33,6 @@ bool PictureKeys::eventFilter(QObject* /*watched*/, QEvent* event) {
     case QEvent::FocusOut:
       PutDown();
       if (!IsOfTheWindow(*static_cast<QFocusEvent*>(event))) Q_EMIT Dropped();
-      if (box_.isHidden()) QMetaObject::invokeMethod(this, &PictureKeys::Left, Qt::QueuedConnection);
       return false;
     default:
       return false;

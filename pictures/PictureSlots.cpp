@@ -121,7 +121,6 @@ void PictureSlots::ListenToKeys(std::size_t slot) {
   connect(keys, &PictureKeys::Removed, this, [this, slot] {
     Remove(slot);
     imgController_MouseUp();
-    Q_EMIT Left();
     look::Announce(QStringLiteral("The photograph is off the page."));
   });
   connect(keys, &PictureKeys::Left, this, &PictureSlots::Left);
@@ -174,7 +173,11 @@ void PictureSlots::ForgetImagesFrom(std::size_t slot) {
     for (StretchedImage* image : {imgPhoto[slot], imgFrame[slot]}) image->SetPicture({});
 }
 
+// Hidden, a picture would leave the keyboard to whatever comes next in the window, which may not even be in
+// front, and not to the text.
 void PictureSlots::Hide() {
+  const QWidget* const keys = page_->window()->focusWidget();
+  if (std::find(picDisplayPics.begin(), picDisplayPics.end(), keys) != picDisplayPics.end()) Q_EMIT Left();
   for (look::PictureBox* box : picDisplayPics) box->hide();
 }
 
