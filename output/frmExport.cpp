@@ -197,7 +197,9 @@ void frmExport::cmdExport_Click() {
 void frmExport::TellFailure(const platform::Failure& failure) {
   ProgressBar1->hide();
   lblCreatingHTML->hide();
+  const bool beganToWrite = !cmdExport->isEnabled();
   cmdExport->setEnabled(true);
+  if (beganToWrite) cmdExport->setFocus();  // the disabled button has lost it
   const bool isName = failure.kind() == platform::FailureKind::BadFileName && !chkMulti->isChecked();
   const std::string advice =
       isName ? "The single page is called as the journal is. Give the journal another name in its "

@@ -115,6 +115,7 @@ TEST_F(Export, WhatCannotBeWrittenIsToldAndTheNextRunGoesWell) {
   Click(dialog().chkMulti);
   folder.Write("export/j1", "a file in the place of the folder");
   ExpectFailure("Path not found: " + folder.PathOf("export/j1/index.html"));
+  EXPECT_EQ(dialog().focusWidget(), dialog().cmdExport) << "to be pressed again";
   platform::DeleteFile(folder.PathOf("export/j1"));
   Run();
   EXPECT_TRUE(dialog().cmdViewWebPage->isVisible());
