@@ -198,6 +198,7 @@ void UnloadAllForms() {
   for (QWidget* window : QApplication::topLevelWidgets())
     if (auto* form = qobject_cast<Form*>(window)) forms.append(form);
   for (const QPointer<Form>& form : forms) delete form.data();
+  MeasureGrowthAnew();
 }
 
 }  // namespace look

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include <QtGui/QFontMetrics>
 #include <QtGui/QScreen>
@@ -35,6 +36,8 @@ QSize Screen() {
   return QApplication::primaryScreen()->availableSize();
 }
 
+std::optional<double> measured;
+
 }  // namespace
 
 double GrowthFor(const QFont& font, const QSize& screen) {
@@ -51,14 +54,12 @@ QFont FontFor(const QFont& font, const QSize& screen) {
 }
 
 double Growth() {
-  static QFont measured;
-  static double growth = 0;
-  const QFont font = QApplication::font();
-  if (growth == 0 || font != measured) {
-    growth = GrowthFor(font, Screen());
-    measured = font;
-  }
-  return growth;
+  if (!measured) measured = GrowthFor(QApplication::font(), Screen());
+  return *measured;
+}
+
+void MeasureGrowthAnew() {
+  measured.reset();
 }
 
 int Grown(double pixels) {

@@ -11,9 +11,11 @@
 
 namespace look {
 
-// In steps of an eighth, for the desktop's font of the moment; never so large that a dialog would outgrow the
-// first screen.
+// In steps of an eighth, for the desktop's font; never so large that a dialog would outgrow the first screen.
+// It stays as it was measured first: what has been laid out is not laid out anew when the font changes.
 double Growth();
+// For when no window is left.
+void MeasureGrowthAnew();
 double GrowthFor(const QFont& font, const QSize& screen);
 
 // A measure of the design in logical pixels, as it is on the screen.

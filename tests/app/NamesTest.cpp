@@ -179,7 +179,10 @@ TEST_F(EveryWindow, GrowsAsAWholeWithTheDesktopsFont) {
   for (const int points : {11, 15, 20}) {
     QFont larger = design;
     larger.setPointSize(points);
+    const double before = look::Growth();
     QApplication::setFont(larger);
+    EXPECT_EQ(look::Growth(), before) << "while windows stand";
+    look::UnloadAllForms();
     QString cut;
     ForAll([&](look::Form& window) {
       EXPECT_LE(window.minimumHeight(), screen.height()) << window.objectName().toStdString();
@@ -190,8 +193,8 @@ TEST_F(EveryWindow, GrowsAsAWholeWithTheDesktopsFont) {
     EXPECT_EQ(cut.toStdString(), "") << points;
     EXPECT_EQ(look::The<frmBookcase>().cmdOpen->width(), look::Grown(120));
     EXPECT_EQ(look::The<frmJournal>().face->txtM->pos(), QPoint(look::Grown(66), look::Grown(58)));
-    look::UnloadAllForms();
     QApplication::setFont(design);
+    look::UnloadAllForms();
   }
 }
 
