@@ -13,6 +13,7 @@
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QVBoxLayout>
 
+#include "look/InFront.h"
 #include "look/Spoken.h"
 
 namespace {
@@ -25,10 +26,19 @@ constexpr int LettersOfATitle = 32;
 const QString NotFound = QStringLiteral("These words do not stand in the help.");
 
 // The toolkit tells screen readers of a browser as of a label. This one is a text with a caret to them, which
-// they read along.
+// they read along. In another size the same line stays at the top: some desktops tell a window's size only
+// after the chapter has been shown.
 class CaretBrowser : public QTextBrowser {
  public:
   const QMetaObject* metaObject() const override { return &QTextEdit::staticMetaObject; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    const QTextCursor top = cursorForPosition(QPoint(0, 0));
+    const int before = cursorRect(top).top();
+    QTextBrowser::resizeEvent(event);
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top() - before);
+  }
 };
 
 // The desktop's font, a little larger: it is a text to read.
@@ -168,9 +178,7 @@ void HelpWindow::ShowTopic(const QString& anchor, const QWidget& window) {
   QWidget* const parent = QApplication::activeModalWidget();
   if (parentWidget() != parent) setParent(parent, Qt::Window);
   if (!isVisible()) move(window.screen()->availableGeometry().center() - rect().center());
-  show();  // a chapter can be scrolled to only when the text has been laid out
-  raise();
-  activateWindow();
+  look::ShowInFront(*this);  // a chapter can be scrolled to only when the text has been laid out
   GoTo(anchor);
   Browser->setFocus();
 }

@@ -12,6 +12,7 @@
 
 #include "look/Emblem.h"
 #include "look/Growth.h"
+#include "look/InFront.h"
 #include "look/LastInput.h"
 #include "look/Palettes.h"
 #include "look/Pass.h"
@@ -34,12 +35,6 @@ Qt::WindowFlags FlagsOf(Form::Kind kind) {
   const Qt::WindowFlags both = Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
   if (kind == Form::Kind::Dialog) return Qt::Dialog | both;
   return Qt::Window | both | Qt::WindowMinMaxButtonsHint;
-}
-
-// On Wayland a program cannot raise its windows, and only a new one gets the keyboard.
-bool CanOnlyComeAnew(const QWidget& window) {
-  const bool wayland = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
-  return wayland && window.isVisible() && !window.isActiveWindow();
 }
 
 QScreen* ScreenForNewWindows() {
@@ -83,11 +78,7 @@ void Form::SetPicture(const QPixmap& picture) {
 void Form::ShowModeless() {
   CentreOnce();
   setModal(false);
-  if (CanOnlyComeAnew(*this)) hide();
-  setWindowState(windowState() & ~Qt::WindowMinimized);
-  show();
-  raise();
-  activateWindow();
+  ShowInFront(*this);
 }
 
 void Form::ShowModal() {

@@ -33,8 +33,7 @@ class Form : public QDialog {
   void SetPicture(const QPixmap& picture);
   const QPixmap& Picture() const { return picture_; }
 
-  // Shows the window, centred on the screen the first time, and brings it to the front. Where the desktop
-  // lets no program do that with a window that stands there, it comes anew.
+  // Shows the window in front (look/InFront.h), centred on the screen the first time.
   void ShowModeless();
   // Shows it over the active window, which it blocks, and returns when it has been hidden.
   void ShowModal();

@@ -138,12 +138,19 @@ TEST_F(OptionsTest, F1LeadsToTheChapterOfTheWindow) {
   QWidget* const list = look::The<frmBookcase>().ListView1;
   EXPECT_FALSE(HelpOn(list));
   EXPECT_NE(answers.last().find("THORNQUILL.HLP"), std::string::npos);
+  const std::string much = "<p>" + QString(u"words "_qs).repeated(3000).toStdString();
   folder.Write("THORNQUILL.HLP",
-               "<h2><a name=\"frmAbout\">About</a></h2>needle <a href=\"#frmAbout\">first</a>"
-               "<h2><a name=\"frmBookcase\">Books</a></h2>needle <a href=\"#frmAbout\">second</a>");
+               "<h2><a name=\"frmAbout\">About</a></h2>needle <a href=\"#frmAbout\">first</a>" + much +
+                   "<h2><a name=\"frmBookcase\">Books</a></h2>needle <a href=\"#frmAbout\">second</a>" +
+                   much);
   HelpWindow* const help = HelpOn(list);
   ASSERT_TRUE(help);
   EXPECT_EQ(help->lstContents->currentItem()->text(), u"Books");
+  for (const int width : {600, 1100}) {
+    help->resize(width, help->height());
+    EXPECT_EQ(help->Browser->cursorForPosition({}).block().text().left(9), u"Books")
+        << "at the top, " << width;
+  }
   help->Browser->setSource(QUrl(u"#frmAbout"_qs));  // as a link in the text does
   EXPECT_EQ(help->lstContents->currentItem()->text(), u"About");
   EXPECT_EQ(HelpOn(list)->lstContents->currentItem()->text(), u"Books") << "the key leads back";
