@@ -25,6 +25,10 @@ constexpr QSize FrameAround(16, 48);
 constexpr int LettersOfATitle = 32;
 const QString NotFound = QStringLiteral("These words do not stand in the help.");
 
+QString KeyOf(const QKeySequence& key) {
+  return key.toString(QKeySequence::NativeText);
+}
+
 // The toolkit tells screen readers of a browser as of a label. This one is a text with a caret to them, which
 // they read along. In another size the same line stays at the top: some desktops tell a window's size only
 // after the chapter has been shown.
@@ -52,6 +56,7 @@ void DressForReading(QTextBrowser& browser) {
 }  // namespace
 
 HelpWindow::HelpWindow(const QString& html) : QWidget(nullptr, Qt::Window) {
+  look::SpeakAs(*this, QAccessible::Window);
   setObjectName(QStringLiteral("HelpWindow"));
   setWindowTitle(QStringLiteral("Thornquill Help"));
   setAttribute(Qt::WA_DeleteOnClose);
@@ -71,8 +76,9 @@ void HelpWindow::MakeControls() {
   lstContents = new QListWidget;
   Browser = new CaretBrowser;
   cmdBack->setEnabled(false);
-  cmdBack->setToolTip(QKeySequence(QKeySequence::Back).toString(QKeySequence::NativeText));
-  cmdFindNext->setToolTip(QKeySequence(Qt::Key_F3).toString(QKeySequence::NativeText));
+  cmdBack->setToolTip(KeyOf(QKeySequence::Back));
+  txtFind->setToolTip(KeyOf(QKeySequence::Find));
+  cmdFindNext->setToolTip(KeyOf(Qt::Key_F3));
   txtFind->setPlaceholderText(QStringLiteral("Find in this page"));
   txtFind->setAccessibleName(QStringLiteral("the words to find"));
   for (const auto& [control, name] :
@@ -87,6 +93,7 @@ void HelpWindow::MakeControls() {
   lstContents->setWordWrap(true);
   lstContents->setResizeMode(QListView::Adjust);
   lstContents->setAccessibleName(QStringLiteral("the chapters"));
+  look::SpeakCurrentEntry(*lstContents);
   Browser->setAccessibleName(QStringLiteral("the help text"));
   Browser->installEventFilter(this);
   Browser->setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
@@ -120,7 +127,7 @@ void HelpWindow::ConnectControls() {
   connect(lstContents, &QListWidget::currentItemChanged, this, goToItem);
   connect(lstContents, &QListWidget::itemClicked, this, goToItem);  // the marked chapter leads back as well
   connect(Browser, &QTextBrowser::sourceChanged, this,
-          [this](const QUrl& place) { MarkChapter(place.fragment()); });
+          [this](const QUrl& place) { Arrive(place.fragment()); });
   connect(txtFind, &QLineEdit::returnPressed, this, &HelpWindow::FindNext);
   connect(txtFind, &QLineEdit::textEdited, this, [this] { TellWhetherFound(true); });
   connect(cmdFindNext, &QPushButton::clicked, this, &HelpWindow::FindNext);
@@ -147,6 +154,12 @@ bool HelpWindow::HasTopic(const QString& anchor) const {
 
 void HelpWindow::GoTo(const QString& anchor) {
   Browser->setSource(QUrl(QStringLiteral("#") + anchor));
+  PutCaretAt(anchor);  // also where the window stands there already
+}
+
+// Whatever led there: the list, a link in the text, the way back, or F1.
+void HelpWindow::Arrive(const QString& anchor) {
+  MarkChapter(anchor);
   PutCaretAt(anchor);
 }
 
@@ -165,7 +178,6 @@ void HelpWindow::PutCaretAt(const QString& anchor) {
   Browser->verticalScrollBar()->setValue(scrolled);
 }
 
-// Whatever led to the chapter: the list, a link in the text, the way back, or F1.
 void HelpWindow::MarkChapter(const QString& anchor) {
   int row = lstContents->count() - 1;
   while (row >= 0 && lstContents->item(row)->data(AnchorRole) != anchor) --row;
@@ -203,7 +215,7 @@ void HelpWindow::TellWhetherFound(bool found) {
   QPalette palette;
   if (!found) palette.setColor(QPalette::Text, QColor(0xa0, 0x28, 0x28));
   txtFind->setPalette(palette);
-  txtFind->setToolTip(found ? QString() : NotFound);
+  txtFind->setToolTip(found ? KeyOf(QKeySequence::Find) : NotFound);
 }
 
 // The toolkit looks for the next link behind what is selected, and without a selection from the beginning.

@@ -38,6 +38,7 @@ class HelpWindow : public QWidget {
   void ListContents(const QString& html);
   void GoTo(const QString& anchor);
   void PutCaretAt(const QString& anchor);
+  void Arrive(const QString& anchor);
   void MarkChapter(const QString& anchor);
   void FindNext();
   void TellWhetherFound(bool found);

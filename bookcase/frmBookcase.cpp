@@ -134,6 +134,7 @@ void frmBookcase::LayOutList() {
 void frmBookcase::WearTheme() {
   SetPicture(look::CurrentTheme().large);
   cmdOpen->SetPicture(look::CurrentTheme().button);
+  cmdDelete->setToolTip(QStringLiteral("Delete"));
   for (auto* button : {cmdClose, cmdOptions, cmdAdd, cmdAbout, cmdHelp, cmdDelete, cmdProp, cmdExport})
     button->SetPicture(cmdOpen->Picture());
 }

@@ -156,6 +156,9 @@ TEST_F(OptionsTest, F1LeadsToTheChapterOfTheWindow) {
   EXPECT_EQ(HelpOn(list)->lstContents->currentItem()->text(), u"Books") << "the key leads back";
   QTest::keyClick(help->Browser, Qt::Key_Tab);
   EXPECT_EQ(help->Browser->textCursor().selectedText(), u"second") << "the chapter's first link";
+  QTest::keyClick(help->Browser, Qt::Key_Return);
+  EXPECT_LT(help->Browser->textCursor().position(), 10) << "reading goes on where the link led";
+  help->Browser->backward();
   help->txtFind->setText(u"NEEDLE"_qs);
   for (int i = 0; i < 3; ++i) Click(help->cmdFindNext);
   EXPECT_EQ(help->Browser->textCursor().selectedText(), u"needle");
