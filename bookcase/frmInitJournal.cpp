@@ -66,7 +66,7 @@ void frmInitJournal::DressWelcome() {
 }
 
 bool frmInitJournal::Complain() {
-  QWidget* toMend = txtNewPass;
+  QLineEdit* toMend = txtNewPass;
   if (txtPass->text().isEmpty()) {
     platform::ShowMessage("Please enter a name for this journal!");
     toMend = txtPass;
@@ -80,6 +80,7 @@ bool frmInitJournal::Complain() {
     return false;
   }
   toMend->setFocus();
+  toMend->selectAll();  // what is typed next takes the place of what was too long
   return true;
 }
 

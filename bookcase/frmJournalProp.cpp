@@ -180,7 +180,20 @@ void frmJournalProp::TakeFromRow() {
   ShowPaper(row.PaperColor);
   lblSamplePage->SetFont(platform::FromCodePage(row.FontName), row.FontSize, row.FontBold != False,
                          row.FontItalic != False, row.FontUnderline != False, row.FontStrikethru != False);
+  TellFont();
   lblSamplePage->SetForeColor(row.FontColor);
+}
+
+// The button's own words are the same whatever the font is.
+void frmJournalProp::TellFont() {
+  const QFont font = lblSamplePage->font();
+  QStringList words = {font.family(), QStringLiteral("%1 points").arg(font.pointSizeF())};
+  for (const auto& [is, word] : {std::pair{font.bold(), "bold"},
+                                 {font.italic(), "italic"},
+                                 {font.underline(), "underlined"},
+                                 {font.strikeOut(), "struck through"}})
+    if (is) words += QLatin1String(word);
+  cmdDefaultFont->setAccessibleDescription(words.join(QStringLiteral(", ")));
 }
 
 void frmJournalProp::ChooseIcon(int index) {
@@ -222,6 +235,7 @@ void frmJournalProp::cmdDefaultFont_Click() {
   const platform::FontValues& chosen = result.choice;
   lblSamplePage->SetFont(chosen.name, chosen.size, chosen.bold, chosen.italic, chosen.underline,
                          chosen.strikethru);
+  TellFont();
   lblSamplePage->SetForeColor(chosen.color);
 }
 

@@ -69,6 +69,7 @@ class frmJournalProp : public look::Form {
   void TakeFromRow();
   void ChooseIcon(int index);
   void ShowPaper(std::uint32_t color);
+  void TellFont();
   void WriteToRow();
   void DressJournalWindow();
 
