@@ -15,15 +15,23 @@ void Restore(QWidget& window) {
   window.raise();
 }
 
+bool IsOnWayland() {
+  return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+}
+
+// The toolkit's request for activation reads the token there. What takes none must not leave it to the
+// programs that this one starts.
+void ActivateOnWayland(QWidget& window, const ActivationToken& token) {
+  if (!token.startupId.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", token.startupId);
+  window.activateWindow();
+  qunsetenv("XDG_ACTIVATION_TOKEN");
+}
+
 void Activate(QWidget& window, const ActivationToken& token) {
   Restore(window);
-  if (xcb_connection_t* x11 = X11OfTheToolkit()) {
-    ActivateX11Window(x11, static_cast<xcb_window_t>(window.winId()), token.timestamp);
-    return;
-  }
-  // Read by the toolkit's next request for activation, which takes it away again.
-  if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland")) && !token.startupId.isEmpty())
-    qputenv("XDG_ACTIVATION_TOKEN", token.startupId);
+  if (IsOnWayland()) return ActivateOnWayland(window, token);
+  if (xcb_connection_t* x11 = X11OfTheToolkit())
+    return ActivateX11Window(x11, static_cast<xcb_window_t>(window.winId()), token.timestamp);
   window.activateWindow();
 }
 
@@ -36,11 +44,15 @@ void AskForAttentionIfNeeded(QWidget& window) {
 }  // namespace
 
 void BringToFront(QWidget& window, const ActivationToken& token) {
-  Activate(window, token);
   AskForAttentionIfNeeded(window);
   // Only the dialog that holds the window up can be answered, so it is what must be in front.
   QWidget* dialog = QApplication::activeModalWidget();
-  if (dialog && dialog != &window && dialog->isVisible()) Activate(*dialog, token);
+  const bool hasDialog = dialog && dialog != &window && dialog->isVisible();
+  if (hasDialog && IsOnWayland())
+    Restore(window);  // a token is good for one window
+  else
+    Activate(window, token);
+  if (hasDialog) Activate(*dialog, token);
 }
 
 }  // namespace platform
