@@ -66,7 +66,7 @@ def xvfb_in_session(run):
 def sweep(name, server):
     """A server that was killed leaves these."""
     server.kill(), server.wait()
-    with contextlib.suppress(OSError):
+    with contextlib.suppress(OSError, ValueError):
         if int(pathlib.Path(f"/tmp/.X{name}-lock").read_text()) != server.pid: return  # another one has taken the number
         for left in (f"/tmp/.X11-unix/X{name}", f"/tmp/.X{name}-lock"): os.unlink(left)
 
