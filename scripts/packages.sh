@@ -10,6 +10,7 @@ packages_to_fuzz="clang-14 libclang-rt-14-dev"
 packages_to_check="clang-tidy-14 cppcheck valgrind libc6-dbg"
 packages_to_image="e2fsprogs xfsprogs btrfs-progs"
 packages_to_package="dpkg-dev lintian mmdebstrap xvfb openbox xdotool xclip x11-utils"
+packages_to_travel="xfwm4 mutter weston kwin-wayland xwayland dbus-daemon python3-gi gir1.2-gtk-3.0 ibus ibus-libpinyin xclip"
 packages_to_draw="python3 python3-numpy python3-pil librsvg2-bin"
 
 # install_packages NAME...: installs those that are missing, with sudo where the user is not root.

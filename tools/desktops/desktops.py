@@ -1,93 +1,12 @@
 """scripts/desktops: one short journey with the real program on each desktop that is there, by keys and pointer from outside."""
-import contextlib, os, pathlib, re, shutil, signal, struct, subprocess, sys, tempfile, time
+import contextlib, os, pathlib, shutil, signal, struct, subprocess, sys, tempfile, time
 
 import diary
-from displays import become_ordinary, started, sweep, wait_for
-
-PATIENCE = 20  # seconds for what must come
-STILL = 0.8    # seconds without a change, after which what came has come
-PROGRAM = diary.PROGRAM
-MAGENTA, WHITE = b"\xff\x00\xff", b"\xff\xff\xff"  # no theme has either
+from displays import started, wait_for
+from screen import MAGENTA, PATIENCE, Miss, changed, screen
 
 
 # The desktops: each is a window of one virtual screen, whose keys and pointer are the person's.
-
-class Screen:
-    def __init__(self, number, pixels):
-        self.number, self.pixels = number, pixels
-
-    def rows(self):
-        """Three bytes a pixel."""
-        data = self.pixels.read_bytes()
-        header = struct.unpack(">25I", data[:100])
-        begin, (width, height, line) = header[0] + 12 * header[19], (header[4], header[5], header[12])
-        return [three_of_four(data[begin + row * line:begin + row * line + 4 * width]) for row in range(height)]
-
-    def hand(self, *orders):
-        subprocess.run(["xdotool", *map(str, orders)], check=True, env=os.environ | {"DISPLAY": self.number})
-
-    def give_keys_to_its_window(self):
-        """Nobody manages the windows of this screen, and a desktop in one may wait for the keys and the pointer to come to it."""
-        tree = subprocess.run(["xwininfo", "-display", self.number, "-root", "-children"], capture_output=True, text=True).stdout
-        for window in re.findall(r"^ +(0x\w+) .*? (?:1280x1000|1280x1024)\+", tree, re.M): self.hand("windowfocus", window)
-        self.point(600, 500), self.point(640, 900)
-
-    def type(self, text): self.hand("type", "--delay", 12, "--", text)
-    def press(self, *keys): self.hand("key", "--delay", 30, *keys)
-    def point(self, x, y): self.hand("mousemove", x, y)
-
-    def stands_still(self, but=40):
-        """When no more rows change than a blinking caret has."""
-        last, since = self.rows(), time.monotonic()
-        until = since + PATIENCE
-        while time.monotonic() < min(since + STILL, until):
-            time.sleep(0.05)
-            now = self.rows()
-            if changed(last, now) > but: last, since = now, time.monotonic()
-
-    def await_change(self, what, act, more_than=90):
-        """A window that comes or goes changes many rows."""
-        before = self.rows()
-        act()
-        try: wait_for(lambda: changed(before, self.rows()) > more_than, PATIENCE)
-        except TimeoutError: raise Miss(what) from None
-        self.stands_still()
-
-    def box_of(self, color, least=40):
-        """Left, top, right and bottom of what is so coloured in a run of so many pixels."""
-        found = [(top, row.find(color * least) // 3, row.rfind(color) // 3) for top, row in enumerate(self.rows()) if color * least in row]
-        if not found: return None
-        return min(left for _, left, _ in found), found[0][0], max(right for *_, right in found) + 1, found[-1][0] + 1
-
-    def at(self, x, y): return self.rows()[y][3 * x:3 * x + 3]
-
-    def white_spot(self, size=30):
-        """Paper that nothing covers and nothing is written on: the lowest there is."""
-        run, rows = WHITE * size, self.rows()
-        for top in range(len(rows) - size, 0, -8):
-            for left in range(0, len(rows[top]) // 3 - size, 8):
-                if all(row.startswith(run, 3 * left) for row in rows[top:top + size]): return left + size // 2, top + size // 2
-        raise Miss("white paper to click on")
-
-def three_of_four(row):
-    short = bytearray(len(row) // 4 * 3)
-    for part in range(3): short[part::3] = row[part::4]
-    return bytes(short)
-
-def changed(before, now): return sum(one != other for one, other in zip(before, now))
-
-class Miss(Exception):
-    """What did not come."""
-
-@contextlib.contextmanager
-def screen(run):
-    number, end = os.pipe()
-    with open(number) as answer, started("Xvfb", "-displayfd", str(end), "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-fbdir", str(run),
-                                         pass_fds=[end]) as server:
-        os.close(end)
-        name = answer.readline().strip()
-        try: yield Screen(f":{name}", run / "Xvfb_screen0"), server
-        finally: sweep(name, server)
 
 class Desktop:
     """A session: its command, the packages' programs that it needs, and how the program is started in it."""
@@ -97,7 +16,7 @@ class Desktop:
 
     def obstacle(self):
         missing = [tool for tool in self.tools if not shutil.which(tool)]
-        return missing and f"{missing[0]} is missing" or (self.name.startswith("sway") and not os.getuid() and "sway does not serve root") or None
+        return missing and f"{missing[0]} is missing" or ("sway" in self.name and not os.getuid() and "sway does not serve root") or None
 
     @contextlib.contextmanager
     def session(self, run, desk):
@@ -105,7 +24,7 @@ class Desktop:
         outer = {"DISPLAY": desk.number, "XDG_RUNTIME_DIR": str(run), "HOME": str(run), "XDG_CONFIG_HOME": str(run / ".config")}
         furnish(run)
         names = lambda: sorted(path.name for path in run.glob("wayland-*") if path.is_socket())
-        with started(*[word.format(run=run) for word in self.command], **outer, **self.variables) as self.server, contextlib.ExitStack() as end:
+        with started(*[word.format(run=run, **outer) for word in self.command], **outer, **self.variables) as self.server, contextlib.ExitStack() as end:
             end.callback(lambda: self.all_get(signal.SIGKILL))
             desk.point(640, 900)
             if not self.wayland:
@@ -135,6 +54,7 @@ def manager_of(desk):
 def furnish(run):
     (run / "weston").write_text("[shell]\nanimation=none\nclose-animation=none\nstartup-animation=none\nlocking=false\n")
     (run / "sway").write_text("output * resolution 1280x1000\ninput type:keyboard repeat_delay 20000\nexec echo $DISPLAY > %s/xwayland\n" % run)
+    (run / "following").write_text((run / "sway").read_text() + "focus_on_window_activation smart\n")
     strict = run / ".config/xfce4/xfconf/xfce-perchannel-xml"
     strict.mkdir(parents=True)
     (strict / "xfwm4.xml").write_text('<?xml version="1.0"?><channel name="xfwm4" version="1.0"><property name="general" type="empty">'
@@ -147,10 +67,12 @@ DESKTOPS = [
     Desktop("xfwm4, keeping the focus", ["xfwm4", "xprop", "dbus-run-session"], ["dbus-run-session", "xfwm4", "--compositor=off"], False),
     Desktop("sway", ["sway"], SWAY, True, NESTED),
     Desktop("sway, XWayland", ["sway", "Xwayland"], SWAY, True, NESTED, "xcb"),
+    Desktop("following sway", ["sway"], ["sway", "--config", "{run}/following"], True, NESTED),
     Desktop("GNOME's compositor", ["mutter", "dbus-run-session"], ["dbus-run-session", "mutter", "--nested", "--wayland"], True,
             {"MUTTER_DEBUG_DUMMY_MODE_SPECS": "1280x1000"}),
     Desktop("weston", ["weston"], ["weston", "--config={run}/weston", "--backend=x11-backend.so", "--use-pixman", "--width=1280", "--height=1000"], True),
-    Desktop("KWin", ["kwin_wayland", "dbus-run-session"], ["dbus-run-session", "kwin_wayland", "--x11-display", "{DISPLAY}"], True),
+    Desktop("KWin", ["kwin_wayland", "dbus-run-session"], ["dbus-run-session", "kwin_wayland", "--x11-display", "{DISPLAY}", "--width", "1280",
+                                                               "--height", "1000", "--no-lockscreen", "--no-global-shortcuts"], True, {"KWIN_COMPOSE": "Q"}),
 ]
 
 
@@ -255,8 +177,49 @@ class Journey:
         try: told = second.communicate(timeout=PATIENCE)[1]
         except subprocess.TimeoutExpired: raise Miss("the end of the second start") from None
         if second.returncode: raise Miss(f"the second start's good end, and it was {second.returncode}")
+        in_front = self.has_keys("w5")
+        if in_front == ("asks for your attention" in told): raise Miss("in front" if not in_front else "no word, since it is in front")
+        return "in front" if in_front else "asks, and says so"
+
+    def launched(self):
+        """By a launcher that has the keys, and hands on what the desktop gives it for the press; then once more over an open dialog."""
+        if subprocess.run([sys.executable, "-c", "import gi; gi.require_version('Gtk', '3.0')"], stderr=subprocess.DEVNULL).returncode:
+            return "no launcher"
+        for has_dialog in (False, True):
+            if has_dialog: self.desk.await_change("the calendar", lambda: self.command("Cal"))
+            self.desk.await_change("the window of the launcher", lambda: setattr(self, "other", self.start_launcher()))
+            self.desk.press("Return")
+            try: wait_for(lambda: "ended 0" in self.log.read_text(), PATIENCE)
+            except TimeoutError: raise Miss(f"the second start's good end, and the launcher says {self.log.read_text()!r}") from None
+            self.desk.stands_still()
+            in_front = self.escape_closes_dialog() if has_dialog else self.has_keys("w6")
+            where = "over a dialog" if has_dialog else "over the page"
+            if in_front == ("asks for your attention" in self.log.read_text()): raise Miss(f"{where}, to be in front or to ask, one of them")
+            if not in_front: return "asks over a dialog" if has_dialog else "asks, and says so"
+        return "in front"
+
+    @property
+    def log(self): return self.run / "launcher.log"
+
+    def start_launcher(self):
+        command = [sys.executable, pathlib.Path(__file__).with_name("launcher.py"), self.folder / "thornquill"]
+        with open(self.log, "w") as log: return subprocess.Popen(command, env=self.session | {"PATH": os.environ["PATH"]}, stdout=log, stderr=log)
+
+    def escape_closes_dialog(self):
+        """Then it had the keys. The other window goes, and the journal is there alone."""
+        before = self.desk.rows()
+        self.desk.press("Escape")
         self.desk.stands_still()
-        self.desk.type("w5 ")
+        closed = changed(before, self.desk.rows()) > 90
+        self.other.kill(), self.other.wait()
+        self.desk.stands_still()
+        if not closed: self.desk.await_change("the journal without the calendar", lambda: self.desk.press("Escape"))
+        return closed
+
+    def has_keys(self, word):
+        """What is typed tells it, when the other window is gone and the page is stored."""
+        self.desk.stands_still()
+        self.desk.type(f"{word} ")
         self.other.kill(), self.other.wait()
         self.desk.stands_still()
         self.desk.point(*self.desk.white_spot())
@@ -264,20 +227,18 @@ class Journey:
         self.desk.stands_still()
         self.desk.await_change("the index", lambda: self.command("Index"))
         self.desk.await_change("the journal without the index", lambda: self.desk.press("Escape"))
-        in_front = "w5" in self.pages()[1]
-        if in_front == ("asks for your attention" in told): raise Miss("in front" if not in_front else "no word, since it is in front")
-        return "in front" if in_front else "asks, and says so"
+        return word in self.pages()[1]
 
     def logged_out(self):
-        self.desk.type("w6 ")
+        self.desk.type("w8 ")
         time.sleep(0.5)
         self.desktop.log_out(self.server)
         try: self.program.wait(PATIENCE)
         except subprocess.TimeoutExpired: raise Miss("the end of the program") from None
-        if "w6" not in self.pages()[1]: raise Miss(f"the unstored word, and there is {self.pages()}")
+        if "w8" not in self.pages()[1]: raise Miss(f"the unstored word, and there is {self.pages()}")
 
     STEPS = {"first start": first_start, "pages": pages_written, "index": index_behind, "drag": photograph_dragged, "print": printed_to_a_file,
-             "second start": second_start, "logout": logged_out}
+             "second start": second_start, "launcher": launched, "logout": logged_out}
 
 def miss(what): raise Miss(what)
 
@@ -286,30 +247,30 @@ def picture(path, width, height):
     path.write_bytes(b"BM" + struct.pack("<IIIIiiHHIIiiII", 54 + size, 0, 54, 40, width, height, 1, 24, 0, size, 2835, 2835, 0, 0)
                      + b"\xff\x00\xff" * (width * height))
 
-def travel(desktop, album):
+def travel(desktop, journey, album):
     """A desktop that does not come up is no matter of the program: it is started anew, twice at most."""
     for _ in range(3):
-        if cells := travel_once(desktop, album): return cells
-    return {"first start": "the desktop did not start"}
+        if cells := travel_once(desktop, journey, album): return cells
+    return {next(iter(journey.STEPS)): "the desktop did not start"}
 
-def travel_once(desktop, album):
+def travel_once(desktop, journey, album):
     """A cell for each step, the first miss in words; what comes behind it was not tried. None: there was no desktop."""
     cells = {}
     with tempfile.TemporaryDirectory(prefix="desktops-") as top, contextlib.ExitStack() as life:
         run = pathlib.Path(top)
         desk, server = life.enter_context(screen(run))
-        try: journey = Journey(desktop, desk, server, run, life.enter_context(desktop.session(run, desk)))
+        try: person = journey(desktop, desk, server, run, life.enter_context(desktop.session(run, desk)))
         except TimeoutError: return None
         try:
-            for step, act in Journey.STEPS.items():
-                try: cells[step] = act(journey) or "yes"
+            for step, act in journey.STEPS.items():
+                try: cells[step] = act(person) or "yes"
                 except (Miss, TimeoutError, subprocess.CalledProcessError) as miss:
                     cells[step] = f"NO: expected {miss}"
                     if album: save(desk, album / f"{desktop.name.split()[0].strip(',')}-{step.replace(' ', '-')}.ppm")
                     break
         finally:
             for name in ("program", "other"):
-                if process := getattr(journey, name, None): process.kill(), process.wait()
+                if process := getattr(person, name, None): process.kill(), process.wait()
     return cells
 
 def save(desk, path):
@@ -318,16 +279,17 @@ def save(desk, path):
         body = b"".join(bytes(value for at in range(0, len(row), 3) for value in row[at:at + 3][::-1]) for row in rows)
         path.write_bytes(f"P6 {len(rows[0]) // 3} {len(rows)} 255\n".encode() + body)
 
-def desktops(*names):
-    become_ordinary()
+def table(desktops, journey, names):
+    """A row for each desktop, or for those alone that are called so."""
+    chosen = [each for each in desktops if not names or any(each.name.startswith(name) for name in names)]
     album = pathlib.Path(os.environ["DESKTOPS_ALBUM"]) if "DESKTOPS_ALBUM" in os.environ else None
-    failed, columns = 0, list(Journey.STEPS)
-    print(f"{'':26}", *(f"{step:17}" for step in columns), flush=True)
-    for desktop in [each for each in DESKTOPS if not names or any(each.name.startswith(name) for name in names)]:
+    failed, columns = 0, list(journey.STEPS)
+    if chosen: print(f"{'':26}", *(f"{step:17}" for step in columns), flush=True)
+    for desktop in chosen:
         if why := desktop.obstacle():
             print(f"{desktop.name:26} skipped, {why}", flush=True)
             continue
-        cells = travel(desktop, album)
+        cells = travel(desktop, journey, album)
         print(f"{desktop.name:26}", *(f"{cells.get(step, '-'):17}" for step in columns), flush=True)
         failed += any(cell.startswith("NO") or "did not" in cell for cell in cells.values())
     return failed
