@@ -15,6 +15,7 @@ class AsideText {
   // Whether the text of such a group comes here.
   static bool IsFor(Destination destination) {
     switch (destination) {
+      case Destination::Generator:
       case Destination::Label:
       case Destination::FieldInstruction:
       case Destination::ListLevelText:
@@ -29,7 +30,8 @@ class AsideText {
 
   // Whether such a text is made of words and not of what a page shows.
   static bool IsWords(Destination destination) {
-    return destination == Destination::FieldInstruction || destination == Destination::ShapeName;
+    return destination == Destination::FieldInstruction || destination == Destination::ShapeName ||
+           destination == Destination::Generator;
   }
 
   void Begin() { text_.clear(); }

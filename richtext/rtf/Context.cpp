@@ -50,6 +50,8 @@ void Context::Finish(Destination ended) {
     case Destination::ShapeName:
       shapes_.SetPropertyName(aside_.Text());
       return;
+    case Destination::Generator:
+      return styles_.SetGenerator(aside_.Text());
     case Destination::Label:
       label_.Read(aside_.Text());
       return;

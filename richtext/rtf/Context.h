@@ -32,6 +32,7 @@
 #include "richtext/rtf/PictureReader.h"
 #include "richtext/rtf/RowWords.h"
 #include "richtext/rtf/ShapeState.h"
+#include "richtext/rtf/StyleSheet.h"
 #include "richtext/rtf/TextDecoder.h"
 #include "richtext/rtf/WrittenLabel.h"
 
@@ -50,6 +51,7 @@ class Context {
   ShapeState& Shapes() { return shapes_; }
   RowWords& Rows() { return rows_; }
   ParagraphFormats& Paragraphs() { return paragraphs_; }
+  StyleSheet& Styles() { return styles_; }
   Numbering& NumberingInHand() { return numbering_; }
 
   std::size_t Depth() const { return groups_.Depth(); }
@@ -69,6 +71,8 @@ class Context {
   ParagraphState& ChangeParagraph();
   void SetFont(std::int32_t number);
   void ResetCharacter();
+  // The paragraph is of this style; nothing where its writer tells all formats anyway.
+  void SetStyle(std::int32_t number);
 
   // Text, into the destination in force.
   void PutBytes(std::string_view bytes);
@@ -112,6 +116,7 @@ class Context {
   std::uint32_t ParagraphNumber(ParagraphState paragraph);
   std::uint32_t ParagraphNumber();
   void ClaimText();
+  StyleSheet::Formats FormatsOfStyle(std::int32_t number);
 
   // What the groups and the tables tell.
   GroupStack groups_;
@@ -119,6 +124,7 @@ class Context {
   ColorTable colors_;
   DocumentCodePage page_;
   ParagraphFormats paragraphs_;
+  StyleSheet styles_;
   Links links_;
 
   // What is in hand: begun by a group, and used where that, its paragraph or the group around it ends.

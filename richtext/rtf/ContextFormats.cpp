@@ -28,6 +28,31 @@ void Context::ResetCharacter() {
   State().character.link = link;  // what a field is does not hang on its look
 }
 
+// Made as the words would make it in a group that has no text.
+StyleSheet::Formats Context::FormatsOfStyle(std::int32_t number) {
+  if (const StyleSheet::Formats* const known = styles_.Known(number)) return *known;
+  const GroupState before = State();
+  State() = GroupState();
+  State().destination = Destination::StyleSheet;
+  for (const StyleSheet::Step& step : styles_.StepsOf(number))
+    step.word->handle(*this, step.word->argument, step.parameter);
+  const StyleSheet::Formats formats{State().character, State().paragraph};
+  State() = before;
+  styles_.Keep(number, formats);
+  return formats;
+}
+
+void Context::SetStyle(std::int32_t number) {
+  if (!styles_.Counts() || State().destination != Destination::Body) return;
+  const StyleSheet::Formats formats = FormatsOfStyle(number);
+  const std::uint32_t link = State().character.link;
+  const bool inTable = State().paragraph.inTable;
+  ChangeCharacter() = formats.character;
+  State().character.link = link;
+  ChangeParagraph() = formats.paragraph;
+  State().paragraph.inTable = inTable;
+}
+
 std::uint32_t Context::FormatNumberOf(const CharacterState& state) {
   CharacterState shown = state;
   if (note_.IsOpen()) shown.halfPoints = std::min(shown.halfPoints, NoteText::MostHalfPoints);

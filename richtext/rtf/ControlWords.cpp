@@ -102,6 +102,8 @@ constexpr ControlWord KnownWords[] = {
     WordOf("ulthdashdd", Underline, UnderlineKind::DashDotDot, On),
 
     Word("pard", ParagraphDefault),
+    Word("s", StyleOfParagraph),
+    Word("sbasedon", Transparent),
     WordOf("ql", Align, Alignment::Left),
     WordOf("qr", Align, Alignment::Right),
     WordOf("qc", Align, Alignment::Center),
@@ -155,6 +157,8 @@ constexpr ControlWord KnownWords[] = {
     Sent("fonttbl", Destination::FontTable),
     Sent("colortbl", Destination::ColorTable),
     Sent("upr", Destination::Discard),
+    Sent("stylesheet", Destination::StyleSheet),
+    Aside("generator", Destination::Generator),
     {"ud", UnicodeTwin, 0, 0, WordKind::Destination},
     {"pict", PictureGroup, 0, 0, WordKind::Destination},
     Sent("listtable", Destination::ListTable),
@@ -190,17 +194,29 @@ constexpr ControlWord KnownWords[] = {
 };
 
 // Groups that are passed over, which many write without "\*".
-constexpr std::string_view SkippedNames[] = {
-    "annotation", "background",   "bkmkend",  "bkmkstart",     "blipuid",      "colorschememapping",
-    "datafield",  "datastore",    "docvar",   "falt",          "filetbl",      "fname",
-    "footer",     "footerf",      "footerl",  "footerr",       "generator",    "header",
-    "headerf",    "headerl",      "headerr",  "info",          "latentstyles",
+constexpr std::string_view SkippedNames[] = {"annotation",  "background",
+                                             "bkmkend",     "bkmkstart",
+                                             "blipuid",     "colorschememapping",
+                                             "datafield",   "datastore",
+                                             "docvar",      "falt",
+                                             "filetbl",     "fname",
+                                             "footer",      "footerf",
+                                             "footerl",     "footerr",
+                                             "header",      "headerf",
+                                             "headerl",     "headerr",
+                                             "info",        "latentstyles",
 
-    "mmath",      "levelnumbers", "listname", "liststylename", "listpicture",  "nonesttables",
-    "objclass",   "objdata",      "objname",  "panose",        "pgptbl",       "picprop",
+                                             "mmath",       "levelnumbers",
+                                             "listname",    "liststylename",
+                                             "listpicture", "nonesttables",
+                                             "objclass",    "objdata",
+                                             "objname",     "panose",
+                                             "pgptbl",      "picprop",
 
-    "private",    "revtbl",       "rsidtbl",  "stylesheet",    "tc",           "template",
-    "themedata",  "xe",           "xmlnstbl"};
+                                             "private",     "revtbl",
+                                             "rsidtbl",     "tc",
+                                             "template",    "themedata",
+                                             "xe",          "xmlnstbl"};
 
 constexpr std::size_t WordCount = std::size(KnownWords) + std::size(tables::Words) + std::size(SkippedNames);
 

@@ -16,6 +16,8 @@ enum class Destination : std::uint8_t {
   FontTable,
   ColorTable,
   ListTable,
+  StyleSheet,
+  Generator,
   ListLevelText,
   Numbering,
   NumberingBefore,

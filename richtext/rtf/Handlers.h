@@ -149,6 +149,10 @@ inline void ParagraphDefault(Context& context, Number, Number) {
   context.ChangeParagraph() = ParagraphState();
 }
 
+inline void StyleOfParagraph(Context& context, Number, Number number) {
+  context.SetStyle(number);
+}
+
 inline void Align(Context& context, Number alignment, Number) {
   context.ChangeParagraph().alignment = static_cast<Alignment>(alignment);
 }

@@ -95,7 +95,10 @@ void Reader::TakeWord(const Token& token, bool ignorable) {
   if (!names && context_.State().destination == Destination::Picture)
     return context_.PictureInHand().TakeWord(token.text, token.hasParameter, token.parameter);
   if (word == nullptr) return;
-  word->handle(context_, word->argument, token.hasParameter ? token.parameter : word->whenAbsent);
+  const std::int32_t parameter = token.hasParameter ? token.parameter : word->whenAbsent;
+  if (!names && context_.State().destination == Destination::StyleSheet)
+    return context_.Styles().Take(*word, parameter);
+  word->handle(context_, word->argument, parameter);
   if (token.text == "u") fallbackLeft_ = context_.State().fallbackLength;
 }
 
