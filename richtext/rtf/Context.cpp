@@ -19,7 +19,9 @@ void Context::EndGroup() {
   decoder_.DropLeadByte();
   const bool skipped = Skipping();
   const Destination ended = State().destination;
-  if (const std::int32_t sign = sign_.TakeAtEnd(Depth(), builder_.Text().size())) PutUnicode(sign);
+  const FieldSign::Shown shown = sign_.TakeAtEnd(Depth(), builder_.Text().size());
+  if (shown.number != 0) PutUnicode(shown.number);
+  for (const char16_t unit : shown.words) PutCharacter(unit);
   if (!skipped && ended == Destination::FontTable) fonts_.EndGroup(Depth());
   if (!skipped && AsideText::IsFor(ended)) decoder_.EndText(aside_.Text());
   if (note_.EndsAt(Depth())) EndNote();
@@ -75,7 +77,8 @@ void Context::FinishNumbering() {
 void Context::FinishInstruction() {
   const std::string instruction = ToUtf8(aside_.Text());
   State().fieldLink = links_.NumberOf(LinkOfInstruction(instruction));
-  sign_.Await(SignOfInstruction(instruction), Depth(), builder_.Text().size());
+  sign_.Await({SignOfInstruction(instruction), ToUtf16(ButtonOfInstruction(instruction))}, Depth(),
+              builder_.Text().size());
 }
 
 // The picture stands in the group around it.

@@ -1,8 +1,9 @@
-// The sign that a field's instruction tells, of a symbol font for instance.
+// What a field shows by its instruction: a sign, of a symbol font for instance, or the words on a button.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <utility>
 
 namespace richtext::rtf {
@@ -12,23 +13,28 @@ namespace richtext::rtf {
 // place.
 class FieldSign {
  public:
-  // The instruction has told a number for \u, or 0 for none. `depth` is that of the field's group, `place`
-  // the length of the document's text so far.
-  void Await(std::int32_t number, std::size_t depth, std::size_t place) {
-    number_ = number;
+  struct Shown {
+    std::int32_t number = 0;  // for \u; 0: no sign
+    std::u16string words;
+  };
+
+  // The instruction has told it. `depth` is that of the field's group, `place` the length of the document's
+  // text so far.
+  void Await(Shown shown, std::size_t depth, std::size_t place) {
+    shown_ = std::move(shown);
     depth_ = depth;
     place_ = place;
   }
 
-  // The group at `depth` ends: the number of the sign that is to be shown in it, or 0.
-  std::int32_t TakeAtEnd(std::size_t depth, std::size_t place) {
-    if (number_ == 0 || depth_ != depth) return 0;
-    const std::int32_t number = std::exchange(number_, 0);
-    return place_ == place ? number : 0;
+  // The group at `depth` ends: what is to be shown in it.
+  Shown TakeAtEnd(std::size_t depth, std::size_t place) {
+    if ((shown_.number == 0 && shown_.words.empty()) || depth_ != depth) return {};
+    Shown shown = std::exchange(shown_, {});
+    return place_ == place ? shown : Shown();
   }
 
  private:
-  std::int32_t number_ = 0;
+  Shown shown_;
   std::size_t depth_ = 0;
   std::size_t place_ = 0;
 };

@@ -15,6 +15,8 @@ class FieldWords {
   bool Next();
   // Whether the word is this name, which is in capitals; letters count in any case.
   bool Is(std::string_view name) const;
+  // What follows the word, as it stands there.
+  std::string_view Rest() const { return rest_; }
 
   std::string word;
   bool isSwitch = false;  // a backslash and a letter

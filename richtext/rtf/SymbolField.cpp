@@ -44,4 +44,11 @@ std::int32_t SignOfInstruction(std::string_view instruction) {
   return number > ' ' && number <= 0xFFFF ? SignOf(number, *page) : 0;
 }
 
+std::string_view ButtonOfInstruction(std::string_view instruction) {
+  FieldWords words(instruction);
+  if (!words.Next() || !words.Is("MACROBUTTON") || !words.Next()) return {};
+  const std::size_t begin = words.Rest().find_first_not_of(' ');
+  return begin == std::string_view::npos ? std::string_view() : words.Rest().substr(begin);
+}
+
 }  // namespace richtext::rtf
