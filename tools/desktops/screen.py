@@ -77,9 +77,10 @@ class Miss(Exception):
 
 @contextlib.contextmanager
 def screen(run):
+    """It lives on without clients: each that asks whether a desktop is there would else begin it anew, and the desktop would not come."""
     number, end = os.pipe()
-    with open(number) as answer, started("Xvfb", "-displayfd", str(end), "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-fbdir", str(run),
-                                         pass_fds=[end]) as server:
+    with open(number) as answer, started("Xvfb", "-displayfd", str(end), "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset",
+                                         "-fbdir", str(run), pass_fds=[end]) as server:
         os.close(end)
         name = answer.readline().strip()
         try: yield Screen(f":{name}", run / "Xvfb_screen0"), server

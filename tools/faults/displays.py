@@ -64,11 +64,13 @@ def xvfb_in_session(run):
         finally: session.kill()
 
 def sweep(name, server):
-    """A server that was killed leaves these."""
-    server.kill(), server.wait()
-    with contextlib.suppress(OSError, ValueError):
-        if int(pathlib.Path(f"/tmp/.X{name}-lock").read_text()) != server.pid: return  # another one has taken the number
-        for left in (f"/tmp/.X11-unix/X{name}", f"/tmp/.X{name}-lock"): os.unlink(left)
+    """Ends it, with its socket, which one that was killed leaves. It has no lock: what is called so is another server's."""
+    server.terminate()
+    try: server.wait(GONE_WITHIN)
+    except subprocess.TimeoutExpired: server.kill(), server.wait()
+    socket_file = pathlib.Path(f"/tmp/.X11-unix/X{name}")
+    with contextlib.suppress(OSError):
+        if not listens(socket_file): socket_file.unlink()  # another one may have taken the number
 
 
 class Proxy:
