@@ -182,7 +182,12 @@ void HelpWindow::MarkChapter(const QString& anchor) {
   int row = lstContents->count() - 1;
   while (row >= 0 && lstContents->item(row)->data(AnchorRole) != anchor) --row;
   const QSignalBlocker noWayBack(lstContents);
-  if (lstContents->currentRow() != row) lstContents->setCurrentRow(row);
+  if (lstContents->currentRow() == row) return;
+  QSignalBlocker silent(lstContents->selectionModel());  // or the toolkit tells that the keyboard is there
+  if (lstContents->hasFocus()) silent.unblock();
+  lstContents->setCurrentRow(row);
+  lstContents->scrollToItem(lstContents->currentItem());
+  lstContents->viewport()->update();
 }
 
 void HelpWindow::ShowTopic(const QString& anchor, const QWidget& window) {

@@ -1,4 +1,8 @@
 // The settings from their file to the windows and back, and the help.
+#include <QtGui/private/qguiapplication_p.h>
+#include <QtGui/qpa/qplatformaccessibility.h>
+#include <QtGui/qpa/qplatformintegration.h>
+
 #include "app/Help.h"
 #include "app/HelpWindow.h"
 #include "app/Settings.h"
@@ -151,7 +155,16 @@ TEST_F(OptionsTest, F1LeadsToTheChapterOfTheWindow) {
     EXPECT_EQ(help->Browser->cursorForPosition({}).block().text().left(9), u"Books")
         << "at the top, " << width;
   }
+  QPlatformAccessibility& bridge = *QGuiApplicationPrivate::platformIntegration()->accessibility();
+  bridge.setActive(true);
+  static int listsTold = 0;
+  const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+    listsTold += event->type() == QAccessible::Focus && qobject_cast<QListWidget*>(event->object());
+  });
   help->Browser->setSource(QUrl(u"#frmAbout"_qs));  // as a link in the text does
+  EXPECT_EQ(listsTold, 0) << "the keys are in the text";
+  QAccessible::installUpdateHandler(before);
+  bridge.setActive(false);
   EXPECT_EQ(help->lstContents->currentItem()->text(), u"About");
   EXPECT_EQ(HelpOn(list)->lstContents->currentItem()->text(), u"Books") << "the key leads back";
   QTest::keyClick(help->Browser, Qt::Key_Tab);
