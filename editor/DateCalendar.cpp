@@ -20,6 +20,7 @@
 #include "look/PaperStyle.h"
 #include "look/PixelGrid.h"
 #include "look/Spoken.h"
+#include "look/SpokenChoice.h"
 #include "look/Theme.h"
 #include "platform/Dates.h"
 
@@ -82,6 +83,7 @@ DateCalendar::DateCalendar(QWidget* parent) : QCalendarWidget(parent) {
   setDateEditEnabled(false);  // it would start from today and not from the date that stands here
   setFont(QFont(QStringLiteral("Verdana")));
   auto* days = findChild<QTableView*>();
+  look::SpeakChoice(*days, {});
   days->setAccessibleName(QStringLiteral("the days of the month"));
   auto* style = new TwoClickStyle;
   style->setParent(this);
@@ -93,6 +95,7 @@ DateCalendar::DateCalendar(QWidget* parent) : QCalendarWidget(parent) {
   connect(this, &QCalendarWidget::activated, this, &DateCalendar::DblClick);
   connect(this, &QCalendarWidget::currentPageChanged, this, &DateCalendar::FollowMonth);
   connect(this, &QCalendarWidget::selectionChanged, this, &DateCalendar::TellDate);
+  TellDate();
 }
 
 // Month and year can be changed without a mouse, too: the toolkit keeps the keyboard out of its buttons.
@@ -126,9 +129,11 @@ void DateCalendar::FollowMonth(int year, int month) {
   setSelectedDate(first.addDays(std::min(selectedDate().day(), first.daysInMonth()) - 1));
 }
 
-// The toolkit says the number of the day alone.
+// The toolkit tells of a table of numbers, of which Orca reads whole rows.
 void DateCalendar::TellDate() const {
-  if (isVisible()) look::Announce(locale().toString(selectedDate(), QLocale::LongFormat));
+  const QString date = locale().toString(selectedDate(), QLocale::LongFormat);
+  look::SpeakChoice(*focusProxy(), date);
+  if (isVisible() && !focusProxy()->hasFocus()) look::Announce(date);
 }
 
 double DateCalendar::Value() const {

@@ -175,11 +175,7 @@ void PageFace::TellPictureAtCaret() {
   if (next.hasSelection()) return;
   next.movePosition(QTextCursor::NextCharacter);
   const QTextImageFormat picture = next.charFormat().toImageFormat();
-  const bool stands = picture.isValid() && next.position() != txtM->textCursor().position();
-  if (!stands && !toldPicture_) return;
-  look::Announce({});  // so that a second one is told as well
-  toldPicture_ = stands;
-  if (!stands) return;
+  if (!picture.isValid() || next.position() == txtM->textCursor().position()) return;
   look::Announce(QStringLiteral("Picture, %1 by %2 pixels")
                      .arg(picture.width(), 0, 'f', 0)
                      .arg(picture.height(), 0, 'f', 0));

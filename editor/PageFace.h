@@ -63,7 +63,6 @@ class PageFace : public QWidget {
   void TellPictureAtCaret();
 
   int headHeight_ = 870;
-  bool toldPicture_ = false;  // the last thing that was said at the caret
 };
 
 // The face of the one journal window, which must be loaded.

@@ -1,9 +1,11 @@
 #include "editor/frmEmoticons.h"
 
 #include <algorithm>
+#include <chrono>
 
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QTimer>
 #include <QtGui/QClipboard>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
@@ -12,6 +14,7 @@
 #include "editor/EmoticonPicture.h"
 #include "editor/PageFace.h"
 #include "look/Growth.h"
+#include "look/Spoken.h"
 #include "platform/Colors.h"
 #include "platform/Failure.h"
 #include "platform/desktop/Keystroke.h"
@@ -26,6 +29,7 @@ constexpr int Columns = 10;
 constexpr int ColumnLeft[Columns] = {195, 690, 1185, 1680, 2175, 2670, 3165, 3660, 4155, 4650};
 constexpr int RowTop[] = {270, 780, 1290, 1785, 2265, 2760};  // uneven, and kept so
 constexpr int ScreenSize = 60;
+constexpr std::chrono::milliseconds UntilItIsSaid{600};
 constexpr QSize LargestOnAButton{28, 26};  // pixels of the design; anything larger is shown smaller
 
 // The toolkit enlarges no icon.
@@ -186,6 +190,8 @@ void frmEmoticons::cmdPage_Click() {
   if (page == caption.mid(8, 2).toInt()) page = 0;
   cmdPage->setText(PageCaption(page + 1, CountPages()));
   ShowScreen(page * ScreenSize);
+  // Behind the names of all the pictures, among which Orca would pass over it.
+  QTimer::singleShot(UntilItIsSaid, this, [this] { look::Announce(cmdPage->text()); });
 }
 
 // The text box's own paste puts the picture at the caret, once the picker is gone.

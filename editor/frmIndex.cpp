@@ -48,6 +48,8 @@ frmIndex::frmIndex()
 
   SetPicture(look::CurrentTheme().large);
   for (auto* button : {cmdClose, cmdGoDate, cmdHelp}) button->SetPicture(look::CurrentTheme().button);
+  connect(TreeView1, &QTreeWidget::itemExpanded, this, [] { look::Announce(QStringLiteral("expanded")); });
+  connect(TreeView1, &QTreeWidget::itemCollapsed, this, [] { look::Announce(QStringLiteral("collapsed")); });
   connect(cmdGoDate, &QPushButton::clicked, this, &frmIndex::cmdGoDate_Click);
   connect(cmdClose, &QPushButton::clicked, this, &frmIndex::CloseBox);
   connect(cmdHelp, &QPushButton::clicked, this, [] { platform::SendKey(Qt::Key_F1); });

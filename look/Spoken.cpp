@@ -1,6 +1,5 @@
 #include "look/Spoken.h"
 
-#include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QApplication>
@@ -33,27 +32,17 @@ QAccessibleInterface* WithItsRole(const QString& /*className*/, QObject* object)
   return new QAccessibleWidget(control, static_cast<QAccessible::Role>(role.toInt()));
 }
 
-// The description that a control has of its own comes back when the keyboard leaves it.
-class Announced : public QObject {
- public:
-  explicit Announced(QWidget& control)
-      : QObject(&control), control_(control), before_(control.accessibleDescription()) {
-    control.installEventFilter(this);
-  }
-
- protected:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() != QEvent::FocusOut) return false;
-    control_.removeEventFilter(this);
-    control_.setAccessibleDescription(before_);
-    delete this;
-    return false;
-  }
-
- private:
-  QWidget& control_;
-  const QString before_;
-};
+// In no window: of one within a dialog the dialog's own words would be said each time, too. Never destroyed:
+// a window must not outlive the application object, and statics do.
+QWidget& Notification() {
+  static auto* const notification = [] {
+    auto* made = new QWidget;
+    made->setObjectName(QStringLiteral("Notification"));
+    SpeakAs(*made, QAccessible::Notification);
+    return made;
+  }();
+  return *notification;
+}
 
 // In the rows that are open, of a tree.
 int RowOf(const QAbstractItemView& view, const QModelIndex& index) {
@@ -107,9 +96,9 @@ void Announce(const QString& text) {
         qApp, &QApplication::focusChanged, qApp, [text] { Announce(text); }, Qt::SingleShotConnection);
     return;
   }
-  static QPointer<Announced> last;
-  if (!last || last->parent() != control) last = new Announced(*control);
-  control->setAccessibleDescription(text);
+  Notification().setAccessibleName(text);
+  QAccessibleEvent appears(&Notification(), QAccessible::ObjectShow);
+  QAccessible::updateAccessibility(&appears);
 }
 
 void SpeakCurrentEntry(QAbstractItemView& view) {

@@ -13,9 +13,9 @@ namespace look {
 void SpeakAs(QWidget& control, QAccessible::Role role);
 
 // Says what has changed on the screen but not on the control that has the keyboard; where none has it, as
-// when a dialog has just gone, when the next one gets it. The toolkit knows no announcements: the text
-// becomes the description of that control, which screen readers speak when it changes, and stays it until the
-// keyboard goes elsewhere.
+// when a dialog has just gone, when the next one gets it. The toolkit knows no announcements, and with a name
+// or a description that changes it sends none of the new words, so that Orca stays silent: the text is that
+// of a notification, which nobody sees and which appears now.
 void Announce(const QString& text);
 
 // The entry that is chosen is said when the keyboard comes to the list or the tree.

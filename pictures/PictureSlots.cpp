@@ -115,8 +115,10 @@ void PictureSlots::ListenToKeys(std::size_t slot) {
   auto* keys = new PictureKeys(picDisplayPics[slot]);
   connect(keys, &PictureKeys::Chosen, this, [this, slot] { imgPhoto_Click(slot); });
   connect(keys, &PictureKeys::Dropped, this, &PictureSlots::HideControllers);
-  connect(keys, &PictureKeys::Moved, this,
-          [this, slot](QPoint pixels) { MoveTo(slot, PlaceOf(PictureRow(RowOf(slot))) + pixels); });
+  connect(keys, &PictureKeys::Moved, this, [this, slot](QPoint pixels) {
+    MoveTo(slot, PlaceOf(PictureRow(RowOf(slot))) + pixels);
+    look::Announce(PlaceInWords(*picDisplayPics[slot]));
+  });
   connect(keys, &PictureKeys::Put, this, &PictureSlots::imgController_MouseUp);
   connect(keys, &PictureKeys::Removed, this, [this, slot] {
     Remove(slot);

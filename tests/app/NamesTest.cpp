@@ -284,8 +284,22 @@ TEST_F(EveryWindow, StandsAsOnItsSheet) {
   EXPECT_TRUE(!std::getline(drawn, is) && designed.eof()) << "drawn on: " << is;
 }
 
-// The help comes by the window's button where it has one, by F1 elsewhere. Those stay whose way out is
-// another.
+void ExpectHelpInABox(const look::Form& window) {
+  platform::SetMessageAnswerer({});
+  QTimer::singleShot(0, [&] {
+    QWidget* box = QApplication::activeModalWidget();
+    QTest::keyClick(box, Qt::Key_F1);
+    const auto* help = box->findChild<HelpWindow*>();
+    EXPECT_TRUE(help && help->lstContents->currentItem() &&
+                help->lstContents->currentItem()->data(Qt::UserRole) == window.objectName())
+        << window.objectName().toStdString();
+    box->close();
+  });
+  platform::ShowMessage("asked");
+}
+
+// The help comes by the window's button where it has one, by F1 elsewhere, also in a message over it. Those
+// stay whose way out is another.
 TEST_F(EveryWindow, LeadsToItsChapterOfTheHelpAndGoesByItsButton) {
   QFile::copy(QString::fromStdString(fixture::PathOfSample("../../help/THORNQUILL.HLP")),
               QString::fromStdString(folder.PathOf("THORNQUILL.HLP")));
@@ -304,6 +318,9 @@ TEST_F(EveryWindow, LeadsToItsChapterOfTheHelpAndGoesByItsButton) {
     for (const auto& dialog : {u"FontDialog"_qs, u"ColorDialog"_qs, u"OpenFileDialog"_qs, u"PrintDialog"_qs})
       EXPECT_TRUE(help->HasTopic(dialog)) << dialog.toStdString();
     help->close();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ExpectHelpInABox(window);
     const QRegularExpression away(u"^cmd(Cancel|Close)$"_qs);
     for (auto* leave : window.findChildren<QAbstractButton*>(away)) Click(leave);
     if (window.isVisible()) staying += window.objectName();
