@@ -8,6 +8,7 @@
 #include <QtCore/QSettings>
 
 #include "platform/Process.h"
+#include "platform/desktop/DialogKeys.h"
 #include "platform/desktop/PopupEscape.h"
 #include "platform/dialogs/MessageBox.h"
 
@@ -55,6 +56,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   KeepNoNotesOfTheToolkit();
   LeaveNoImageOfTheMemory();
   KeepEscapeToPopups();
+  KeepTheKeysInDialogs();
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
