@@ -253,7 +253,7 @@ std::unique_ptr<QMenu> RichTextBox::ContextMenu(const QPoint& place) {
   return menu;
 }
 
-// The looks of rows and the grounds of paragraphs lie under the text, the labels beside it.
+// Grounds lie under the text, borders over them, and the labels beside it.
 void RichTextBox::paintEvent(QPaintEvent* event) {
   if (PaintGround) {
     QPainter ground(viewport());
@@ -269,11 +269,14 @@ void RichTextBox::paintEvent(QPaintEvent* event) {
     what(painter);
   };
   draw([&](QPainter& painter) {
-    DrawRows(painter, *document(), shown);
+    DrawRows(painter, *document(), shown, DrawGrounds);
     DrawFrames(painter, *document(), shown, DrawGround);
   });
   QTextEdit::paintEvent(event);
-  draw([&](QPainter& painter) { DrawFrames(painter, *document(), shown, DrawBorders); });
+  draw([&](QPainter& painter) {
+    DrawRows(painter, *document(), shown, DrawBorders);
+    DrawFrames(painter, *document(), shown, DrawBorders);
+  });
   draw([&](QPainter& painter) { labelled_ = DrawLabels(painter, *document(), shown, *labels_); });
 }
 

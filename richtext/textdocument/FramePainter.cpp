@@ -13,6 +13,7 @@
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/PackedRow.h"
 #include "richtext/textdocument/Paragraphs.h"
+#include "richtext/textdocument/RowTables.h"
 #include "richtext/textdocument/ShownBlocks.h"
 
 namespace richtext {
@@ -73,8 +74,10 @@ FramePart FrameOf(const QTextBlock& block) {
   const QRectF letters = LettersOf(block);
   FramePart part{WithoutIndent(block, letters), !AreInOneFrame(before, block), !AreInOneFrame(block, behind)};
   part.place.adjust(-Room(borders[LeftSide]), 0, Room(borders[RightSide]), 0);
-  const double above =
-      AreNeighbours(before, block) ? LettersOf(before).bottom() : letters.top() - NearestLine;
+  const bool isBehindRow = block.document()->characterAt(block.position() - 1) == QChar(RowEndSign);
+  const double above = AreNeighbours(before, block) ? LettersOf(before).bottom()
+                       : isBehindRow                ? letters.top() + 1  // below the row's border
+                                                    : letters.top() - NearestLine;
   const double below =
       AreNeighbours(block, behind) ? LettersOf(behind).top() : letters.bottom() + NearestLine;
   part.place.setTop(part.begins ? std::max(above, letters.top() - Room(borders[TopSide])) : above);

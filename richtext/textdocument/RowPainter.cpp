@@ -119,19 +119,16 @@ void DrawBorders(QPainter& painter, const QTextTable& table, const RowPlace& pla
   }
 }
 
-// Where a row's ground ends the next row's border begins: the borders lie over all grounds.
-void DrawRows(QPainter& painter, const QTextDocument& document, const QRectF& shown) {
+void DrawRows(QPainter& painter, const QTextDocument& document, const QRectF& shown, RowDrawer draw) {
   const QList<QTextFrame*> rows = document.rootFrame()->childFrames();
   if (rows.isEmpty()) return;
-  std::vector<std::pair<const QTextTable*, RowPlace>> seen;
   for (int i = FirstBelow(rows, document, shown.topLeft()); i < rows.size(); ++i) {
     const auto* const row = qobject_cast<const QTextTable*>(rows.at(i));
-    if (!row || !document.findBlock(row->firstPosition()).isVisible()) break;
-    seen.emplace_back(row, PlaceOf(*row));
-    if (seen.back().second.top > shown.bottom()) break;
+    if (!row || !document.findBlock(row->firstPosition()).isVisible()) return;
+    const RowPlace place = PlaceOf(*row);
+    draw(painter, *row, place);
+    if (place.top > shown.bottom()) return;
   }
-  for (const auto& [row, place] : seen) DrawGrounds(painter, *row, place);
-  for (const auto& [row, place] : seen) DrawBorders(painter, *row, place);
 }
 
 }  // namespace richtext

@@ -1,4 +1,5 @@
-// The grounds and borders of rows, which the box and the paper have under the text. The toolkit's tables draw
+// The grounds of rows, which the box and the paper have under the text, and their borders, which lie over all
+// grounds, those of the paragraphs beside a row too. The toolkit's tables draw
 // none: theirs know no sides that differ, and are doubled where rows meet.
 #pragma once
 
@@ -24,7 +25,8 @@ RowPlace PlaceOf(const QTextTable& row);
 void DrawGrounds(QPainter& painter, const QTextTable& row, const RowPlace& place);
 void DrawBorders(QPainter& painter, const QTextTable& row, const RowPlace& place);
 
-// Draws the rows that can be seen.
-void DrawRows(QPainter& painter, const QTextDocument& document, const QRectF& shown);
+// Draws of the rows that can be seen what is one or the other's affair.
+using RowDrawer = void (*)(QPainter&, const QTextTable&, const RowPlace&);
+void DrawRows(QPainter& painter, const QTextDocument& document, const QRectF& shown, RowDrawer draw);
 
 }  // namespace richtext
