@@ -29,7 +29,7 @@ constexpr int Columns = 10;
 constexpr int ColumnLeft[Columns] = {195, 690, 1185, 1680, 2175, 2670, 3165, 3660, 4155, 4650};
 constexpr int RowTop[] = {270, 780, 1290, 1785, 2265, 2760};  // uneven, and kept so
 constexpr int ScreenSize = 60;
-constexpr std::chrono::milliseconds UntilItIsSaid{600};
+constexpr std::chrono::milliseconds UntilItIsSaid{1500};
 constexpr QSize LargestOnAButton{28, 26};  // pixels of the design; anything larger is shown smaller
 
 // The toolkit enlarges no icon.

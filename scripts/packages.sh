@@ -4,6 +4,7 @@ packages_to_build="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-
 packages_to_run="fonts-dejavu-core xdg-utils"
 packages_to_test="git libgtest-dev qt6-base-private-dev clang-format-14 xvfb openbox xdotool x11-utils poppler-utils python3 sway qt6-wayland"
 packages_to_test="$packages_to_test qt6-image-formats-plugins strace appstream desktop-file-utils"
+packages_to_listen="orca speech-dispatcher at-spi2-core dbus-daemon xvfb openbox xdotool procps python3"
 packages_to_bench="libbenchmark-dev python3"
 packages_to_compare="rednotebook cherrytree dbus-daemon python3-numpy imagemagick"
 packages_to_fuzz="clang-14 libclang-rt-14-dev"
