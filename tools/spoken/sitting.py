@@ -158,7 +158,8 @@ class Person:
     def press(self, key):
         """What is said of it."""
         orders = ["type", "--delay", "60", "--", key[1:]] if key.startswith("'") else ["key", key]
-        self.begin() if key == START else subprocess.run(["xdotool", *orders], check=True, env=self.variables)
+        if key == START: return self.begin() or wait_for(self.ear.sentences, PATIENCE)
+        subprocess.run(["xdotool", *orders], check=True, env=self.variables)
         return self.ear.sentences()
 
     def end(self):
