@@ -170,7 +170,7 @@ void Frames::Close(const QString& name) {
 std::uint32_t Frames::FrameOf(const Tag& tag) {
   if (IsOneOf(Cells, tag.name)) return 0;
   for (const Attribute& attribute : tag.attributes) {
-    if (attribute.key != u"style" || !attribute.value.contains(u"border")) continue;
+    if (attribute.key != u"style" || !attribute.value.contains(u"border", Qt::CaseInsensitive)) continue;
     if (const ParagraphBorders own = BordersOfStyle(attribute.value); own != ParagraphBorders())
       return numbers_(own);
   }

@@ -26,6 +26,7 @@ void Context::EndGroup() {
   if (!skipped && AsideText::IsFor(ended)) decoder_.EndText(aside_.Text());
   if (note_.EndsAt(Depth())) EndNote();
   groups_.Pop();
+  if (ended == Destination::StyleSheet) styles_.EndStyle();
   if (skipped || State().destination == ended) return;
   Finish(ended);
 }
@@ -133,7 +134,9 @@ void Context::EndNote() {
   note_.End();
 }
 
+// The text of a note is a part of the paragraph around it, which is no item for that.
 void Context::BeginLabel(WrittenLabel::Kind kind) {
+  if (note_.IsOpen()) return SkipGroup();
   label_.Begin(kind);
   if (State().destination == Destination::Body)
     SetAside(Destination::Label);

@@ -116,7 +116,7 @@ class Context {
   std::uint32_t ParagraphNumber(ParagraphState paragraph);
   std::uint32_t ParagraphNumber();
   void ClaimText();
-  StyleSheet::Formats FormatsOfStyle(std::int32_t number);
+  StyleSheet::Formats FormatsOfStyle(std::int32_t number, int depth);
 
   // What the groups and the tables tell.
   GroupStack groups_;

@@ -28,15 +28,23 @@ void Context::ResetCharacter() {
   State().character.link = link;  // what a field is does not hang on its look
 }
 
-// Made as the words would make it in a group that has no text.
-StyleSheet::Formats Context::FormatsOfStyle(std::int32_t number) {
+// Made as the words would make it in a group that has no text. The style that it is based on comes first, no
+// deeper than so.
+StyleSheet::Formats Context::FormatsOfStyle(std::int32_t number, int depth) {
   if (const StyleSheet::Formats* const known = styles_.Known(number)) return *known;
+  const StyleSheet::Style* const style = styles_.Find(number);
+  if (style == nullptr || depth == 0) return {};
+  StyleSheet::Formats formats = FormatsOfStyle(style->base, depth - 1);
   const GroupState before = State();
   State() = GroupState();
   State().destination = Destination::StyleSheet;
-  for (const StyleSheet::Step& step : styles_.StepsOf(number))
-    step.word->handle(*this, step.word->argument, step.parameter);
-  const StyleSheet::Formats formats{State().character, State().paragraph};
+  State().character = formats.character;
+  State().paragraph = formats.paragraph;
+  for (const StyleSheet::Step& step : style->own)
+    if (step.word->name != "tx" || formats.tabStops++ < StyleSheet::MostTabStops)
+      step.word->handle(*this, step.word->argument, step.parameter);
+  formats.character = State().character;
+  formats.paragraph = State().paragraph;
   State() = before;
   styles_.Keep(number, formats);
   return formats;
@@ -44,7 +52,7 @@ StyleSheet::Formats Context::FormatsOfStyle(std::int32_t number) {
 
 void Context::SetStyle(std::int32_t number) {
   if (!styles_.Counts() || State().destination != Destination::Body) return;
-  const StyleSheet::Formats formats = FormatsOfStyle(number);
+  const StyleSheet::Formats formats = FormatsOfStyle(number, StyleSheet::DeepestBase);
   const std::uint32_t link = State().character.link;
   const bool inTable = State().paragraph.inTable;
   ChangeCharacter() = formats.character;

@@ -67,7 +67,7 @@ void ParagraphFormats::SetList(const ParagraphState& state, ParagraphFormat& for
   format.list = FittingList(format.list);
 }
 
-ParagraphFormat ParagraphFormats::FormatOf(const ParagraphState& state) const {
+ParagraphFormat ParagraphFormats::FormatOf(const ParagraphState& state) {
   ParagraphFormat format;
   format.alignment = state.alignment;
   format.direction = state.direction;
@@ -80,7 +80,7 @@ ParagraphFormat ParagraphFormats::FormatOf(const ParagraphState& state) const {
   format.autoBefore = state.autoBefore;
   format.autoAfter = state.autoAfter;
   SetLineSpacing(state, format);
-  format.borders = FittingBorders(borders_.At(state.borders));
+  format.borders = FittingBorders(borders_.ForTheDocument(state.borders));
   format.tabs = tabs_.StopsOf(state.tabs);
   format.tabs.resize(std::min(format.tabs.size(), RoomForTabs(format.borders)));
   SetList(state, format);

@@ -32,7 +32,7 @@ class ParagraphFormats {
   bool IsOfTable(const ParagraphState& state) const;
   std::u16string WithOuterNumbers(const std::u16string& text, const ParagraphState& state) const;
   void SetList(const ParagraphState& state, ParagraphFormat& format) const;
-  ParagraphFormat FormatOf(const ParagraphState& state) const;
+  ParagraphFormat FormatOf(const ParagraphState& state);
 
   TabSets tabs_;
   BorderSets borders_;

@@ -5,13 +5,12 @@
 namespace richtext::rtf {
 namespace {
 
-// Each paragraph of another style has its words carried out once more.
-constexpr std::size_t DeepestBase = 10;  // styles that are based on each other
-constexpr std::size_t MostWords = 60;    // of a style
+constexpr std::size_t MostWords = 60;  // of a style
 
-// What is told of rows is told once more by each of them.
-bool IsOfRow(std::string_view name) {
-  return name.starts_with("tr") || name.starts_with("cl") || name == "cellx";
+// What is told of rows is told once more by each of them, and an item of a list tells the list itself.
+bool IsOfRowOrList(std::string_view name) {
+  return name.starts_with("tr") || name.starts_with("cl") || name == "cellx" || name == "ls" ||
+         name == "ilvl";
 }
 
 }  // namespace
@@ -19,26 +18,20 @@ bool IsOfRow(std::string_view name) {
 void StyleSheet::Take(const ControlWord& word, std::int32_t parameter) {
   if (word.name == "s") {
     inHand_ = parameter;
-    if (styles_.size() < MaxFormats) styles_[inHand_] = {};
+    if (styles_.size() < MaxFormats) styles_[parameter] = {};
     return;
   }
-  const auto style = styles_.find(inHand_);
+  const auto style = inHand_ ? styles_.find(*inHand_) : styles_.end();
   if (style == styles_.end()) return;
   if (word.name == "sbasedon")
     style->second.base = parameter;
-  else if (word.kind == WordKind::Format && !IsOfRow(word.name) && style->second.own.size() < MostWords)
+  else if (word.kind == WordKind::Format && !IsOfRowOrList(word.name) && style->second.own.size() < MostWords)
     style->second.own.push_back({&word, parameter});
 }
 
-std::vector<StyleSheet::Step> StyleSheet::StepsOf(std::int32_t style) const {
-  std::vector<const Style*> chain;
-  for (auto at = styles_.find(style); at != styles_.end() && chain.size() < DeepestBase;
-       at = styles_.find(at->second.base))
-    chain.push_back(&at->second);
-  std::vector<Step> steps;
-  for (auto at = chain.rbegin(); at != chain.rend(); ++at)
-    steps.insert(steps.end(), (*at)->own.begin(), (*at)->own.end());
-  return steps;
+const StyleSheet::Style* StyleSheet::Find(std::int32_t style) const {
+  const auto found = styles_.find(style);
+  return found == styles_.end() ? nullptr : &found->second;
 }
 
 const StyleSheet::Formats* StyleSheet::Known(std::int32_t style) const {

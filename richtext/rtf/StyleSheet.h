@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -20,33 +21,38 @@ class StyleSheet {
   struct Formats {
     CharacterState character;
     ParagraphState paragraph;
+    std::size_t tabStops = 0;  // that its words set
   };
   struct Step {
     const ControlWord* word = nullptr;
     std::int32_t parameter = 0;
   };
+  struct Style {
+    std::int32_t base = -1;  // the number of the style that it is based on
+    std::vector<Step> own;   // what it tells beside that
+  };
+  static constexpr int DeepestBase = 10;  // styles that are based on each other
+  // A few bytes bring back the formats of a style, and tab stops are the longest of them.
+  static constexpr std::size_t MostTabStops = 4;
 
-  // Reading the table: the next word of a style, as it is called there.
+  // Reading the table: the next word of a style, as it is called there, and the end of a style.
   void Take(const ControlWord& word, std::int32_t parameter);
+  void EndStyle() { inHand_.reset(); }
 
   void SetGenerator(std::u16string_view name) { counts_ = name.starts_with(u"LibreOffice/"); }
   // Whether the paragraphs rely on their styles.
   bool Counts() const { return counts_; }
 
-  // The words that make a style, those of the styles that it is based on first.
-  std::vector<Step> StepsOf(std::int32_t style) const;
-  // What they make, once that is known.
+  // Null where there is no style of that number.
+  const Style* Find(std::int32_t style) const;
+  // What it makes, once that is known.
   const Formats* Known(std::int32_t style) const;
   void Keep(std::int32_t style, const Formats& formats) { known_[style] = formats; }
 
  private:
-  struct Style {
-    std::int32_t base = -1;
-    std::vector<Step> own;
-  };
   std::unordered_map<std::int32_t, Style> styles_;
   std::unordered_map<std::int32_t, Formats> known_;
-  std::int32_t inHand_ = 0;
+  std::optional<std::int32_t> inHand_;
   bool counts_ = false;
 };
 

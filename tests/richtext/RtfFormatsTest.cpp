@@ -23,6 +23,11 @@ TEST(RtfFormats, HasNoMoreLinkAndTabsThanAreKept) {
   ExpectReads(many + " a}", dump + "]a");
 }
 
+TEST(RtfFormats, ANotesLabelsAreNoneOfTheParagraphAroundIt) {
+  EXPECT_EQ(ReadRtf("{\\rtf1 a{\\footnote{\\listtext\\bullet\\tab}note}}"),
+            ReadRtf("{\\rtf1 a{\\footnote note}}"));
+}
+
 TEST(RtfFormats, CountsInEveryWay) {
   const std::tuple<ListKind, std::int32_t, std::u16string> labels[] = {
       {ListKind::Decimal, 0, u"(0)"},        {ListKind::LowerLetter, 26, u"(z)"},

@@ -48,6 +48,10 @@ TEST(RtfGrowth, StaysWithinABound) {
   std::string borders;
   for (const char side : std::string("tlbr"))
     borders += std::string("\\brdr") + side + "\\brdrtriple\\brdrw255\\brsp620";
+  std::string different;
+  for (int i = 0; i < 6500; ++i)
+    different += "\\pard\\box\\brdrs\\brdrw" + std::to_string(i % 255 + 1) + "\\brsp" +
+                 std::to_string(i % 600) + " x\\par";
   std::string row = R"({\colortbl;\red1;}\trowd\trgaph30000\trleft-30000\trrh-30000\trhdr\trqc)";
   for (const char side : std::string("tlbrhv"))
     row += std::string("\\trbrdr") + side + "\\brdrtriple\\brdrw255\\brdrcf1";
@@ -67,6 +71,10 @@ TEST(RtfGrowth, StaysWithinABound) {
       {row + Repeated(R"(\cell\row)", 3000), 0},
       {tabs + row + Repeated(R"({\tx1\cell}\cell\row)", 3000), 0},
       {borders + tabs + Repeated("{\\tx1\\par}\\par", 3000), 0},
+      {R"({\*\generator LibreOffice/7;}{\stylesheet{\s1)" + borders + tabs + R"(;}{\s2\sbasedon1\qc;}})" +
+           Repeated(R"(\s2\par\s1\par)", 3000),
+       0},
+      {different, 0},
       {R"({\colortbl;\red1;}\b\i\ulwave\strike\super\v\caps\fs44\cf1\highlight1 )" +
            Repeated(R"({\plain a}b)", 3000),
        0},
