@@ -17,7 +17,7 @@ int TitleBar(const QRect& frame, const QRect& client) {
 QPoint DragPlace(QPoint pointer, const QRect& frame, const QRect& client) {
   const int bar = TitleBar(frame, client);
   if (bar == 0) return pointer - client.topLeft() - QPoint(0, HandleTop);
-  const int onHandle = std::clamp(TitleBarAllowance - bar, HandleTop, HandleTop + HandleHeight - 1);
+  const int onHandle = std::min(TitleBarAllowance - bar, HandleTop + HandleHeight - 1);
   return {pointer.x() - frame.left(), pointer.y() - client.top() - onHandle};
 }
 

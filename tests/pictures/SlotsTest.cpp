@@ -125,7 +125,7 @@ TEST(DragPlace, AllowsForATitleBarWhereThereIsOne) {
   for (const auto& [margins, place] : {std::pair{QMargins(4, 30, 4, 4), QPoint(54, 68)},
                                        {{0, 24, 0, 0}, {50, 62}},
                                        {{1, 10, 1, 1}, {51, 50}},
-                                       {{1, 60, 1, 1}, {51, 69}},
+                                       {{1, 60, 1, 1}, {51, 98}},
                                        {{2, 2, 2, 2}, {50, 69}},
                                        {{}, {50, 69}}})
     EXPECT_EQ(pictures::DragPlace({150, 270}, client.marginsAdded(margins), client), place) << margins.top();
