@@ -25,6 +25,9 @@ constexpr std::int32_t MaxPictureTwips = 1'000'000;
 
 // More formats than a person can make; a hostile document would make one a letter.
 constexpr std::size_t MaxFormats = 32'000;
+// Different borders of paragraphs: each of the words that tell of one, four a side, makes a set on the way.
+constexpr std::size_t MaxBorderSets = 2 * MaxFormats;
+constexpr std::size_t MaxFrames = MaxBorderSets / (4 * 4 + 1);
 // Bytes of fonts' names and links in all character formats, since each holds its own copy.
 constexpr std::size_t MaxFormatText = 4'000'000;
 // Fonts and colours: room for each format's own, and an end to tables that only cost memory.

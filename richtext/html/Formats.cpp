@@ -127,13 +127,6 @@ ParagraphFormat FromHtmlBlock(const QTextBlock& block) {
   return made;
 }
 
-void SetFrame(ParagraphFormat& format, const ParagraphBorders& frame) {
-  const auto room = [&](Side side) { return frame[side].space + frame[side].line.width; };
-  format.borders = frame;
-  format.leftIndent = FittingIndent(format.leftIndent + room(LeftSide));
-  format.rightIndent = FittingIndent(format.rightIndent + room(RightSide));
-}
-
 CellFormat FromHtmlCell(const QTextTableCell& cell, int row, const QTextTableFormat& table) {
   CellFormat made;
   const QTextTableCellFormat format = cell.format().toTableCellFormat();

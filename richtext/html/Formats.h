@@ -14,8 +14,6 @@ namespace richtext::html {
 // Without background. What the markup leaves open is `caret`'s.
 CharacterFormat FromHtmlFormat(const QTextCharFormat& format, const CharacterFormat& caret);
 ParagraphFormat FromHtmlBlock(const QTextBlock& block);
-// Markup has the borders and the space within them beside its own margins.
-void SetFrame(ParagraphFormat& format, const ParagraphBorders& frame);
 
 // Without its right edge.
 CellFormat FromHtmlCell(const QTextTableCell& cell, int row, const QTextTableFormat& table);

@@ -17,12 +17,11 @@ namespace {
 constexpr double Medium = 3;       // pixels; the width of a border that tells none
 constexpr double LetterSize = 16;  // pixels, of a letter that nobody tells the size of
 
-// The first end by themselves, so that nothing stands in their frames.
-constexpr QStringView FlatBlocks[] = {u"p", u"li", u"dd", u"dt"};
-constexpr QStringView Blocks[] = {
-    u"address", u"article", u"aside", u"blockquote", u"center", u"details", u"div",     u"dl", u"fieldset",
-    u"figure",  u"footer",  u"form",  u"h1",         u"h2",     u"h3",      u"h4",      u"h5", u"h6",
-    u"header",  u"main",    u"nav",   u"ol",         u"pre",    u"section", u"summary", u"ul"};
+constexpr QStringView Blocks[] = {u"address", u"article", u"aside",  u"blockquote", u"center",   u"dd",
+                                  u"details", u"div",     u"dl",     u"dt",         u"fieldset", u"figure",
+                                  u"footer",  u"form",    u"h1",     u"h2",         u"h3",       u"h4",
+                                  u"h5",      u"h6",      u"header", u"li",         u"main",     u"nav",
+                                  u"ol",      u"p",       u"pre",    u"section",    u"summary",  u"ul"};
 constexpr QStringView Cells[] = {u"table", u"td", u"th", u"caption"};
 
 template <std::size_t Count>
@@ -161,40 +160,45 @@ ParagraphBorders BordersOfStyle(QStringView css) {
   return FittingBorders(borders);
 }
 
-void Frames::Close(const QString& name) {
-  const auto last =
-      std::find_if(open_.rbegin(), open_.rend(), [&](const Open& open) { return open.name == name; });
-  if (last != open_.rend()) open_.erase(last.base() - 1, open_.end());
-}
-
-std::uint32_t Frames::FrameOf(const Tag& tag) {
-  if (IsOneOf(Cells, tag.name)) return 0;
+ParagraphBorders FrameMarks::OwnOf(const Tag& tag) {
   for (const Attribute& attribute : tag.attributes) {
     if (attribute.key != u"style" || !attribute.value.contains(u"border", Qt::CaseInsensitive)) continue;
-    if (const ParagraphBorders own = BordersOfStyle(attribute.value); own != ParagraphBorders())
-      return numbers_(own);
+    if (const ParagraphBorders own = BordersOfStyle(attribute.value); own != ParagraphBorders()) return own;
   }
-  return open_.empty() ? 0 : open_.back().frame;
+  return {};
 }
 
-// The toolkit reads the last style of a tag.
-void Frames::Tell(std::uint32_t frame, Tag& tag) {
-  const auto style = std::find_if(tag.attributes.rbegin(), tag.attributes.rend(),
-                                  [](const Attribute& attribute) { return attribute.key == u"style"; });
-  const QString state = QStringLiteral(";-qt-user-state:%1").arg(frame);
-  if (style != tag.attributes.rend())
-    style->value += state;
-  else
-    tag.attributes.push_back({QStringLiteral("style"), state.mid(1)});
+void FrameMarks::Take(Tag& tag) {
+  const QLatin1String mark("title");
+  std::erase_if(tag.attributes, [&](const Attribute& attribute) { return attribute.key == mark; });
+  const bool isCell = IsOneOf(Cells, tag.name);
+  if (tag.closes || (!isCell && !IsOneOf(Blocks, tag.name))) return;
+  const ParagraphBorders own = isCell ? ParagraphBorders() : OwnOf(tag);
+  if (own != ParagraphBorders() && different_.size() < MaxFrames) different_.insert(own);
+  const bool isFramed = different_.contains(own);
+  if (isFramed) frames_.push_back(own);
+  if (isFramed || isCell)
+    tag.attributes.push_back({mark, QString::number(isFramed ? frames_.size() - 1 : 0)});
 }
 
-void Frames::Take(Tag& tag) {
-  const bool isFlat = IsOneOf(FlatBlocks, tag.name);
-  if (!isFlat && !IsOneOf(Blocks, tag.name) && !IsOneOf(Cells, tag.name)) return;
-  if (tag.closes) return isFlat ? void() : Close(tag.name);
-  const std::uint32_t frame = FrameOf(tag);
-  if (frame != 0) Tell(frame, tag);
-  if (!isFlat && !tag.endsItself) open_.push_back({tag.name, frame});
+// Markup has the borders and the space within them beside its margins. The toolkit forgets these, and the
+// ground, for text that stands behind a block and not within one: it has those that the frame began with.
+void FramedBlocks::SetFrame(const QTextBlock& block, ParagraphFormat& format) {
+  const QTextBlock::iterator letters = block.begin();
+  const std::size_t number =
+      (letters.atEnd() ? block.charFormat() : letters.fragment().charFormat()).toolTip().toULongLong();
+  if (number == 0) return;
+  const QTextBlockFormat told = block.blockFormat();
+  const First& first = first_.try_emplace(number, told, format.ground).first->second;
+  if (!told.hasProperty(QTextFormat::BackgroundBrush)) format.ground = first.ground;
+  const ParagraphBorders& borders = format.borders = frames_[number];
+  const auto indent = [](double margin, double firstMargin, const ParagraphBorder& border) {
+    return (margin == 0 ? Twips(firstMargin) : 0) + border.space + border.line.width;
+  };
+  format.leftIndent = FittingIndent(format.leftIndent +
+                                    indent(told.leftMargin(), first.told.leftMargin(), borders[LeftSide]));
+  format.rightIndent = FittingIndent(
+      format.rightIndent + indent(told.rightMargin(), first.told.rightMargin(), borders[RightSide]));
 }
 
 }  // namespace richtext::html

@@ -26,6 +26,9 @@ constexpr QStringView FlatElements[] = {
     u"area", u"base", u"br", u"col",   u"dd",    u"dt", u"embed", u"hr", u"img",   u"input", u"li",
     u"link", u"meta", u"p",  u"param", u"tbody", u"td", u"tfoot", u"th", u"thead", u"tr",    u"wbr"};
 
+// The toolkit takes a <div> without an element in it for none that ends: text behind it would join its own.
+const QLatin1String ChildOfBlock("<span></span>");
+
 // How many elements are open at once. Tags beyond MaxDepth are left out in pairs: an end goes with the start
 // that was left out last.
 class Nesting {
@@ -84,6 +87,7 @@ class Rewriting {
     if (!cells_.Take(tag)) return FlattenCell(tag.name);
     MakeStylesPlain(tag);
     frames_.Take(tag);
+    if (tag.closes && tag.name == u"div") made_ += ChildOfBlock;
     made_ += Written(tag);
     if (!tag.closes && tag.name == u"style") TakeSheet();
   }
@@ -118,7 +122,7 @@ class Rewriting {
   const QStringView html_;
   Nesting nesting_;
   TableCells cells_;
-  Frames frames_;
+  FrameMarks frames_;
   QString made_;
   qsizetype at_ = 0;  // how far the markup is taken
 };

@@ -15,7 +15,7 @@ namespace richtext::html {
 // for each element.
 struct PlainMarkup {
   QString html;
-  std::vector<ParagraphBorders> frames;  // by the user states of its blocks, of which 0 is that of none
+  std::vector<ParagraphBorders> frames;  // by number (Frames.h)
 };
 PlainMarkup WithPlainWords(const QString& html);
 

@@ -16,6 +16,7 @@
 #include "richtext/document/Twips.h"
 #include "richtext/html/Backgrounds.h"
 #include "richtext/html/Formats.h"
+#include "richtext/html/Frames.h"
 #include "richtext/html/Lists.h"
 #include "richtext/html/Markup.h"
 #include "richtext/textdocument/Formats.h"
@@ -151,8 +152,7 @@ class Reader {
     begun_ = true;
     paragraph_ = FromHtmlBlock(block);
     paragraph_.ground = backgrounds_.GroundOf(block);
-    const auto frame = static_cast<std::size_t>(std::max(0, block.userState()));
-    if (frame > 0 && frame < frames_.size()) SetFrame(paragraph_, frames_[frame]);
+    frames_.SetFrame(block, paragraph_);
     lists_.Number(block, paragraph_.list);
     format_ = FromHtmlFormat(block.charFormat(), caret_);
   }
@@ -213,7 +213,7 @@ class Reader {
   }
 
   const QTextDocument& html_;
-  const std::vector<ParagraphBorders>& frames_;  // by the blocks' user states
+  FramedBlocks frames_;
   const CharacterFormat caret_;
   std::function<Picture()> carried_;
   const Backgrounds backgrounds_;

@@ -21,19 +21,15 @@ class BorderSets {
   // The same for a paragraph of the document; none once there are so many that the document, when it is
   // written, could not be read back with them all.
   const ParagraphBorders& ForTheDocument(std::uint32_t set) {
-    if (given_.size() < MaxSets / WordsOfOne) given_.insert(set);
+    if (set != 0 && given_.size() < MaxFrames) given_.insert(set);
     return At(given_.contains(set) ? set : 0);
   }
   // The number of `borders`; `otherwise` where there is no room for more. 0 is the set of none.
   std::uint32_t NumberOf(const ParagraphBorders& borders, std::uint32_t otherwise) {
-    return sets_.size() < MaxSets ? numbers_(borders) : otherwise;
+    return sets_.size() < MaxBorderSets ? numbers_(borders) : otherwise;
   }
 
  private:
-  // Each word that tells something of a border makes a set.
-  static constexpr std::size_t MaxSets = 2 * MaxFormats;
-  static constexpr std::size_t WordsOfOne = 4 * 4 + 1;  // kind, width, colour and space of each side; and 0
-
   std::vector<ParagraphBorders> sets_;
   FormatNumbers<ParagraphBorders> numbers_{sets_};
   std::unordered_set<std::uint32_t> given_;

@@ -117,6 +117,21 @@ TEST_F(PastingTest, DeepMarkupIsReadQuickly) {
   EXPECT_EQ(page.formats.size(), 2u) << "what follows is read as ever";
 }
 
+// However many there are, those that come in are those that the file gives back.
+TEST_F(PastingTest, FramesArePastedAsTheyAreStored) {
+  QString html;
+  for (int i = 0; i < 4000; ++i)
+    html += QStringLiteral("<p style='border: %1px solid red; padding: %2px %3px'>x")
+                .arg(i / 1600 + 1)
+                .arg(i / 40 % 40)
+                .arg(i % 40);
+  const Document page = Read(html);
+  EXPECT_NE(page.paragraphFormats.at(3700).borders, ParagraphBorders());
+  EXPECT_EQ(page.paragraphFormats.back().borders, ParagraphBorders());
+  EXPECT_EQ(ReadRtf(WriteRtf(page)), page);
+  EXPECT_EQ(Dump(Read(WriteHtml(page))), Dump(page));
+}
+
 // The toolkit fills up every row to the longest one.
 TEST_F(PastingTest, TablesHaveNoMoreCellsThanTheirMarkupIsWorth) {
   const auto table = [](const char* start, const char* row, int rows) {
