@@ -61,6 +61,16 @@ void PrintedPiece::Copy(int to) {
   cursor.endEditBlock();
 }
 
+// A row has nothing in common with what stands beside it.
+void PrintedPiece::AddNeighbour(int to) {
+  const QTextBlock block = source_.findBlock(to);
+  if (block.position() != to || TableAt(source_, to) || TableAt(source_, to - 1)) return;
+  QTextCursor cursor(this);
+  cursor.movePosition(QTextCursor::End);
+  cursor.insertBlock(OnPaper(block), block.charFormat());
+  neighbour_ = cursor.block();
+}
+
 // What stands between a paragraph and the one before.
 void PrintedPiece::CopyEnd(const QTextBlock& block, int to, QTextCursor& cursor) const {
   const int begin = block.position();
@@ -143,7 +153,7 @@ void PrintedPiece::LayOut() {
 
 std::vector<PrintedLine> PrintedPiece::Lines() const {
   std::vector<PrintedLine> lines;
-  for (QTextBlock block = begin(); block.isValid(); block = block.next()) {
+  for (QTextBlock block = begin(); block.isValid() && block != neighbour_; block = block.next()) {
     if (block.length() == 1 && block.blockFormat().hasProperty(BeforeRow)) continue;
     const QTextLayout& layout = *block.layout();
     const QPointF place = documentLayout()->blockBoundingRect(block).topLeft();

@@ -34,6 +34,10 @@ class PrintedPiece : public QTextDocument {
   // copied comes as the paragraphs of its cells.
   PrintedPiece(const QTextDocument& source, int from, int to, const QSizeF& sheet);
 
+  // The paragraph of the source that begins where the piece ends stands behind it, without a letter and
+  // without a line: with its look the frame of the one before goes on.
+  void AddNeighbour(int to);
+
   // Whether the toolkit can lay it out.
   bool CanBeLaidOut() const;
   // Breaks the text into lines.
@@ -59,6 +63,7 @@ class PrintedPiece : public QTextDocument {
   const QTextDocument& source_;
   const int from_;  // in the source, and position 0 here
   QSizeF sheet_;
+  QTextBlock neighbour_;
 };
 
 }  // namespace richtext

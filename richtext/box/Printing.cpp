@@ -38,6 +38,7 @@ class Printing {
         sheets_(paper, painter),
         heads_(source_, sheets_.Size()),
         labels_(source_.findBlock(selection.selectionStart())),
+        from_(selection.selectionStart()),
         context_(selection.selectionStart()),
         at_(selection.selectionStart()),
         end_(selection.selectionEnd()) {}
@@ -66,7 +67,10 @@ class Printing {
   }
 
   std::unique_ptr<PrintedPiece> MakePiece(int length) const {
-    return std::make_unique<PrintedPiece>(source_, context_, PieceEnd(length), sheets_.Size());
+    const int to = PieceEnd(length);
+    auto piece = std::make_unique<PrintedPiece>(source_, context_, to, sheets_.Size());
+    if (to < end_) piece->AddNeighbour(to);
+    return piece;
   }
 
   // The end of the paragraph before will do. A line before in the same paragraph counts as a whole or not at
@@ -180,10 +184,14 @@ class Printing {
     if (!line.label.isEmpty()) DrawLabel(painter, line.block, place, line.label);
   }
 
-  // The part of its paragraph's frame that the line stands in.
-  static FramePart FrameBeside(const PrintedLine& line, double top) {
-    const bool isFirst = line.line.lineNumber() == 0;
-    const bool isLast = line.line.lineNumber() == line.block.layout()->lineCount() - 1;
+  // The part of its paragraph's frame that the line stands in. A piece may hold a part of the paragraph.
+  FramePart FrameBeside(const PrintedLine& line, double top) const {
+    const QTextBlock paragraph = source_.findBlock(line.position);
+    const int behind = line.position + line.line.textLength();
+    const bool isFirst =
+        line.line.lineNumber() == 0 && line.position <= std::max(from_, paragraph.position());
+    const bool isLast = line.line.lineNumber() == line.block.layout()->lineCount() - 1 &&
+                        behind >= std::min(end_, paragraph.position() + paragraph.length() - 1);
     FramePart part = FrameOf(line.block);
     part.begins = part.begins && isFirst;
     part.ends = part.ends && isLast;
@@ -208,6 +216,7 @@ class Printing {
   Sheets sheets_;
   HeadRows heads_;
   LabelCounter labels_;
+  const int from_;
   int counted_ = -1;  // number of the block that was counted last
   int context_;       // where the next piece begins, with what was printed last
   int at_;            // where what it is to print begins

@@ -40,12 +40,16 @@ class RecordingEngine : public QPaintEngine {
   void drawPixmap(const QRectF& place, const QPixmap&, const QRectF&) override {
     pictures.push_back(dots_.mapRect(place));
   }
+  void drawLines(const QLineF* lines, int count) override {
+    for (int i = 0; i < count; ++i) borders.emplace_back(sheet, dots_.map(lines[i]));
+  }
   void drawPath(const QPainterPath&) override {}
   void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
   Type type() const override { return User; }
 
   std::vector<Drawn> drawn;
   std::vector<QRectF> pictures;
+  std::vector<std::pair<std::size_t, QLineF>> borders;  // by sheet
   std::size_t sheet = 0;
 
  private:
@@ -64,6 +68,7 @@ class Printed : public QPaintDevice {
 
   const std::vector<Drawn>& All() const { return engine_.drawn; }
   const std::vector<QRectF>& Pictures() const { return engine_.pictures; }
+  const auto& Borders() const { return engine_.borders; }
   std::function<void()> onSheet;
   bool withdrawn = false;
   // The lines of each sheet as a person reads them, from left to right.
@@ -306,11 +311,11 @@ TEST_F(Print, ALongOneCanBeCancelledAndIsTakenBack) {
 }
 
 // The text is laid out in pieces. Where one ends, no line is lost, printed twice or moved, also within a
-// paragraph that is too long for one.
+// paragraph that is too long for one; and a frame goes on.
 TEST_F(Print, PiecesCannotBeSeen) {
   constexpr std::size_t paragraphs = 1500;
   constexpr double spaceAfter = 25;  // 120 twips in dots
-  std::string page = "\\sa120 ";
+  std::string page = "\\sa120\\brdrt\\brdrs\\brdrw20\\brdrl\\brdrs\\brdrw20\\brdrb\\brdrs\\brdrw20 ";
   for (std::size_t i = 1; i <= paragraphs; ++i)
     page += "a short paragraph, number " + std::to_string(i) + "\\par ";
   for (int i = 0; i < 11'000; ++i) page += "some words that fill a line ";
@@ -329,6 +334,15 @@ TEST_F(Print, PiecesCannotBeSeen) {
     ASSERT_TRUE(step == 0 || std::abs(step - expected) < 1) << i << ": " << step;
     ASSERT_TRUE(all[i].place.top() >= 0 && all[i].place.bottom() <= printer.height() + 1) << i;
   }
+  double bottom = 0;
+  int across = 0;
+  for (const auto& [sheet, line] : printer.Borders()) {
+    across += line.dy() == 0 ? 1 : 0;
+    if (line.dy() == 0) continue;
+    ASSERT_TRUE(line.y1() < 100 || std::abs(line.y1() - bottom) < 1) << "sheet " << sheet;
+    bottom = line.y2();
+  }
+  EXPECT_EQ(across, 2);
 }
 
 TEST_F(Print, TheDialogsRangeBeginsAtPageNullAndIsPutInOrder) {
