@@ -1,5 +1,6 @@
 #include "richtext/box/HeadRows.h"
 
+#include "richtext/box/PrintedLabels.h"
 #include "richtext/textdocument/RowPainter.h"
 #include "richtext/textdocument/RowTables.h"
 
@@ -35,6 +36,7 @@ void HeadRows::LayOut(int from, int to) {
   std::erase_if(head_.lines,
                 [](const PrintedLine& line) { return !line.row; });  // the toolkit's own behind it
   if (head_.lines.empty()) return;
+  PrintedLabels(source_, from).Tell(head_.lines);
   head_.height = PlaceOf(*head_.lines.back().row).bottom - PlaceOf(*head_.lines.front().row).top;
 }
 

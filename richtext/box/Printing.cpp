@@ -16,12 +16,14 @@
 
 #include "richtext/box/HeadRows.h"
 #include "richtext/box/Paper.h"
+#include "richtext/box/PrintedLabels.h"
 #include "richtext/box/PrintedPiece.h"
 #include "richtext/box/Sheets.h"
 #include "richtext/textdocument/FramePainter.h"
 #include "richtext/textdocument/Labels.h"
 #include "richtext/textdocument/RowPainter.h"
 #include "richtext/textdocument/RowTables.h"
+#include "richtext/textdocument/Rows.h"
 
 namespace richtext {
 namespace {
@@ -37,7 +39,7 @@ class Printing {
       : source_(*selection.document()),
         sheets_(paper, painter),
         heads_(source_, sheets_.Size()),
-        labels_(source_.findBlock(selection.selectionStart())),
+        labels_(source_, selection.selectionStart()),
         from_(selection.selectionStart()),
         context_(selection.selectionStart()),
         at_(selection.selectionStart()),
@@ -61,8 +63,7 @@ class Printing {
     std::vector<PrintedLine> lines = piece->Lines();
     const int begin = at_;
     GoOnBehind(lines, PieceEnd(length));
-    for (PrintedLine& line : lines)
-      if (line.position >= begin) line.label = LabelBeside(line);
+    labels_.Tell(lines);
     Draw(lines, begin);
   }
 
@@ -122,29 +123,42 @@ class Printing {
     double bottom = 0;
     for (std::size_t at = 0; at < lines.size();) {
       const PrintedLine& line = lines[at++];
+      const bool isNew = line.position >= begin;
+      NoteTable(line);
       if (!line.row) {
-        if (line.position >= begin) DrawLine(line, sheets_.Place(line.top - bottom, line.bottom - line.top));
+        const double height = line.bottom - line.top;
+        if (isNew) DrawLine(line, sheets_.Place(HeadBefore(height, line.top - bottom), height));
         bottom = line.bottom;
         continue;
       }
       std::vector<PrintedLine> row{line};
       while (at < lines.size() && lines[at].row == line.row) row.push_back(lines[at++]);
       const RowPlace place = PlaceOf(*line.row);
-      if (line.position >= begin) DrawRow(row, place, HeadBefore(line, place, place.top - bottom));
+      if (isNew) DrawRow(row, place, HeadBefore(place.bottom - place.top, place.top - bottom));
       bottom = place.bottom;
     }
   }
 
+  // A row that is shown in columns is of the table before it.
+  void NoteTable(const PrintedLine& line) {
+    const QTextBlock paragraph = source_.findBlock(line.position);
+    if (TableAt(source_, line.position))
+      row_ = line.position;
+    else if (!IsInRow(paragraph.blockFormat()) && !IsGap(paragraph))
+      row_ = -1;
+  }
+
   // Where a row begins a sheet, its table's head stands above it, unless that leaves no room. Returns how far
   // below what was printed last the row stands.
-  double HeadBefore(const PrintedLine& line, const RowPlace& place, double gap) {
-    const double height = place.bottom - place.top;
-    const QTextTable* const row = TableAt(source_, line.position);
+  double HeadBefore(double height, double gap) {
+    const int last = row_;
+    const QTextTable* const row = last >= 0 ? TableAt(source_, last) : nullptr;
     if (!row || sheets_.HasRoom(gap, height)) return gap;
     const HeadOfTable* const head = heads_.Of(*row);
     if (!head || head->height + height > sheets_.Size().height()) return gap;
     sheets_.Begin();
     Draw(head->lines, 0);
+    row_ = last;
     return 0;
   }
 
@@ -202,24 +216,14 @@ class Printing {
     return part;
   }
 
-  // Each paragraph of the source is counted once, also one whose first line is not selected and shows no
-  // label.
-  QString LabelBeside(const PrintedLine& line) {
-    const QTextBlock paragraph = source_.findBlock(line.position);
-    if (paragraph.blockNumber() == counted_) return {};
-    counted_ = paragraph.blockNumber();
-    const QString label = labels_.Count(paragraph);
-    return line.position == paragraph.position() ? label : QString();
-  }
-
   const QTextDocument& source_;
   Sheets sheets_;
   HeadRows heads_;
-  LabelCounter labels_;
+  PrintedLabels labels_;
   const int from_;
-  int counted_ = -1;  // number of the block that was counted last
-  int context_;       // where the next piece begins, with what was printed last
-  int at_;            // where what it is to print begins
+  int row_ = -1;  // the position of the row whose table goes on, where it does
+  int context_;   // where the next piece begins, with what was printed last
+  int at_;        // where what it is to print begins
   int end_;
 };
 
