@@ -115,7 +115,7 @@ class Rewriting {
   void TakeSheet() {
     const qsizetype end = html_.indexOf(u'<', at_);
     const qsizetype length = (end < 0 ? html_.size() : end) - at_;
-    made_ += WithPlainColors(html_.mid(at_, length));
+    made_ += WithPlainValues(html_.mid(at_, length));
     at_ += length;
   }
 

@@ -1,14 +1,19 @@
 #include "richtext/html/Styles.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 #include <QtCore/QRegularExpression>
 
+#include "richtext/document/Twips.h"
 #include "richtext/html/Colors.h"
+#include "richtext/html/Lengths.h"
 
 namespace richtext::html {
 namespace {
+
+constexpr double PointsPerInch = 72;
 
 QString BackgroundOf(const std::optional<QColor>& color) {
   return QStringLiteral("background-color:") + (color ? color->name() : QStringLiteral("transparent"));
@@ -18,16 +23,52 @@ QString InkOf(const std::optional<QColor>& color) {
   return color ? QStringLiteral("color:") + color->name() : QString();
 }
 
+bool IsShareOfLetters(QStringView word) {
+  return (word.endsWith(u"em") && !word.endsWith(u"rem")) || word.endsWith(u"ex");
+}
+
+QString Indent(QStringView word) {
+  const std::optional<double> pixels = PixelsOf(word);
+  return pixels ? QString::number(*pixels, 'f', 2) + QStringLiteral("px") : word.toString();
+}
+
+QString Margin(QStringView word) {
+  return IsShareOfLetters(word) ? word.toString() : Indent(word);
+}
+
+// The toolkit knows no parts of a pixel here.
+QString LetterSize(QStringView word) {
+  const std::optional<double> pixels = PixelsOf(word);
+  if (!pixels || IsShareOfLetters(word)) return word.toString();
+  return QString::number(*pixels * PointsPerInch / PixelsPerInch, 'f', 2) + QStringLiteral("pt");
+}
+
+// A number without a unit is a share of the letters' height.
+QString LineHeight(QStringView word) {
+  if (IsShareOfLetters(word)) return word.chopped(2).toString();
+  return word.back().isLetter() ? Indent(word) : word.toString();
+}
+
+QString WithWords(QStringView value, QString (*plain)(QStringView)) {
+  QString words;
+  for (const QStringView word : value.split(u' ', Qt::SkipEmptyParts)) words += u' ' + plain(word);
+  return words;
+}
+
 // One of CSS, as the toolkit understands it.
 QString Declaration(QStringView declaration) {
   const qsizetype colon = declaration.indexOf(u':');
-  const QStringView name = declaration.left(std::max<qsizetype>(colon, 0)).trimmed();
-  const auto is = [&](QStringView other) { return name.compare(other, Qt::CaseInsensitive) == 0; };
-  const auto color = [&] { return FirstCssColor(declaration.mid(colon + 1)); };
-  if (is(u"text-decoration-line"))
-    return QStringLiteral("text-decoration") + declaration.mid(colon).toString();
-  if (is(u"background") || is(u"background-color")) return BackgroundOf(color());
-  if (is(u"color")) return InkOf(color());
+  const QString name = declaration.left(std::max<qsizetype>(colon, 0)).trimmed().toString().toLower();
+  const QString value = declaration.mid(colon + 1).trimmed().toString();
+  const QString lower = value.toLower();
+  const auto with = [&](QString (*plain)(QStringView)) { return name + u':' + WithWords(lower, plain); };
+  if (name == u"text-decoration-line") return QStringLiteral("text-decoration:") + value;
+  if (name == u"background" || name == u"background-color") return BackgroundOf(FirstCssColor(value));
+  if (name == u"color") return InkOf(FirstCssColor(value));
+  if (name == u"margin" || name.startsWith(u"margin-")) return with(Margin);
+  if (name == u"text-indent") return with(Indent);
+  if (name == u"font-size") return with(LetterSize);
+  if (name == u"line-height") return with(LineHeight);
   return declaration.toString();
 }
 
@@ -42,10 +83,42 @@ void AddSizes(Tag& tag, const QString& css) {
   }
 }
 
+// The value of the last declaration of that name; empty where there is none.
+QString ValueOf(const QString& css, QStringView name) {
+  QString value;
+  for (const QStringView declaration : QStringView(css).split(u';')) {
+    const qsizetype colon = declaration.indexOf(u':');
+    if (colon > 0 && declaration.left(colon).trimmed().compare(name, Qt::CaseInsensitive) == 0)
+      value = declaration.mid(colon + 1).trimmed().toString().toLower();
+  }
+  return value;
+}
+
+void AddWidth(Tag& tag, const QString& css) {
+  const QString told = ValueOf(css, u"width");
+  const std::optional<double> pixels = PixelsOf(told);
+  if (pixels && *pixels > 0)
+    tag.attributes.push_back({QStringLiteral("width"), QString::number(std::lround(std::min(*pixels, 1e5)))});
+  else if (told.endsWith(u'%'))
+    tag.attributes.push_back({QStringLiteral("width"), told});
+}
+
+// The places of words that the toolkit does not find in styles.
+void AddAlignment(Tag& tag, const QString& css) {
+  constexpr struct {
+    QStringView told;
+    const char* name;
+  } Places[] = {
+      {u"justify", "justify"}, {u"end", "right"}, {u"-webkit-right", "right"}, {u"-webkit-center", "center"}};
+  const QString told = ValueOf(css, u"text-align");
+  for (const auto& place : Places)
+    if (told == place.told) tag.attributes.push_back({QStringLiteral("align"), QLatin1String(place.name)});
+}
+
 }  // namespace
 
 // What stands between marks outside brackets can be a declaration.
-QString WithPlainColors(QStringView css) {
+QString WithPlainValues(QStringView css) {
   QString plain;
   qsizetype from = 0;
   int depth = 0;
@@ -65,8 +138,12 @@ QString WithPlainColors(QStringView css) {
 void MakeStylesPlain(Tag& tag) {
   QString css;
   for (Attribute& attribute : tag.attributes)
-    if (attribute.key == u"style") css = attribute.value = WithPlainColors(attribute.value);
-  if (tag.name == u"img") AddSizes(tag, css);
+    if (attribute.key == u"style") css = attribute.value = WithPlainValues(attribute.value);
+  if (css.isEmpty()) return;
+  if (tag.name == u"img") return AddSizes(tag, css);
+  const bool hasWidth = tag.name == u"td" || tag.name == u"th" || tag.name == u"table" || tag.name == u"col";
+  if (hasWidth) AddWidth(tag, css);
+  if (tag.name != u"table") AddAlignment(tag, css);
 }
 
 }  // namespace richtext::html
