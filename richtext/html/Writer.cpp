@@ -115,8 +115,8 @@ class Writer {
       const bool staysOut = paragraph.place == Place::Text;
       html_ += staysOut == isText_ ? frames_.EndBefore(format) : frames_.End();
       isText_ = staysOut;
-      html_ += tables_.Before(paragraph) + frames_.Begin(format);
-      WriteParagraph(paragraph);
+      html_ += tables_.Before(paragraph);
+      if (!tables_.IsCovered()) WriteParagraph(paragraph, format);
       if (paragraph.place == Place::CellEnd || paragraph.place == Place::RowEnd) html_ += frames_.End();
       html_ += tables_.Behind(paragraph);
     }
@@ -124,8 +124,8 @@ class Writer {
   }
 
  private:
-  void WriteParagraph(const Paragraph& paragraph) {
-    const ParagraphFormat& format = page_.paragraphFormats[paragraph.format];
+  void WriteParagraph(const Paragraph& paragraph, const ParagraphFormat& format) {
+    html_ += frames_.Begin(format);
     const bool isItem = format.list.kind != ListKind::None;
     const std::int32_t number = items_.Count(format.list);
     const QLatin1String end = isItem ? OpenItem(format.list, number) : QLatin1String("</p>");
