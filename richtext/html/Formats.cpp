@@ -83,8 +83,6 @@ void SetLineHeight(ParagraphFormat& made, const QTextBlockFormat& format) {
   made.lineSpacing = static_cast<std::int32_t>(std::min<double>(height, MaxIndent));
 }
 
-constexpr std::int32_t WidthOfTable = 9000;  // twips, of one whose columns tell none
-
 // Of a cell that tells none, the table's.
 Border BorderOf(QTextFrameFormat::BorderStyle style, double width, const QBrush& brush,
                 const QTextTableFormat& table) {
@@ -139,22 +137,6 @@ CellFormat FromHtmlCell(const QTextTableCell& cell, int row, const QTextTableFor
   if (format.verticalAlignment() == QTextCharFormat::AlignMiddle) made.place = PlaceInCell::Center;
   if (format.verticalAlignment() == QTextCharFormat::AlignBottom) made.place = PlaceInCell::Bottom;
   return made;
-}
-
-// What nobody tells is parted alike.
-std::vector<std::int32_t> RightEdgesOf(const QTextTable& table) {
-  const QList<QTextLength> told = table.format().columnWidthConstraints();
-  const std::int32_t share = WidthOfTable / std::max(table.columns(), 1);
-  std::vector<std::int32_t> edges;
-  for (std::int32_t column = 0, right = 0; column < table.columns(); ++column) {
-    const QTextLength width = column < told.size() ? told[column] : QTextLength();
-    const double pixels =
-        width.type() == QTextLength::VariableLength ? 0 : width.value(WidthOfTable / TwipsPerPixel);
-    right +=
-        pixels > 0 ? static_cast<std::int32_t>(std::min(pixels * TwipsPerPixel, double{MaxIndent})) : share;
-    edges.push_back(right = FittingIndent(right));
-  }
-  return edges;
 }
 
 bool IsLightInk(const QColor& color) {

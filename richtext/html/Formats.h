@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextTable>
@@ -17,8 +16,6 @@ ParagraphFormat FromHtmlBlock(const QTextBlock& block);
 
 // Without its right edge.
 CellFormat FromHtmlCell(const QTextTableCell& cell, int row, const QTextTableFormat& table);
-// In twips, of the columns of a table.
-std::vector<std::int32_t> RightEdgesOf(const QTextTable& table);
 
 // Whether letters of this colour can be read on a dark ground alone.
 bool IsLightInk(const QColor& color);

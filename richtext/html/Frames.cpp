@@ -9,19 +9,16 @@
 #include "richtext/document/Limits.h"
 #include "richtext/document/Twips.h"
 #include "richtext/html/Colors.h"
+#include "richtext/html/Lengths.h"
 #include "richtext/textdocument/Formats.h"
 
 namespace richtext::html {
 namespace {
 
-constexpr double Medium = 3;       // pixels; the width of a border that tells none
-constexpr double LetterSize = 16;  // pixels, of a letter that nobody tells the size of
+constexpr double Medium = 3;  // pixels; the width of a border that tells none
 
-constexpr QStringView Blocks[] = {u"address", u"article", u"aside",  u"blockquote", u"center",   u"dd",
-                                  u"details", u"div",     u"dl",     u"dt",         u"fieldset", u"figure",
-                                  u"footer",  u"form",    u"h1",     u"h2",         u"h3",       u"h4",
-                                  u"h5",      u"h6",      u"header", u"li",         u"main",     u"nav",
-                                  u"ol",      u"p",       u"pre",    u"section",    u"summary",  u"ul"};
+constexpr QStringView Blocks[] = {u"blockquote", u"center", u"dd", u"div", u"dl", u"dt", u"h1",  u"h2", u"h3",
+                                  u"h4",         u"h5",     u"h6", u"li",  u"ol", u"p",  u"pre", u"ul"};
 constexpr QStringView Cells[] = {u"table", u"td", u"th", u"caption"};
 
 template <std::size_t Count>
@@ -33,25 +30,8 @@ std::optional<double> Pixels(QStringView word) {
   if (word == u"thin") return 1;
   if (word == u"medium") return Medium;
   if (word == u"thick") return 5;
-  constexpr struct {
-    QStringView unit;
-    double pixels;
-  } Units[] = {{u"px", 1},
-               {u"pt", 4 / 3.0},
-               {u"em", LetterSize},
-               {u"rem", LetterSize},
-               {u"ex", LetterSize / 2},
-               {u"ch", LetterSize / 2},
-               {u"in", 96},
-               {u"cm", 96 / 2.54},
-               {u"mm", 96 / 25.4},
-               {u"", 1}};
-  for (const auto& [unit, pixels] : Units) {
-    bool isNumber = false;
-    const double number = word.endsWith(unit) ? word.chopped(unit.size()).toDouble(&isNumber) : 0;
-    if (isNumber && std::isfinite(number)) return std::clamp(number * pixels, 0.0, 1000.0);
-  }
-  return std::nullopt;
+  const std::optional<double> pixels = PixelsOf(word);
+  return pixels ? std::optional(std::clamp(*pixels, 0.0, 1000.0)) : std::nullopt;
 }
 
 std::optional<BorderKind> KindOf(QStringView word) {

@@ -9,10 +9,12 @@
 #include <algorithm>
 #include <iterator>
 
+#include "richtext/html/Elements.h"
 #include "richtext/html/Frames.h"
 #include "richtext/html/Styles.h"
 #include "richtext/html/Tables.h"
 #include "richtext/html/Tag.h"
+#include "richtext/html/ToldColumns.h"
 
 namespace richtext::html {
 namespace {
@@ -25,9 +27,6 @@ constexpr qsizetype LettersOfCell = 2;  // what each cell beyond these must take
 constexpr QStringView FlatElements[] = {
     u"area", u"base", u"br", u"col",   u"dd",    u"dt", u"embed", u"hr", u"img",   u"input", u"li",
     u"link", u"meta", u"p",  u"param", u"tbody", u"td", u"tfoot", u"th", u"thead", u"tr",    u"wbr"};
-
-// The toolkit takes a <div> without an element in it for none that ends: text behind it would join its own.
-const QLatin1String ChildOfBlock("<span></span>");
 
 // How many elements are open at once. Tags beyond MaxDepth are left out in pairs: an end goes with the start
 // that was left out last.
@@ -74,8 +73,13 @@ class Rewriting {
 
  private:
   void CopyTo(qsizetype end) {
-    made_ += html_.mid(at_, end - at_);
+    Copy(html_.mid(at_, end - at_));
     at_ = end;
+  }
+
+  void Copy(QStringView text) {
+    made_ += lines_.Before(text);
+    made_ += text;
   }
 
   void TakeNext() {
@@ -83,11 +87,14 @@ class Rewriting {
     if (next == u"!" || next == u"?") return LeaveOut();
     if (!IsTagAt(html_, at_)) return TakeBracket();
     Tag tag = TakeTag(html_, at_);
+    Copy(LettersFor(tag));
+    MakeElementPlain(tag);
+    made_ += lines_.Before(tag);
     if (tag.name.isEmpty() || !nesting_.Keeps(tag)) return;
     if (!cells_.Take(tag)) return FlattenCell(tag.name);
     MakeStylesPlain(tag);
+    columns_.Take(tag);
     frames_.Take(tag);
-    if (tag.closes && tag.name == u"div") made_ += ChildOfBlock;
     made_ += Written(tag);
     if (!tag.closes && tag.name == u"style") TakeSheet();
   }
@@ -122,7 +129,9 @@ class Rewriting {
   const QStringView html_;
   Nesting nesting_;
   TableCells cells_;
+  ToldColumns columns_;
   FrameMarks frames_;
+  EndedLines lines_;
   QString made_;
   qsizetype at_ = 0;  // how far the markup is taken
 };

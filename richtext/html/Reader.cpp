@@ -15,6 +15,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/document/Twips.h"
 #include "richtext/html/Backgrounds.h"
+#include "richtext/html/Columns.h"
 #include "richtext/html/Formats.h"
 #include "richtext/html/Frames.h"
 #include "richtext/html/Lists.h"
@@ -30,6 +31,10 @@ namespace {
 const QLatin1String HouseStyle(
     "mark { background-color: #ffff00; } a[href] { color: #0000ee; } ins { text-decoration: underline; }"
     "del, strike { text-decoration: line-through; }");
+
+constexpr std::int32_t RulerWidth = 15;   // twips
+constexpr std::int32_t RulerSpace = 120;  // twips, below it
+constexpr std::uint32_t RulerColor = 0x808080;
 
 // Fetches nothing, whatever the markup names.
 class InertDocument : public QTextDocument {
@@ -93,10 +98,9 @@ class Reader {
     for (QTextBlock block = html_.begin(); block.isValid(); block = block.next()) {
       if (const QTextTable* table = TableAround(block); IsTable(table))
         block = TakeTable(*table);
-      else if (!IsEdgeOfTable(block) && !IsRuler(block))
+      else if (!IsEdgeOfTable(block))
         TakeBlock(block);
     }
-    if (begun_) DropLastBreak();
     if (begun_ || page_.paragraphs.empty()) EndParagraph(Place::Text);
     return std::move(page_);
   }
@@ -105,7 +109,7 @@ class Reader {
   // Returns its last block.
   QTextBlock TakeTable(const QTextTable& table) {
     if (begun_) EndParagraph(Place::Text);
-    const std::vector<std::int32_t> edges = RightEdgesOf(table);
+    const std::vector<std::int32_t> edges = RightEdgesOf(table, caret_);
     for (int row = 0; row < table.rows(); ++row) TakeRow(table, row, edges);
     last_.reset();
     return html_.findBlock(table.lastPosition());
@@ -129,13 +133,26 @@ class Reader {
     last_.reset();
     for (QTextBlock block = html_.findBlock(cell.firstPosition());
          beginsHere && block.isValid() && block.position() <= cell.lastPosition(); block = block.next())
-      if (!IsRuler(block)) TakeBlock(block);
+      TakeBlock(block);
     if (!begun_) paragraph_ = {};
     EndParagraph(end);
     place_ = Place::Text;
   }
 
+  // A line across the page is the lower edge of an empty paragraph.
+  void TakeRuler(const QTextBlock& block) {
+    if (begun_) EndParagraph(place_);
+    begun_ = true;
+    paragraph_ = {};
+    paragraph_.borders[BottomSide].line = {BorderKind::Single, RulerWidth, RulerColor};
+    paragraph_.spaceAfter = RulerSpace;
+    lists_.Number(block, paragraph_.list);
+    format_ = caret_;
+    last_.reset();
+  }
+
   void TakeBlock(const QTextBlock& block) {
+    if (IsRuler(block)) return TakeRuler(block);
     const QTextTableCell cell = CellOf(block);
     const bool besideLast =
         cell.isValid() && last_ && cell.row() == last_->row() && cell.column() != last_->column();
@@ -157,7 +174,7 @@ class Reader {
     format_ = FromHtmlFormat(block.charFormat(), caret_);
   }
 
-  // Browsers end what was copied with a line break of their own.
+  // One at the end of a paragraph begins no line.
   void DropLastBreak() {
     if (page_.runs.size() <= firstRun_ || page_.text.back() != LineBreak) return;
     page_.text.pop_back();
@@ -165,6 +182,7 @@ class Reader {
   }
 
   void EndParagraph(Place place) {
+    DropLastBreak();
     const std::uint32_t mark = numbers_(format_);
     const auto length = static_cast<std::uint32_t>(page_.text.size() - paragraphStart_);
     page_.paragraphs.push_back({length, paragraphNumbers_(paragraph_), mark, place});

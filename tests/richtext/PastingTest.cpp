@@ -85,6 +85,20 @@ TEST_F(PastingTest, ListsAreCopiedWithTheirNumbers) {
   EXPECT_EQ(numbers, QStringLiteral("112121"));
 }
 
+TEST_F(PastingTest, TablesAreCopiedWithTheirMergedCells) {
+  const QString spans = QStringLiteral(
+      "<table><col width=40 span=3><tr><td>a<td>b<td rowspan=2>c<tr><td colspan=2 "
+      "rowspan=2>d<tr><td>e</table>f");
+  const std::string page = Dump(Read(spans));
+  EXPECT_EQ(page, "{0 600 1200 1800^}a&b&c$|{0 1200^ 1800v}d&$|{0 1200v 1800}&e$|f");
+  EXPECT_EQ(Dump(Read(WriteHtml(Read(spans)))), page);
+  EXPECT_TRUE(WriteHtml(Read(spans)).contains(QLatin1String("<td colspan=\"2\" rowspan=\"2\"")));
+  const QString words =
+      WriteHtml(ReadRtf("{\\rtf1\\trowd\\clvmgf\\cellx900\\intbl a\\cell\\row"
+                        "\\trowd\\clvmrg\\cellx900\\intbl b\\cell\\row}"));
+  EXPECT_EQ(words.count(QLatin1String("<td")), 2);
+}
+
 TEST_F(PastingTest, PicturesComeFromTheClipboardAlone) {
   QTemporaryFile file;
   ASSERT_TRUE(file.open());
@@ -137,8 +151,9 @@ TEST_F(PastingTest, TablesHaveNoMoreCellsThanTheirMarkupIsWorth) {
   const auto table = [](const char* start, const char* row, int rows) {
     return Dump(Read(QString::fromUtf8(start) + QString::fromLatin1(row).repeated(rows)));
   };
-  EXPECT_EQ(table("<table><tr><td colspan=2>a<tr><td rowspan=2>b<td>c<tr><td>d</table>", "", 0),
-            "{0 9000}a$|{0 4500^ 9000}b&c$|{0 4500v 9000}&d$");
+  EXPECT_EQ(
+      table("<table><tr><td colspan=2>a<tr><td rowspan=2 width=300>b<td width=300>c<tr><td>d</table>", "", 0),
+      "{0 9000}a$|{0 4500^ 9000}b&c$|{0 4500v 9000}&d$");
   for (const char* start : {"<table><tr><td colspan=20000>",
                             "<td colspan=' +20000'>",
                             "<TD COLSPAN=\"&#50;0000\">",
