@@ -22,6 +22,7 @@ class AsideText {
       case Destination::NumberingBefore:
       case Destination::NumberingAfter:
       case Destination::ShapeName:
+      case Destination::ShapeValue:
         return true;
       default:
         return false;
@@ -31,7 +32,7 @@ class AsideText {
   // Whether such a text is made of words and not of what a page shows.
   static bool IsWords(Destination destination) {
     return destination == Destination::FieldInstruction || destination == Destination::ShapeName ||
-           destination == Destination::Generator;
+           destination == Destination::ShapeValue || destination == Destination::Generator;
   }
 
   void Begin() { text_.clear(); }

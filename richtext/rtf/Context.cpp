@@ -25,6 +25,8 @@ void Context::EndGroup() {
   if (!skipped && ended == Destination::FontTable) fonts_.EndGroup(Depth());
   if (!skipped && AsideText::IsFor(ended)) decoder_.EndText(aside_.Text());
   if (note_.EndsAt(Depth())) EndNote();
+  if (shapes_.TextEndsAt(Depth())) EndOpenParagraph();
+  shapes_.EndGroup(Depth());
   groups_.Pop();
   if (ended == Destination::StyleSheet) styles_.EndStyle();
   if (skipped || State().destination == ended) return;
@@ -53,6 +55,8 @@ void Context::Finish(Destination ended) {
     case Destination::ShapeName:
       shapes_.SetPropertyName(aside_.Text());
       return;
+    case Destination::ShapeValue:
+      return shapes_.SetPropertyValue(aside_.Text());
     case Destination::Generator:
       return styles_.SetGenerator(aside_.Text());
     case Destination::Label:
@@ -110,11 +114,27 @@ void Context::SetAside(Destination destination) {
   const Destination within = State().destination;
   const bool known = within == Destination::Body || within == Destination::Numbering ||
                      within == Destination::ListTable ||
-                     (within == Destination::ShapeProperty && destination == Destination::ShapeName);
+                     (within == Destination::ShapeProperty &&
+                      (destination == Destination::ShapeName || destination == Destination::ShapeValue));
   if (!known) return SkipGroup();
   if (within == Destination::Body) EndText();
   aside_.Begin();
   SendTextTo(destination);
+}
+
+void Context::BeginShape() {
+  if (groups_.HasOwnState()) shapes_.BeginShape(Depth());
+}
+
+// Its paragraphs begin without formats. They belong to the cell that the shape stands in.
+void Context::BeginShapeText() {
+  if (State().destination != Destination::Body || !groups_.HasOwnState()) return;
+  shapes_.BeginText(Depth());
+  if (note_.IsOpen()) return;
+  SettleLabel();
+  EndOpenParagraph();
+  State().inCellAround = IsInCell();
+  ChangeParagraph() = ParagraphState();
 }
 
 void Context::BeginNote() {

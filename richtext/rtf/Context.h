@@ -85,8 +85,10 @@ class Context {
   void EndNestedCell();
   void EndRow();
   void SetTabDistance(std::int32_t twips) { builder_.SetTabDistance(FittingTabDistance(twips)); }
-  // Text begins that stands for itself, not within the paragraph around it.
-  void EndOpenParagraph();
+  // A shape's group begins, and that of its text, which stands for itself and not within the paragraph around
+  // it.
+  void BeginShape();
+  void BeginShapeText();
   // A footnote's group begins.
   void BeginNote();
   // A label's group begins.
@@ -107,6 +109,8 @@ class Context {
   std::u16string* TextInHand();
   void SettleLabel();
   void EndText();
+  bool IsInCell() const;
+  void EndOpenParagraph();
   void EndParagraphAs(Place place, std::uint32_t format);
   void EndOpenGroups();
 

@@ -91,7 +91,11 @@ void Context::EndParagraph() {
   if (note_.IsOpen()) return note_.EndParagraph();
   SettleLabel();
   EndText();
-  EndParagraphAs(State().paragraph.inTable ? Place::Cell : Place::Text, ParagraphNumber());
+  EndParagraphAs(IsInCell() ? Place::Cell : Place::Text, ParagraphNumber());
+}
+
+bool Context::IsInCell() const {
+  return groups_.Top().paragraph.inTable || groups_.Top().inCellAround;
 }
 
 // Behind its text and its label.
@@ -107,7 +111,7 @@ void Context::EndOpenParagraph() {
 
 void Context::EndCell() {
   const bool isInText = State().destination == Destination::Body && !note_.IsOpen();
-  if (!isInText || !builder_.HasRoomForCell()) return EndNestedCell();
+  if (!isInText || State().inCellAround || !builder_.HasRoomForCell()) return EndNestedCell();
   SettleLabel();
   EndText();
   EndParagraphAs(Place::CellEnd, ParagraphNumber());
@@ -123,6 +127,7 @@ void Context::EndNestedCell() {
 void Context::EndRow() {
   if (State().destination != Destination::Body) return;
   if (note_.IsOpen()) return note_.EndParagraph();
+  if (State().inCellAround) return EndParagraph();
   SettleLabel();
   EndText();
   if (builder_.HasOpenText() && builder_.HasRoomForCell())

@@ -178,6 +178,7 @@ constexpr ControlWord KnownWords[] = {
     Shown("object"),
     Shown("result"),
     {"shp", Shape, 0, 0, WordKind::Destination},
+    {"shpgrp", Shape, 0, 0, WordKind::Destination},
     Shown("shpinst"),
     WordOf("shpleft", ShapeEdge, ShapeState::Left),
     WordOf("shptop", ShapeEdge, ShapeState::Top),

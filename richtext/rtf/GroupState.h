@@ -27,6 +27,7 @@ enum class Destination : std::uint8_t {
   Picture,
   ShapeProperty,
   ShapeName,
+  ShapeValue,
   ShapePicture,
   Discard
 };
@@ -81,6 +82,7 @@ struct GroupState {
   CharacterState character;
   ParagraphState paragraph;
   std::int32_t fallbackLength = 1;  // \uc
+  bool inCellAround = false;        // the text of a shape in a cell
   Destination destination = Destination::Body;
   Destination around = Destination::Body;    // \upr: where its \ud goes
   std::uint32_t fieldLink = 0;               // what \fldinst tells of the field's \fldrslt

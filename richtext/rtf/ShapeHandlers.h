@@ -8,7 +8,7 @@ namespace richtext::rtf::handlers {
 // Shapes: their text, and the picture that one is.
 
 inline void Shape(Context& context, Number, Number) {
-  context.Shapes().BeginShape();
+  context.BeginShape();
 }
 
 inline void ShapeEdge(Context& context, Number edge, Number twips) {
@@ -23,6 +23,7 @@ inline void ShapeProperty(Context& context, Number, Number) {
 
 inline void ShapeValue(Context& context, Number, Number) {
   const bool isProperty = context.State().destination == Destination::ShapeProperty;
+  if (isProperty && context.Shapes().PropertyIsEdge()) return context.SetAside(Destination::ShapeValue);
   if (!isProperty || !context.Shapes().PropertyIsPicture()) return context.SkipGroup();
   context.SendTextTo(Destination::ShapePicture);
 }
@@ -35,8 +36,7 @@ inline void ShapeResult(Context& context, Number, Number) {
 }
 
 inline void ShapeText(Context& context, Number, Number) {
-  context.Shapes().NoteText();
-  context.EndOpenParagraph();
+  context.BeginShapeText();
 }
 
 // Pictures.
