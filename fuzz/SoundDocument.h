@@ -47,7 +47,7 @@ inline void RequireSoundFormats(const richtext::Document& document) {
   for (const ParagraphFormat& format : document.paragraphFormats) {
     const auto comesBefore = [](const TabStop& a, const TabStop& b) { return a.position < b.position; };
     Require(std::is_sorted(format.tabs.begin(), format.tabs.end(), comesBefore), "tab stops are in order");
-    Require(format.tabs.size() <= RoomForTabs(format.borders), "tab stops have room beside borders");
+    Require(FittingTabs(format.tabs, format.borders) == format.tabs, "tab stops have room beside borders");
     Require(format.borders == FittingBorders(format.borders), "borders can be shown");
     Require(format.list.level >= 0 && format.list.level <= 8, "a list has nine levels");
   }

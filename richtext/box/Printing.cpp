@@ -21,6 +21,7 @@
 #include "richtext/box/Sheets.h"
 #include "richtext/textdocument/FramePainter.h"
 #include "richtext/textdocument/Labels.h"
+#include "richtext/textdocument/LeaderPainter.h"
 #include "richtext/textdocument/RowPainter.h"
 #include "richtext/textdocument/RowTables.h"
 #include "richtext/textdocument/Rows.h"
@@ -194,6 +195,7 @@ class Printing {
     if (hasFrame) DrawGround(painter, line.block, frame);
     painter.setPen(Qt::black);
     line.line.draw(&painter, place);
+    DrawLeaders(painter, line.block, line.line, place);
     if (hasFrame) DrawBorders(painter, line.block, frame);
     if (!line.label.isEmpty()) DrawLabel(painter, line.block, place, line.label);
   }

@@ -22,6 +22,7 @@
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/FramePainter.h"
 #include "richtext/textdocument/Labels.h"
+#include "richtext/textdocument/LeaderPainter.h"
 #include "richtext/textdocument/Marks.h"
 #include "richtext/textdocument/PageHeight.h"
 #include "richtext/textdocument/Pictures.h"
@@ -276,6 +277,7 @@ void RichTextBox::paintEvent(QPaintEvent* event) {
   draw([&](QPainter& painter) {
     DrawRows(painter, *document(), shown, DrawBorders);
     DrawFrames(painter, *document(), shown, DrawBorders);
+    DrawLeaders(painter, *document(), shown);
   });
   draw([&](QPainter& painter) { labelled_ = DrawLabels(painter, *document(), shown, *labels_); });
 }

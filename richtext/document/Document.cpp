@@ -31,10 +31,18 @@ ParagraphBorders FittingBorders(ParagraphBorders borders) {
   return borders;
 }
 
-std::size_t RoomForTabs(const ParagraphBorders& borders) {
+std::vector<TabStop> FittingTabs(std::vector<TabStop> tabs, const ParagraphBorders& borders) {
   const auto sides = std::count_if(borders.begin(), borders.end(),
                                    [](const ParagraphBorder& border) { return IsShown(border.line); });
-  return MaxTabStops - TabStopsOfBorder * static_cast<std::size_t>(sides);
+  std::size_t room = MaxTabStops - TabStopsOfBorder * static_cast<std::size_t>(sides);
+  const auto hasNoRoom = [&](const TabStop& tab) {
+    const std::size_t taken = tab.leader == TabLeader::None ? 1 : 1 + TabStopsOfLeader;
+    if (room < taken) return true;
+    room -= taken;
+    return false;
+  };
+  tabs.erase(std::find_if(tabs.begin(), tabs.end(), hasNoRoom), tabs.end());
+  return tabs;
 }
 
 Document EmptyDocument() {

@@ -36,6 +36,8 @@ enum class Alignment : std::uint8_t { Left, Right, Center, Justify };
 enum class Direction : std::uint8_t { LeftToRight, RightToLeft };
 enum class LineSpacingRule : std::uint8_t { Single, Multiple, AtLeast, Exact };
 enum class TabKind : std::uint8_t { Left, Right, Center, Decimal };
+// What fills the space that a tab leaves.
+enum class TabLeader : std::uint8_t { None, Dots, MiddleDots, Hyphens, Line, ThickLine, EqualSigns };
 enum class ListKind : std::uint8_t {
   None,
   Bullet,
@@ -67,6 +69,7 @@ struct CharacterFormat {
 struct TabStop {
   std::int32_t position = 0;  // twips from the left edge of the text
   TabKind kind = TabKind::Left;
+  TabLeader leader = TabLeader::None;
   bool operator==(const TabStop&) const = default;
 };
 
@@ -115,8 +118,8 @@ struct ParagraphFormat {
 
 // `borders` as a document can hold them (Limits.h): on a side that shows none, nothing is told.
 ParagraphBorders FittingBorders(ParagraphBorders borders);
-// How many tab stops a paragraph of such borders keeps.
-std::size_t RoomForTabs(const ParagraphBorders& borders);
+// The nearest of `tabs`, which are by position: as many as a paragraph of such borders keeps.
+std::vector<TabStop> FittingTabs(std::vector<TabStop> tabs, const ParagraphBorders& borders);
 
 // The spaces before and after a paragraph as they are shown: where they are automatic, none between the items
 // of a list.

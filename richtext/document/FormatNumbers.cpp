@@ -39,7 +39,7 @@ std::size_t WholeFormatHash::operator()(const ParagraphFormat& format) const {
       format.lineSpacing, format.list.kind, format.list.start, format.list.level, format.list.twin,
       format.ground.value_or(None), std::hash<std::u16string>()(format.list.before),
       std::hash<std::u16string>()(format.list.after));
-  for (const TabStop& stop : format.tabs) hash = HashOf(hash, stop.position, stop.kind);
+  for (const TabStop& stop : format.tabs) hash = HashOf(hash, stop.position, stop.kind, stop.leader);
   return HashOf(hash, (*this)(format.borders));
 }
 

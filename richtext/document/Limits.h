@@ -19,6 +19,7 @@ constexpr std::size_t MaxCells = 64;              // of a row; as many as word p
 constexpr std::int32_t MaxBorder = 255;           // twips
 constexpr std::int32_t MaxBorderSpace = 620;      // twips; as far off as word processors put a border
 constexpr std::size_t TabStopsOfBorder = 4;  // which a paragraph keeps less for each border, as it is as long
+constexpr std::size_t TabStopsOfLeader = 1;  // likewise
 constexpr std::int32_t MaxListLevel = 8;
 constexpr std::int32_t MaxListNumber = 32767;
 constexpr std::int32_t MaxPictureTwips = 1'000'000;

@@ -124,6 +124,12 @@ constexpr ControlWord KnownWords[] = {
     WordOf("tqr", NextTab, TabKind::Right),
     WordOf("tqc", NextTab, TabKind::Center),
     WordOf("tqdec", NextTab, TabKind::Decimal),
+    WordOf("tldot", NextLeader, TabLeader::Dots),
+    WordOf("tlmdot", NextLeader, TabLeader::MiddleDots),
+    WordOf("tlhyph", NextLeader, TabLeader::Hyphens),
+    WordOf("tlul", NextLeader, TabLeader::Line),
+    WordOf("tlth", NextLeader, TabLeader::ThickLine),
+    WordOf("tleq", NextLeader, TabLeader::EqualSigns),
     Word("tx", Tab),
 
     Word("ls", ListOfTable),

@@ -31,7 +31,8 @@ std::size_t HashOf(const ParagraphFormat& format) {
                static_cast<std::int32_t>(format.lineSpacingRule), format.lineSpacing,
                static_cast<std::int32_t>(format.list.kind), format.list.start, format.list.level,
                format.list.twin, static_cast<std::int32_t>(format.ground.value_or(0xFF000000))});
-  for (const TabStop& tab : format.tabs) hash.AddAll({tab.position, static_cast<std::int32_t>(tab.kind)});
+  for (const TabStop& tab : format.tabs)
+    hash.AddAll({tab.position, static_cast<std::int32_t>(tab.kind), static_cast<std::int32_t>(tab.leader)});
   for (const std::u16string& text : {format.list.before, format.list.after})
     for (const char16_t unit : text) hash.Add(unit);
   if (format.borders != ParagraphBorders())

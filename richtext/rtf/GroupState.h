@@ -57,9 +57,10 @@ struct CharacterState {
 struct ParagraphState {
   Alignment alignment = Alignment::Left;
   Direction direction = Direction::LeftToRight;
-  TabKind nextTab = TabKind::Left;  // \tqr and its like come before their \tx
-  bool multipleSpacing = false;     // \slmult
-  bool inTable = false;             // \intbl
+  TabKind nextTab = TabKind::Left;  // \tqr, \tldot and their like come before their \tx
+  TabLeader nextLeader = TabLeader::None;
+  bool multipleSpacing = false;  // \slmult
+  bool inTable = false;          // \intbl
   bool autoBefore = false;
   bool autoAfter = false;
   std::int32_t leftIndent = 0;

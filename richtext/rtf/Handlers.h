@@ -184,10 +184,16 @@ inline void NextTab(Context& context, Number kind, Number) {
   context.ChangeParagraph().nextTab = static_cast<TabKind>(kind);
 }
 
+inline void NextLeader(Context& context, Number leader, Number) {
+  context.ChangeParagraph().nextLeader = static_cast<TabLeader>(leader);
+}
+
 inline void Tab(Context& context, Number, Number position) {
   ParagraphState& paragraph = context.ChangeParagraph();
-  paragraph.tabs = context.Paragraphs().Tabs().Add(paragraph.tabs, {position, paragraph.nextTab});
+  const TabStop stop{position, paragraph.nextTab, paragraph.nextLeader};
+  paragraph.tabs = context.Paragraphs().Tabs().Add(paragraph.tabs, stop);
   paragraph.nextTab = TabKind::Left;
+  paragraph.nextLeader = TabLeader::None;
 }
 
 // Fields.

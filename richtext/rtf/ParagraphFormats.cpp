@@ -81,8 +81,7 @@ ParagraphFormat ParagraphFormats::FormatOf(const ParagraphState& state) {
   format.autoAfter = state.autoAfter;
   SetLineSpacing(state, format);
   format.borders = FittingBorders(borders_.ForTheDocument(state.borders));
-  format.tabs = tabs_.StopsOf(state.tabs);
-  format.tabs.resize(std::min(format.tabs.size(), RoomForTabs(format.borders)));
+  format.tabs = FittingTabs(tabs_.StopsOf(state.tabs), format.borders);
   SetList(state, format);
   return format;
 }

@@ -19,6 +19,11 @@ std::string_view WordOf(TabKind kind) {
   return Words[static_cast<std::size_t>(kind)];
 }
 
+std::string_view WordOf(TabLeader leader) {
+  constexpr std::string_view Words[] = {"", "tldot", "tlmdot", "tlhyph", "tlul", "tlth", "tleq"};
+  return Words[static_cast<std::size_t>(leader)];
+}
+
 std::string_view WordOf(ListKind kind) {
   constexpr std::string_view Words[] = {"", "", "pndec", "pnlcltr", "pnucltr", "pnlcrm", "pnucrm"};
   return Words[static_cast<std::size_t>(kind)];
@@ -68,6 +73,7 @@ void ParagraphWriter::WriteSpacing(const ParagraphFormat& format) {
 void ParagraphWriter::WriteTabs(const ParagraphFormat& format) {
   for (const TabStop& tab : format.tabs) {
     if (tab.kind != TabKind::Left) out_.Word(WordOf(tab.kind));
+    if (tab.leader != TabLeader::None) out_.Word(WordOf(tab.leader));
     out_.Word("tx", FittingIndent(tab.position));
   }
 }

@@ -15,7 +15,8 @@ constexpr std::uint32_t MaxLength = 2 * MaxTabStops;
 
 std::uint64_t KeyOf(std::uint32_t set, const TabStop& stop) {
   const auto place = static_cast<std::uint64_t>(std::int64_t{stop.position} + MaxIndent);
-  return (std::uint64_t{set} << 32) | (place << 8) | static_cast<std::uint64_t>(stop.kind);
+  return (std::uint64_t{set} << 32) | (place << 8) | (static_cast<std::uint64_t>(stop.leader) << 4) |
+         static_cast<std::uint64_t>(stop.kind);
 }
 
 }  // namespace

@@ -38,6 +38,7 @@ enum BoxProperty : int {
   ParagraphOfCellEnd,  // QTextFormat
   EndOfRow,            // bool
   BordersOfParagraph,  // QByteArray, see PackedRow.h; none where there are none
+  LeadersOfTabs,       // QByteArray, of TabLeaders, one for each of its tab stops; none where there are none
 };
 
 // int, twips, of a document that was filled.

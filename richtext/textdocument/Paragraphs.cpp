@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QtCore/QLocale>
-
 #include "richtext/document/Limits.h"
 #include "richtext/document/Twips.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/PackedRow.h"
 #include "richtext/textdocument/Rows.h"
+#include "richtext/textdocument/TabStops.h"
 
 namespace richtext {
 namespace {
@@ -18,7 +17,6 @@ constexpr std::int32_t RoomForLabel = 480;  // twips
 constexpr double SmallestLine = 2;          // pixels; a line of a spacing that would hide it
 constexpr double SmallestShare = 20;        // percent of a line
 constexpr double LargestShare = 1000;
-constexpr char16_t StopOfIndent = 0xFFFF;  // marks the stop that a hanging indent makes by itself
 
 double Pixels(std::int32_t twips) {
   return FittingIndent(twips) / TwipsPerPixel;
@@ -96,25 +94,6 @@ LineSpacingRule FromHeightType(int type) {
   }
 }
 
-QTextOption::TabType ToTabType(TabKind kind) {
-  constexpr QTextOption::TabType Types[] = {QTextOption::LeftTab, QTextOption::RightTab,
-                                            QTextOption::CenterTab, QTextOption::DelimiterTab};
-  return Types[static_cast<std::size_t>(kind)];
-}
-
-TabKind FromTabType(QTextOption::TabType type) {
-  switch (type) {
-    case QTextOption::RightTab:
-      return TabKind::Right;
-    case QTextOption::CenterTab:
-      return TabKind::Center;
-    case QTextOption::DelimiterTab:
-      return TabKind::Decimal;
-    default:
-      return TabKind::Left;
-  }
-}
-
 bool IsItem(const ParagraphFormat& format) {
   return format.list.kind != ListKind::None;
 }
@@ -169,32 +148,6 @@ void SetIndents(QTextBlockFormat& made, const ParagraphFormat& format, const Ind
   Keep(made, FirstIndentOfDocument, format.firstLineIndent, shown.first);
 }
 
-QChar DecimalPoint() {
-  const QString point = QLocale().decimalPoint();
-  return point.isEmpty() ? QChar(u'.') : point.front();
-}
-
-// A page counts from the edge of the text, the toolkit from where the first line begins.
-void SetTabs(QTextBlockFormat& made, const ParagraphFormat& format, const Indents& shown) {
-  QList<QTextOption::Tab> tabs;
-  const std::int32_t begin = shown.left + shown.first;
-  for (const TabStop& stop : format.tabs)
-    tabs.append({(stop.position - begin) / TwipsPerPixel, ToTabType(stop.kind), DecimalPoint()});
-  if (shown.first < 0) tabs.append({-Pixels(shown.first), QTextOption::LeftTab, QChar(StopOfIndent)});
-  std::stable_sort(tabs.begin(), tabs.end(),
-                   [](const auto& one, const auto& other) { return one.position < other.position; });
-  if (!tabs.isEmpty()) made.setTabPositions(tabs);
-}
-
-std::vector<TabStop> TabsOf(const QTextBlockFormat& format) {
-  std::vector<TabStop> stops;
-  const std::int32_t begin = Twips(format.leftMargin()) + Twips(format.textIndent());
-  for (const QTextOption::Tab& tab : format.tabPositions())
-    if (tab.delimiter != QChar(StopOfIndent))
-      stops.push_back({Twips(tab.position) + begin, FromTabType(tab.type)});
-  return stops;
-}
-
 void SetList(QTextBlockFormat& made, const ListFormat& list) {
   made.setProperty(ListKindOfDocument, static_cast<int>(list.kind));
   made.setProperty(ListStartOfDocument, list.start);
@@ -218,7 +171,7 @@ QTextBlockFormat ToBlockFormat(const ParagraphFormat& format, double width) {
   if (format.direction == Direction::RightToLeft) made.setLayoutDirection(Qt::RightToLeft);
   SetIndents(made, format, shown);
   SetSpacing(made, format, width);
-  SetTabs(made, format, shown);
+  SetTabs(made, format.tabs, shown.left, shown.first);
   if (IsItem(format)) SetList(made, format.list);
   if (format.borders != ParagraphBorders()) made.setProperty(BordersOfParagraph, Packed(format.borders));
   if (format.ground)

@@ -36,6 +36,7 @@ QTextBlockFormat InColumns(QTextBlockFormat format, const RowFormat& row) {
   format.setAlignment(Qt::AlignLeft);
   format.setTextIndent(0);
   format.setTabPositions(columns);
+  format.clearProperty(LeadersOfTabs);
   return format;
 }
 

@@ -138,6 +138,36 @@ TEST_F(BoxFormatsTest, FramesAreDrawnAroundNeighbours) {
   ExpectKept();
 }
 
+TEST_F(BoxFormatsTest, LeadersAreDrawnAlongTheirTabs) {
+  const auto inked = [&](int line) {
+    const QRect letters = box.cursorRect(QTextCursor(box.document()->findBlockByNumber(line)));
+    const QImage shot = box.viewport()->grab(QRect(40, letters.top(), 90, letters.height())).toImage();
+    QImage blank = shot;
+    blank.fill(Qt::white);
+    return shot != blank;
+  };
+  const std::string stops = R"(\tx200\tqr\tldot\tx3000)", plain = R"(\tldot\tx200\tqr\tx3000)";
+  Set(Page(stops + R"( abc\tab 1\par\pard\fi-300\li300)" + stops + R"( abc\tab 2\par\pard)" + plain +
+           R"( abc\tab 3)"));
+  EXPECT_TRUE(inked(0) && inked(1));
+  EXPECT_FALSE(inked(2)) << "not the leader of the stop that the tab goes to";
+  box.SetSelStart(5);
+  Press(Qt::Key_Return);
+  for (const Qt::Key key : {Qt::Key_W, Qt::Key_W, Qt::Key_Tab}) {
+    EXPECT_FALSE(inked(1));
+    Press(key);
+  }
+  EXPECT_TRUE(inked(1)) << "typed behind it";
+  Select(0, 6);
+  Press(Qt::Key_X, Qt::ControlModifier);
+  EXPECT_FALSE(inked(2));
+  box.SetSelStart(0);
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_TRUE(inked(0) && inked(1) && inked(2)) << "and pasted";
+  for (const char* leader : {"dot", "mdot", "hyph", "ul", "th", "eq"})
+    ExpectHeld(Page(std::string(R"(\fi-100\li300\tx200\tl)") + leader + R"(\tx900 abc\tab b)"));
+}
+
 TEST_F(BoxFormatsTest, UnderlineOfAPersonIsAPlainOne) {
   Set(Page(R"(\ulth thick)"));
   EXPECT_EQ(box.SelUnderline(), true);

@@ -93,7 +93,9 @@ inline std::string Dump(const ParagraphFormat& format) {
   if (format.autoAfter) words.Add("saauto");
   words.Add(NameOf(format.lineSpacingRule, {"", "lines", "atleast", "exact"}), format.lineSpacing);
   for (const TabStop& tab : format.tabs)
-    words.Add(NameOf(tab.kind, {"tab", "rtab", "ctab", "dtab"}), tab.position);
+    words.Add(std::string(NameOf(tab.kind, {"tab", "rtab", "ctab", "dtab"})) +
+                  NameOf(tab.leader, {"", ".", ":", "-", "_", "__", "="}),
+              tab.position);
   words.Add(Dump(format.list));
   if (format.ground) words.Add("on " + DumpColor(*format.ground));
   for (std::size_t side = 0; side < 4; ++side) {

@@ -43,8 +43,11 @@ TEST(RtfGrowth, StaysWithinABound) {
   const std::string link =
       R"({\field{\*\fldinst HYPERLINK ")" + std::string(MaxLink, 'x') + R"("}{\fldrslt )";
   const std::string signs = Repeated("\\u9999?", 32);
-  std::string tabs;
-  for (int i = 0; i < 40; ++i) tabs += "\\tqdec\\tx" + std::to_string(10'000 + i * 300);
+  std::string tabs, leaders;
+  for (int i = 0; i < 40; ++i) {
+    tabs += "\\tqdec\\tx" + std::to_string(10'000 + i * 300);
+    leaders += "\\tqdec\\tlhyph\\tx" + std::to_string(10'000 + i * 300);
+  }
   std::string borders;
   for (const char side : std::string("tlbr"))
     borders += std::string("\\brdr") + side + "\\brdrtriple\\brdrw255\\brsp620";
@@ -70,6 +73,7 @@ TEST(RtfGrowth, StaysWithinABound) {
       {R"({\*\pn\pndec{\pntxtb )" + signs + R"(}{\pntxta )" + signs + "}}" + Repeated("\\par", 6000), 0},
       {row + Repeated(R"(\cell\row)", 3000), 0},
       {tabs + row + Repeated(R"({\tx1\cell}\cell\row)", 3000), 0},
+      {leaders + row + Repeated(R"({\tx1\cell}\cell\row)", 3000), 0},
       {borders + tabs + Repeated("{\\tx1\\par}\\par", 3000), 0},
       {R"({\*\generator LibreOffice/7;}{\stylesheet{\s1)" + borders + tabs + R"(;}{\s2\sbasedon1\qc;}})" +
            Repeated(R"(\s2\par\s1\par)", 3000),
