@@ -57,7 +57,10 @@ Form::Form(Kind kind, const QString& name, const QString& caption, int widthTwip
   NoteInput();
   KeepHeldKeysInTheirWindow();
   const QSize size(Pixels(widthTwips), Pixels(heightTwips));
-  if (kind == Kind::Dialog) setFixedSize(size), WearGrownFont(*this);
+  if (kind == Kind::Dialog) {
+    setFixedSize(size);
+    WearGrownFont(*this);
+  }
   resize(size);
 }
 

@@ -5,6 +5,8 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QTreeView>
 
+#include "look/AfterFocus.h"
+
 namespace look {
 namespace {
 
@@ -63,25 +65,6 @@ void SpeakCurrentOf(const QAbstractItemView& view) {
   QAccessible::updateAccessibility(&event);
 }
 
-// The toolkit says the list, and the entry only when it changes.
-class EntrySpeaker : public QObject {
- public:
-  explicit EntrySpeaker(QAbstractItemView& view) : QObject(&view), view_(view) {
-    view.installEventFilter(this);
-  }
-
- protected:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() == QEvent::FocusIn)
-      QMetaObject::invokeMethod(
-          this, [this] { SpeakCurrentOf(view_); }, Qt::QueuedConnection);
-    return false;
-  }
-
- private:
-  QAbstractItemView& view_;
-};
-
 }  // namespace
 
 void SpeakAs(QWidget& control, QAccessible::Role role) {
@@ -101,8 +84,9 @@ void Announce(const QString& text) {
   QAccessible::updateAccessibility(&appears);
 }
 
+// The toolkit says the list, and the entry only when it changes.
 void SpeakCurrentEntry(QAbstractItemView& view) {
-  new EntrySpeaker(view);
+  AfterFocusComes(view, [&view] { SpeakCurrentOf(view); });
 }
 
 }  // namespace look

@@ -2,8 +2,9 @@
 
 #include <utility>
 
-#include <QtCore/QEvent>
 #include <QtWidgets/QAccessibleWidget>
+
+#include "look/AfterFocus.h"
 
 namespace look {
 namespace {
@@ -80,28 +81,9 @@ void Say(QWidget& control) {
   QAccessible::updateAccessibility(&event);
 }
 
-// The toolkit says the control alone.
-class ChoiceSpeaker : public QObject {
- public:
-  explicit ChoiceSpeaker(QWidget& control) : QObject(&control), control_(control) {
-    control.installEventFilter(this);
-  }
-
- protected:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() == QEvent::FocusIn)
-      QMetaObject::invokeMethod(
-          this, [this] { Say(control_); }, Qt::QueuedConnection);
-    return false;
-  }
-
- private:
-  QWidget& control_;
-};
-
-// What was told of the control as it was being made, if anything, goes.
+// The toolkit says the control alone. What was told of it as it was being made, if anything, goes.
 void Begin(QWidget& control) {
-  new ChoiceSpeaker(control);
+  AfterFocusComes(control, [&control] { Say(control); });
   if (!QAccessible::isActive()) return;
   if (QAccessibleInterface* before = QAccessible::queryAccessibleInterface(&control))
     QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(before));

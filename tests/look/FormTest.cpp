@@ -57,7 +57,7 @@ TEST_F(FormTest, IsMeasuredInTwipsHalvesToEvenAndCentredOnce) {
   EXPECT_EQ(dialog.label->textFormat(), Qt::PlainText);
   for (const int size : {16, 22, 32, 48, 64, 128})
     EXPECT_EQ(QApplication::windowIcon().pixmap(QSize(size, size), 1).size(), QSize(size, size));
-  EXPECT_EQ(look::EmblemPicture(96).size(), QSize(96, 96));
+  EXPECT_EQ(look::EmblemPicture(96).deviceIndependentSize(), QSizeF(96, 96));
   const QPoint off = dialog.geometry().center() - dialog.screen()->availableGeometry().center();
   EXPECT_LE(off.manhattanLength(), 8);  // the frame's share
   dialog.move(3, 4);

@@ -26,8 +26,8 @@ TEST(ThemePictures, HaveTheirSizeAndTintAndAreEasyToReadOn) {
     const auto& [name, buttonSize, tint] = themes[index];
     look::PutOnTheme(index);
     EXPECT_EQ(look::CurrentTheme().surface, tint) << index;
-    EXPECT_EQ(look::CurrentTheme().large.size(), QSize(800, 600)) << index;
-    EXPECT_EQ(look::CurrentTheme().button.size(), buttonSize) << index;
+    EXPECT_EQ(look::CurrentTheme().large.deviceIndependentSize(), QSizeF(800, 600)) << index;
+    EXPECT_EQ(look::CurrentTheme().button.deviceIndependentSize(), QSizeF(buttonSize)) << index;
     EXPECT_EQ(QImage(u":/themes/%1-large@2x"_qs.arg(name)).size(), QSize(1600, 1200)) << "for sharp screens";
     EXPECT_EQ(QImage(u":/themes/%1-button@2x"_qs.arg(name)).size(), 2 * buttonSize) << "for sharp screens";
     for (const QPixmap& picture : {look::CurrentTheme().large, look::CurrentTheme().button}) {
