@@ -211,12 +211,13 @@ void HelpWindow::FindNext() {
   if (!found) {
     Browser->setTextCursor(place);
     Browser->verticalScrollBar()->setValue(scrolled);
-    look::Announce(NotFound);
   }
   TellWhetherFound(found);
 }
 
+// Of what is found its line is read, since the keyboard stays where it is.
 void HelpWindow::TellWhetherFound(bool found) {
+  look::Announce(found ? Browser->textCursor().block().text() : NotFound);
   QPalette palette;
   if (!found) palette.setColor(QPalette::Text, QColor(0xa0, 0x28, 0x28));
   txtFind->setPalette(palette);

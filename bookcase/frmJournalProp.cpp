@@ -230,7 +230,7 @@ void frmJournalProp::cmdDefaultFont_Click() {
   const platform::FontValues start{
       font.family(),    font.pointSizeF(),         font.bold(), font.italic(), font.underline(),
       font.strikeOut(), lblSamplePage->ForeColor()};
-  const auto result = platform::AskForFont({start, lblSamplePage->BackColor(), true});
+  const auto result = platform::AskForFont({start, lblSamplePage->BackColor(), true, look::Announce});
   if (!platform::WasChosen(result.end, "font")) return;
   const platform::FontValues& chosen = result.choice;
   lblSamplePage->SetFont(chosen.name, chosen.size, chosen.bold, chosen.italic, chosen.underline,

@@ -1,6 +1,7 @@
 #include "editor/SelectFont.h"
 
 #include "editor/PageFace.h"
+#include "look/Spoken.h"
 #include "platform/dialogs/FontDialog.h"
 #include "richtext/box/RichTextBox.h"
 
@@ -44,6 +45,6 @@ void ApplyAtOnce(const FontValues& values, RichTextBox& text) {
 
 void ChangeSelectionFont() {
   RichTextBox& text = *Face().txtM;
-  const auto result = platform::AskForFont({ValuesOf(text), text.BackColor()});
+  const auto result = platform::AskForFont({ValuesOf(text), text.BackColor(), false, look::Announce});
   if (platform::WasChosen(result.end, "font")) ApplyAtOnce(result.choice, text);
 }

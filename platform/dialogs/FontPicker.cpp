@@ -230,9 +230,16 @@ void FontPicker::ShowSample() {
   const bool known = !name->Entry().isEmpty();
   const bool acceptable = known || !named || KeepsName();
   buttons->button(QDialogButtonBox::Ok)->setEnabled(acceptable);
-  note->setText(known || !named ? QString()
-                : acceptable    ? QStringLiteral("This font is not installed here. Its name is kept.")
-                                : QStringLiteral("No installed font has this name."));
+  Tell(known || !named ? QString()
+       : acceptable    ? QStringLiteral("This font is not installed here. Its name is kept.")
+                       : QStringLiteral("No installed font has this name."));
+}
+
+// What stands there at first is read with the dialog.
+void FontPicker::Tell(const QString& text) {
+  if (text == note->text()) return;
+  note->setText(text);
+  if (isVisible() && !text.isEmpty() && question_.announce) question_.announce(text);
 }
 
 }  // namespace platform

@@ -43,6 +43,7 @@ class FontPicker : public QDialog {
   void ChooseColor();
   void ShowColor();
   void ShowSample();
+  void Tell(const QString& text);
 
   FontQuestion question_;
   std::uint32_t chosenColor_ = 0;

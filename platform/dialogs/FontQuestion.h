@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include <QtCore/QString>
 
@@ -20,9 +21,10 @@ struct FontValues {
 };
 
 struct FontQuestion {
-  FontValues start;                // what the dialog stands on at first
-  std::uint32_t paper = 0xFFFFFF;  // under the sample
-  bool codePageNames = false;      // offers only fonts whose names the code page holds
+  FontValues start;                                   // what the dialog stands on at first
+  std::uint32_t paper = 0xFFFFFF;                     // under the sample
+  bool codePageNames = false;                         // offers only fonts whose names the code page holds
+  std::function<void(const QString&)> announce = {};  // says aloud what the dialog tells while it is open
 };
 
 }  // namespace platform

@@ -158,13 +158,14 @@ TEST_F(OptionsTest, F1LeadsToTheChapterOfTheWindow) {
   QPlatformAccessibility& bridge = *QGuiApplicationPrivate::platformIntegration()->accessibility();
   bridge.setActive(true);
   static int listsTold = 0;
+  static QString told;
   const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
     listsTold += event->type() == QAccessible::Focus && qobject_cast<QListWidget*>(event->object());
+    if (event->type() == QAccessible::ObjectShow)
+      told = event->accessibleInterface()->text(QAccessible::Name);
   });
   help->Browser->setSource(QUrl(u"#frmAbout"_qs));  // as a link in the text does
   EXPECT_EQ(listsTold, 0) << "the keys are in the text";
-  QAccessible::installUpdateHandler(before);
-  bridge.setActive(false);
   EXPECT_EQ(help->lstContents->currentItem()->text(), u"About");
   EXPECT_EQ(HelpOn(list)->lstContents->currentItem()->text(), u"Books") << "the key leads back";
   QTest::keyClick(help->Browser, Qt::Key_Tab);
@@ -172,12 +173,17 @@ TEST_F(OptionsTest, F1LeadsToTheChapterOfTheWindow) {
   QTest::keyClick(help->Browser, Qt::Key_Return);
   EXPECT_LT(help->Browser->textCursor().position(), 10) << "reading goes on where the link led";
   help->Browser->backward();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(help));
   help->txtFind->setText(u"NEEDLE"_qs);
   for (int i = 0; i < 3; ++i) Click(help->cmdFindNext);
   EXPECT_EQ(help->Browser->textCursor().selectedText(), u"needle");
+  EXPECT_EQ(told, u"needle second") << "the line that it stands in";
   help->txtFind->setText(u"hay"_qs);
   Click(help->cmdFindNext);
   EXPECT_EQ(help->Browser->textCursor().selectedText(), u"needle") << "what is not found keeps the place";
+  EXPECT_EQ(told, u"These words do not stand in the help.");
+  QAccessible::installUpdateHandler(before);
+  bridge.setActive(false);
   QTest::keyClick(help->Browser, Qt::Key_Escape);
   EXPECT_FALSE(help->isVisible());
 }

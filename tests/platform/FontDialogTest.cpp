@@ -20,9 +20,11 @@ class FontDialogTest : public fixture::Desk {
       QTest::keyClick(picker, Qt::Key_Return);
       if (picker->isVisible()) QTest::keyClick(picker, Qt::Key_Escape);
     });
-    const auto result = platform::AskForFont({start});
+    const auto announce = [](const QString& text) { told += text; };
+    const auto result = platform::AskForFont({start, 0xFFFFFF, false, announce});
     return result.end.number == 0 ? result.choice : FontValues{u"cancelled"_qs};
   }
+  static inline QStringList told;
   static void Type(platform::ChoiceList* box, const QString& text) {
     box->edit->selectAll();
     QTest::keyClicks(box->edit, text);
@@ -72,8 +74,10 @@ TEST_F(FontDialogTest, TypingLeadsTheListAndAnUnknownNameIsNotAccepted) {
     EXPECT_EQ(picker.size->edit->text(), sizes.item(1)->text());
   });
   EXPECT_NE(back.size, 16);
+  told.clear();
   back = After(start, [](FontPicker& picker) { Type(picker.name, u"no such font"_qs); });
   EXPECT_EQ(back.name, u"cancelled");
+  EXPECT_EQ(told, QStringList(u"No installed font has this name."_qs)) << "aloud, and once";
 }
 
 // Which the font dialog's colour comes from as well: see the tour.
