@@ -1,6 +1,8 @@
 #include "output/modPrint.h"
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 #include <malloc.h>
 #include <optional>
 
@@ -81,17 +83,25 @@ void SetJournalFont() {
   look::The<frmPrintRTF>().txtM->setFont(font);
 }
 
+// Selects all of `text` in the journal's font. Each step of it takes its time over a long text.
+void Prepare(const QString& text, richtext::RichTextBox& box, look::Progress& progress) {
+  const std::function<void()> steps[] = {&SetJournalFont, [&] { box.SetText(text); },
+                                         [&] { box.SetSelStart(0); },
+                                         [&] { box.SetSelLength(static_cast<int>(box.Text().size())); }};
+  int done = 0;
+  for (const auto& step : steps) {
+    if (!progress.GoOn(QStringLiteral("Preparing the pages to print"), done++, std::size(steps))) return;
+    Guarded(step);
+  }
+}
+
 void PrintPages(std::int32_t first, std::int32_t last, const PrintOrder& order) {
   richtext::RichTextBox& box = *look::The<frmPrintRTF>().txtM;
   look::Progress progress;
   Guarded([&] { box.SetTextRTF({}); });
   const QString joined = JoinedPages(first, last, progress);
-  if (progress.IsCancelled()) return;
-  Guarded(SetJournalFont);
-  Guarded([&] { box.SetText(joined); });
-  Guarded([&] { box.SetSelStart(0); });
-  Guarded([&] { box.SetSelLength(static_cast<int>(box.Text().size())); });
-  Guarded([&] { PrintSelectionOf(box, order, progress); });
+  if (!progress.IsCancelled()) Prepare(joined, box, progress);
+  if (!progress.IsCancelled()) Guarded([&] { PrintSelectionOf(box, order, progress); });
 }
 
 // Nobody sees the box, and the diary must not lie there in plain words when its journal is closed. The
