@@ -17,8 +17,6 @@
 namespace richtext {
 namespace {
 
-constexpr double ScrollBar = 20;  // pixels; the picture may be what brings it
-
 // Of each paragraph, whether its cell has one.
 std::vector<bool> GroundsOfCells(const Document& page) {
   std::vector<bool> grounds;
@@ -49,7 +47,7 @@ QTextImageFormat Scaled(QTextImageFormat format, double share) {
 
 double RoomIn(const QTextBlock& block) {
   const QTextDocument& document = *block.document();
-  const double page = PageWidth(document) - 2 * document.documentMargin() - ScrollBar;
+  const double page = RoomOnPage(document);  // the picture may be what brings the scroll bar
   const QTextTable* const row = TableAt(document, block.position());
   const QTextBlockFormat format = block.blockFormat();
   const double room = row ? RoomInCell(*row, block.position(), page) : page;

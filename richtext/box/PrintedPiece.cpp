@@ -15,6 +15,7 @@
 #include "richtext/textdocument/Paragraphs.h"
 #include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/RowTables.h"
+#include "richtext/textdocument/TabStops.h"
 
 namespace richtext {
 namespace {
@@ -38,7 +39,9 @@ PrintedPiece::PrintedPiece(const QTextDocument& source, int from, int to, const 
 QTextBlockFormat PrintedPiece::OnPaper(const QTextBlock& block) const {
   const bool isEnd = block.position() < from_ && block.position() + block.length() - 1 == from_;
   if (IsGap(block) || (isEnd && TableAt(source_, from_ + 1))) return GapFormat();
-  return ToBlockFormat(FromBlockFormat(block.blockFormat()), sheet_.width());
+  QTextBlockFormat format = ToBlockFormat(FromBlockFormat(block.blockFormat()), sheet_.width());
+  ShowLastTabWithin(format, sheet_.width());
+  return format;
 }
 
 bool PrintedPiece::IsCopied(const QTextTable* row, int to) const {

@@ -89,6 +89,7 @@ void RichTextBox::Fill(std::string_view rtf) {
   if (hasBar || page.text.size() > LongPage) setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   {
     const auto asEver = qScopeGuard([this] { setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); });
+    document()->setProperty(PageWidthProperty, contentsRect().width());  // known before it is shown
     FillDocument(page, *document());
   }
   Begin();

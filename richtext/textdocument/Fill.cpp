@@ -18,6 +18,7 @@
 #include "richtext/textdocument/Pictures.h"
 #include "richtext/textdocument/RowTables.h"
 #include "richtext/textdocument/Rows.h"
+#include "richtext/textdocument/TabStops.h"
 #include "richtext/textdocument/TextDocument.h"
 
 namespace richtext {
@@ -45,8 +46,9 @@ class Filler {
     std::transform(text_.begin(), text_.end(), text_.begin(), WithinParagraph);
     std::transform(source.formats.begin(), source.formats.end(), std::back_inserter(formats_), ToTextFormat);
     std::transform(source.formats.begin(), source.formats.end(), std::back_inserter(marks_), ToMarkFormat);
+    const double room = RoomOnPage(*cursor.document());
     for (const ParagraphFormat& format : source.paragraphFormats)
-      blockFormats_.push_back(ToBlockFormat(format));
+      ShowLastTabWithin(blockFormats_.emplace_back(ToBlockFormat(format)), room);
     const bool isInColumns = IsInRow(cursor.blockFormat()) && !cursor.document()->isEmpty();
     isWithinRow_ = isInColumns || TableAt(*cursor.document(), cursor.position());
     if (isInColumns)

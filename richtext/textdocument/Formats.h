@@ -38,11 +38,14 @@ enum BoxProperty : int {
   ParagraphOfCellEnd,  // QTextFormat
   EndOfRow,            // bool
   BordersOfParagraph,  // QByteArray, see PackedRow.h; none where there are none
+  LastTabOfDocument,   // int, twips
   LeadersOfTabs,       // QByteArray, of TabLeaders, one for each of its tab stops; none where there are none
 };
 
 // int, twips, of a document that was filled.
 constexpr char TabDistanceProperty[] = "tabDistance";
+// int, pixels, of a document that is to be laid out so wide.
+constexpr char PageWidthProperty[] = "pageWidth";
 
 // Hidden text has the format of shown text here: that it is hidden is told beside it.
 QTextCharFormat ToTextFormat(const CharacterFormat& format);

@@ -13,6 +13,7 @@
 namespace richtext {
 namespace {
 
+constexpr double ScrollBar = 20;  // pixels
 constexpr double NearlyAsWide = 0.95;
 constexpr double AllOfIt = 99.5;                         // percent; what is rounded up stays within
 constexpr double NarrowestCell = 2 * PaddingOfCell + 1;  // pixels
@@ -176,8 +177,13 @@ QTextCharFormat WithoutCell(QTextCharFormat format) {
 }
 
 double PageWidth(const QTextDocument& document) {
-  const double width = document.pageSize().width();
-  return width > 0 ? width : 400;
+  constexpr double Narrow = 400;
+  const double width = document.pageSize().width(), told = document.property(PageWidthProperty).toDouble();
+  return width > 0 ? width : told > 0 ? told : Narrow;
+}
+
+double RoomOnPage(const QTextDocument& document) {
+  return PageWidth(document) - 2 * document.documentMargin() - ScrollBar;
 }
 
 double RoomInCell(const QTextTable& table, int position, double page) {

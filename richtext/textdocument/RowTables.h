@@ -64,8 +64,10 @@ PlaceInCell PlaceOf(const QTextBlock& paragraph);
 // Of letters, which may have taken the format of a cell's sign.
 QTextCharFormat WithoutCell(QTextCharFormat format);
 
-// In pixels; of a document that nobody has laid out yet, that of a narrow window.
+// In pixels; of a document that nobody has laid out yet, what it is told to be, or that of a narrow window.
 double PageWidth(const QTextDocument& document);
+// Likewise between the margins and beside a scroll bar, whether there is one or not.
+double RoomOnPage(const QTextDocument& document);
 // In pixels, of what is free for the text of the cell at a position, of a page so wide.
 double RoomInCell(const QTextTable& table, int position, double page);
 

@@ -37,6 +37,7 @@ QTextBlockFormat InColumns(QTextBlockFormat format, const RowFormat& row) {
   format.setTextIndent(0);
   format.setTabPositions(columns);
   format.clearProperty(LeadersOfTabs);
+  format.clearProperty(LastTabOfDocument);
   return format;
 }
 

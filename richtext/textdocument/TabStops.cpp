@@ -73,6 +73,18 @@ void SetTabs(QTextBlockFormat& made, const std::vector<TabStop>& stops, std::int
   SetLeaders(made, stops);
 }
 
+void ShowLastTabWithin(QTextBlockFormat& format, double page) {
+  QList<QTextOption::Tab> tabs = format.tabPositions();
+  const double begin = format.leftMargin() + format.textIndent();
+  const double edge = std::floor(page - format.rightMargin() - begin);
+  const auto isInFront = [&](const QTextOption::Tab& tab) { return tab.position < edge; };
+  if (tabs.isEmpty() || tabs.last().type != QTextOption::RightTab || isInFront(tabs.last())) return;
+  if (edge <= 0 || !std::all_of(tabs.cbegin(), tabs.cend() - 1, isInFront)) return;
+  format.setProperty(LastTabOfDocument, Twips(tabs.last().position + begin));
+  tabs.last().position = edge;
+  format.setTabPositions(tabs);
+}
+
 std::vector<TabStop> TabsOf(const QTextBlockFormat& format) {
   std::vector<TabStop> stops;
   const std::int32_t begin = Twips(format.leftMargin()) + Twips(format.textIndent());
@@ -80,6 +92,8 @@ std::vector<TabStop> TabsOf(const QTextBlockFormat& format) {
   for (const QTextOption::Tab& tab : format.tabPositions())
     if (!IsOfIndent(tab))
       stops.push_back({Twips(tab.position) + begin, FromTabType(tab.type), LeaderAt(leaders, stops.size())});
+  if (!stops.empty() && format.hasProperty(LastTabOfDocument))
+    stops.back().position = format.intProperty(LastTabOfDocument);
   return stops;
 }
 

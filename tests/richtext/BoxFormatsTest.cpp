@@ -164,6 +164,9 @@ TEST_F(BoxFormatsTest, LeadersAreDrawnAlongTheirTabs) {
   box.SetSelStart(0);
   Press(Qt::Key_V, Qt::ControlModifier);
   EXPECT_TRUE(inked(0) && inked(1) && inked(2)) << "and pasted";
+  Set(Page(R"(\tx300\tqr\tldot\tx9350\li150 abc\tab 12\par x)"));
+  EXPECT_EQ(box.document()->firstBlock().layout()->lineCount(), 1) << "a stop beyond the page";
+  ExpectKept();
   for (const char* leader : {"dot", "mdot", "hyph", "ul", "th", "eq"})
     ExpectHeld(Page(std::string(R"(\fi-100\li300\tx200\tl)") + leader + R"(\tx900 abc\tab b)"));
 }
