@@ -28,7 +28,15 @@ enum class UnderlineKind : std::uint8_t {
   DashDot,
   DashDotDot,
   Wave,
-  Thick
+  Thick,
+  LongDash,
+  ThickDotted,
+  ThickDash,
+  ThickLongDash,
+  ThickDashDot,
+  ThickDashDotDot,
+  ThickWave,
+  DoubleWave
 };
 enum class Capitals : std::uint8_t { AsWritten, All, Small };
 enum class VerticalPlace : std::uint8_t { Baseline, Superscript, Subscript };

@@ -23,7 +23,14 @@ enum class BorderKind : std::uint8_t {
   Dotted,
   Dashed,
   Hairline,
-  Triple
+  Triple,
+  SmallDashes,
+  DashDot,
+  DashDotDot,
+  Inset,
+  Outset,
+  Ridge,
+  Groove
 };
 enum class Merging : std::uint8_t { None, First, Continued };  // with the cells behind or below
 enum class PlaceInCell : std::uint8_t { Top, Center, Bottom };

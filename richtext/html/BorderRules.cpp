@@ -15,7 +15,18 @@ QLatin1String StyleOf(BorderKind kind) {
     case BorderKind::Dotted:
       return QLatin1String("dotted");
     case BorderKind::Dashed:
+    case BorderKind::SmallDashes:
+    case BorderKind::DashDot:
+    case BorderKind::DashDotDot:
       return QLatin1String("dashed");
+    case BorderKind::Inset:
+      return QLatin1String("inset");
+    case BorderKind::Outset:
+      return QLatin1String("outset");
+    case BorderKind::Ridge:
+      return QLatin1String("ridge");
+    case BorderKind::Groove:
+      return QLatin1String("groove");
     default:
       return QLatin1String("solid");
   }

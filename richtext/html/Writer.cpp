@@ -15,7 +15,9 @@ namespace {
 const QLatin1String LineStyles[] = {QLatin1String(""),       QLatin1String("solid"),  QLatin1String("solid"),
                                     QLatin1String("double"), QLatin1String("dotted"), QLatin1String("dashed"),
                                     QLatin1String("dashed"), QLatin1String("dashed"), QLatin1String("wavy"),
-                                    QLatin1String("solid")};
+                                    QLatin1String("solid"),  QLatin1String("dashed"), QLatin1String("dotted"),
+                                    QLatin1String("dashed"), QLatin1String("dashed"), QLatin1String("dashed"),
+                                    QLatin1String("dashed"), QLatin1String("wavy"),   QLatin1String("wavy")};
 
 QString Points(double twips) {
   return QString::number(twips / 20) + QLatin1String("pt");

@@ -7,6 +7,7 @@
 
 #include "richtext/document/Document.h"
 #include "richtext/document/Limits.h"
+#include "richtext/rtf/Shading.h"
 
 namespace richtext::rtf {
 
@@ -55,6 +56,8 @@ struct CharacterState {
 };
 
 struct ParagraphState {
+  static constexpr std::int32_t NotTold = INT32_MIN;
+
   Alignment alignment = Alignment::Left;
   Direction direction = Direction::LeftToRight;
   TabKind nextTab = TabKind::Left;  // \tqr, \tldot and their like come before their \tx
@@ -65,11 +68,13 @@ struct ParagraphState {
   bool autoAfter = false;
   std::int32_t leftIndent = 0;
   std::int32_t rightIndent = 0;
+  std::int32_t startIndent = NotTold;  // \lin: where lines begin, whichever side that is
+  std::int32_t endIndent = NotTold;    // \rin
   std::int32_t firstLineIndent = 0;
   std::int32_t spaceBefore = 0;
   std::int32_t spaceAfter = 0;
   std::int32_t lineSpacing = 0;
-  std::int32_t ground = AutomaticColor;
+  Shading ground;
   std::uint32_t tabs = 0;
   std::uint32_t borders = 0;
   std::uint32_t numbering = 0;  // list of a \pn

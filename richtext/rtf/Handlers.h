@@ -89,19 +89,22 @@ inline void Highlight(Context& context, Number, Number index) {
   context.ChangeCharacter().highlight = index == 0 ? AutomaticColor : context.Colors().Find(index);
 }
 
-// White is what some programs write for none; on coloured paper it would stand out.
+// Likewise.
 inline std::int32_t GroundColor(Context& context, Number index) {
-  constexpr std::int32_t White = 0xFFFFFF;
-  const std::int32_t color = index == 0 ? AutomaticColor : context.Colors().Find(index);
-  return color == White ? AutomaticColor : color;
+  return index == 0 ? AutomaticColor : context.Colors().Find(index);
 }
 
 inline void Background(Context& context, Number, Number index) {
-  context.ChangeCharacter().background = GroundColor(context, index);
+  context.ChangeCharacter().background = Shading{GroundColor(context, index)}.Color();
 }
 
+template <Number Shading::*Color>
 inline void ParagraphGround(Context& context, Number, Number index) {
-  context.ChangeParagraph().ground = GroundColor(context, index);
+  context.ChangeParagraph().ground.*Color = GroundColor(context, index);
+}
+
+inline void ParagraphPattern(Context& context, Number, Number share) {
+  context.ChangeParagraph().ground.share = share;
 }
 
 // Characters' looks.
@@ -164,6 +167,13 @@ inline void Flow(Context& context, Number direction, Number) {
 template <Number ParagraphState::*Measure>
 inline void Indent(Context& context, Number, Number twips) {
   context.ChangeParagraph().*Measure = FittingIndent(twips);
+}
+
+// Tells more than the older word beside it, unless that comes behind it.
+template <Number ParagraphState::*Side, Number ParagraphState::*Newer>
+inline void SideIndent(Context& context, Number, Number twips) {
+  context.ChangeParagraph().*Side = FittingIndent(twips);
+  context.State().paragraph.*Newer = ParagraphState::NotTold;
 }
 
 template <Number ParagraphState::*Measure>

@@ -82,8 +82,9 @@ void ListTable::SetText(std::u16string_view text) {
   level->before = text.substr(0, std::min(own, MaxListText));
   level->after = own == text.npos ? std::u16string() : FittingListText(text.substr(own + 1));
   if (own != text.npos) return;
-  const bool isBlank = text.find_first_not_of(u' ') == text.npos;  // an outline's level that shows no number
-  level->kind = isBlank && level->kind != ListKind::Bullet ? ListKind::None : ListKind::Bullet;
+  // A level of an outline can show nothing.
+  const bool isBlank = text.find_first_not_of(u' ') == text.npos;
+  level->kind = isBlank ? ListKind::None : ListKind::Bullet;
 }
 
 void ListTable::SetListId(std::int32_t id) {
@@ -92,6 +93,10 @@ void ListTable::SetListId(std::int32_t id) {
   } else if (!lists_.empty()) {
     listOfId_.try_emplace(id, lists_.size() - 1);
   }
+}
+
+void ListTable::SetStyleId(std::int32_t id) {
+  if (!overriding_ && !lists_.empty()) lists_.back().style = id;
 }
 
 void ListTable::BeginOverride() {
@@ -126,9 +131,12 @@ ListFormat ListTable::Find(std::int32_t number, std::int32_t level) const {
   return found;
 }
 
-// Levels beyond a list's last one are as that.
+// Levels beyond a list's last one are as that. A list without any has those of its style, which is a list,
+// too.
 std::size_t ListTable::FindLevel(std::int32_t listId, std::size_t level) const {
-  const auto found = listOfId_.find(listId);
+  auto found = listOfId_.find(listId);
+  if (found != listOfId_.end() && lists_[found->second].levels == 0)
+    found = listOfId_.find(lists_[found->second].style);
   if (found == listOfId_.end() || lists_[found->second].levels == 0) return NoLevel;
   const List& list = lists_[found->second];
   return list.firstLevel + std::min(level, list.levels - 1);

@@ -27,6 +27,7 @@ class ListTable {
   static bool IsLevelMark(char16_t unit) { return unit < LevelMarks.size(); }
   void SetText(std::u16string_view text);
   void SetListId(std::int32_t id);
+  void SetStyleId(std::int32_t id);  // the list's
   void BeginOverride();
   void BeginOverrideLevel();
   void Restart();  // the override's level counts for itself
@@ -43,6 +44,7 @@ class ListTable {
   struct List {
     std::size_t firstLevel = 0;  // in levels_
     std::size_t levels = 0;
+    std::int32_t style = 0;
   };
   static constexpr std::size_t NoLevel = SIZE_MAX;
   static constexpr std::size_t MostLevels = MaxListLevel + 1;

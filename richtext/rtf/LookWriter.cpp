@@ -11,8 +11,10 @@ namespace richtext::rtf {
 namespace {
 
 std::string_view WordOf(UnderlineKind kind) {
-  constexpr std::string_view Words[] = {"ulnone", "ul",      "ulw",      "uldb",   "uld",
-                                        "uldash", "uldashd", "uldashdd", "ulwave", "ulth"};
+  constexpr std::string_view Words[] = {"ulnone",     "ul",      "ulw",       "uldb",      "uld",
+                                        "uldash",     "uldashd", "uldashdd",  "ulwave",    "ulth",
+                                        "ulldash",    "ulthd",   "ulthdash",  "ulthldash", "ulthdashd",
+                                        "ulthdashdd", "ulhwave", "ululdbwave"};
   return Words[static_cast<std::size_t>(kind)];
 }
 

@@ -21,6 +21,15 @@ void SetLineSpacing(const ParagraphState& state, ParagraphFormat& format) {
                                                    : LineSpacingRule::AtLeast;
 }
 
+void SetIndents(const ParagraphState& state, ParagraphFormat& format) {
+  const auto told = [](std::int32_t newer, std::int32_t older) {
+    return newer == ParagraphState::NotTold ? older : newer;
+  };
+  const bool fromRight = state.direction == Direction::RightToLeft;
+  format.leftIndent = told(fromRight ? state.endIndent : state.startIndent, state.leftIndent);
+  format.rightIndent = told(fromRight ? state.startIndent : state.endIndent, state.rightIndent);
+}
+
 }  // namespace
 
 // The list table outranks the older words, unless these tell of a list by themselves.
@@ -71,12 +80,12 @@ ParagraphFormat ParagraphFormats::FormatOf(const ParagraphState& state) {
   ParagraphFormat format;
   format.alignment = state.alignment;
   format.direction = state.direction;
-  format.leftIndent = state.leftIndent;
-  format.rightIndent = state.rightIndent;
+  SetIndents(state, format);
   format.firstLineIndent = state.firstLineIndent;
   format.spaceBefore = state.spaceBefore;
   format.spaceAfter = state.spaceAfter;
-  if (state.ground != AutomaticColor) format.ground = static_cast<std::uint32_t>(state.ground);
+  if (const std::int32_t ground = state.ground.Color(); ground != AutomaticColor)
+    format.ground = static_cast<std::uint32_t>(ground);
   format.autoBefore = state.autoBefore;
   format.autoAfter = state.autoAfter;
   SetLineSpacing(state, format);

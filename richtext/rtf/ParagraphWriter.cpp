@@ -52,6 +52,7 @@ void ParagraphWriter::WriteFormat(const ParagraphFormat& format, const Around& a
   out_.Measure("fi", FittingIndent(format.firstLineIndent));
   out_.Measure("li", FittingIndent(format.leftIndent));
   out_.Measure("ri", FittingIndent(format.rightIndent));
+  if (format.direction == Direction::RightToLeft) WriteSidesFromRight(format);
   out_.Measure("sb", FittingSpace(format.spaceBefore));
   out_.Measure("sa", FittingSpace(format.spaceAfter));
   if (format.autoBefore) out_.Word("sbauto", 1);
@@ -61,6 +62,16 @@ void ParagraphWriter::WriteFormat(const ParagraphFormat& format, const Around& a
   WriteBorders(format.borders);
   out_.Measure("cbpat", tables_.NumberOf(format.ground));
   if (format.alignment != Alignment::Left) out_.Word(WordOf(format.alignment));
+}
+
+// Where lines run from right to left, some readers take the older words for the sides where lines begin and
+// end.
+void ParagraphWriter::WriteSidesFromRight(const ParagraphFormat& format) {
+  const std::int32_t start = FittingIndent(format.rightIndent);
+  const std::int32_t end = FittingIndent(format.leftIndent);
+  if (start == 0 && end == 0) return;
+  out_.Word("lin", start);
+  out_.Word("rin", end);
 }
 
 void ParagraphWriter::WriteSpacing(const ParagraphFormat& format) {

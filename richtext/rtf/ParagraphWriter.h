@@ -26,6 +26,7 @@ class ParagraphWriter {
 
  private:
   void WriteFormat(const ParagraphFormat& format, const Around& around);
+  void WriteSidesFromRight(const ParagraphFormat& format);
   void WriteSpacing(const ParagraphFormat& format);
   void WriteTabs(const ParagraphFormat& format);
   void WriteBorders(const ParagraphBorders& borders);

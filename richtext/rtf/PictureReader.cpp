@@ -85,20 +85,24 @@ bool IsPart(std::int64_t crop, std::int64_t whole) {
   return -whole < crop && crop < whole && whole <= MaxPictureTwips;
 }
 
-// A scale or a crop that leaves nothing was not meant; one that leads far out of the picture counts for the
+// What is cropped is told of the picture before it is scaled. A scale or a crop that leaves nothing was not
+// meant; one that leads far out of the picture counts for the
 // size alone.
 Shown ShownSide(const PictureExtent& extent, PictureKind kind) {
   const std::int64_t percent = extent.scalePercent > 0 ? extent.scalePercent : 100;
   const std::int64_t natural = std::min<std::int64_t>(NaturalSize(extent, kind, percent != 100),
                                                       std::numeric_limits<std::int32_t>::max());
   const std::int64_t scaled = natural * percent / 100;
-  const std::int64_t cropped = std::int64_t{extent.cropBefore} + extent.cropAfter;
+  const std::int64_t before = extent.cropBefore * percent / 100;
+  const std::int64_t after = extent.cropAfter * percent / 100;
+  const std::int64_t cropped = before + after;
   if (natural <= 0) return {};
   const std::int64_t size = cropped < scaled ? scaled - cropped : scaled;
   const Shown shown{FittingPictureSize(std::max<std::int64_t>(size, 1))};
-  const bool isKept = cropped < scaled && size <= MaxPictureTwips && IsPart(extent.cropBefore, scaled) &&
-                      IsPart(extent.cropAfter, scaled);
-  return isKept ? Shown{shown.size, extent.cropBefore, extent.cropAfter} : shown;
+  const bool isKept =
+      cropped < scaled && size <= MaxPictureTwips && IsPart(before, scaled) && IsPart(after, scaled);
+  if (!isKept) return shown;
+  return {shown.size, static_cast<std::int32_t>(before), static_cast<std::int32_t>(after)};
 }
 
 // A side that nobody tells follows the other one, as readers differ in what they make of it. `size` is the

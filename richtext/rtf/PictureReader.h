@@ -16,8 +16,8 @@ struct PictureExtent {
   std::int32_t own = 0;             // \picw, \pich: pixels, or hundredths of a millimetre for metafiles
   std::int32_t goal = 0;            // twips: \picwgoal, \pichgoal
   std::int32_t scalePercent = 100;  // \picscalex, \picscaley
-  std::int32_t cropBefore = 0;      // twips at the left or top; negative adds a margin
-  std::int32_t cropAfter = 0;       // twips at the right or bottom
+  std::int32_t cropBefore = 0;  // twips of the unscaled picture at the left or top; negative adds a margin
+  std::int32_t cropAfter = 0;   // likewise at the right or bottom
 };
 
 class PictureReader {

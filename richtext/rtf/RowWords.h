@@ -8,6 +8,7 @@
 
 #include "richtext/document/Limits.h"
 #include "richtext/document/Table.h"
+#include "richtext/rtf/Shading.h"
 
 namespace richtext::rtf {
 
@@ -26,6 +27,7 @@ class RowWords {
   void Begin() { InHand() = {}; }
   RowFormat& Row() { return InHand().row; }
   CellFormat& Cell() { return InHand().cell; }
+  Shading& Ground() { return InHand().ground; }  // of the cell
   void EndCell(std::int32_t right);
 
   void BeginBorder(Owner owner, std::uint8_t side) {
@@ -44,6 +46,7 @@ class RowWords {
   struct Words {
     RowFormat row;
     CellFormat cell;  // of the next \cellx
+    Shading ground;   // likewise
     Owner owner = Owner::Nothing;
     std::uint8_t side = 0;
   };
@@ -56,8 +59,11 @@ class RowWords {
 inline void RowWords::EndCell(std::int32_t right) {
   Words& words = InHand();
   words.cell.right = right;
+  if (const std::int32_t ground = words.ground.Color(); ground != Shading::Automatic)
+    words.cell.ground = static_cast<std::uint32_t>(ground);
   if (words.row.cells.size() < MaxCells) words.row.cells.push_back(words.cell);
   words.cell = {};
+  words.ground = {};
   words.owner = Owner::Nothing;
 }
 

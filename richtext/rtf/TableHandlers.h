@@ -43,10 +43,13 @@ inline void CellPlace(Context& context, Number place, Number) {
   context.Rows().Cell().place = static_cast<PlaceInCell>(place);
 }
 
+template <Number Shading::*Color>
 inline void CellGround(Context& context, Number, Number index) {
-  const std::int32_t color = GroundColor(context, index);
-  context.Rows().Cell().ground.reset();
-  if (color != AutomaticColor) context.Rows().Cell().ground = static_cast<std::uint32_t>(color);
+  context.Rows().Ground().*Color = GroundColor(context, index);
+}
+
+inline void CellPattern(Context& context, Number, Number share) {
+  context.Rows().Ground().share = share;
 }
 
 inline void RowBorder(Context& context, Number side, Number) {

@@ -11,6 +11,24 @@
 namespace richtext {
 namespace {
 
+// Times the line's width; nothing for a line without gaps.
+QVector<qreal> DashesOf(BorderKind kind) {
+  switch (kind) {
+    case BorderKind::Dotted:
+      return {1, 2};
+    case BorderKind::Dashed:
+      return {4, 3};
+    case BorderKind::SmallDashes:
+      return {2, 2};
+    case BorderKind::DashDot:
+      return {4, 2, 1, 2};
+    case BorderKind::DashDotDot:
+      return {4, 2, 1, 2, 1, 2};
+    default:
+      return {};
+  }
+}
+
 QPen PenOf(const Border& border) {
   QPen pen(ToColor(border.color.value_or(0)));
   const double told = std::max(1.0, std::round(border.width / TwipsPerPixel));
@@ -18,8 +36,7 @@ QPen PenOf(const Border& border) {
                 : border.kind == BorderKind::Hairline ? 0.5
                                                       : told);
   pen.setCapStyle(Qt::SquareCap);
-  if (border.kind == BorderKind::Dotted) pen.setDashPattern({1, 2});
-  if (border.kind == BorderKind::Dashed) pen.setDashPattern({4, 3});
+  if (const QVector<qreal> dashes = DashesOf(border.kind); !dashes.isEmpty()) pen.setDashPattern(dashes);
   if (pen.style() == Qt::CustomDashLine) pen.setCapStyle(Qt::FlatCap);
   return pen;
 }

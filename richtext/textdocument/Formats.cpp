@@ -11,20 +11,28 @@ namespace {
 const char16_t ChosenFont[] = u"Verdana";
 constexpr double ChosenSize = 12;
 
-// What the toolkit cannot draw is drawn as a plain line.
+// What the toolkit cannot draw is drawn as what is nearest.
 QTextCharFormat::UnderlineStyle DrawnUnderline(UnderlineKind kind) {
   switch (kind) {
     case UnderlineKind::None:
       return QTextCharFormat::NoUnderline;
     case UnderlineKind::Dotted:
+    case UnderlineKind::ThickDotted:
       return QTextCharFormat::DotLine;
     case UnderlineKind::Dash:
+    case UnderlineKind::LongDash:
+    case UnderlineKind::ThickDash:
+    case UnderlineKind::ThickLongDash:
       return QTextCharFormat::DashUnderline;
     case UnderlineKind::DashDot:
+    case UnderlineKind::ThickDashDot:
       return QTextCharFormat::DashDotLine;
     case UnderlineKind::DashDotDot:
+    case UnderlineKind::ThickDashDotDot:
       return QTextCharFormat::DashDotDotLine;
     case UnderlineKind::Wave:
+    case UnderlineKind::ThickWave:
+    case UnderlineKind::DoubleWave:
       return QTextCharFormat::WaveUnderline;
     default:
       return QTextCharFormat::SingleUnderline;
@@ -32,6 +40,8 @@ QTextCharFormat::UnderlineStyle DrawnUnderline(UnderlineKind kind) {
 }
 
 UnderlineKind KindOf(const QTextCharFormat& format) {
+  const auto told = static_cast<UnderlineKind>(format.intProperty(UnderlineOfDocument));
+  if (told != UnderlineKind::None && DrawnUnderline(told) == format.underlineStyle()) return told;
   switch (format.underlineStyle()) {
     case QTextCharFormat::NoUnderline:
       return UnderlineKind::None;
@@ -47,10 +57,8 @@ UnderlineKind KindOf(const QTextCharFormat& format) {
     case QTextCharFormat::SpellCheckUnderline:
       return UnderlineKind::Wave;
     default:
-      break;
+      return UnderlineKind::Single;
   }
-  const auto kind = static_cast<UnderlineKind>(format.intProperty(UnderlineOfDocument));
-  return kind == UnderlineKind::None ? UnderlineKind::Single : kind;
 }
 
 QFont::Capitalization ToCapitalization(Capitals capitals) {

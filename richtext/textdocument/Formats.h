@@ -12,10 +12,10 @@ namespace richtext {
 // Properties that the toolkit's formats have no place for.
 enum BoxProperty : int {
   NamelessFont = QTextFormat::UserProperty + 1,  // bool: the document names no font, the box chose one
-  UnderlineOfDocument,                           // int, an UnderlineKind that is drawn as a plain one
-  HiddenText,                                    // QString, see HiddenText.h
-  HiddenMark,                                    // bool: the end of the paragraph is hidden
-  PictureTwipsWide,                              // int, as the document told them
+  UnderlineOfDocument,  // int, the UnderlineKind, of which the toolkit draws some alike
+  HiddenText,           // QString, see HiddenText.h
+  HiddenMark,           // bool: the end of the paragraph is hidden
+  PictureTwipsWide,     // int, as the document told them
   PictureTwipsHigh,
   LineSpacingOfDocument,  // int
   LeftIndentOfDocument,   // int, twips, as the others: what is shown otherwise, see Paragraphs.h

@@ -46,8 +46,10 @@ inline std::string Dump(const CharacterFormat& format) {
   Words words;
   if (format.bold) words.Add("b");
   if (format.italic) words.Add("i");
-  words.Add(NameOf(format.underline, {"", "u", "u-words", "u-double", "u-dotted", "u-dash", "u-dashdot",
-                                      "u-dashdotdot", "u-wave", "u-thick"}));
+  words.Add(
+      NameOf(format.underline, {"", "u", "u-words", "u-double", "u-dotted", "u-dash", "u-dashdot",
+                                "u-dashdotdot", "u-wave", "u-thick", "u-longdash", "u-dotted!", "u-dash!",
+                                "u-longdash!", "u-dashdot!", "u-dashdotdot!", "u-wave!", "u-waves"}));
   if (format.strikethrough) words.Add("s");
   if (format.hidden) words.Add("v");
   words.Add(NameOf(format.capitals, {"", "caps", "scaps"}));
@@ -76,7 +78,9 @@ constexpr const char* Sides[] = {"t", "l", "b", "r", "h", "v"};  // of borders
 
 inline std::string Dump(const std::string& name, const Border& border) {
   if (border == Border()) return {};
-  return name + NameOf(border.kind, {"?", "-", "", "th", "db", "dot", "dash", "hair", "tri"}) +
+  return name +
+         NameOf(border.kind, {"?", "-", "", "th", "db", "dot", "dash", "hair", "tri", "dashsm", "dd", "ddd",
+                              "in", "out", "ridge", "groove"}) +
          std::to_string(border.width) + (border.color ? DumpColor(*border.color) : "");
 }
 
