@@ -12,6 +12,8 @@ namespace {
 
 constexpr char16_t MiddleDot = 0xB7;  // a bullet whose font was lost
 
+constexpr char16_t BlankSign = 0xF020;  // of any font of signs
+
 constexpr std::u16string_view Bullets =
     u"\u2022\u00B7*-\u2013\u2014\u2023\u2043\u2192\u2219\u25A0\u25A1\u25AA\u25AB\u25B6\u25BA\u25C6\u25C7"
     u"\u25CB\u25CF\u25D8\u25E6\u25FB\u2605\u2606\u2666\u2713\u2714\u2717\u2751\u2756\u27A2\u27A4";
@@ -140,6 +142,7 @@ std::optional<ListFormat> ListOfNumber(std::u16string_view counted) {
 
 char16_t ShownBullet(char16_t unit) {
   if (const char16_t sign = SignAnywhere(unit); sign != CodePage::Nothing) return sign;
+  if (unit == BlankSign) return u' ';
   return IsPrivate(unit) ? Bullet : unit;
 }
 
@@ -148,6 +151,7 @@ ListFormat BulletList(std::u16string_view text) {
   list.kind = ListKind::Bullet;
   const std::u16string clean = FittingListText(Trimmed(text));
   list.before = Trimmed(clean);
+  if (list.before.empty() && !text.empty()) list.before.assign(1, u' ');
   if (list.before.empty() || list.before == std::u16string_view(&MiddleDot, 1)) list.before.assign(1, Bullet);
   for (char16_t& unit : list.before) unit = ShownBullet(unit);
   return list;

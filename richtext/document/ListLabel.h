@@ -17,8 +17,13 @@ constexpr char16_t Bullet = 0x2022;
 // character stays.
 char16_t ShownBullet(char16_t unit);
 
-// A list of bullets, each `text` as any font shows it, and U+2022 when there is none.
+// A list of bullets, each `text` as any font shows it, and U+2022 when there is none. Blanks alone are one,
+// which shows nothing.
 ListFormat BulletList(std::u16string_view text);
+
+inline bool IsBlankBullet(const ListFormat& list) {
+  return list.kind == ListKind::Bullet && list.before.size() == 1 && list.before[0] == u' ';
+}
 
 // Whether the bullets are the sign that every symbol font has.
 inline bool IsPlainBullet(const ListFormat& list) {

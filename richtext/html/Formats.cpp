@@ -64,12 +64,12 @@ ListKind KindOf(QTextListFormat::Style style) {
 
 void SetList(ParagraphFormat& made, const QTextListFormat& format) {
   made.list.kind = KindOf(format.style());
+  const bool isToldBlank = made.list.kind == ListKind::None && format.numberPrefix() == QLatin1String(" ");
+  if (isToldBlank) made.list = BulletList(u" ");
   if (made.list.kind == ListKind::None) return;
   made.list.level = std::max(format.indent() - 1, 0);
-  if (made.list.kind == ListKind::Bullet)
-    made.list.before = Bullet(format.style());
-  else
-    made.list.after.assign(1, u'.');
+  if (made.list.kind == ListKind::Bullet && !isToldBlank) made.list.before = Bullet(format.style());
+  if (made.list.kind != ListKind::Bullet) made.list.after.assign(1, u'.');
   made.leftIndent = FittingIndent(made.leftIndent + (made.list.level + 1) * ListStep);
   made.firstLineIndent = -LabelWidth;
   made.list = FittingList(made.list);

@@ -55,6 +55,11 @@ QString WithWords(QStringView value, QString (*plain)(QStringView)) {
   return words;
 }
 
+// In quotes.
+bool IsBlankText(QStringView value) {
+  return value == u"' '" || value == u"\" \"";
+}
+
 // One of CSS, as the toolkit understands it.
 QString Declaration(QStringView declaration) {
   const qsizetype colon = declaration.indexOf(u':');
@@ -69,6 +74,8 @@ QString Declaration(QStringView declaration) {
   if (name == u"text-indent") return with(Indent);
   if (name == u"font-size") return with(LetterSize);
   if (name == u"line-height") return with(LineHeight);
+  if (name == u"list-style-type" && IsBlankText(value))
+    return QStringLiteral("list-style-type:none;-qt-list-number-prefix:' '");
   return declaration.toString();
 }
 

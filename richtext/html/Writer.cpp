@@ -2,6 +2,7 @@
 
 #include "richtext/characters/Unicode.h"
 #include "richtext/document/ItemCounter.h"
+#include "richtext/document/ListLabel.h"
 #include "richtext/document/Twips.h"
 #include "richtext/html/FrameTags.h"
 #include "richtext/html/TableTags.h"
@@ -143,7 +144,9 @@ class Writer {
     const QLatin1String types[] = {QLatin1String("1"), QLatin1String("a"), QLatin1String("A"),
                                    QLatin1String("i"), QLatin1String("I")};
     const bool bullets = list.kind == ListKind::Bullet;
-    if (bullets)
+    if (IsBlankBullet(list))
+      html_ += QLatin1String("<ul style=\"margin: 0; list-style-type: ' '\">");
+    else if (bullets)
       html_ += QLatin1String("<ul style=\"margin: 0\">");
     else
       html_ += QStringLiteral("<ol type=\"%1\" start=\"%2\" style=\"margin: 0\">")

@@ -19,7 +19,7 @@ void Context::EndGroup() {
   decoder_.DropLeadByte();
   const bool skipped = Skipping();
   const Destination ended = State().destination;
-  const FieldSign::Shown shown = sign_.TakeAtEnd(Depth(), builder_.Text().size());
+  const FieldSign::Shown shown = sign_.TakeAtEnd(Depth(), LengthOfText());
   if (shown.number != 0) PutUnicode(shown.number);
   for (const char16_t unit : shown.words) PutCharacter(unit);
   if (!skipped && ended == Destination::FontTable) fonts_.EndGroup(Depth());
@@ -52,6 +52,8 @@ void Context::Finish(Destination ended) {
       return FinishNumbering();
     case Destination::FieldInstruction:
       return FinishInstruction();
+    case Destination::InnerInstruction:
+      return FinishInnerInstruction();
     case Destination::ShapeName:
       shapes_.SetPropertyName(aside_.Text());
       return;
@@ -86,6 +88,18 @@ void Context::FinishInstruction() {
               builder_.Text().size());
 }
 
+// A sign may stand among the words on a button.
+void Context::FinishInnerInstruction() {
+  const std::int32_t sign = SignOfInstruction(ToUtf8(aside_.TakeInner()));
+  sign_.Await({sign, {}}, Depth(), LengthOfText());
+}
+
+// Of the document, or of an instruction, where a field stands within one.
+std::size_t Context::LengthOfText() {
+  const bool isInner = State().destination == Destination::FieldInstruction;
+  return isInner ? aside_.Text().size() : builder_.Text().size();
+}
+
 // The picture stands in the group around it.
 void Context::PutPicture() {
   std::optional<Picture> picture = picture_.Take();
@@ -112,6 +126,10 @@ void Context::SendTextTo(Destination destination) {
 
 void Context::SetAside(Destination destination) {
   const Destination within = State().destination;
+  if (within == Destination::FieldInstruction && destination == within) {
+    aside_.BeginInner();
+    return SendTextTo(Destination::InnerInstruction);
+  }
   const bool known = within == Destination::Body || within == Destination::Numbering ||
                      within == Destination::ListTable ||
                      (within == Destination::ShapeProperty &&
@@ -148,6 +166,7 @@ void Context::BeginNote() {
 void Context::EndNote() {
   decoder_.EndText(builder_.Text());
   if (note_.HasText()) {
+    ChangeCharacter().hidden = false;
     builder_.Text() += u']';
     ClaimText();
   }

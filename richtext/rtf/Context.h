@@ -102,7 +102,9 @@ class Context {
   void EndNote();
   void FinishLevelText();
   void FinishNumbering();
+  std::size_t LengthOfText();
   void FinishInstruction();
+  void FinishInnerInstruction();
   void PutPicture();
 
   const CodePage& TextPage() const;

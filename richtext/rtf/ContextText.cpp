@@ -25,7 +25,7 @@ const CodePage& Context::TextPage() const {
 std::u16string* Context::TextInHand() {
   if (State().destination == Destination::Body) {
     SettleLabel();
-    note_.BeginText(builder_.Text());
+    if (!State().character.hidden) note_.BeginText(builder_.Text());
     return &builder_.Text();
   }
   return AsideText::IsFor(State().destination) && aside_.HasRoom() ? &aside_.Text() : nullptr;
@@ -42,7 +42,8 @@ void Context::PutBytes(std::string_view bytes) {
     default:
       break;
   }
-  if (State().destination == Destination::Body) bytes = note_.WithoutBlanks(bytes);
+  if (State().destination == Destination::Body && !State().character.hidden)
+    bytes = note_.WithoutBlanks(bytes);
   if (bytes.empty()) return;
   if (std::u16string* text = TextInHand()) {
     decoder_.AppendBytes(bytes, TextPage(), *text);

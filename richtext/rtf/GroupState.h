@@ -25,6 +25,7 @@ enum class Destination : std::uint8_t {
   NumberingAfter,
   Label,
   FieldInstruction,
+  InnerInstruction,
   Picture,
   ShapeProperty,
   ShapeName,

@@ -82,9 +82,10 @@ void ListTable::SetText(std::u16string_view text) {
   level->before = text.substr(0, std::min(own, MaxListText));
   level->after = own == text.npos ? std::u16string() : FittingListText(text.substr(own + 1));
   if (own != text.npos) return;
-  // A level of an outline can show nothing.
   const bool isBlank = text.find_first_not_of(u' ') == text.npos;
-  level->kind = isBlank ? ListKind::None : ListKind::Bullet;
+  if (isBlank) level->before.assign(1, u' ');
+  // An outline may have a level that shows no number.
+  level->kind = isBlank && level->kind != ListKind::Bullet ? ListKind::None : ListKind::Bullet;
 }
 
 void ListTable::SetListId(std::int32_t id) {
