@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 
 #include "richtext/document/Twips.h"
@@ -31,7 +32,7 @@ QString TableTags::Before(const Paragraph& paragraph) {
     return end;
   }
   QString tags = isOpen_ ? QString() : BeginTable(paragraph);
-  if (beginsCell_ && cell_ == 0) tags += QLatin1String("<tr>");
+  if (beginsCell_ && cell_ == 0) tags += BeginRow();
   if (beginsCell_) tags += BeginCell();
   beginsCell_ = false;
   return tags;
@@ -108,6 +109,13 @@ QString TableTags::BeginTable(const Paragraph& first) {
     tags +=
         QStringLiteral("<col width=\"%1\">").arg(std::lround((edges_[i] - edges_[i - 1]) / TwipsPerPixel));
   return tags;
+}
+
+// In markup every height is the least one.
+QString TableTags::BeginRow() const {
+  const std::int32_t height = std::abs(Row(row_).height);
+  if (height == 0) return QStringLiteral("<tr>");
+  return QStringLiteral("<tr style=\"height: %1pt\">").arg(height / 20.0);
 }
 
 // As many columns wide as cells of other rows end in it.

@@ -43,6 +43,7 @@ class TableTags {
   void MergeDown(std::size_t row, Cell& cell, const CellFormat& format);
   Cell* CellBelow(std::size_t row, const Cell& cell);
   QString BeginTable(const Paragraph& first);
+  QString BeginRow() const;
   QString BeginCell() const;
   const Cell& CellInHand() const { return rows_[row_ - firstRow_][cell_]; }
 

@@ -21,7 +21,7 @@ class TableTest : public BoxTest {
  protected:
   TableTest() { Set(Page("x\\par " + row_ + row_ + R"(\pard y)")); }
   const std::string row_ =
-      R"(\trowd\trbrdrh\brdrs\brdrw45\cellx900\clcbpat2\cellx2500\pard\intbl a long cell\cell b\cell\row )";
+      R"(\trowd\trrh-600\trbrdrh\brdrs\brdrw45\cellx900\clcbpat2\cellx2500\pard\intbl a long cell\cell b\cell\row )";
 };
 
 TEST_F(TableTest, IsDrawnInItsCells) {
@@ -98,6 +98,7 @@ TEST_F(TableTest, CellsAreCutAndPasted) {
   Select(5, 10);
   Press(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("a long cell\tb\t"));
+  EXPECT_TRUE(QApplication::clipboard()->mimeData()->html().contains(u"<tr style=\"height: 30pt\">"_qs));
   Select(0, 0);
   Press(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(Text(), "a long cell\tb\t\nx\na long cell\tb\t\na long cell\tb\t\ny");
