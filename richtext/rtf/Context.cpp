@@ -25,7 +25,7 @@ void Context::EndGroup() {
   if (!skipped && ended == Destination::FontTable) fonts_.EndGroup(Depth());
   if (!skipped && AsideText::IsFor(ended)) decoder_.EndText(aside_.Text());
   if (note_.EndsAt(Depth())) EndNote();
-  if (shapes_.TextEndsAt(Depth())) EndOpenParagraph();
+  if (held_.WaitsForEndAt(Depth())) EndShapeText();
   shapes_.EndGroup(Depth());
   groups_.Pop();
   if (ended == Destination::StyleSheet) styles_.EndStyle();
@@ -147,12 +147,22 @@ void Context::BeginShape() {
 // Its paragraphs begin without formats. They belong to the cell that the shape stands in.
 void Context::BeginShapeText() {
   if (State().destination != Destination::Body || !groups_.HasOwnState()) return;
-  shapes_.BeginText(Depth());
-  if (note_.IsOpen()) return;
-  SettleLabel();
-  EndOpenParagraph();
-  State().inCellAround = IsInCell();
+  shapes_.NoteText();
+  if (note_.IsOpen() || held_.WaitsForEndAt(Depth())) return;
+  EndText();
+  if (!builder_.CanHoldOpenText()) EndOpenParagraph();
+  held_.Hold({Depth(), builder_.TakeOpenText(), std::exchange(label_, {}), openParagraph_});
+  State().inCellAround = IsInCell(State().paragraph);
   ChangeParagraph() = ParagraphState();
+}
+
+void Context::EndShapeText() {
+  EndText();
+  if (builder_.HasOpenText()) EndParagraphAsItBegan();
+  HeldParagraphs::Paragraph held = held_.Take();
+  builder_.PutBack(held.text);
+  label_ = std::move(held.label);
+  openParagraph_ = held.state;
 }
 
 void Context::BeginNote() {
@@ -192,10 +202,11 @@ void Context::EndOpenGroups() {
 // written.
 Document Context::Take() {
   EndOpenGroups();
+  while (held_.HasAny()) EndShapeText();
   SettleLabel();
   EndText();
   if (builder_.HasOpenText()) {
-    EndParagraphAs(openParagraph_.inTable ? Place::Cell : Place::Text, ParagraphNumber(openParagraph_));
+    EndParagraphAsItBegan();
   } else if (!builder_.HasParagraphs()) {
     EndParagraphAs(Place::Text, ParagraphNumber(State().paragraph));
   }

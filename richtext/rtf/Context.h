@@ -1,6 +1,6 @@
 // Where a reading of RTF stands: the place where the groups, the tables and the document so far meet. What
-// has a rule of its own is a class of its own (AsideText, DocumentCodePage, FieldSign, LinkTally, NoteText,
-// ShapeState, WrittenLabel); here is only what one of them tells another.
+// has a rule of its own is a class of its own (AsideText, DocumentCodePage, FieldSign, HeldParagraphs,
+// LinkTally, NoteText, ShapeState, WrittenLabel); here is only what one of them tells another.
 //
 // The order of calls. Groups open and close by BeginGroup and EndGroup. A word that names a destination acts
 // on the group in force (SkipGroup, SendTextTo, SetAside) and comes before the group's text. What such a
@@ -26,6 +26,7 @@
 #include "richtext/rtf/FieldSign.h"
 #include "richtext/rtf/FontTable.h"
 #include "richtext/rtf/GroupState.h"
+#include "richtext/rtf/HeldParagraphs.h"
 #include "richtext/rtf/Links.h"
 #include "richtext/rtf/NoteText.h"
 #include "richtext/rtf/ParagraphFormats.h"
@@ -85,8 +86,7 @@ class Context {
   void EndNestedCell();
   void EndRow();
   void SetTabDistance(std::int32_t twips) { builder_.SetTabDistance(FittingTabDistance(twips)); }
-  // A shape's group begins, and that of its text, which stands for itself and not within the paragraph around
-  // it.
+  // A shape's group begins, and that of its text, whose paragraphs stand before the one around it.
   void BeginShape();
   void BeginShapeText();
   // A footnote's group begins.
@@ -100,6 +100,7 @@ class Context {
  private:
   void Finish(Destination ended);
   void EndNote();
+  void EndShapeText();
   void FinishLevelText();
   void FinishNumbering();
   std::size_t LengthOfText();
@@ -111,8 +112,9 @@ class Context {
   std::u16string* TextInHand();
   void SettleLabel();
   void EndText();
-  bool IsInCell() const;
+  bool IsInCell(const ParagraphState& paragraph) const;
   void EndOpenParagraph();
+  void EndParagraphAsItBegan();
   void EndParagraphAs(Place place, std::uint32_t format);
   void EndOpenGroups();
 
@@ -142,6 +144,7 @@ class Context {
   FieldSign sign_;
   AsideText aside_;
   NoteText note_;
+  HeldParagraphs held_;
 
   // The document so far.
   TextDecoder decoder_;

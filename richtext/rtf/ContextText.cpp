@@ -92,11 +92,16 @@ void Context::EndParagraph() {
   if (note_.IsOpen()) return note_.EndParagraph();
   SettleLabel();
   EndText();
-  EndParagraphAs(IsInCell() ? Place::Cell : Place::Text, ParagraphNumber());
+  EndParagraphAs(IsInCell(State().paragraph) ? Place::Cell : Place::Text, ParagraphNumber());
 }
 
-bool Context::IsInCell() const {
-  return groups_.Top().paragraph.inTable || groups_.Top().inCellAround;
+// Without a word that ends it: it is as it was written.
+void Context::EndParagraphAsItBegan() {
+  EndParagraphAs(IsInCell(openParagraph_) ? Place::Cell : Place::Text, ParagraphNumber(openParagraph_));
+}
+
+bool Context::IsInCell(const ParagraphState& paragraph) const {
+  return paragraph.inTable || groups_.Top().inCellAround;
 }
 
 // Behind its text and its label.

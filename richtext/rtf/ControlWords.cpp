@@ -228,7 +228,11 @@ constexpr std::string_view SkippedNames[] = {"annotation",  "background",
                                              "private",     "revtbl",
                                              "rsidtbl",     "tc",
                                              "template",    "themedata",
-                                             "xe",          "xmlnstbl"};
+                                             "xe",          "xmlnstbl",
+
+                                             "aftncn",      "aftnsep",
+                                             "aftnsepc",    "ftncn",
+                                             "ftnsep",      "ftnsepc"};
 
 constexpr std::size_t WordCount = std::size(KnownWords) + std::size(tables::Words) + std::size(SkippedNames);
 

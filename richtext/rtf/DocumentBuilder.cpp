@@ -114,4 +114,54 @@ void DocumentBuilder::EndRow(const RowFormat& format) {
   cells_ = 0;
 }
 
+bool DocumentBuilder::CanHoldOpenText() const {
+  constexpr std::size_t Most = 2000;
+  const std::u16string_view open = std::u16string_view(document_.text).substr(paragraphStart_);
+  return open.size() <= Most && open.find(PictureMark) == open.npos;
+}
+
+DocumentBuilder::OpenText DocumentBuilder::TakeOpenText() {
+  OpenText open;
+  wasHeld_ = true;
+  open.text = document_.text.substr(paragraphStart_);
+  auto first = document_.runs.end();
+  for (std::size_t length = open.text.size(); length > 0; length -= first->length) --first;
+  open.runs.assign(first, document_.runs.end());
+  document_.runs.erase(first, document_.runs.end());
+  document_.text.resize(paragraphStart_);
+  claimed_ = paragraphStart_;
+  return open;
+}
+
+void DocumentBuilder::PutBack(const OpenText& held) {
+  document_.text += held.text;
+  document_.runs.insert(document_.runs.end(), held.runs.begin(), held.runs.end());
+  claimed_ = document_.text.size();
+}
+
+Document DocumentBuilder::Take() {
+  if (wasHeld_) NumberFormatsAgain();
+  return std::move(document_);
+}
+
+void DocumentBuilder::NumberFormatsAgain() {
+  constexpr std::uint32_t None = UINT32_MAX;
+  std::vector<std::uint32_t> numbers(document_.formats.size(), None);
+  std::vector<CharacterFormat> inOrder;
+  const auto use = [&](std::uint32_t& format) {
+    std::uint32_t& number = numbers[format];
+    if (number == None) {
+      number = static_cast<std::uint32_t>(inOrder.size());
+      inOrder.push_back(std::move(document_.formats[format]));
+    }
+    format = number;
+  };
+  auto run = document_.runs.begin();
+  for (Paragraph& paragraph : document_.paragraphs) {
+    for (std::uint32_t at = 0; at < paragraph.length; at += run++->length) use(run->format);
+    use(paragraph.markFormat);
+  }
+  document_.formats = std::move(inOrder);
+}
+
 }  // namespace richtext::rtf

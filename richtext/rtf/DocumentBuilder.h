@@ -7,6 +7,7 @@
 #include <string>
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "richtext/document/Document.h"
 #include "richtext/document/FormatNumbers.h"
@@ -55,14 +56,28 @@ class DocumentBuilder {
   bool HasOpenText() const { return claimed_ != paragraphStart_; }
   bool HasParagraphs() const { return !document_.paragraphs.empty(); }
 
+  // The open paragraph's text, which waits until paragraphs before it are told. It must be claimed. What is
+  // long or has a picture cannot be held, as it would be moved as often as somebody likes, and the pictures
+  // are in order.
+  struct OpenText {
+    std::u16string text;
+    std::vector<Run> runs;
+  };
+  bool CanHoldOpenText() const;
+  OpenText TakeOpenText();
+  void PutBack(const OpenText& held);
+
   // The document, whose last paragraph must have been ended. The builder is spent.
-  Document Take() { return std::move(document_); }
+  Document Take();
 
  private:
+  void NumberFormatsAgain();
+
   Document document_;
   std::unordered_map<FormatKey, std::uint32_t, FormatKeyHash> formats_;
   std::unordered_multimap<std::size_t, std::uint32_t> paragraphFormats_;  // by hash
-  std::size_t formatText_ = 0;                                            // bytes, as of MaxFormatText
+  bool wasHeld_ = false;        // some text, which has its formats' numbers from before it was put back
+  std::size_t formatText_ = 0;  // bytes, as of MaxFormatText
   std::uint32_t lastFormat_ = 0;
   std::uint32_t lastParagraphFormat_ = 0;
   FormatNumbers<RowFormat> rowFormats_{document_.rowFormats};

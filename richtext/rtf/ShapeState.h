@@ -26,19 +26,14 @@ class ShapeState {
   void SetEdge(Edge edge, std::int32_t twips) {
     if (!open_.empty()) open_.back().edges[edge] = twips;
   }
-  // The text of the shape stands in the group of this depth.
-  void BeginText(std::size_t depth) {
-    NoteShown();
-    if (!open_.empty()) open_.back().textDepth = depth;
-  }
-  bool TextEndsAt(std::size_t depth) const { return !open_.empty() && open_.back().textDepth == depth; }
   void EndGroup(std::size_t depth) {
     if (!open_.empty() && open_.back().depth == depth) open_.pop_back();
   }
 
   void BeginModernPicture() { pictureShown_ = false; }
+  void NoteText() { ++shown_; }
   void NotePicture() {
-    NoteShown();
+    ++shown_;
     pictureShown_ = true;
   }
   // The picture of a shape is as large as that, if it tells its edges.
@@ -63,7 +58,6 @@ class ShapeState {
   using Edges = std::array<std::int32_t, 4>;
   struct Shape {
     std::size_t depth = 0;
-    std::size_t textDepth = 0;  // 0: no text has begun
     std::uint64_t shownBefore = 0;
     Edges edges{};            // twips, or units of the group around it
     Edges inside{};           // of a group: its own edges in the units of the shapes in it
@@ -73,7 +67,6 @@ class ShapeState {
 
     double Twips(Edge before, Edge after, double unit) const;
   };
-  void NoteShown() { ++shown_; }
 
   std::vector<Shape> open_;  // the innermost last
   std::uint64_t shown_ = 0;  // how often something was shown, of whatever shape it is
