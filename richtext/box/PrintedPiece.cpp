@@ -10,6 +10,7 @@
 
 #include "richtext/box/ColorLetters.h"
 #include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/FrameRoom.h"
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/PageHeight.h"
 #include "richtext/textdocument/Paragraphs.h"
@@ -24,7 +25,7 @@ constexpr double TallestPicture = 0.95;  // of the sheet: letters may hang below
 
 }  // namespace
 
-PrintedPiece::PrintedPiece(const QTextDocument& source, int from, int to, const QSizeF& sheet)
+PrintedPiece::PrintedPiece(const QTextDocument& source, int from, int to, const QSizeF& sheet, Behind behind)
     : source_(source), from_(from), sheet_(sheet) {
   setUndoRedoEnabled(false);
   setDocumentMargin(0);
@@ -33,6 +34,12 @@ PrintedPiece::PrintedPiece(const QTextDocument& source, int from, int to, const 
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   setDefaultTextOption(option);
   Copy(to);
+  if (behind == Behind::MoreText) AddNeighbour(to);
+  MakeRoomForFrames(*this, 0, characterCount());
+  QTextCursor first(this);
+  QTextBlockFormat format = first.blockFormat();
+  format.setTopMargin(0);
+  if (source.findBlock(from).position() < from) first.setBlockFormat(format);
 }
 
 // What the page tells, which the screen may show with smaller indents and lower lines.
@@ -64,7 +71,8 @@ void PrintedPiece::Copy(int to) {
   cursor.endEditBlock();
 }
 
-// A row has nothing in common with what stands beside it.
+// The paragraph that begins where the piece ends, without a letter. A row has nothing in common with what
+// stands beside it.
 void PrintedPiece::AddNeighbour(int to) {
   const QTextBlock block = source_.findBlock(to);
   if (block.position() != to || TableAt(source_, to) || TableAt(source_, to - 1)) return;

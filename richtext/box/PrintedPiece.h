@@ -29,14 +29,13 @@ struct PrintedLine {
 
 class PrintedPiece : public QTextDocument {
  public:
+  enum class Behind { Nothing, MoreText };
+
   // Copies the positions `from` to `to` of the source, which must outlive the piece, for sheets of this size.
   // Where `from` is not the start of its paragraph, the first line has no indent. A row of which not all is
-  // copied comes as the paragraphs of its cells.
-  PrintedPiece(const QTextDocument& source, int from, int to, const QSizeF& sheet);
-
-  // The paragraph of the source that begins where the piece ends stands behind it, without a letter and
-  // without a line: with its look the frame of the one before goes on.
-  void AddNeighbour(int to);
+  // copied comes as the paragraphs of its cells. A frame goes on behind the piece where more text does.
+  PrintedPiece(const QTextDocument& source, int from, int to, const QSizeF& sheet,
+               Behind behind = Behind::Nothing);
 
   // Whether the toolkit can lay it out.
   bool CanBeLaidOut() const;
@@ -51,6 +50,7 @@ class PrintedPiece : public QTextDocument {
   QTextBlockFormat OnPaper(const QTextBlock& block) const;
   bool IsCopied(const QTextTable* row, int to) const;
   void Copy(int to);
+  void AddNeighbour(int to);
   void CopyEnd(const QTextBlock& block, int to, QTextCursor& cursor) const;
   void CopyText(const QTextBlock& block, int to, QTextCursor& cursor);
   void CopyLetters(const QString& text, const QTextCharFormat& format, QTextCursor& cursor);
@@ -63,7 +63,7 @@ class PrintedPiece : public QTextDocument {
   const QTextDocument& source_;
   const int from_;  // in the source, and position 0 here
   QSizeF sheet_;
-  QTextBlock neighbour_;
+  QTextBlock neighbour_;  // behind what was copied, without a line
 };
 
 }  // namespace richtext

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include <QtGui/QPainter>
@@ -70,9 +71,8 @@ class Printing {
 
   std::unique_ptr<PrintedPiece> MakePiece(int length) const {
     const int to = PieceEnd(length);
-    auto piece = std::make_unique<PrintedPiece>(source_, context_, to, sheets_.Size());
-    if (to < end_) piece->AddNeighbour(to);
-    return piece;
+    const auto behind = to < end_ ? PrintedPiece::Behind::MoreText : PrintedPiece::Behind::Nothing;
+    return std::make_unique<PrintedPiece>(source_, context_, to, sheets_.Size(), behind);
   }
 
   // The end of the paragraph before will do. A line before in the same paragraph counts as a whole or not at
@@ -127,9 +127,11 @@ class Printing {
       const bool isNew = line.position >= begin;
       NoteTable(line);
       if (!line.row) {
-        const double height = line.bottom - line.top;
-        if (isNew) DrawLine(line, sheets_.Place(HeadBefore(height, line.top - bottom), height));
-        bottom = line.bottom;
+        const auto [above, below] = BordersAround(line);
+        const double height = above + line.bottom - line.top + below;
+        const double gap = line.top - above - bottom;
+        if (isNew) DrawLine(line, sheets_.Place(HeadBefore(height, gap), height) + above);
+        bottom = line.bottom + below;
         continue;
       }
       std::vector<PrintedLine> row{line};
@@ -138,6 +140,14 @@ class Printing {
       if (isNew) DrawRow(row, place, HeadBefore(place.bottom - place.top, place.top - bottom));
       bottom = place.bottom;
     }
+  }
+
+  // What the borders take that a frame has above and below the line, which no sheet parts from it.
+  std::pair<double, double> BordersAround(const PrintedLine& line) const {
+    if (!HasFrame(line.block)) return {};
+    const FramePart part = FrameBeside(line, line.top);
+    return {part.begins ? RoomOfBorder(line.block, TopSide) : 0,
+            part.ends ? RoomOfBorder(line.block, BottomSide) : 0};
   }
 
   // A row that is shown in columns is of the table before it.

@@ -175,6 +175,7 @@ class RichTextBox : public QTextEdit {
   void DeleteWord(QTextCursor::MoveOperation across);
   void InsertParagraph();
   void CarryFormatOver(const std::function<void()>& act);
+  void SettleFrames();
   std::unique_ptr<QMenu> ContextMenu(const QPoint& place);
   QString Composition() const;
   ComposedWord Composed() const;

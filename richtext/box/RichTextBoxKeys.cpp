@@ -8,6 +8,7 @@
 
 #include "richtext/box/RichTextBox.h"
 #include "richtext/textdocument/FramePainter.h"
+#include "richtext/textdocument/FrameRoom.h"
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Marks.h"
 #include "richtext/textdocument/Paragraphs.h"
@@ -72,6 +73,7 @@ void RichTextBox::CarryFormatOver(const std::function<void()>& act) {
   const QTextCharFormat format = caret_.InHand();
   const int paragraph = document()->findBlock(textCursor().selectionStart()).blockNumber();
   act();
+  if (edits_ != before) SettleFrames();
   const QTextBlock block = textCursor().block();
   if (edits_ == before || textCursor().hasSelection() || block.length() > 1 ||
       block.blockNumber() != paragraph)
@@ -79,6 +81,15 @@ void RichTextBox::CarryFormatOver(const std::function<void()>& act) {
   caret_.Keep(format);
   const QScopedValueRollback quiet(quiet_, true);
   if (paragraph == 0 && !document()->isEmpty()) firstMark_->Follow(caret_.OfLetters());
+}
+
+// A frame may begin and end at another paragraph now. What was undone is as it was.
+void RichTextBox::SettleFrames() {
+  if (document()->isRedoAvailable()) return;
+  const QScopedValueRollback quiet(quiet_, true);
+  const QTextBlock block = textCursor().block();
+  const QTextBlock before = block.previous().isValid() ? block.previous() : block;
+  MakeRoomForFrames(*document(), before.position(), block.position() + block.length());
 }
 
 void RichTextBox::PressKey(QKeyEvent& event) {

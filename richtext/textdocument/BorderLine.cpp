@@ -43,6 +43,12 @@ QPen PenOf(const Border& border) {
 
 }  // namespace
 
+double WidthOf(const Border& border) {
+  if (!IsShown(border)) return 0;
+  const int lines = border.kind == BorderKind::Triple ? 5 : border.kind == BorderKind::Double ? 3 : 1;
+  return lines * PenOf(border).widthF();
+}
+
 void DrawBorder(QPainter& painter, const Border& border, QLineF line) {
   if (!IsShown(border)) return;
   const QPen pen = PenOf(border);

@@ -13,4 +13,7 @@ namespace richtext {
 // lines lies around the place of one. The painter counts in the document's pixels.
 void DrawBorder(QPainter& painter, const Border& border, QLineF line);
 
+// How wide all its lines are together, in pixels; 0 of one that is not shown.
+double WidthOf(const Border& border);
+
 }  // namespace richtext

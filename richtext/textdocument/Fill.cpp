@@ -11,6 +11,7 @@
 #include "richtext/document/Limits.h"
 #include "richtext/document/Twips.h"
 #include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/FrameRoom.h"
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/Marks.h"
 #include "richtext/textdocument/PageHeight.h"
@@ -238,6 +239,11 @@ void Squeeze(QTextDocument& document, int from, int to) {
   }
 }
 
+bool HasFrames(const Document& page) {
+  return std::any_of(page.paragraphFormats.begin(), page.paragraphFormats.end(),
+                     [](const ParagraphFormat& format) { return format.borders != ParagraphBorders(); });
+}
+
 void SetTabDistance(std::int32_t twips, QTextDocument& target) {
   QTextOption option = target.defaultTextOption();
   option.setTabStopDistance(twips / TwipsPerPixel);
@@ -255,6 +261,7 @@ void FillDocument(const Document& source, QTextDocument& target) {
   cursor.beginEditBlock();
   Filler(source, cursor).Fill();
   Squeeze(target, 0, target.characterCount());
+  if (HasFrames(source)) MakeRoomForFrames(target, 0, target.characterCount());
   cursor.endEditBlock();
   target.setUndoRedoEnabled(true);
 }
@@ -279,6 +286,7 @@ void InsertDocument(const Document& source, QTextCursor& cursor) {
   const int from = cursor.position();
   Filler(source, cursor).Fill();
   Squeeze(*cursor.document(), from, cursor.position());
+  MakeRoomForFrames(*cursor.document(), std::max(0, from - 1), cursor.block().next().position());
   cursor.endEditBlock();
 }
 

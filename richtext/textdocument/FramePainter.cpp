@@ -32,20 +32,12 @@ bool AreNeighbours(const QTextBlock& first, const QTextBlock& second) {
          first.document()->characterAt(second.position() - 1) == QChar::ParagraphSeparator;
 }
 
-bool AreInOneFrame(const QTextBlock& first, const QTextBlock& second) {
-  if (!AreNeighbours(first, second)) return false;
-  const QTextBlockFormat one = first.blockFormat(), other = second.blockFormat();
-  return one.property(BordersOfParagraph) == other.property(BordersOfParagraph) &&
-         one.background() == other.background() && one.leftMargin() == other.leftMargin() &&
-         one.rightMargin() == other.rightMargin();
-}
-
 QRectF LettersOf(const QTextBlock& block) {
   return block.document()->documentLayout()->blockBoundingRect(block);
 }
 
 double Room(const ParagraphBorder& border) {
-  return IsShown(border.line) ? (border.space + border.line.width / 2.0) / TwipsPerPixel : 0;
+  return IsShown(border.line) ? border.space / TwipsPerPixel + WidthOf(border.line) / 2 : 0;
 }
 
 // From where the lines begin to where they end, whatever the first one's indent is.
@@ -62,6 +54,19 @@ QRectF WithoutIndent(const QTextBlock& block, QRectF letters) {
 }
 
 }  // namespace
+
+bool AreInOneFrame(const QTextBlock& first, const QTextBlock& second) {
+  if (!AreNeighbours(first, second)) return false;
+  const QTextBlockFormat one = first.blockFormat(), other = second.blockFormat();
+  return one.property(BordersOfParagraph) == other.property(BordersOfParagraph) &&
+         one.background() == other.background() && one.leftMargin() == other.leftMargin() &&
+         one.rightMargin() == other.rightMargin();
+}
+
+double RoomOfBorder(const QTextBlock& block, Side side) {
+  const ParagraphBorder border = BordersOf(block)[side];
+  return IsShown(border.line) ? border.space / TwipsPerPixel + WidthOf(border.line) : 0;
+}
 
 bool HasFrame(const QTextBlock& block) {
   const QTextBlockFormat format = block.blockFormat();

@@ -7,6 +7,8 @@
 #include <QtCore/QRectF>
 #include <QtGui/QTextBlock>
 
+#include "richtext/document/Document.h"
+
 class QPainter;
 
 namespace richtext {
@@ -18,6 +20,10 @@ struct FramePart {
   bool begins = false, ends = false;  // with the frame's own border
 };
 bool HasFrame(const QTextBlock& block);
+// Of two blocks of which one follows the other.
+bool AreInOneFrame(const QTextBlock& first, const QTextBlock& second);
+// What a border takes beside the letters, in pixels.
+double RoomOfBorder(const QTextBlock& block, Side side);
 FramePart FrameOf(const QTextBlock& block);
 
 // The painter counts in the document's pixels.

@@ -5,6 +5,7 @@
 
 #include "richtext/document/Limits.h"
 #include "richtext/document/Twips.h"
+#include "richtext/textdocument/BorderLine.h"
 #include "richtext/textdocument/Formats.h"
 #include "richtext/textdocument/PackedRow.h"
 #include "richtext/textdocument/Rows.h"
@@ -118,7 +119,7 @@ Indents RoomForLabels(const ParagraphFormat& format) {
 
 // Of the side of a frame that stands outside of the text.
 std::int32_t RoomForBorder(const ParagraphBorder& border) {
-  return IsShown(border.line) ? border.space + border.line.width : 0;
+  return IsShown(border.line) ? border.space + Twips(WidthOf(border.line)) : 0;
 }
 
 Indents RoomForFrame(const ParagraphFormat& format) {

@@ -172,6 +172,33 @@ TEST_F(BoxFormatsTest, LeadersAreDrawnAlongTheirTabs) {
     ExpectHeld(Page(std::string(R"(\fi-100\li300\tx200\tl)") + leader + R"(\tx900 abc\tab b)"));
 }
 
+// Above its first paragraph and below its last one, whatever these are.
+TEST_F(BoxFormatsTest, FramesHaveRoomForTheirBorders) {
+  const int room = 6;  // pixels: 5 within the border, and its own
+  Set(Page(R"(x\par\sb150\box\brdrs\brdrw15\brsp75 a\par\sb0 b\par\pard y)"));
+  const auto gaps = [&] {
+    std::vector<int> found;
+    for (QTextBlock block = box.document()->begin().next(); block.isValid(); block = block.next())
+      found.push_back(box.cursorRect(QTextCursor(block)).top() -
+                      box.cursorRect(QTextCursor(block.previous())).bottom() - 1);
+    return found;
+  };
+  const std::string before = box.TextRTF();
+  EXPECT_EQ(gaps(), (std::vector{10 + room, 0, room}));
+  Select(5, 0);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(gaps(), (std::vector{10 + room, 0, 0, room}));
+  Select(4, 2);
+  Press(Qt::Key_Backspace);
+  Select(2, 2);
+  Press(Qt::Key_Delete);
+  EXPECT_EQ(gaps(), (std::vector{room, room}));
+  while (box.document()->isUndoAvailable()) Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(gaps(), (std::vector{10 + room, 0, room}));
+  EXPECT_EQ(box.TextRTF(), before);
+  ExpectKept();
+}
+
 TEST_F(BoxFormatsTest, UnderlineOfAPersonIsAPlainOne) {
   Set(Page(R"(\ulth thick)"));
   EXPECT_EQ(box.SelUnderline(), true);

@@ -255,12 +255,15 @@ TEST_F(BoxWalk, TheBoxDoesWhatAPlainPageDoes) {
   }
 }
 
-// Whatever is done to a table, what is stored is shown again as it is, and the copy for the log is the same.
-TEST_F(BoxWalk, TablesHoldAndStandEveryEdit) {
+// Whatever is done to a table and to frames, what is stored is shown again as it is, and the copy for the log
+// is the same.
+TEST_F(BoxWalk, TablesAndFramesHoldAndStandEveryEdit) {
   for (const Example& example : ExamplesOf("rtf.txt"))
     if (example.dump.find('$') != std::string::npos) ExpectHeld(example.source);
   const std::string row = R"(\trowd\clvmgf\cellx99\cellx198\pard\intbl\qc a\cell\par b\par\cell\row )";
-  const std::string table = Page(row + row + R"(\pard x\par )" + row);
+  const std::string frame = R"(\pard x\par\box\brdrdb\brsp75 y\par\sa200 z\par\brdrb\brdrs u\par\pard )";
+  const std::string framed = R"(\trowd\cellx99\pard\intbl\box\brdrs\brsp75{\listtext 1.}v\par w\cell\row )";
+  const std::string table = Page(row + row + frame + framed + row);
   const std::function<void()> edits[] = {[&] { Press(Qt::Key_X); },
                                          [&] { Press(Qt::Key_Return); },
                                          [&] { Press(Qt::Key_Backspace); },
@@ -275,7 +278,7 @@ TEST_F(BoxWalk, TablesHoldAndStandEveryEdit) {
                                          [&] { Press(Qt::Key_V, Qt::ControlModifier); }};
   for (int sitting = 0; sitting < 20; ++sitting) {
     ExpectHeld(table);
-    EXPECT_EQ(Text(), "a\t\nb\n\t\na\t\nb\n\t\nx\na\t\nb\n\t");
+    EXPECT_EQ(Text(), "a\t\nb\n\t\na\t\nb\n\t\nx\ny\nz\nu\nv\nw\t\na\t\nb\n\t");
     for (int step = 0; step < 20; ++step) {
       box.SetSelStart(Any(static_cast<int>(Text().size()) + 1));
       box.SetSelLength(Any(3) ? 0 : Any(6));
