@@ -21,6 +21,7 @@ namespace {
 
 constexpr double RoomOfLabel = 32;  // pixels, beside an item of a list
 constexpr double NearestLine = 2;   // pixels from a cell's or the page's edge
+constexpr int MostBeside = 40;      // paragraphs up and down that a frame's width is reckoned from
 
 ParagraphBorders BordersOf(const QTextBlock& block) {
   return UnpackedBorders(block.blockFormat().property(BordersOfParagraph).toByteArray());
@@ -53,14 +54,43 @@ QRectF WithoutIndent(const QTextBlock& block, QRectF letters) {
   return {QPointF(left, letters.top()), QPointF(right, letters.bottom())};
 }
 
+// What a paragraph's lines and labels leave free at both sides.
+struct Free {
+  double left, right;  // pixels
+};
+Free FreeBeside(const QTextBlock& block) {
+  const QTextBlockFormat format = block.blockFormat();
+  Free free{format.leftMargin(), format.rightMargin()};
+  double& begin = block.textDirection() == Qt::RightToLeft ? free.right : free.left;
+  begin += std::min(0.0, format.textIndent()) - (IsListItem(format) ? RoomOfLabel : 0);
+  return free;
+}
+
+// What the frame around the block leaves free: as little as any paragraph in it.
+Free FreeBesideFrame(const QTextBlock& block) {
+  Free least = FreeBeside(block);
+  const auto take = [&](const QTextBlock& other) {
+    const Free free = FreeBeside(other);
+    least = {std::min(least.left, free.left), std::min(least.right, free.right)};
+  };
+  int steps = 0;
+  for (QTextBlock at = block; steps < MostBeside && AreInOneFrame(at.previous(), at); ++steps)
+    take(at = at.previous());
+  steps = 0;
+  for (QTextBlock at = block; steps < MostBeside && AreInOneFrame(at, at.next()); ++steps)
+    take(at = at.next());
+  return least;
+}
+
 }  // namespace
 
 bool AreInOneFrame(const QTextBlock& first, const QTextBlock& second) {
   if (!AreNeighbours(first, second)) return false;
   const QTextBlockFormat one = first.blockFormat(), other = second.blockFormat();
-  return one.property(BordersOfParagraph) == other.property(BordersOfParagraph) &&
-         one.background() == other.background() && one.leftMargin() == other.leftMargin() &&
-         one.rightMargin() == other.rightMargin();
+  const bool areAlike = one.property(BordersOfParagraph) == other.property(BordersOfParagraph) &&
+                        one.background() == other.background();
+  return areAlike && (IsListItem(one) || IsListItem(other) ||
+                      (one.leftMargin() == other.leftMargin() && one.rightMargin() == other.rightMargin()));
 }
 
 double RoomOfBorder(const QTextBlock& block, Side side) {
@@ -78,7 +108,9 @@ FramePart FrameOf(const QTextBlock& block) {
   const ParagraphBorders borders = BordersOf(block);
   const QRectF letters = LettersOf(block);
   FramePart part{WithoutIndent(block, letters), !AreInOneFrame(before, block), !AreInOneFrame(block, behind)};
-  part.place.adjust(-Room(borders[LeftSide]), 0, Room(borders[RightSide]), 0);
+  const Free own = FreeBeside(block), all = FreeBesideFrame(block);
+  part.place.adjust(all.left - own.left - Room(borders[LeftSide]), 0,
+                    own.right - all.right + Room(borders[RightSide]), 0);
   const bool isBehindRow = block.document()->characterAt(block.position() - 1) == QChar(RowEndSign);
   const double above = AreNeighbours(before, block) ? LettersOf(before).bottom()
                        : isBehindRow                ? letters.top() + 1  // below the row's border

@@ -1,7 +1,7 @@
 // The grounds of paragraphs, which the box and the paper have under the text, and their borders, which lie
 // over the toolkit's own ground of lines. Neighbours of the same look and the same indents stand in one
-// frame: what is between them has their ground, and its borders are around them all. The toolkit knows the
-// ground of lines alone, and no borders.
+// frame, and so do the items of a list with what is beside them: what is between them has their ground, and
+// its borders are around them all. The toolkit knows the ground of lines alone, and no borders.
 #pragma once
 
 #include <QtCore/QRectF>

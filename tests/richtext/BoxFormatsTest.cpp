@@ -137,6 +137,9 @@ TEST_F(BoxFormatsTest, FramesAreDrawnAroundNeighbours) {
   EXPECT_EQ(inked(5), left);
   EXPECT_EQ(Text(), "x\na\nb\n\ny");
   ExpectKept();
+  Set(Page(R"(\brdrl\brdrs\brdrw45\brdrcf1\brsp60 a\par{\*\pn\pnlvlblt{\pntxtb\'b7}}\fi-360\li720 b)"));
+  QTextCursor item(box.document()->find(QStringLiteral("b")));
+  EXPECT_NEAR(inked(5).back(), box.cursorRect(item).bottom(), 3) << "beside an item of a list too";
 }
 
 TEST_F(BoxFormatsTest, LeadersAreDrawnAlongTheirTabs) {
