@@ -178,10 +178,12 @@ bool RichTextBox::EnterNextRow(const QKeyEvent& event) {
   return true;
 }
 
-// A frame ends where its last paragraph is empty.
+// A frame begins behind its first paragraph where that is empty, and ends where its last one is.
 bool RichTextBox::LeaveFrame() {
   QTextCursor cursor = textCursor();
-  if (!HasFrame(cursor.block()) || !FrameOf(cursor.block()).ends) return false;
+  if (!HasFrame(cursor.block())) return false;
+  const FramePart part = FrameOf(cursor.block());
+  if (!part.begins && !part.ends) return false;
   cursor.setBlockFormat(WithoutFrame(cursor.blockFormat()));
   return true;
 }

@@ -175,7 +175,7 @@ TEST_F(BoxFormatsTest, LeadersAreDrawnAlongTheirTabs) {
     ExpectHeld(Page(std::string(R"(\fi-100\li300\tx200\tl)") + leader + R"(\tx900 abc\tab b)"));
 }
 
-// Above its first paragraph and below its last one, whatever these are.
+// Above its first paragraph and below its last one, whatever these are. The first one can leave it, too.
 TEST_F(BoxFormatsTest, FramesHaveRoomForTheirBorders) {
   const int room = 6;  // pixels: 5 within the border, and its own
   Set(Page(R"(x\par\sb150\box\brdrs\brdrw15\brsp75 a\par\sb0 b\par\pard y)"));
@@ -199,6 +199,11 @@ TEST_F(BoxFormatsTest, FramesHaveRoomForTheirBorders) {
   while (box.document()->isUndoAvailable()) Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(gaps(), (std::vector{10 + room, 0, room}));
   EXPECT_EQ(box.TextRTF(), before);
+  for (int press = 0; press < 2; ++press) {
+    Select(2, 0);
+    Press(Qt::Key_Return);
+  }
+  EXPECT_EQ(gaps(), (std::vector{10, 10 + room, 0, room})) << "out of the frame above it";
   ExpectKept();
 }
 
