@@ -28,6 +28,7 @@ TEST(RtfGrowth, TakesTimeByTheInputsLengthOnly) {
       "{\\rtf1{\\fonttbl{\\f0 " + Repeated("N", 10 * many) + ";}}\\f0 x",
       "{\\rtf1" + Repeated("{\\pict\\pngblip 00", many),
       "{\\rtf1" + Repeated("\\tx5\\tx99\\par", many / 5),
+      "{\\rtf1 " + Repeated("x", 10 * many) + Repeated("{\\do{\\dptxbxtext}}", many),
       "{\\rtf1\\ansicpg932 " + Repeated("\x8C\x01", many),
       Repeated("\x01", 10 * many),
   };
@@ -43,23 +44,23 @@ TEST(RtfGrowth, StaysWithinABound) {
   const std::string link =
       R"({\field{\*\fldinst HYPERLINK ")" + std::string(MaxLink, 'x') + R"("}{\fldrslt )";
   const std::string signs = Repeated("\\u9999?", 32);
-  std::string tabs, leaders;
+  std::string tabs = "\\rtlpar\\li-30000\\ri-30000\\fi-30000\\sl-30000", leaders = tabs;
   for (int i = 0; i < 40; ++i) {
     tabs += "\\tqdec\\tx" + std::to_string(10'000 + i * 300);
     leaders += "\\tqdec\\tlhyph\\tx" + std::to_string(10'000 + i * 300);
   }
   std::string borders;
   for (const char side : std::string("tlbr"))
-    borders += std::string("\\brdr") + side + "\\brdrtriple\\brdrw255\\brsp620";
+    borders += std::string("\\brdr") + side + "\\brdrengrave\\brdrw255\\brsp620";
   std::string different;
   for (int i = 0; i < 6500; ++i)
     different += "\\pard\\box\\brdrs\\brdrw" + std::to_string(i % 255 + 1) + "\\brsp" +
                  std::to_string(i % 600) + " x\\par";
   std::string row = R"({\colortbl;\red1;}\trowd\trgaph30000\trleft-30000\trrh-30000\trhdr\trqc)";
   for (const char side : std::string("tlbrhv"))
-    row += std::string("\\trbrdr") + side + "\\brdrtriple\\brdrw255\\brdrcf1";
+    row += std::string("\\trbrdr") + side + "\\brdrengrave\\brdrw255\\brdrcf1";
   for (const char side : std::string("tlbr"))
-    row += std::string("\\clbrdr") + side + "\\brdrtriple\\brdrw255\\brdrcf1";
+    row += std::string("\\clbrdr") + side + "\\brdrengrave\\brdrw255\\brdrcf1";
   row += R"(\clmgf\clvmgf\clvertalb\clcbpat1\cellx-29999)";
   const struct {
     std::string rtf;
@@ -79,7 +80,7 @@ TEST(RtfGrowth, StaysWithinABound) {
            Repeated(R"(\s2\par\s1\par)", 3000),
        0},
       {different, 0},
-      {R"({\colortbl;\red1;}\b\i\ulwave\strike\super\v\caps\fs44\cf1\highlight1 )" +
+      {R"({\colortbl;\red1;}\b\i\ululdbwave\strike\super\v\caps\fs44\cf1\highlight1 )" +
            Repeated(R"({\plain a}b)", 3000),
        0},
   };
