@@ -22,6 +22,12 @@ inline void RowMeasure(Context& context, Number, Number twips) {
   context.Rows().Row().*Measure = twips;
 }
 
+// Programs that know nothing of \trgaph tell it of the row or of each cell.
+inline void Padding(Context& context, Number, Number twips) {
+  Number& gap = context.Rows().Row().gap;
+  if (gap == 0) gap = twips;
+}
+
 inline void RowPlace(Context& context, Number place, Number) {
   context.Rows().Row().place = static_cast<PlaceOfTable>(place);
 }

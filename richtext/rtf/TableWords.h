@@ -15,6 +15,8 @@ constexpr ControlWord Words[] = {
     Word("trowd", BeginRow),
     Word("trleft", RowMeasure<&RowFormat::left>),
     Word("trgaph", RowMeasure<&RowFormat::gap>),
+    Word("trpaddl", Padding),
+    Word("clpadl", Padding),
     Word("trrh", RowMeasure<&RowFormat::height>),
     WordOf("trql", RowPlace, PlaceOfTable::Left),
     WordOf("trqc", RowPlace, PlaceOfTable::Center),

@@ -87,8 +87,8 @@ RowPlace PlaceOf(const QTextTable& row) {
     const QTextBlock block = row.document()->findBlock(BeginOfCell(row, cell));
     if (!block.isVisible()) break;
     const QPointF begin = layout.blockBoundingRect(block).topLeft() - block.layout()->position();
-    place.top = std::min(place.top, begin.y() - PaddingOfCell);
-    place.edges.push_back(begin.x() - PaddingOfCell);
+    place.top = std::min(place.top, begin.y() - row.format().cellPadding());
+    place.edges.push_back(begin.x() - row.format().cellPadding());
   }
   const QRectF frame = layout.frameBoundingRect(const_cast<QTextTable*>(&row));
   if (place.edges.empty()) place = {frame.top(), 0, {frame.left() + row.format().leftMargin()}};

@@ -39,12 +39,17 @@ Qt::Alignment AlignmentOf(PlaceOfTable place) {
   return place == PlaceOfTable::Center ? Qt::AlignHCenter : Qt::AlignLeft;
 }
 
+// No more than a row tells, so that its words have the lines that they had elsewhere.
+double PaddingOf(const RowFormat& row) {
+  return row.gap > 0 ? std::clamp(row.gap / TwipsPerPixel, 1.0, PaddingOfCell) : PaddingOfCell;
+}
+
 QTextTableFormat TableFormat(const RowFormat& row, double page) {
   QTextTableFormat format;
   format.setProperty(RowOfTable, Packed(row));
   format.setBorder(0);
   format.setCellSpacing(0);
-  format.setCellPadding(PaddingOfCell);
+  format.setCellPadding(PaddingOf(row));
   format.setAlignment(AlignmentOf(row.place));
   const std::vector<double> widths = WidthsOf(row);
   double total = 0;
@@ -191,7 +196,7 @@ double RoomInCell(const QTextTable& table, int position, double page) {
   const QList<QTextLength> columns = format.columnWidthConstraints();
   const int cell = CellAt(table, position);
   const double room = cell >= 0 && cell < columns.size() ? columns.at(cell).value(page) : page;
-  return std::min(room, page) - 2 * PaddingOfCell;
+  return std::min(room, page) - 2 * format.cellPadding();
 }
 
 }  // namespace richtext

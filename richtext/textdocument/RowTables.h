@@ -27,7 +27,7 @@ constexpr std::size_t MostCells = 10'000;  // of those that come in at once
 // UTF-16 units of a row that is filled in as a table; a piece of paper holds it.
 constexpr std::size_t LongestTable = 16'000;
 
-constexpr double PaddingOfCell = 3;  // pixels, on each side
+constexpr double PaddingOfCell = 3;  // pixels, on each side at most
 
 // Moves a cursor to the next cell; behind the last one makes a row like this one.
 void GoToNextCell(const QTextTable& table, QTextCursor& cursor);
