@@ -169,7 +169,7 @@ void FramedBlocks::SetFrame(const QTextBlock& block, ParagraphFormat& format) {
       (letters.atEnd() ? block.charFormat() : letters.fragment().charFormat()).toolTip().toULongLong();
   if (number == 0) return;
   const QTextBlockFormat told = block.blockFormat();
-  const First& first = first_.try_emplace(number, told, format.ground).first->second;
+  const First& first = first_.try_emplace(number, First{told, format.ground}).first->second;
   if (!told.hasProperty(QTextFormat::BackgroundBrush)) format.ground = first.ground;
   const ParagraphBorders& borders = format.borders = frames_[number];
   const auto indent = [](double margin, double firstMargin, const ParagraphBorder& border) {
