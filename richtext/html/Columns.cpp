@@ -115,10 +115,12 @@ std::vector<std::int32_t> RightEdgesOf(const QTextTable& table, const CharacterF
   std::vector<double> widths = ToldWidths(table);
   if (std::any_of(widths.begin(), widths.end(), [](double width) { return !(width > 0); }))
     PartTheRest(table, caret, widths);
+  const double all = std::accumulate(widths.begin(), widths.end(), 0.0) * TwipsPerPixel;
+  const double scale = TwipsPerPixel * std::min(1.0, MaxIndent / std::max(all, 1.0));
   std::vector<std::int32_t> edges;
   double right = 0;
   for (const double width : widths) {
-    right += width * TwipsPerPixel;
+    right += width * scale;
     edges.push_back(
         FittingIndent(static_cast<std::int32_t>(std::lround(std::min<double>(right, MaxIndent)))));
   }

@@ -112,6 +112,8 @@ ParagraphFormat FromHtmlBlock(const QTextBlock& block) {
   ParagraphFormat made = FromBlockFormat(format);
   for (std::int32_t* measure : {&made.leftIndent, &made.rightIndent, &made.firstLineIndent})
     *measure = FittingIndent(*measure);
+  made.leftIndent = std::max(made.leftIndent, 0);
+  made.rightIndent = std::max(made.rightIndent, 0);
   made.spaceBefore = std::clamp(made.spaceBefore, 0, MaxIndent);
   made.spaceAfter = std::clamp(made.spaceAfter, 0, MaxIndent);
   const bool toldNoSide = !(format.alignment() & Qt::AlignAbsolute);

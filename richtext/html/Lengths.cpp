@@ -1,5 +1,6 @@
 #include "richtext/html/Lengths.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace richtext::html {
@@ -8,6 +9,7 @@ namespace richtext::html {
 std::optional<double> PixelsOf(QStringView word) {
   constexpr double LetterSize = 16;
   constexpr double Inch = 96;
+  constexpr double Most = 1e5;
   constexpr struct {
     QStringView unit;
     double pixels;
@@ -25,7 +27,7 @@ std::optional<double> PixelsOf(QStringView word) {
   for (const auto& [unit, pixels] : Units) {
     bool isNumber = false;
     const double number = word.endsWith(unit) ? word.chopped(unit.size()).toDouble(&isNumber) : 0;
-    if (isNumber && std::isfinite(number)) return number * pixels;
+    if (isNumber) return std::isfinite(number) ? std::clamp(number * pixels, -Most, Most) : 0;
   }
   return std::nullopt;
 }

@@ -2,7 +2,7 @@
 // begins with a bracket becomes one of four things: a tag is read by the rules of those who write markup
 // (Tag.h), goes by the nesting and the cells, each of which can refuse it, and is written anew so that the
 // toolkit reads the same (Written); a sheet behind a <style> is text of its own kind (Styles.h); a comment
-// becomes an empty one; and a bracket that begins nothing becomes a letter. What is made so holds nothing of
+// is left out; and a bracket that begins nothing becomes a letter. What is made so holds nothing of
 // which the toolkit has an own view.
 #include "richtext/html/Markup.h"
 
@@ -87,6 +87,7 @@ class Rewriting {
     if (next == u"!" || next == u"?") return LeaveOut();
     if (!IsTagAt(html_, at_)) return TakeBracket();
     Tag tag = TakeTag(html_, at_);
+    if (IsUnseen(tag) && SkipTo(tag.name)) return;
     Copy(LettersFor(tag));
     MakeElementPlain(tag);
     made_ += lines_.Before(tag);
@@ -99,13 +100,25 @@ class Rewriting {
     if (!tag.closes && tag.name == u"style") TakeSheet();
   }
 
-  // Comments, declarations and instructions, which end elsewhere for the toolkit. An empty comment is left,
-  // behind which it skips blanks.
+  // Whether there is an end of the element, behind which the markup goes on. What has none further on is not
+  // looked for again.
+  bool SkipTo(const QString& name) {
+    if (endless_.contains(name)) return false;
+    const qsizetype end = html_.indexOf(QStringLiteral("</") + name, at_, Qt::CaseInsensitive);
+    if (end < 0) {
+      endless_.append(name);
+      return false;
+    }
+    const qsizetype behind = html_.indexOf(u'>', end) + 1;
+    at_ = behind > 0 ? behind : html_.size();
+    return true;
+  }
+
+  // Comments, declarations and instructions, which end elsewhere for the toolkit.
   void LeaveOut() {
     const QStringView mark = html_.mid(at_).startsWith(u"<!--") ? u"-->" : u">";
     const qsizetype end = html_.indexOf(mark, at_ + 2);
     at_ = end < 0 ? html_.size() : end + mark.size();
-    made_ += QStringLiteral("<!---->");
   }
 
   // The toolkit would look for a name behind blanks and in quotes.
@@ -132,6 +145,7 @@ class Rewriting {
   ToldColumns columns_;
   FrameMarks frames_;
   EndedLines lines_;
+  QStringList endless_;  // names
   QString made_;
   qsizetype at_ = 0;  // how far the markup is taken
 };

@@ -148,7 +148,8 @@ void MakeStylesPlain(Tag& tag) {
     if (attribute.key == u"style") css = attribute.value = WithPlainValues(attribute.value);
   if (css.isEmpty()) return;
   if (tag.name == u"img") return AddSizes(tag, css);
-  const bool hasWidth = tag.name == u"td" || tag.name == u"th" || tag.name == u"table" || tag.name == u"col";
+  const bool hasWidth = tag.name == u"td" || tag.name == u"th" || tag.name == u"table" ||
+                        tag.name == u"col" || tag.name == u"colgroup";
   if (hasWidth) AddWidth(tag, css);
   if (tag.name != u"table") AddAlignment(tag, css);
 }

@@ -21,7 +21,20 @@ std::size_t SpanOf(const Tag& tag, QStringView key) {
 
 }  // namespace
 
+void ToldColumns::BeginGroup(const Tag& tag) {
+  Open& table = open_.back();
+  table.group = table.columns.size();
+  if (!ValueOf(tag, u"width").isEmpty()) AddColumns(tag);
+}
+
+// What the group tells of its columns goes where they tell of themselves.
 void ToldColumns::TakeColumn(const Tag& tag) {
+  Open& table = open_.back();
+  if (table.group) table.columns.resize(*std::exchange(table.group, std::nullopt));
+  AddColumns(tag);
+}
+
+void ToldColumns::AddColumns(const Tag& tag) {
   std::vector<QString>& columns = open_.back().columns;
   const std::size_t count = std::min(SpanOf(tag, u"span"), MaxCells - std::min(columns.size(), MaxCells));
   columns.insert(columns.end(), count, ValueOf(tag, u"width"));
@@ -29,14 +42,18 @@ void ToldColumns::TakeColumn(const Tag& tag) {
 
 void ToldColumns::BeginRow() {
   open_.back().next = 0;
-  if (open_.back().isTall) open_.back().columns.clear();
+  for (int& rows : open_.back().rows) rows = std::max(rows - 1, 0);
 }
 
+// Beside those that go on from rows above.
 void ToldColumns::TakeCell(Tag& tag) {
   Open& table = open_.back();
-  table.isTall = table.isTall || SpanOf(tag, u"rowspan") > 1;
+  while (table.next < table.rows.size() && table.rows[table.next] > 0) ++table.next;
   const std::size_t span = SpanOf(tag, u"colspan");
-  const std::size_t first = std::exchange(table.next, table.next + span);
+  const std::size_t first = std::exchange(table.next, std::min(table.next + span, MaxCells));
+  table.rows.resize(std::max(table.rows.size(), table.next));
+  for (std::size_t i = first; i < table.next; ++i)
+    table.rows[i] = std::max(ValueOf(tag, u"rowspan").toInt(), 1);
   if (span > 1 || first >= table.columns.size()) return;
   const QString width = std::exchange(table.columns[first], {});
   if (!width.isEmpty() && ValueOf(tag, u"width").isEmpty())
@@ -48,7 +65,10 @@ void ToldColumns::Take(Tag& tag) {
     if (!tag.closes) open_.emplace_back();
     if (tag.closes && !open_.empty()) open_.pop_back();
   }
-  if (tag.closes || open_.empty()) return;
+  if (open_.empty()) return;
+  if (tag.closes && tag.name == u"colgroup") open_.back().group.reset();
+  if (tag.closes) return;
+  if (tag.name == u"colgroup") BeginGroup(tag);
   if (tag.name == u"col") TakeColumn(tag);
   if (tag.name == u"tr") BeginRow();
   if (tag.name == u"td" || tag.name == u"th") TakeCell(tag);
