@@ -143,6 +143,7 @@ TEST_F(PastingTest, FramesArePastedAsTheyAreStored) {
   EXPECT_NE(page.paragraphFormats.at(3700).borders, ParagraphBorders());
   EXPECT_EQ(page.paragraphFormats.back().borders, ParagraphBorders());
   EXPECT_EQ(ReadRtf(WriteRtf(page)), page);
+  EXPECT_EQ(Dump(Read(WriteHtml(page))), Dump(page));
 }
 
 // The toolkit fills up every row to the longest one.
