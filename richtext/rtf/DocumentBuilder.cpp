@@ -115,9 +115,13 @@ void DocumentBuilder::EndRow(const RowFormat& format) {
 }
 
 bool DocumentBuilder::CanHoldOpenText() const {
-  constexpr std::size_t Most = 2000;
+  constexpr std::size_t MostLetters = 2000, MostRuns = 50;
   const std::u16string_view open = std::u16string_view(document_.text).substr(paragraphStart_);
-  return open.size() <= Most && open.find(PictureMark) == open.npos;
+  if (open.size() > MostLetters || open.find(PictureMark) != open.npos) return false;
+  std::size_t runs = 0, length = 0;
+  for (auto run = document_.runs.rbegin(); length < open.size() && runs <= MostRuns; ++run, ++runs)
+    length += run->length;
+  return runs <= MostRuns;
 }
 
 DocumentBuilder::OpenText DocumentBuilder::TakeOpenText() {

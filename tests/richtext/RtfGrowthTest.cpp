@@ -38,6 +38,17 @@ TEST(RtfGrowth, TakesTimeByTheInputsLengthOnly) {
   }
 }
 
+// What stands before a shape comes behind its text, or ends before it.
+TEST(RtfGrowth, LongParagraphsWaitForNoShape) {
+  const auto paragraphs = [](const std::string& before) {
+    return ReadRtf("{\\rtf1 " + before + R"({\do{\dptxbxtext c}}d})").paragraphs.size();
+  };
+  EXPECT_EQ(paragraphs(Repeated("x", 2000)), 2u);
+  EXPECT_EQ(paragraphs(Repeated("x", 2001)), 3u);
+  EXPECT_EQ(paragraphs(Repeated("x{\\b x}", 25)), 2u);
+  EXPECT_EQ(paragraphs(Repeated("x{\\b x}", 25) + 'x'), 3u);
+}
+
 // What few bytes bring back is written in full: the end of a group, a paragraph of a long link. Each of these
 // is the worst of its kind.
 TEST(RtfGrowth, StaysWithinABound) {
