@@ -125,9 +125,11 @@ std::int32_t RoomForBorder(const ParagraphBorder& border) {
 Indents RoomForFrame(const ParagraphFormat& format) {
   Indents shown = RoomForLabels(format);
   if (format.borders == ParagraphBorders()) return shown;
-  const std::int32_t label = IsItem(format) ? RoomForLabel : 0;
-  shown.left = std::max(shown.left, RoomForBorder(format.borders[LeftSide]) + label);
-  shown.right = std::max(shown.right, RoomForBorder(format.borders[RightSide]));
+  std::int32_t left = RoomForBorder(format.borders[LeftSide]);
+  std::int32_t right = RoomForBorder(format.borders[RightSide]);
+  if (IsItem(format)) (format.direction == Direction::RightToLeft ? right : left) += RoomForLabel;
+  shown.left = std::max(shown.left, left);
+  shown.right = std::max(shown.right, right);
   return shown;
 }
 

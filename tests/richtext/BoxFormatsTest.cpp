@@ -1,6 +1,7 @@
 // Every format of a page through the text box's document and back.
 #include "platform/files/InputFile.h"
 #include "richtext/document/Limits.h"
+#include "richtext/textdocument/FramePainter.h"
 #include "richtext/textdocument/Labels.h"
 #include "richtext/textdocument/Pictures.h"
 #include "tests/richtext/BoxFixture.h"
@@ -140,6 +141,8 @@ TEST_F(BoxFormatsTest, FramesAreDrawnAroundNeighbours) {
   Set(Page(R"(\brdrl\brdrs\brdrw45\brdrcf1\brsp60 a\par{\*\pn\pnlvlblt{\pntxtb\'b7}}\fi-360\li720 b)"));
   QTextCursor item(box.document()->find(QStringLiteral("b")));
   EXPECT_NEAR(inked(5).back(), box.cursorRect(item).bottom(), 3) << "beside an item of a list too";
+  Set(Page(R"(\rtlpar\box\brdrs\brdrw30\brsp75{\*\pn\pnlvlblt{\pntxtb\'b7}}\fi-360\li720 b)"));
+  EXPECT_LE(FrameOf(box.document()->begin()).place.right() + 1, box.viewport()->width());
 }
 
 TEST_F(BoxFormatsTest, LeadersAreDrawnAlongTheirTabs) {
