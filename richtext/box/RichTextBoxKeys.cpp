@@ -115,14 +115,19 @@ bool RichTextBox::TypeOver(const QKeyEvent& event) {
 }
 
 // At the start of an item the key takes away its label and nothing more, and the border of a cell it passes.
-// Hidden text stays: what a person cannot see she does not mean to delete.
+// Hidden text stays: what a person cannot see she does not mean to delete. Paragraphs are joined in a step of
+// undo of their own, to which the room of frames can belong.
 void RichTextBox::DeleteBack(QKeyEvent& event) {
   QTextCursor cursor = textCursor();
   PassBack(cursor);
   setTextCursor(cursor);
   if (cursor.atBlockStart() && LeaveList()) return;
   if (IsBorder(*document(), cursor.position() - 1)) return moveCursor(QTextCursor::PreviousCharacter);
-  QTextEdit::keyPressEvent(&event);
+  if (!cursor.atBlockStart()) return QTextEdit::keyPressEvent(&event);
+  cursor.beginEditBlock();
+  cursor.deletePreviousChar();
+  cursor.endEditBlock();
+  ensureCursorVisible();
 }
 
 void RichTextBox::DeleteNext(QKeyEvent& event) {

@@ -210,6 +210,40 @@ TEST_F(BoxFormatsTest, FramesHaveRoomForTheirBorders) {
   ExpectKept();
 }
 
+// Each paragraph between its room above and below; what gives or takes some is one step of undo with it.
+class FrameRoomTest : public BoxTest {
+ protected:
+  std::string Rooms() const {
+    QStringList rooms;
+    for (QTextBlock block = box.document()->begin(); block.isValid(); block = block.next())
+      rooms += QString::number(block.blockFormat().topMargin()) + block.text() +
+               QString::number(block.blockFormat().bottomMargin());
+    return rooms.join(u' ').toStdString();
+  }
+  void ExpectUndone(const std::string& rooms) {
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Rooms(), rooms);
+  }
+  const std::string plain = R"(\pard )", frame = R"(\pard\box\brdrs\brdrw15\brsp75 )";
+};
+
+TEST_F(FrameRoomTest, BelongsToTheKeyThatChangesIt) {
+  for (const int begin : {2, 4}) {
+    Set(Page(plain + R"(a\par)" + frame + R"(b\par c)"));
+    Select(begin, 0);
+    Press(Qt::Key_Backspace);
+    ExpectUndone("0a0 6b0 0c6");
+  }
+  Set(Page(frame + R"(aa\par)" + plain + R"(cc\par)" + frame + "bb"));
+  Select(2, 0);
+  Press(Qt::Key_Return);
+  Type("uv");
+  for (int press = 0; press < 3; ++press) Press(Qt::Key_Backspace);
+  EXPECT_EQ(Rooms(), "6aa6 0cc0 6bb6");
+  ExpectUndone("6aa0 06 0cc0 6bb6");
+  ExpectUndone("6aa0 0uv6 0cc0 6bb6");
+}
+
 TEST_F(BoxFormatsTest, UnderlineOfAPersonIsAPlainOne) {
   Set(Page(R"(\ulth thick)"));
   EXPECT_EQ(box.SelUnderline(), true);
