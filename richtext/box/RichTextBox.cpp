@@ -179,6 +179,7 @@ void RichTextBox::InsertPicture(const QTextCharFormat& picture) {
   cursor.beginEditBlock();
   cursor.insertText(QString(QChar::ObjectReplacementCharacter), picture);
   FitPictures(*document(), cursor.position() - 1, cursor.position());
+  SettleFrames(cursor.block());
   cursor.endEditBlock();
   ensureCursorVisible();
 }

@@ -137,6 +137,7 @@ class RichTextBox : public QTextEdit {
   void contextMenuEvent(QContextMenuEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragLeaveEvent(QDragLeaveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   QMimeData* createMimeDataFromSelection() const override;
   void insertFromMimeData(const QMimeData* source) override;
@@ -175,7 +176,7 @@ class RichTextBox : public QTextEdit {
   void DeleteWord(QTextCursor::MoveOperation across);
   void InsertParagraph();
   void CarryFormatOver(const std::function<void()>& act);
-  void SettleFrames();
+  void SettleFrames(const QTextBlock& changed);
   std::unique_ptr<QMenu> ContextMenu(const QPoint& place);
   QString Composition() const;
   ComposedWord Composed() const;

@@ -6,6 +6,8 @@
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QDragEnterEvent>
 #include <QtGui/QDragLeaveEvent>
+#include <QtGui/QDropEvent>
+#include <QtGui/QTextBlock>
 
 #include "richtext/box/RichTextBox.h"
 
@@ -32,6 +34,14 @@ void RichTextBox::dragLeaveEvent(QDragLeaveEvent* event) {
 void RichTextBox::dragEnterEvent(QDragEnterEvent* event) {
   if (const QTextCursor dragged = std::exchange(dragged_, {}); !dragged.isNull()) setTextCursor(dragged);
   QTextEdit::dragEnterEvent(event);
+}
+
+// What comes in gets its room as anything pasted; paragraphs may have gone where it was taken from.
+void RichTextBox::dropEvent(QDropEvent* event) {
+  const unsigned before = edits_;
+  const QTextCursor taken = textCursor();
+  QTextEdit::dropEvent(event);
+  if (edits_ != before) SettleFrames(taken.block());
 }
 
 }  // namespace richtext

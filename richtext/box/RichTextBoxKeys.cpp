@@ -73,7 +73,7 @@ void RichTextBox::CarryFormatOver(const std::function<void()>& act) {
   const QTextCharFormat format = caret_.InHand();
   const int paragraph = document()->findBlock(textCursor().selectionStart()).blockNumber();
   act();
-  if (edits_ != before) SettleFrames();
+  if (edits_ != before) SettleFrames(textCursor().block());
   const QTextBlock block = textCursor().block();
   if (edits_ == before || textCursor().hasSelection() || block.length() > 1 ||
       block.blockNumber() != paragraph)
@@ -84,12 +84,11 @@ void RichTextBox::CarryFormatOver(const std::function<void()>& act) {
 }
 
 // A frame may begin and end at another paragraph now. What was undone is as it was.
-void RichTextBox::SettleFrames() {
+void RichTextBox::SettleFrames(const QTextBlock& changed) {
   if (document()->isRedoAvailable()) return;
   const QScopedValueRollback quiet(quiet_, true);
-  const QTextBlock block = textCursor().block();
-  const QTextBlock before = block.previous().isValid() ? block.previous() : block;
-  MakeRoomForFrames(*document(), before.position(), block.position() + block.length());
+  const QTextBlock before = changed.previous().isValid() ? changed.previous() : changed;
+  MakeRoomForFrames(*document(), before.position(), changed.position() + changed.length());
 }
 
 void RichTextBox::PressKey(QKeyEvent& event) {

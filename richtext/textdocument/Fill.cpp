@@ -239,6 +239,12 @@ void Squeeze(QTextDocument& document, int from, int to) {
   }
 }
 
+// Of all that has come in up to the cursor, and of its neighbours.
+void MakeRoom(int from, const QTextCursor& cursor) {
+  const QTextBlock last = cursor.block();
+  MakeRoomForFrames(*cursor.document(), std::max(0, from - 1), last.position() + last.length());
+}
+
 bool HasFrames(const Document& page) {
   return std::any_of(page.paragraphFormats.begin(), page.paragraphFormats.end(),
                      [](const ParagraphFormat& format) { return format.borders != ParagraphBorders(); });
@@ -286,7 +292,7 @@ void InsertDocument(const Document& source, QTextCursor& cursor) {
   const int from = cursor.position();
   Filler(source, cursor).Fill();
   Squeeze(*cursor.document(), from, cursor.position());
-  MakeRoomForFrames(*cursor.document(), std::max(0, from - 1), cursor.block().next().position());
+  MakeRoom(from, cursor);
   cursor.endEditBlock();
 }
 
@@ -295,6 +301,7 @@ void InsertPlain(const QString& text, const QTextCharFormat& format, QTextCursor
   const int from = cursor.selectionStart();
   cursor.insertText(text, WithoutCellEnd(format));
   Squeeze(*cursor.document(), from, cursor.position());
+  MakeRoom(from, cursor);
   cursor.endEditBlock();
 }
 

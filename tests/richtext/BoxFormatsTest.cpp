@@ -244,6 +244,34 @@ TEST_F(FrameRoomTest, BelongsToTheKeyThatChangesIt) {
   ExpectUndone("6aa0 0uv6 0cc0 6bb6");
 }
 
+TEST_F(FrameRoomTest, IsMadeForWhatComesIn) {
+  const std::string page = Page(frame + R"(aa\par bb\par)" + plain + "c");
+  const auto set = [&](int start, int length) {
+    Set(page);
+    Select(start, length);
+  };
+  set(0, 6);
+  Press(Qt::Key_C, Qt::ControlModifier);
+  Select(7, 0);
+  Press(Qt::Key_Return);
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Rooms(), "6aa0 0bb6 0c0 6aa0 0bb6 00");
+  set(1, 0);
+  Copy([](QMimeData& data) { data.setText(QStringLiteral("x\ny\nz\nw")); });
+  Press(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(Rooms(), "6ax0 0y0 0z0 0wa0 0bb6 0c0");
+  set(1, 3);
+  QInputMethodEvent word;
+  word.setCommitString(QStringLiteral("ni"));
+  QApplication::sendEvent(&box, &word);
+  EXPECT_EQ(Rooms(), "6anib6 0c0");
+  ExpectUndone("6aa0 0bb6 0c0");
+  set(1, 3);
+  box.InsertBitmap(Checkers({1, 1}));
+  EXPECT_EQ(Rooms(), "6a\uFFFCb6 0c0");
+  ExpectUndone("6aa0 0bb6 0c0");
+}
+
 TEST_F(BoxFormatsTest, UnderlineOfAPersonIsAPlainOne) {
   Set(Page(R"(\ulth thick)"));
   EXPECT_EQ(box.SelUnderline(), true);
