@@ -10,6 +10,7 @@
 
 #include "richtext/box/ColorLetters.h"
 #include "richtext/textdocument/Formats.h"
+#include "richtext/textdocument/FramePainter.h"
 #include "richtext/textdocument/FrameRoom.h"
 #include "richtext/textdocument/HiddenText.h"
 #include "richtext/textdocument/PageHeight.h"
@@ -146,8 +147,11 @@ QTextCharFormat PrintedPiece::Fitting(const QTextCharFormat& format, const QText
   QTextImageFormat image = format.toImageFormat();
   const double indent = beginsParagraph ? std::max(0.0, paragraph.textIndent()) : 0;
   const double room = width - paragraph.leftMargin() - paragraph.rightMargin() - indent;
-  const double share = std::min({1.0, std::max(1.0, std::floor(room)) / image.width(),
-                                 TallestPicture * sheet_.height() / image.height()});
+  const QTextBlock block = cursor.block();
+  const double borders = row ? 0 : RoomOfBorder(block, TopSide) + RoomOfBorder(block, BottomSide);
+  const double height = std::max(1.0, TallestPicture * sheet_.height() - borders);
+  const double share =
+      std::min({1.0, std::max(1.0, std::floor(room)) / image.width(), height / image.height()});
   image.setWidth(image.width() * share);
   image.setHeight(image.height() * share);
   return image;

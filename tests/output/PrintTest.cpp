@@ -223,6 +223,13 @@ TEST_F(Print, NoPictureIsCutOff) {
     EXPECT_GE(place.left(), 0);
     EXPECT_LE(place.right(), printer.width());
   }
+  Load(AddJournal(
+      {"\\box\\brdrtriple\\brdrw60\\brsp400 {\\pict\\pngblip\\picwgoal900\\pichgoal30000 " + bytes + "}"}));
+  text().selectAll();
+  Printed framed;
+  PrintOn(framed, PrintChoice::Selection);
+  ASSERT_FALSE(framed.Borders().empty());
+  for (const auto& [sheet, line] : framed.Borders()) EXPECT_LE(line.y2(), framed.height()) << "nor its frame";
 }
 
 // A narrow window shows a smaller indent than paper has room for.
