@@ -1,7 +1,6 @@
 #include "richtext/html/Elements.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include <QtCore/QRegularExpression>
@@ -24,11 +23,6 @@ constexpr QStringView Endless[] = {u"area", u"base",  u"col",    u"embed", u"inp
                                    u"meta", u"param", u"source", u"track", u"wbr"};
 constexpr QStringView Unseen[] = {u"script", u"template", u"iframe", u"noembed", u"noframes"};
 constexpr std::size_t MostOpen = 200;
-
-template <std::size_t Count>
-bool IsOneOf(const QStringView (&names)[Count], const QString& name) {
-  return std::find(std::begin(names), std::end(names), name) != std::end(names);
-}
 
 bool Has(const Tag& tag, QStringView key, QStringView value) {
   return std::any_of(tag.attributes.begin(), tag.attributes.end(), [&](const Attribute& attribute) {

@@ -21,11 +21,6 @@ constexpr QStringView Blocks[] = {u"blockquote", u"center", u"dd", u"div", u"dl"
                                   u"h4",         u"h5",     u"h6", u"li",  u"ol", u"p",  u"pre", u"ul"};
 constexpr QStringView Cells[] = {u"table", u"td", u"th", u"caption"};
 
-template <std::size_t Count>
-bool IsOneOf(const QStringView (&names)[Count], const QString& name) {
-  return std::find(std::begin(names), std::end(names), name) != std::end(names);
-}
-
 std::optional<double> Pixels(QStringView word) {
   if (word == u"thin") return 1;
   if (word == u"medium") return Medium;

@@ -7,7 +7,6 @@
 #include "richtext/html/Markup.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "richtext/html/Elements.h"
 #include "richtext/html/Frames.h"
@@ -24,9 +23,8 @@ constexpr qsizetype FewCells = 10'000;
 constexpr qsizetype LettersOfCell = 2;  // what each cell beyond these must take of the markup
 
 // Elements that end by themselves where the next one begins.
-constexpr QStringView FlatElements[] = {
-    u"area", u"base", u"br", u"col",   u"dd",    u"dt", u"embed", u"hr", u"img",   u"input", u"li",
-    u"link", u"meta", u"p",  u"param", u"tbody", u"td", u"tfoot", u"th", u"thead", u"tr",    u"wbr"};
+constexpr QStringView FlatElements[] = {u"br",    u"dd", u"dt",    u"hr", u"img",   u"li", u"p",
+                                        u"tbody", u"td", u"tfoot", u"th", u"thead", u"tr"};
 
 // How many elements are open at once. Tags beyond MaxDepth are left out in pairs: an end goes with the start
 // that was left out last.
@@ -34,9 +32,7 @@ class Nesting {
  public:
   // Counts the next tag; whether it is kept.
   bool Keeps(const Tag& tag) {
-    const bool isFlat =
-        std::find(std::begin(FlatElements), std::end(FlatElements), tag.name) != std::end(FlatElements);
-    return isFlat || tag.endsItself || (tag.closes ? End() : Start());
+    return IsOneOf(FlatElements, tag.name) || tag.endsItself || (tag.closes ? End() : Start());
   }
 
  private:

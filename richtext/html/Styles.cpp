@@ -105,7 +105,7 @@ void AddWidth(Tag& tag, const QString& css) {
   const QString told = ValueOf(css, u"width");
   const std::optional<double> pixels = PixelsOf(told);
   if (pixels && *pixels > 0)
-    tag.attributes.push_back({QStringLiteral("width"), QString::number(std::lround(std::min(*pixels, 1e5)))});
+    tag.attributes.push_back({QStringLiteral("width"), QString::number(std::lround(*pixels))});
   else if (told.endsWith(u'%'))
     tag.attributes.push_back({QStringLiteral("width"), told});
 }

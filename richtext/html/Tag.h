@@ -1,6 +1,9 @@
 // The tags of markup: read by one set of rules, and written so that there is one way to read them.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <vector>
 
 #include <QtCore/QString>
@@ -18,6 +21,11 @@ struct Tag {
   bool closes = false;
   bool endsItself = false;  // by "/>"
 };
+
+template <std::size_t Count>
+bool IsOneOf(const QStringView (&names)[Count], const QString& name) {
+  return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
 
 // Whether the bracket at `at` opens a tag; a comment, a declaration and an instruction are none.
 bool IsTagAt(QStringView html, qsizetype at);
